@@ -1,0 +1,23 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vantrix {
+
+/// Questions put to a kernel file tree once, not on every pass.
+
+/// The first `limit` bytes of a file; absent when it cannot be read.
+std::optional<std::string> readStart(const std::string& path, std::size_t limit = 4096);
+
+bool pathExists(const std::string& path);
+
+/// True when `name` can be one entry of a folder, so that a path made with it stays below that folder.
+bool isEntryName(std::string_view name);
+
+/// Names in `folder` that begin with `prefix`, in no order; empty when the folder cannot be read.
+std::vector<std::string> entriesStartingWith(const std::string& folder, std::string_view prefix);
+
+} // namespace vantrix

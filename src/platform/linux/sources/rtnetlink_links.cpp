@@ -1,0 +1,178 @@
+#include "platform/linux/sources/rtnetlink_links.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <linux/netlink.h>
+#include <linux/rtnetlink.h>
+#include <sys/socket.h>
+
+#include "platform/linux/sources/sysfs_links.h"
+
+namespace vantrix {
+namespace {
+
+constexpr std::size_t largestDatagram = 32768; // what the kernel packs into one at most
+constexpr int datagramsPerPass = 1000;         // a storm of news goes on in the next pass
+
+} // namespace
+
+void LinkTable::put(const LinkMessage& message) {
+    auto entry = find(message.index);
+    if (entry == entries_.end()) {
+        if (message.name.empty())
+            return;
+        entry = entries_.insert(entry, Entry{message.index, {}, {}, true});
+    }
+    if (!message.name.empty() && entry->name != message.name) {
+        entry->name = message.name;
+        entry->state.isHardware = isHardwareLink(sys_, message.name);
+    }
+    entry->state.flags = message.flags;
+    entry->isListed = true;
+}
+
+void LinkTable::remove(int index) {
+    const auto entry = find(index);
+    if (entry != entries_.end())
+        entries_.erase(entry);
+}
+
+void LinkTable::beginList() {
+    for (Entry& entry : entries_)
+        entry.isListed = false;
+}
+
+void LinkTable::endList() {
+    std::erase_if(entries_, [](const Entry& entry) { return !entry.isListed; });
+}
+
+LinkState LinkTable::state(std::string_view name, std::size_t place) {
+    if (place < entries_.size() && entries_[place].name == name)
+        return entries_[place].state;
+    const auto entry =
+        std::find_if(entries_.begin(), entries_.end(), [&](const Entry& other) { return other.name == name; });
+    if (entry == entries_.end())
+        return {};
+    const LinkState state = entry->state;
+    if (place < entries_.size())
+        std::swap(*entry, entries_[place]);
+    return state;
+}
+
+std::vector<LinkTable::Entry>::iterator LinkTable::find(int index) {
+    return std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) { return entry.index == index; });
+}
+
+bool RtnetlinkLinks::refresh() {
+    if ((!socket_ && !open()) || !takeNews())
+        return false;
+    if (isListDue_ && readList()) {
+        isListDue_ = false;
+        hasList_ = true;
+    }
+    return hasList_;
+}
+
+bool RtnetlinkLinks::open() {
+    socket_ = FileDescriptor(socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE));
+    sockaddr_nl address{};
+    address.nl_family = AF_NETLINK;
+    address.nl_groups = RTMGRP_LINK;
+    if (!socket_ || bind(socket_.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
+        return false;
+    buffer_.resize(largestDatagram);
+    return true;
+}
+
+RtnetlinkLinks::Received RtnetlinkLinks::receive(std::string_view& datagram) {
+    sockaddr_nl sender{};
+    socklen_t senderSize = sizeof sender;
+    ssize_t length = 0;
+    do
+        length = recvfrom(socket_.get(), buffer_.data(), buffer_.size(), MSG_DONTWAIT | MSG_TRUNC,
+                          reinterpret_cast<sockaddr*>(&sender), &senderSize);
+    while (length < 0 && errno == EINTR);
+    if (length < 0 && (errno == EAGAIN || errno == EWOULDBLOCK))
+        return Received::nothing;
+    if (length < 0)
+        return errno == ENOBUFS ? Received::lost : Received::failed;
+    const auto size = static_cast<std::size_t>(length);
+    if (size > buffer_.size())
+        return Received::lost;
+    // Only the kernel has port 0; what other programs send is ignored.
+    datagram = {buffer_.data(), sender.nl_pid == 0 ? size : 0};
+    return Received::datagram;
+}
+
+bool RtnetlinkLinks::takeNews() {
+    std::string_view datagram;
+    for (int i = 0; i < datagramsPerPass; ++i) {
+        const Received received = receive(datagram);
+        if (received == Received::failed)
+            return false;
+        if (received == Received::nothing)
+            break;
+        if (received == Received::lost) {
+            isListDue_ = true;
+            continue;
+        }
+        while (const auto message = takeLinkMessage(datagram))
+            apply(*message);
+    }
+    return true;
+}
+
+bool RtnetlinkLinks::askForList() {
+    struct {
+        nlmsghdr header;
+        ifinfomsg link;
+        rtattr attribute;
+        std::uint32_t filter;
+    } question{};
+    question.header.nlmsg_len = sizeof question;
+    question.header.nlmsg_type = RTM_GETLINK;
+    question.header.nlmsg_flags = NLM_F_REQUEST | NLM_F_DUMP;
+    question.header.nlmsg_seq = ++sequence_;
+    question.attribute.rta_len = RTA_LENGTH(sizeof question.filter);
+    question.attribute.rta_type = IFLA_EXT_MASK;
+    question.filter = RTEXT_FILTER_SKIP_STATS;
+    return send(socket_.get(), &question, sizeof question, 0) == static_cast<ssize_t>(sizeof question);
+}
+
+bool RtnetlinkLinks::readList() {
+    if (!askForList())
+        return false;
+    table_.beginList();
+    std::string_view datagram;
+    bool isComplete = false;
+    // The kernel writes the answer while it is read, so it never has to be waited for.
+    for (int i = 0; i < datagramsPerPass && !isComplete; ++i) {
+        if (receive(datagram) != Received::datagram || !applyList(datagram, isComplete))
+            return false;
+    }
+    if (isComplete)
+        table_.endList();
+    return isComplete;
+}
+
+bool RtnetlinkLinks::applyList(std::string_view datagram, bool& isComplete) {
+    while (const auto message = takeLinkMessage(datagram)) {
+        const bool isAnswer = message->sequence == sequence_;
+        if (isAnswer && (message->isInterrupted || message->kind == LinkMessage::Kind::failed))
+            return false;
+        if (isAnswer && message->kind == LinkMessage::Kind::done)
+            isComplete = true;
+        apply(*message);
+    }
+    return true;
+}
+
+void RtnetlinkLinks::apply(const LinkMessage& message) {
+    if (message.kind == LinkMessage::Kind::link)
+        table_.put(message);
+    else if (message.kind == LinkMessage::Kind::removed)
+        table_.remove(message.index);
+}
+
+} // namespace vantrix

@@ -1,0 +1,43 @@
+#include "samplers/memory_sampler.h"
+
+#include <algorithm>
+
+#include "support/checked.h"
+
+namespace vantrix {
+namespace {
+
+MemorySample::Pressure pressureOfLevel(std::optional<std::int64_t> level) {
+    if (!level || *level <= 1)
+        return MemorySample::Pressure::normal;
+    return *level <= 3 ? MemorySample::Pressure::warning : MemorySample::Pressure::critical;
+}
+
+} // namespace
+
+double usedFraction(const MemorySample& memory) {
+    constexpr auto fault = "the sum of app, wired and compressed memory overflows";
+    const auto used = checkedAdd(checkedAdd(memory.app, memory.wired, fault), memory.compressed, fault);
+    if (memory.total == 0)
+        return 0.0;
+    return std::min(static_cast<double>(used) / static_cast<double>(memory.total), 1.0);
+}
+
+std::optional<MemorySample> MemorySampler::sample() {
+    const auto statistics = source_.read();
+    if (!statistics)
+        return std::nullopt;
+    const Statistics& s = *statistics;
+    // Two counters are not read at one instant: purgeable may exceed internal for a moment.
+    const auto purgeable = std::min(s.purgeableCount, s.internalPageCount);
+    MemorySample sample;
+    sample.total = s.physicalMemory;
+    sample.app = checkedMultiply(s.internalPageCount - purgeable, s.pageSize, "application memory overflows");
+    sample.wired = checkedMultiply(s.wireCount, s.pageSize, "wired memory overflows");
+    sample.compressed = checkedMultiply(s.compressorPageCount, s.pageSize, "compressed memory overflows");
+    sample.swapUsed = s.swapUsed.value_or(0);
+    sample.pressure = pressureOfLevel(s.pressureLevel);
+    return sample;
+}
+
+} // namespace vantrix

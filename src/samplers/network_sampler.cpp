@@ -1,0 +1,68 @@
+#include "samplers/network_sampler.h"
+
+#include <algorithm>
+
+#include "support/checked.h"
+
+namespace vantrix {
+namespace {
+
+bool isActivePort(const NetworkSampler::Link& link) {
+    constexpr auto active = NetworkSampler::linkUp | NetworkSampler::linkRunning;
+    return link.counters && link.name.starts_with("en") && (link.flags & active) == active;
+}
+
+template<typename Ports>
+auto findPort(Ports& ports, std::size_t count, const std::string& name) {
+    const auto end = ports.begin() + static_cast<std::ptrdiff_t>(count);
+    return std::find_if(ports.begin(), end, [&](const auto& port) { return port.name == name; });
+}
+
+} // namespace
+
+void NetworkSampler::collectPorts() {
+    std::size_t count = 0;
+    for (const Link& link : links_) {
+        if (!isActivePort(link))
+            continue;
+        const auto known = findPort(current_, count, link.name);
+        if (known != current_.begin() + static_cast<std::ptrdiff_t>(count)) {
+            known->counters = *link.counters; // a name listed twice: the later entry stands
+            continue;
+        }
+        if (count == current_.size())
+            current_.emplace_back();
+        current_[count].name = link.name;
+        current_[count].counters = *link.counters;
+        ++count;
+    }
+    current_.resize(count);
+}
+
+NetworkSample NetworkSampler::rates(double elapsed) const {
+    double received = 0.0;
+    double sent = 0.0;
+    for (const Port& port : current_) {
+        const auto before = findPort(previous_, previous_.size(), port.name);
+        if (before == previous_.end())
+            continue; // new since the last call: counted from the next one
+        received += wrappingDifference(port.counters.received, before->counters.received);
+        sent += wrappingDifference(port.counters.sent, before->counters.sent);
+    }
+    return {received / elapsed, sent / elapsed};
+}
+
+std::optional<NetworkSample> NetworkSampler::sample() {
+    if (!source_.read(links_) || links_.empty())
+        return std::nullopt;
+    collectPorts();
+    const double now = clock_.uptime();
+    NetworkSample sample;
+    if (lastTimestamp_ && *lastTimestamp_ < now)
+        sample = rates(now - *lastTimestamp_);
+    previous_.swap(current_);
+    lastTimestamp_ = now;
+    return sample;
+}
+
+} // namespace vantrix

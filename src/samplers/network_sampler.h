@@ -1,0 +1,71 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "support/clock.h"
+
+namespace vantrix {
+
+/// Throughput summed over the active hardware ports, in bytes per second.
+struct NetworkSample {
+    double download = 0.0;
+    double upload = 0.0;
+
+    bool operator==(const NetworkSample&) const = default;
+};
+
+class NetworkSampler {
+  public:
+    /// Cumulative bytes of one interface; each counter starts over at 2^32.
+    struct Counters {
+        std::uint32_t received = 0;
+        std::uint32_t sent = 0;
+
+        bool operator==(const Counters&) const = default;
+    };
+
+    static constexpr std::uint32_t linkUp = 0x1;       ///< IFF_UP
+    static constexpr std::uint32_t linkRunning = 0x40; ///< IFF_RUNNING
+
+    /// One entry of the system's interface list.
+    struct Link {
+        std::string name; ///< ports of the Ethernet class, Wi-Fi included, begin with "en"
+        std::uint32_t flags = 0;
+        std::optional<Counters> counters; ///< only on link-level entries that carry statistics
+    };
+
+    class Source {
+      public:
+        virtual ~Source() = default;
+        /// Replaces `links` by the interface list. False when it cannot be read; `links` is then unspecified.
+        virtual bool read(std::vector<Link>& links) = 0;
+    };
+
+    /// `source` and `clock` outlive the sampler.
+    NetworkSampler(Source& source, const Clock& clock) : source_(source), clock_(clock) {}
+
+    /// The throughput since the previous call; zero on the first call, and when no time has passed. Absent when the
+    /// interface list cannot be read or is empty; the baseline then stays. One caller at a time.
+    std::optional<NetworkSample> sample();
+
+  private:
+    struct Port {
+        std::string name;
+        Counters counters;
+    };
+
+    void collectPorts();
+    NetworkSample rates(double elapsed) const;
+
+    Source& source_;
+    const Clock& clock_;
+    std::vector<Link> links_;
+    std::vector<Port> current_; // flat, not a map: a handful of ports, and its strings are reused on every pass
+    std::vector<Port> previous_;
+    std::optional<double> lastTimestamp_;
+};
+
+} // namespace vantrix

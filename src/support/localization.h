@@ -1,0 +1,22 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+
+namespace vantrix {
+
+/// Looks a user-visible text up by its English form. Texts with values in them use printf-like "%lld" and "%@" marks,
+/// filled in by `formatted`, so that a translation may reorder them with "%2$lld".
+using Translator = std::string (*)(std::string_view english);
+
+/// Installs the look-up; until then every text is shown in English. Called once, before any text is asked for.
+void installTranslator(Translator translator);
+
+std::string localized(std::string_view english);
+
+/// Replaces the marks "%lld" (in order) and "%N$lld" (by position) of an already localised text by plain decimal
+/// numbers without grouping. A mark without a value stays as it is.
+std::string formatted(std::string_view text, std::initializer_list<long long> values);
+
+} // namespace vantrix

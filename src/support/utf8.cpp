@@ -1,0 +1,57 @@
+#include "support/utf8.h"
+
+namespace vantrix {
+namespace {
+
+/// The shape of a sequence, by its first byte.
+struct Lead {
+    std::size_t length = 0; // 0: no sequence begins with this byte
+    char32_t bits = 0;
+    char32_t least = 0; // smaller values have a shorter form, which alone is valid
+};
+
+Lead leadOf(unsigned char byte) {
+    if (byte < 0x80)
+        return {1, byte, 0};
+    if ((byte & 0xe0) == 0xc0)
+        return {2, byte & 0x1fu, 0x80};
+    if ((byte & 0xf0) == 0xe0)
+        return {3, byte & 0x0fu, 0x800};
+    if ((byte & 0xf8) == 0xf0)
+        return {4, byte & 0x07u, 0x10000};
+    return {};
+}
+
+/// The length of the valid sequence that `text` begins with; 0 when it begins with none.
+std::size_t sequenceLength(std::string_view text) {
+    const Lead lead = leadOf(static_cast<unsigned char>(text.front()));
+    if (lead.length == 0 || lead.length > text.size())
+        return 0;
+    char32_t value = lead.bits;
+    for (const char c : text.substr(1, lead.length - 1)) {
+        const auto byte = static_cast<unsigned char>(c);
+        if ((byte & 0xc0) != 0x80)
+            return 0;
+        value = (value << 6) | (byte & 0x3fu);
+    }
+    const bool isSurrogate = value >= 0xd800 && value <= 0xdfff;
+    return value < lead.least || value > 0x10ffff || isSurrogate ? 0 : lead.length;
+}
+
+} // namespace
+
+std::string repairedUTF8(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    while (!text.empty()) {
+        const std::size_t length = sequenceLength(text);
+        if (length == 0)
+            result += "\xef\xbf\xbd";
+        else
+            result += text.substr(0, length);
+        text.remove_prefix(length == 0 ? 1 : length);
+    }
+    return result;
+}
+
+} // namespace vantrix

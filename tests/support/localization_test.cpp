@@ -1,0 +1,30 @@
+#include "support/localization.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrix {
+namespace {
+
+TEST(Formatted, FillsMarksInOrderOrByPosition) {
+    EXPECT_EQ(formatted("%lld cores (%lldP + %lldE)", {10, 8, 2}), "10 cores (8P + 2E)");
+    EXPECT_EQ(formatted("%3$lld von %1$lld", {10, 8, 2}), "2 von 10");
+    EXPECT_EQ(formatted("%lld", {-1234567890123}), "-1234567890123");
+}
+
+TEST(Formatted, LeavesWhatHasNoValue) {
+    EXPECT_EQ(formatted("%lld %lld", {1}), "1 %lld");
+    EXPECT_EQ(formatted("%9$lld", {1}), "%9$lld");
+    EXPECT_EQ(formatted("100% %d %", {1}), "100% %d %");
+    EXPECT_EQ(formatted("", {}), "");
+}
+
+TEST(Localized, AsksTheInstalledTranslator) {
+    EXPECT_EQ(localized("cores"), "cores");
+    installTranslator([](std::string_view english) { return "<" + std::string(english) + ">"; });
+    EXPECT_EQ(localized("cores"), "<cores>");
+    installTranslator(nullptr);
+    EXPECT_EQ(localized("cores"), "cores");
+}
+
+} // namespace
+} // namespace vantrix

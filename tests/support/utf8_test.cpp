@@ -1,0 +1,29 @@
+#include "support/utf8.h"
+
+#include <gtest/gtest.h>
+
+namespace vantrix {
+namespace {
+
+TEST(RepairedUTF8, KeepsValidTextAndReplacesTheRest) {
+    struct Row {
+        const char* name;
+        std::string text;
+        std::string repaired;
+    };
+    const Row rows[] = {
+        {"plain", "CPU", "CPU"},
+        {"two to four bytes", "\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80", "\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80"},
+        {"Latin-1", "Caf\xe9 X", "Caf\xef\xbf\xbd X"},
+        {"cut at the end", "a\xe2\x82", "a\xef\xbf\xbd\xef\xbf\xbd"},
+        {"longer than needed", "\xc0\xaf", "\xef\xbf\xbd\xef\xbf\xbd"},
+        {"surrogate", "\xed\xa0\x80", "\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd"},
+        {"past the last code point", "\xf4\x90\x80\x80", "\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd"},
+        {"stray continuation", "\x80z", "\xef\xbf\xbdz"},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(repairedUTF8(row.text), row.repaired) << row.name;
+}
+
+} // namespace
+} // namespace vantrix
