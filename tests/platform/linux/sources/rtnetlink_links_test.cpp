@@ -1,6 +1,6 @@
 #include "platform/linux/sources/rtnetlink_links.h"
 
-#include <cstring>
+#include <chrono>
 
 #include <linux/rtnetlink.h>
 #include <sched.h>
@@ -132,8 +132,12 @@ int followLiveLinks(const std::string& sys) {
         return 3;
     if (std::system("ip link set eth0 up && ip link set peer0 up") != 0)
         return 77;
-    links.refresh();
-    if ((links.state("eth0", 1).flags & 0x41) != 0x41 || links.state("peer0", 2).isHardware)
+    // The kernel settles in the background whether a link is running.
+    const auto isRunning = [&] { return links.refresh() && (links.state("eth0", 1).flags & 0x41) == 0x41; };
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!isRunning() && std::chrono::steady_clock::now() < deadline)
+        sched_yield();
+    if (!isRunning() || links.state("peer0", 2).isHardware)
         return 4;
     if (std::system("for i in $(seq 150); do echo link add a$i type veth peer name b$i; done | ip -b -") != 0)
         return 77;

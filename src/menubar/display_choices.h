@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace vantrix {
+
+/// The readings that the status item can show. The declaration order is the default order.
+enum class MenuBarModule { cpu, memory, network, disk, gpu, temperature, battery };
+
+/// The layouts of the status item.
+enum class MenuBarStyle { inlined, stacked, graph };
+
+/// The cards that the popover can show, in the order in which it shows them.
+enum class PopoverCard { cpu, memory, network, disk, gpu, sensors, battery, accessories };
+
+/// The tabs of the settings window.
+enum class SettingsTab { general, menuBar, popover, alerts };
+
+/// What the settings store and the views need to know of one case.
+template<typename Case>
+struct Choice {
+    Case value;
+    std::string_view rawValue;   ///< as stored; compared exactly
+    std::string_view title;      ///< English; shown through `localized`
+    std::string_view symbolName; ///< empty where the choice has no symbol
+};
+
+inline constexpr std::array<Choice<MenuBarModule>, 7> menuBarModules{{
+    {MenuBarModule::cpu, "cpu", "CPU", "cpu"},
+    {MenuBarModule::memory, "memory", "Memory", "memorychip"},
+    {MenuBarModule::network, "network", "Network", "arrow.up.arrow.down"},
+    {MenuBarModule::disk, "disk", "Disk", "internaldrive"},
+    {MenuBarModule::gpu, "gpu", "GPU", "display"},
+    {MenuBarModule::temperature, "temperature", "CPU temperature", "thermometer.medium"},
+    {MenuBarModule::battery, "battery", "Battery", "battery.75percent"},
+}};
+
+inline constexpr std::array<Choice<MenuBarStyle>, 3> menuBarStyles{{
+    {MenuBarStyle::inlined, "inline", "Inline", ""},
+    {MenuBarStyle::stacked, "stacked", "Stacked", ""},
+    {MenuBarStyle::graph, "graph", "With graph", ""},
+}};
+
+inline constexpr std::array<Choice<PopoverCard>, 8> popoverCards{{
+    {PopoverCard::cpu, "cpu", "CPU", "cpu"},
+    {PopoverCard::memory, "memory", "Memory", "memorychip"},
+    {PopoverCard::network, "network", "Network", "network"},
+    {PopoverCard::disk, "disk", "Disk", "internaldrive"},
+    {PopoverCard::gpu, "gpu", "GPU", "display"},
+    {PopoverCard::sensors, "sensors", "Sensors", "thermometer.medium"},
+    {PopoverCard::battery, "battery", "Battery", "battery.75percent"},
+    {PopoverCard::accessories, "accessories", "Bluetooth accessories", "dot.radiowaves.left.and.right"},
+}};
+
+inline constexpr std::array<Choice<SettingsTab>, 4> settingsTabs{{
+    {SettingsTab::general, "general", "General", "gearshape"},
+    {SettingsTab::menuBar, "menuBar", "Menu Bar", "menubar.rectangle"},
+    {SettingsTab::popover, "popover", "Popover", "rectangle.stack"},
+    {SettingsTab::alerts, "alerts", "Alerts", "bell.badge"},
+}};
+
+/// The case whose raw value is exactly `rawValue`, letter case included.
+template<typename Case, std::size_t N>
+constexpr std::optional<Case> choiceNamed(const std::array<Choice<Case>, N>& choices, std::string_view rawValue) {
+    for (const auto& choice : choices)
+        if (choice.rawValue == rawValue)
+            return choice.value;
+    return std::nullopt;
+}
+
+/// Every table above lists its cases in declaration order.
+template<typename Case, std::size_t N>
+constexpr const Choice<Case>& choiceOf(const std::array<Choice<Case>, N>& choices, Case value) {
+    return choices[static_cast<std::size_t>(value)];
+}
+
+} // namespace vantrix

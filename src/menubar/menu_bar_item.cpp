@@ -1,0 +1,156 @@
+#include "menubar/menu_bar_item.h"
+
+#include <algorithm>
+
+#include "menubar/preferences.h"
+#include "monitor/readings.h"
+#include "support/localization.h"
+#include "support/text_format.h"
+#include "support/user_defaults.h"
+
+namespace vantrix {
+namespace {
+
+constexpr double leastNetworkScale = 100'000.0; // bytes per second: an idle line draws as one
+constexpr double diskWarningMargin = 0.07;      // below the disk threshold
+constexpr double temperatureScale = 110.0;      // °C
+constexpr double hot = 90.0;
+constexpr double warm = 80.0;
+constexpr int batteryLow = 20; // percent
+constexpr int batteryCritical = 10;
+
+std::vector<double> scaledHistory(const History& history, double scale) {
+    std::vector<double> scaled(history.size());
+    std::transform(history.begin(), history.end(), scaled.begin(),
+                   [scale](double value) { return std::clamp(value / scale, 0.0, 1.0); });
+    return scaled;
+}
+
+MenuBarSeverity reached(double value, double critical, double warning) {
+    if (critical <= value)
+        return MenuBarSeverity::critical;
+    return warning <= value ? MenuBarSeverity::warning : MenuBarSeverity::normal;
+}
+
+MenuBarItem percentItem(std::string label, double fraction, MenuBarSeverity severity, History history) {
+    return {std::move(label), {compactPercent(fraction)}, severity, std::move(history), fraction, "100%"};
+}
+
+MenuBarItem cpuItem(const Readings& readings, const UserDefaults& defaults) {
+    const double load = readings.cpu.total;
+    return percentItem("CPU", load, severityOf(load, defaults), readings.cpuHistory);
+}
+
+MenuBarItem memoryItem(const Readings& readings) {
+    // Only the system knows when memory is scarce: a full one may well be healthy.
+    const auto severity = static_cast<MenuBarSeverity>(readings.memory.pressure);
+    return percentItem("RAM", usedFraction(readings.memory), severity, readings.memoryHistory);
+}
+
+MenuBarItem networkItem(const Readings& readings) {
+    double scale = leastNetworkScale;
+    for (double rate : readings.downloadHistory)
+        scale = std::max(scale, rate);
+    return {"NET",
+            {"↓" + compactRate(readings.network.download), "↑" + compactRate(readings.network.upload)},
+            MenuBarSeverity::normal,
+            scaledHistory(readings.downloadHistory, scale),
+            0.0,
+            "↓99M"};
+}
+
+std::optional<MenuBarItem> diskItem(const Readings& readings, const UserDefaults& defaults) {
+    if (readings.disk.total == 0)
+        return std::nullopt;
+    const double used = usedFraction(readings.disk);
+    const double threshold = defaults.number(preference_key::diskAlertThreshold);
+    return percentItem(localized("DISK"), used, reached(used, threshold, threshold - diskWarningMargin), {});
+}
+
+std::optional<MenuBarItem> gpuItem(const Readings& readings, const UserDefaults& defaults) {
+    if (!readings.gpu)
+        return std::nullopt;
+    return percentItem("GPU", *readings.gpu, severityOf(*readings.gpu, defaults), readings.gpuHistory);
+}
+
+std::optional<MenuBarItem> temperatureItem(const Readings& readings) {
+    if (!readings.sensors.cpu)
+        return std::nullopt;
+    const double celsius = *readings.sensors.cpu;
+    return MenuBarItem{"TEMP",
+                       {roundedInteger(celsius) + "°"},
+                       reached(celsius, hot, warm),
+                       scaledHistory(readings.cpuTemperatureHistory, temperatureScale),
+                       std::clamp(celsius / temperatureScale, 0.0, 1.0),
+                       "100°"};
+}
+
+MenuBarSeverity severityOf(const BatterySample& battery) {
+    if (battery.isCharging || battery.isPluggedIn)
+        return MenuBarSeverity::normal;
+    if (battery.percent <= batteryCritical)
+        return MenuBarSeverity::critical;
+    return battery.percent <= batteryLow ? MenuBarSeverity::warning : MenuBarSeverity::normal;
+}
+
+std::optional<MenuBarItem> batteryItem(const Readings& readings) {
+    if (!readings.battery)
+        return std::nullopt;
+    const BatterySample& battery = *readings.battery;
+    return MenuBarItem{localized(battery.isCharging ? "CHG" : "BAT"),
+                       {std::to_string(battery.percent) + '%'},
+                       severityOf(battery),
+                       {},
+                       battery.percent / 100.0,
+                       "100%"};
+}
+
+} // namespace
+
+MenuBarSeverity severityOf(double fraction, const UserDefaults& defaults) {
+    const double critical = defaults.number(preference_key::criticalThreshold);
+    const double warning = defaults.number(preference_key::warningThreshold);
+    return reached(fraction, critical, warning);
+}
+
+std::optional<MenuBarItem> menuBarItem(MenuBarModule module, const Readings& readings, const UserDefaults& defaults) {
+    switch (module) {
+    case MenuBarModule::cpu:
+        return cpuItem(readings, defaults);
+    case MenuBarModule::memory:
+        return memoryItem(readings);
+    case MenuBarModule::network:
+        return networkItem(readings);
+    case MenuBarModule::disk:
+        return diskItem(readings, defaults);
+    case MenuBarModule::gpu:
+        return gpuItem(readings, defaults);
+    case MenuBarModule::temperature:
+        return temperatureItem(readings);
+    case MenuBarModule::battery:
+        return batteryItem(readings);
+    }
+    return std::nullopt;
+}
+
+std::vector<MenuBarItem> menuBarItems(const std::vector<MenuBarModule>& modules, const Readings& readings,
+                                      const UserDefaults& defaults) {
+    std::vector<MenuBarItem> items;
+    items.reserve(modules.size());
+    for (MenuBarModule module : modules)
+        if (auto item = menuBarItem(module, readings, defaults))
+            items.push_back(std::move(*item));
+    return items;
+}
+
+std::string accessibilityLabel(const std::vector<MenuBarItem>& items) {
+    std::string text;
+    for (const MenuBarItem& item : items) {
+        text += (text.empty() ? "" : ", ") + item.label;
+        for (const std::string& line : item.lines)
+            text += ' ' + line;
+    }
+    return text;
+}
+
+} // namespace vantrix

@@ -1,0 +1,303 @@
+#include "menubar/menu_bar_renderer.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include "menubar/monospaced_font.h"
+
+namespace vantrix {
+namespace {
+
+constexpr double inlineSpacing = 10.0;
+constexpr double columnSpacing = 8.0;
+constexpr double labelGap = 4.0;
+constexpr double lineGap = 3.0;
+constexpr double graphWidth = 24.0;
+constexpr double graphHeight = 14.0;
+constexpr double graphAdvance = 28.0;
+constexpr std::size_t graphValues = 24;
+constexpr double tileTextWidth = 21.5; // of the 22 points of a tile
+
+struct Fonts {
+    MonospacedFont value{11.5, QFont::Medium};
+    MonospacedFont twoLines{9.5, QFont::Medium};
+    MonospacedFont caption{7.5, QFont::Bold};
+    MonospacedFont label{9.0, QFont::DemiBold};
+};
+
+const Fonts& fonts() {
+    static const Fonts shared;
+    return shared;
+}
+
+const std::string& lineOf(const MenuBarItem& item, std::size_t index) {
+    static const std::string nothing;
+    return index < item.lines.size() ? item.lines[index] : nothing;
+}
+
+std::string joined(const std::vector<std::string>& lines) {
+    std::string text;
+    for (const std::string& line : lines)
+        text += text.empty() ? line : ' ' + line;
+    return text;
+}
+
+double inlineValueWidth(const MenuBarItem& item, const MonospacedFont& font) {
+    const auto count = static_cast<double>(item.lines.size());
+    const double reserved = count * font.width(item.reference) + (count - 1.0) * font.width(" ");
+    return std::ceil(std::max(font.width(joined(item.lines)), reserved));
+}
+
+double stackedValueWidth(const MenuBarItem& item, const MonospacedFont& font) {
+    double width = font.width(item.reference);
+    for (const std::string& line : item.lines)
+        width = std::max(width, font.width(line));
+    return std::ceil(width);
+}
+
+double spacing(MenuBarStyle style) {
+    return style == MenuBarStyle::inlined ? inlineSpacing : columnSpacing;
+}
+
+double rowWidth(const std::vector<MenuBarRenderer::Layout>& layouts, MenuBarStyle style) {
+    double width = spacing(style) * (static_cast<double>(layouts.size()) - 1.0);
+    for (const auto& layout : layouts)
+        width += layout.total;
+    return std::max(std::ceil(width), 1.0);
+}
+
+std::vector<MenuBarRenderer::Layout> layoutsOf(const std::vector<MenuBarItem>& items, MenuBarStyle style) {
+    std::vector<MenuBarRenderer::Layout> layouts;
+    layouts.reserve(items.size());
+    for (const MenuBarItem& item : items)
+        layouts.push_back(MenuBarRenderer::layout(item, style));
+    return layouts;
+}
+
+QColor withAlpha(QColor color, double alpha) {
+    color.setAlphaF(static_cast<float>(alpha));
+    return color;
+}
+
+/// Draws the items of one row. Heights are counted upwards from the bottom edge, as type is set.
+class RowPainter {
+  public:
+    RowPainter(QPainter& painter, bool colorize, const MenuBarPalette& palette)
+        : painter_(painter), colorize_(colorize), palette_(palette), transform_(painter.deviceTransform()) {}
+
+    void drawInline(const MenuBarItem& item, const MenuBarRenderer::Layout& layout, double x) {
+        const double base = (MenuBarRenderer::height - fonts().value.capHeight()) / 2.0;
+        text(fonts().label, x, base, item.label, captionColor());
+        text(fonts().value, x + layout.labelWidth + labelGap, base, joined(item.lines), valueColor(item));
+    }
+
+    void drawStacked(const MenuBarItem& item, double columnWidth, double x) {
+        if (item.lines.size() >= 2)
+            drawTwoLines(item, x);
+        else
+            drawCaptioned(item, columnWidth, x);
+    }
+
+    /// Two lines filling a square as wide as the row is high, each as large as fits.
+    void drawTile(const MenuBarItem& item) {
+        const bool captioned = item.lines.size() < 2;
+        const FittedLine upper{captioned ? fonts().caption : fonts().twoLines, captioned ? item.label : item.lines[0],
+                               captioned ? captionColor() : valueColor(item)};
+        const FittedLine lower{captioned ? fonts().value : fonts().twoLines, lineOf(item, captioned ? 0 : 1),
+                               valueColor(item)};
+        const double block = upper.height() + lineGap + lower.height();
+        const double base = (MenuBarRenderer::height - block) / 2.0;
+        drawFitted(lower, base);
+        drawFitted(upper, base + lower.height() + lineGap);
+    }
+
+    void drawGraph(const MenuBarItem& item, double x) {
+        const QRectF rect = snapped(QRectF(x, 4.0, graphWidth, graphHeight));
+        QPainterPath frame;
+        frame.addRoundedRect(rect, 3.0, 3.0);
+        painter_.fillPath(frame, withAlpha(palette_.label, 0.14));
+        painter_.save();
+        painter_.setClipPath(frame, Qt::IntersectClip);
+        painter_.fillPath(historyPath(item, rect), graphColor(item));
+        painter_.restore();
+    }
+
+  private:
+    struct FittedLine {
+        const MonospacedFont& font;
+        const std::string& text;
+        QColor color;
+
+        double scale() const {
+            const double width = font.width(text);
+            return width > tileTextWidth ? tileTextWidth / width : 1.0;
+        }
+        double height() const { return font.capHeight() * scale(); }
+    };
+
+    void drawFitted(const FittedLine& line, double baseline) {
+        painter_.save();
+        painter_.translate(MenuBarRenderer::height / 2.0, snappedY(MenuBarRenderer::height - baseline));
+        painter_.scale(line.scale(), line.scale());
+        line.font.draw(painter_, QPointF(-line.font.width(line.text) / 2.0, 0.0), line.text, line.color);
+        painter_.restore();
+    }
+
+    void drawCaptioned(const MenuBarItem& item, double columnWidth, double x) {
+        const auto& [value, twoLines, caption, label] = fonts();
+        const double base = (MenuBarRenderer::height - (value.capHeight() + lineGap + caption.capHeight())) / 2.0;
+        const std::string& line = lineOf(item, 0);
+        text(value, x + (columnWidth - value.width(line)) / 2.0, base, line, valueColor(item));
+        text(caption, x + (columnWidth - caption.width(item.label)) / 2.0, value.capHeight() + base + lineGap,
+             item.label, captionColor());
+    }
+
+    void drawTwoLines(const MenuBarItem& item, double x) {
+        const MonospacedFont& font = fonts().twoLines;
+        const double capHeight = font.capHeight();
+        const double base = (MenuBarRenderer::height - (2.0 * capHeight + lineGap)) / 2.0;
+        text(font, x, base, item.lines[1], valueColor(item));
+        text(font, x, capHeight + base + lineGap, item.lines[0], valueColor(item));
+    }
+
+    void text(const MonospacedFont& font, double x, double baseline, const std::string& text, const QColor& color) {
+        // A baseline between two device pixels would blur every horizontal stroke.
+        font.draw(painter_, QPointF(x, snappedY(MenuBarRenderer::height - baseline)), text, color);
+    }
+
+    static QPainterPath historyPath(const MenuBarItem& item, const QRectF& rect) {
+        QPainterPath path;
+        const std::size_t count = std::min(item.history.size(), graphValues);
+        if (count < 2) {
+            const double height = std::clamp(item.fraction, 0.0, 1.0) * rect.height();
+            path.addRect(QRectF(rect.left(), rect.bottom() - height, rect.width(), height));
+            return path;
+        }
+        const double* values = item.history.data() + (item.history.size() - count);
+        const double step = rect.width() / static_cast<double>(count - 1);
+        path.moveTo(rect.bottomLeft());
+        for (std::size_t i = 0; i < count; ++i)
+            path.lineTo(rect.left() + static_cast<double>(i) * step,
+                        rect.bottom() - std::clamp(values[i], 0.0, 1.0) * rect.height());
+        path.lineTo(rect.bottomRight());
+        path.closeSubpath();
+        return path;
+    }
+
+    QColor severityColor(const MenuBarItem& item, const QColor& otherwise) const {
+        if (!colorize_ || item.severity == MenuBarSeverity::normal)
+            return otherwise;
+        return item.severity == MenuBarSeverity::critical ? palette_.red : palette_.orange;
+    }
+
+    QColor valueColor(const MenuBarItem& item) const { return severityColor(item, palette_.label); }
+    QColor graphColor(const MenuBarItem& item) const { return severityColor(item, withAlpha(palette_.label, 0.7)); }
+    QColor captionColor() const { return withAlpha(palette_.label, 0.6); }
+
+    double snappedX(double x) const {
+        const double scale = transform_.m11();
+        return scale > 0.0 ? (std::round(x * scale + transform_.dx()) - transform_.dx()) / scale : x;
+    }
+    double snappedY(double y) const {
+        const double scale = transform_.m22();
+        return scale > 0.0 ? (std::round(y * scale + transform_.dy()) - transform_.dy()) / scale : y;
+    }
+    QRectF snapped(const QRectF& rect) const {
+        return QRectF(QPointF(snappedX(rect.left()), snappedY(rect.top())),
+                      QPointF(snappedX(rect.right()), snappedY(rect.bottom())));
+    }
+
+    QPainter& painter_;
+    bool colorize_;
+    const MenuBarPalette& palette_;
+    QTransform transform_;
+};
+
+} // namespace
+
+MenuBarPalette MenuBarPalette::onDark() {
+    return {QColor(255, 255, 255, 235), QColor(255, 159, 10), QColor(255, 90, 80)};
+}
+
+MenuBarPalette MenuBarPalette::onLight() {
+    // Deeper than the usual system colours, which are too faint for small type on a light ground.
+    return {QColor(0, 0, 0, 217), QColor(194, 84, 0), QColor(208, 10, 24)};
+}
+
+MenuBarRenderer::Layout MenuBarRenderer::layout(const MenuBarItem& item, MenuBarStyle style) {
+    Layout layout;
+    if (style == MenuBarStyle::inlined) {
+        layout.labelWidth = std::ceil(fonts().label.width(item.label));
+        layout.columnWidth = inlineValueWidth(item, fonts().value);
+        layout.total = layout.labelWidth + labelGap + layout.columnWidth;
+        return layout;
+    }
+    const bool captioned = item.lines.size() < 2;
+    layout.columnWidth = stackedValueWidth(item, captioned ? fonts().value : fonts().twoLines);
+    if (captioned)
+        layout.columnWidth = std::max(layout.columnWidth, std::ceil(fonts().caption.width(item.label)));
+    layout.total = layout.columnWidth + (style == MenuBarStyle::graph ? graphAdvance : 0.0);
+    return layout;
+}
+
+QSizeF MenuBarRenderer::size(const std::vector<MenuBarItem>& items, MenuBarStyle style) {
+    return {rowWidth(layoutsOf(items, style), style), height};
+}
+
+void MenuBarRenderer::paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
+                            const MenuBarPalette& palette) {
+    painter.save();
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    RowPainter row(painter, colorize, palette);
+    double x = 0.0;
+    for (const MenuBarItem& item : items) {
+        const Layout measured = layout(item, style);
+        if (style == MenuBarStyle::inlined) {
+            row.drawInline(item, measured, x);
+        } else {
+            const double column = style == MenuBarStyle::graph ? x + graphAdvance : x;
+            if (style == MenuBarStyle::graph)
+                row.drawGraph(item, x);
+            row.drawStacked(item, measured.columnWidth, column);
+        }
+        x += measured.total + spacing(style);
+    }
+    painter.restore();
+}
+
+void MenuBarRenderer::render(QImage& image, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
+                             const MenuBarPalette& palette, double scale) {
+    const QSizeF points = size(items, style);
+    const QSize pixels(static_cast<int>(std::ceil(points.width() * scale)),
+                       static_cast<int>(std::ceil(points.height() * scale)));
+    if (image.size() != pixels || image.format() != QImage::Format_ARGB32_Premultiplied)
+        image = QImage(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    paint(painter, items, style, colorize, palette);
+}
+
+QImage MenuBarRenderer::tile(const MenuBarItem& item, bool colorize, const MenuBarPalette& palette, int side) {
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.scale(side / height, side / height);
+    RowPainter(painter, colorize, palette).drawTile(item);
+    return image;
+}
+
+bool samePicture(const std::vector<MenuBarItem>& a, const std::vector<MenuBarItem>& b, MenuBarStyle style) {
+    const auto same = [style](const MenuBarItem& x, const MenuBarItem& y) {
+        if (style == MenuBarStyle::graph)
+            return x == y;
+        return x.label == y.label && x.lines == y.lines && x.severity == y.severity && x.reference == y.reference;
+    };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), same);
+}
+
+} // namespace vantrix

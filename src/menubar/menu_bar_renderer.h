@@ -1,0 +1,60 @@
+#pragma once
+
+#include <vector>
+
+#include <QColor>
+#include <QImage>
+#include <QSizeF>
+
+#include "menubar/menu_bar_item.h"
+
+class QPainter;
+
+namespace vantrix {
+
+/// The colours of one appearance. Chosen when the row is drawn, because a panel may change its own at any time.
+struct MenuBarPalette {
+    QColor label;
+    QColor orange;
+    QColor red;
+
+    static MenuBarPalette onDark();
+    static MenuBarPalette onLight();
+
+    bool operator==(const MenuBarPalette&) const = default;
+};
+
+/// Draws the row of items. Stateless but for the fonts, which all renderers share. Main thread only; needs a
+/// QGuiApplication. Sizes are in points (device-independent pixels).
+class MenuBarRenderer {
+  public:
+    static constexpr double height = 22.0;
+
+    /// The measured width of one item, in points.
+    struct Layout {
+        double columnWidth = 0.0; ///< reserved for the value
+        double labelWidth = 0.0;  ///< the label's, in the inline style; 0 in the others
+        double total = 0.0;       ///< the whole item's, label or graph included
+    };
+
+    static Layout layout(const MenuBarItem& item, MenuBarStyle style);
+
+    /// Size of the row; the width is a whole number, at least 1.
+    static QSizeF size(const std::vector<MenuBarItem>& items, MenuBarStyle style);
+
+    /// Draws the row with its top left corner at the painter's origin, sharp at whatever scale the painter has.
+    static void paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
+                      const MenuBarPalette& palette);
+
+    /// The row on a transparent ground; `scale` is pixels per point. Reuses `image` where its size still fits.
+    static void render(QImage& image, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
+                       const MenuBarPalette& palette, double scale);
+
+    /// One item as two lines in a square of `side` pixels, for hosts that only show squares.
+    static QImage tile(const MenuBarItem& item, bool colorize, const MenuBarPalette& palette, int side);
+};
+
+/// True when two rows look the same in `style`: the histories count only where they are drawn.
+bool samePicture(const std::vector<MenuBarItem>& a, const std::vector<MenuBarItem>& b, MenuBarStyle style);
+
+} // namespace vantrix

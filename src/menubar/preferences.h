@@ -1,0 +1,77 @@
+#pragma once
+
+#include <set>
+#include <string_view>
+#include <vector>
+
+#include <QString>
+#include <QVariant>
+
+#include "menubar/display_choices.h"
+
+namespace vantrix {
+
+class UserDefaults;
+
+/// The keys under which the user's choices are stored.
+namespace preference_key {
+inline const QString updateInterval = QStringLiteral("updateInterval"); ///< seconds
+inline const QString menuBarOrder = QStringLiteral("menuBarOrder");
+inline const QString menuBarEnabled = QStringLiteral("menuBarEnabled");
+inline const QString menuBarStyle = QStringLiteral("menuBarStyle");
+inline const QString menuBarColorize = QStringLiteral("menuBarColorize");
+inline const QString warningThreshold = QStringLiteral("warningThreshold");   ///< 0 to 1
+inline const QString criticalThreshold = QStringLiteral("criticalThreshold"); ///< 0 to 1
+inline const QString visibleCards = QStringLiteral("visibleCardsV2");
+inline const QString alertsEnabled = QStringLiteral("alertsEnabled");
+inline const QString alertCPU = QStringLiteral("alertCPU");
+inline const QString alertMemory = QStringLiteral("alertMemory");
+inline const QString alertDisk = QStringLiteral("alertDisk");
+inline const QString alertBattery = QStringLiteral("alertBattery");
+inline const QString alertTemperature = QStringLiteral("alertTemperature");
+inline const QString alertDuration = QStringLiteral("alertDuration");           ///< seconds
+inline const QString diskAlertThreshold = QStringLiteral("diskAlertThreshold"); ///< 0 to 1
+inline const QString settingsTab = QStringLiteral("settingsTab");
+} // namespace preference_key
+
+/// One user choice.
+struct Preference {
+    QString key;
+    QVariant standard;      ///< what holds until the user chooses; a bool, a double or a QString, the preference's kind
+    bool registered = true; ///< false: `standard` is supplied by the one view that reads the key
+};
+
+/// Every preference that the program has.
+const std::vector<Preference>& allPreferences();
+
+/// To be called once, before anything reads a preference.
+void registerPreferences(UserDefaults& defaults);
+
+/// Every module once: those that the user ordered, then the others in their declaration order.
+std::vector<MenuBarModule> moduleOrder(const UserDefaults& defaults);
+
+/// The modules to show, in display order; may be empty.
+std::vector<MenuBarModule> enabledMenuBarModules(const UserDefaults& defaults);
+
+/// `stacked` for any text that names no style.
+MenuBarStyle menuBarStyle(const UserDefaults& defaults);
+
+/// Seconds between two passes, at least 0.5.
+double updateInterval(const UserDefaults& defaults);
+
+/// The names of a list-valued preference, known or not. Ordered, because this is how sets are stored.
+using NameSet = std::set<QString>;
+
+/// The names of the chosen cards as stored; a set of unknown names alone is not empty, but shows no card.
+NameSet visibleCards(const UserDefaults& defaults);
+
+/// True when `names` has the card, module or other choice of that raw value.
+bool contains(const NameSet& names, std::string_view rawValue);
+
+/// The text to store for `list` once `rawValue` is in it, or is not; other names stay, known or not.
+QString withName(const QString& list, std::string_view rawValue, bool present);
+
+/// The text to store for an order of modules.
+QString orderText(const std::vector<MenuBarModule>& order);
+
+} // namespace vantrix

@@ -1,0 +1,58 @@
+#include "menubar/symbol.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
+#include <QTransform>
+
+namespace vantrix {
+
+namespace {
+
+/// Empty where no symbol has that name.
+QByteArray source(std::string_view name) {
+    const auto text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    QFile file(QStringLiteral(":/symbols/%1.svg").arg(text));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+} // namespace
+
+void paintSymbol(QPainter& painter, std::string_view name, const QRectF& rect, const QColor& color) {
+    const auto toDevice = painter.deviceTransform();
+    const auto target = toDevice.mapRect(rect);
+    const auto side = static_cast<int>(std::lround(std::min(target.width(), target.height())));
+    bool invertible = false;
+    const auto fromDevice = toDevice.inverted(&invertible);
+    if (side < 1 || !invertible)
+        return;
+
+    // A picture of the exact device size on a whole device pixel: no scale can blur it.
+    const auto corner = target.center() - QPointF(side, side) / 2.0;
+    painter.save();
+    painter.setTransform(fromDevice, true);
+    painter.drawImage(corner.toPoint(), symbolImage(name, color, side));
+    painter.restore();
+}
+
+QImage symbolImage(std::string_view name, const QColor& color, int side) {
+    if (side < 1)
+        return {};
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    const auto data = source(name);
+    if (data.isEmpty())
+        return image;
+
+    QPainter painter(&image);
+    QSvgRenderer(data).render(&painter, image.rect());
+    // The files are drawn in black; only their coverage counts.
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), color);
+    return image;
+}
+
+} // namespace vantrix

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+#include <QTimer>
+
+namespace vantrix {
+
+/// The monitor's heartbeat; injected so that tests fire it by hand.
+class RepeatingTimer {
+  public:
+    virtual ~RepeatingTimer() = default;
+    /// Calls `fire` every `period` seconds until the timer goes or is scheduled anew. A fire may come up to
+    /// `tolerance` seconds off, so that the system can serve several programs in one wake-up.
+    virtual void schedule(double period, double tolerance, std::function<void()> fire) = 0;
+};
+
+class QtRepeatingTimer final : public RepeatingTimer {
+  public:
+    QtRepeatingTimer();
+    void schedule(double period, double tolerance, std::function<void()> fire) override;
+
+  private:
+    QTimer timer_;
+    std::function<void()> fire_;
+};
+
+} // namespace vantrix

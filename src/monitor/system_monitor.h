@@ -1,0 +1,82 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QObject>
+
+#include "monitor/readings.h"
+#include "monitor/repeating_timer.h"
+#include "monitor/task_runner.h"
+#include "platform/sampling_sources.h"
+
+namespace vantrix {
+
+class UserDefaults;
+
+/// The one model of the program: owns the samplers, runs one sampling pass per interval, keeps the readings and says
+/// when they change. Everything that is shown is drawn from it. Main thread only.
+class SystemMonitor : public QObject {
+    Q_OBJECT
+  public:
+    /// `defaults` outlives the monitor.
+    SystemMonitor(SamplingSources sources, const UserDefaults& defaults, std::unique_ptr<RepeatingTimer> timer,
+                  std::unique_ptr<TaskRunner> background);
+
+    const Readings& readings() const { return readings_; }
+
+    /// Takes the interval from the settings (at least 0.5 s), runs one pass at once and then one per interval.
+    /// Does nothing when already started.
+    void start();
+
+    /// Replaces a running timer at once. The caller keeps the value at 0.5 s or more.
+    void setInterval(double seconds);
+
+    /// One sampling pass.
+    void sample();
+
+    /// Replaces every reading by fixed values and turns live accessory updates off, for product images.
+    void loadDemo();
+
+    /// Called once at the end of every pass.
+    std::function<void()> onUpdate;
+
+  Q_SIGNALS:
+    /// A reading was assigned or appended to. `interval` and `gpu` stay silent when given the value they hold,
+    /// `accessories` when the merged list is the same.
+    void changed(Reading reading);
+
+  private:
+    void sampleCPU();
+    void sampleMemory();
+    void sampleNetwork();
+    void sampleDisk();
+    void sampleAccessories();
+    void finishAccessories(AccessoriesSampler::Scan scan);
+    void mergeAccessories();
+    void scheduleTimer();
+    void appendTo(History Readings::*history, double value, Reading reading);
+    template<typename T>
+    void store(T Readings::*field, const T& value, Reading reading);
+
+    const UserDefaults& defaults_;
+    SamplingSources sources_;
+    std::shared_ptr<AccessoriesSampler> accessoriesSampler_; // shared with a scan under way
+    CPUSampler cpuSampler_;
+    MemorySampler memorySampler_;
+    NetworkSampler networkSampler_;
+    DiskSampler diskSampler_;
+
+    Readings readings_;
+    std::unique_ptr<RepeatingTimer> timer_;
+    std::unique_ptr<TaskRunner> background_;
+    bool isScheduled_ = false;
+    bool isDemo_ = false;
+    bool isSamplingAccessories_ = false;
+    std::optional<double> lastAccessoriesSample_; // uptime; absent: the distant past
+    std::vector<AccessoryBattery> sampledAccessories_;
+    std::string sampledDiagnostics_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "fakes/memory_defaults_store.h"
+#include "menubar/preferences.h"
+
+namespace vantrix::fakes {
+
+/// Settings in memory with everything registered, as the running program has them.
+class FakeDefaults : public UserDefaults {
+  public:
+    FakeDefaults() : UserDefaults(std::make_unique<MemoryDefaultsStore>()) { registerPreferences(*this); }
+};
+
+} // namespace vantrix::fakes

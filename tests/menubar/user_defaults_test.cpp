@@ -1,0 +1,96 @@
+#include "support/user_defaults.h"
+
+#include <cmath>
+#include <limits>
+
+#include <gmock/gmock.h>
+
+#include "fakes/memory_defaults_store.h"
+
+namespace vantrix {
+namespace {
+
+const QString key = QStringLiteral("key");
+
+QVariant text(const char* value) {
+    return QString::fromUtf8(value);
+}
+
+struct Reading {
+    const char* name;
+    QVariant stored; ///< over a registered number 2, text "registered" and boolean true
+    double number;
+    const char* string;
+    bool boolean;
+};
+
+class UserDefaultsReading : public testing::TestWithParam<Reading> {};
+
+TEST_P(UserDefaultsReading, FallsBackToRegistered) {
+    MemoryDefaults memory;
+    if (GetParam().stored.isValid())
+        memory.store->values.insert(key, GetParam().stored);
+    memory.defaults.registerDefaults({{key, 2}});
+    EXPECT_EQ(memory.defaults.number(key), GetParam().number);
+    memory.defaults.registerDefaults({{key, text("registered")}});
+    EXPECT_EQ(memory.defaults.string(key), QString::fromUtf8(GetParam().string));
+    memory.defaults.registerDefaults({{key, true}});
+    EXPECT_EQ(memory.defaults.boolean(key), GetParam().boolean);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, UserDefaultsReading,
+    testing::Values(Reading{"nothing", {}, 2, "registered", true}, Reading{"no", false, 2, "registered", false},
+                    Reading{"fraction", 0.9, 0.9, "0.9", true}, Reading{"zero", 0.0, 0, "0", false},
+                    Reading{"largeWhole", 1e15, 1e15, "1000000000000000", true},
+                    Reading{"numericText", text("0.5"), 0.5, "0.5", true},
+                    Reading{"spacedNumber", text(" 5 "), 5, " 5 ", true}, Reading{"oneAsText", text("1"), 1, "1", true},
+                    Reading{"zeroAsText", text("0"), 0, "0", false}, Reading{"NoAsText", text("No"), 2, "No", false},
+                    Reading{"word", text("fast"), 2, "fast", true}, Reading{"trailingUnit", text("5s"), 2, "5s", true},
+                    Reading{"comma", text("0,5"), 2, "0,5", true}, Reading{"emptyText", text(""), 2, "", true},
+                    Reading{"infinite", text("inf"), 2, "inf", true},
+                    Reading{"notANumber", text("nan"), 2, "nan", true},
+                    Reading{"beyondRange", text("1e999"), 2, "1e999", true}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(UserDefaults, NothingStoredOrRegistered) {
+    const MemoryDefaults memory;
+    EXPECT_EQ(memory.defaults.string(key), std::nullopt);
+    EXPECT_EQ(memory.defaults.number(key), 0.0);
+    EXPECT_FALSE(memory.defaults.boolean(key));
+}
+
+TEST(UserDefaults, AnnouncesChangesOnly) {
+    MemoryDefaults memory;
+    int announced = 0;
+    QObject::connect(&memory.defaults, &UserDefaults::changed, [&] { ++announced; });
+
+    memory.defaults.registerDefaults({{key, 5}});
+    EXPECT_EQ(announced, 0);
+    memory.defaults.set(key, 5); // the registered value, yet the user's choice from now on
+    EXPECT_EQ(announced, 1);
+    memory.defaults.set(key, 5.0);
+    EXPECT_EQ(memory.store->writes, 1) << "stored already";
+    memory.defaults.set(key, 1);
+    memory.defaults.set(key, true);
+    memory.defaults.set(key, text("1"));
+    EXPECT_EQ(announced, 4) << "1, true and \"1\" are three values";
+    memory.defaults.remove(key);
+    memory.defaults.remove(key);
+    EXPECT_EQ(announced, 5);
+    EXPECT_EQ(memory.defaults.number(key), 5.0);
+    memory.store->changedOutside();
+    EXPECT_EQ(announced, 6);
+}
+
+TEST(UserDefaults, DropsWhatNoStoreKeeps) {
+    MemoryDefaults memory;
+    memory.defaults.set(key, std::numeric_limits<double>::infinity());
+    memory.defaults.set(key, std::nan(""));
+    memory.defaults.set(key, QVariantList{1, 2});
+    memory.defaults.set(key, {});
+    EXPECT_EQ(memory.store->writes, 0);
+}
+
+} // namespace
+} // namespace vantrix

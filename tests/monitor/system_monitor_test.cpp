@@ -1,0 +1,315 @@
+#include "monitor/system_monitor.h"
+
+#include <QCoreApplication>
+
+#include <gmock/gmock.h>
+
+#include "fakes/fake_defaults.h"
+#include "fakes/fake_sources.h"
+
+namespace vantrix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class ManualTimer : public RepeatingTimer {
+  public:
+    struct Schedule {
+        double period;
+        double tolerance;
+        bool operator==(const Schedule&) const = default;
+    };
+    std::vector<Schedule> schedules;
+    std::function<void()> fire;
+
+    void schedule(double period, double tolerance, std::function<void()> callback) override {
+        schedules.push_back({period, tolerance});
+        fire = std::move(callback);
+    }
+};
+
+/// Holds tasks back until the test finishes them.
+class ManualRunner : public TaskRunner {
+  public:
+    struct Task {
+        std::function<void()> work;
+        std::function<void()> done;
+    };
+    std::vector<Task>& tasks;
+    explicit ManualRunner(std::vector<Task>& list) : tasks(list) {}
+
+    void run(std::function<void()> work, std::function<void()> done) override {
+        tasks.push_back({std::move(work), std::move(done)});
+    }
+};
+
+class SystemMonitorTest : public ::testing::Test {
+  protected:
+    SystemMonitorTest() {
+        auto manualTimer = std::make_unique<ManualTimer>();
+        timer = manualTimer.get();
+        monitor = std::make_unique<SystemMonitor>(machine.makeSources(), defaults, std::move(manualTimer),
+                                                  std::make_unique<ManualRunner>(tasks));
+        QObject::connect(monitor.get(), &SystemMonitor::changed,
+                         [this](Reading reading) { changes.push_back(reading); });
+    }
+
+    void pass(double seconds = 2.0) {
+        machine.clock->now += seconds;
+        machine.cpu->advance(25, 100);
+        changes.clear();
+        monitor->sample();
+    }
+
+    void finishTask() {
+        const auto task = tasks.front();
+        tasks.erase(tasks.begin());
+        task.work();
+        task.done();
+    }
+
+    long count(Reading reading) const { return std::count(changes.begin(), changes.end(), reading); }
+    const Readings& readings() const { return monitor->readings(); }
+
+    fakes::FakeMachine machine;
+    fakes::FakeDefaults defaults;
+    std::vector<ManualRunner::Task> tasks;
+    std::vector<Reading> changes;
+    ManualTimer* timer = nullptr;
+    std::unique_ptr<SystemMonitor> monitor;
+};
+
+TEST_F(SystemMonitorTest, FirstPassStoresNoLoadButEverythingElse) {
+    monitor->start();
+    EXPECT_EQ(readings().cpu, CPUSample());
+    EXPECT_THAT(readings().cpuHistory, IsEmpty());
+    EXPECT_THAT(readings().memoryHistory, ElementsAre(0.5));
+    EXPECT_THAT(readings().downloadHistory, ElementsAre(0.0));
+    EXPECT_THAT(readings().diskReadHistory, ElementsAre(0.0));
+    EXPECT_THAT(readings().diskWriteHistory, ElementsAre(0.0));
+    EXPECT_EQ(readings().disk.readRate, std::nullopt);
+
+    pass();
+    EXPECT_DOUBLE_EQ(readings().cpu.total, 0.25);
+    EXPECT_THAT(readings().cpuHistory, ElementsAre(0.25));
+    EXPECT_EQ(readings().disk.readRate, 0.0);
+}
+
+TEST_F(SystemMonitorTest, ACoreThatGoesOfflineDoesNotShowAnIdleMachine) {
+    monitor->start();
+    pass();
+    machine.cpu->cores->pop_back();
+    pass();
+    EXPECT_DOUBLE_EQ(readings().cpu.total, 0.25);
+    EXPECT_THAT(readings().cpuHistory, ElementsAre(0.25));
+    pass();
+    EXPECT_EQ(readings().cpu.perCore.size(), 1u);
+    EXPECT_THAT(readings().cpuHistory, ElementsAre(0.25, 0.25));
+}
+
+TEST_F(SystemMonitorTest, FailedReadsKeepWhatWasKnown) {
+    monitor->start();
+    pass();
+    const Readings before = readings();
+    machine.cpu->cores.reset();
+    machine.memory->statistics.reset();
+    machine.network->links.reset();
+    machine.disks->disks.reset();
+    machine.clock->now += 2;
+    monitor->sample();
+    EXPECT_EQ(readings().cpu, before.cpu);
+    EXPECT_EQ(readings().memory, before.memory);
+    EXPECT_EQ(readings().network, before.network);
+    EXPECT_EQ(readings().cpuHistory, before.cpuHistory);
+    EXPECT_EQ(readings().memoryHistory, before.memoryHistory);
+    EXPECT_EQ(readings().downloadHistory, before.downloadHistory);
+    EXPECT_EQ(readings().disk.readRate, std::nullopt);
+    EXPECT_THAT(readings().diskReadHistory, ElementsAre(0.0, 0.0, 0.0)); // a missing rate counts as none
+}
+
+TEST_F(SystemMonitorTest, MemoryHistoryCopesWithOddTotals) {
+    machine.memory->statistics->physicalMemory = 0;
+    pass();
+    machine.memory->statistics->physicalMemory = 10 * 1024;
+    pass();
+    EXPECT_THAT(readings().memoryHistory, ElementsAre(0.0, 1.0));
+}
+
+TEST_F(SystemMonitorTest, HistoriesKeepTheNewestSixty) {
+    for (int i = 0; i < 61; ++i) {
+        machine.memory->statistics->wireCount = static_cast<std::uint64_t>(i);
+        pass();
+    }
+    ASSERT_EQ(readings().memoryHistory.size(), 60u);
+    EXPECT_DOUBLE_EQ(readings().memoryHistory.front(), 0.41);
+    EXPECT_DOUBLE_EQ(readings().memoryHistory.back(), 1.0);
+    EXPECT_EQ(readings().cpuHistory.size(), 60u); // 61 passes, the first only set the baseline
+}
+
+TEST_F(SystemMonitorTest, RecordsAndHistoriesNotifyOnEveryPassEvenWhenEqual) {
+    monitor->start();
+    pass();
+    pass();
+    for (Reading reading : {Reading::cpu, Reading::cpuHistory, Reading::memory, Reading::memoryHistory,
+                            Reading::network, Reading::downloadHistory, Reading::uploadHistory, Reading::disk,
+                            Reading::diskReadHistory, Reading::diskWriteHistory})
+        EXPECT_EQ(count(reading), 1) << static_cast<int>(reading);
+    EXPECT_EQ(changes.size(), 10u);
+}
+
+TEST_F(SystemMonitorTest, OneListenerCallPerPassAfterEverythingIsStored) {
+    int calls = 0;
+    monitor->onUpdate = [&] {
+        ++calls;
+        EXPECT_EQ(changes.back(), Reading::diskWriteHistory);
+    };
+    monitor->start();
+    pass();
+    EXPECT_EQ(calls, 2);
+}
+
+TEST_F(SystemMonitorTest, StartTakesTheStoredIntervalWithItsFloor) {
+    struct Case {
+        QVariant stored;
+        double expected;
+    };
+    for (const Case& c : {Case{0.2, 0.5}, Case{5.0, 5.0}, Case{{}, 2.0}, Case{0.5, 0.5}}) {
+        SCOPED_TRACE(c.expected);
+        if (c.stored.isValid())
+            defaults.set(preference_key::updateInterval, c.stored);
+        else
+            defaults.remove(preference_key::updateInterval);
+        auto manualTimer = std::make_unique<ManualTimer>();
+        ManualTimer* schedule = manualTimer.get();
+        fakes::FakeMachine other;
+        SystemMonitor fresh(other.makeSources(), defaults, std::move(manualTimer),
+                            std::make_unique<ManualRunner>(tasks));
+        fresh.start();
+        fresh.start(); // a second start schedules nothing
+        EXPECT_THAT(schedule->schedules, ElementsAre(ManualTimer::Schedule{c.expected, c.expected * 0.1}));
+    }
+}
+
+TEST_F(SystemMonitorTest, AMissingUnregisteredIntervalBecomesTheFloor) {
+    UserDefaults bare(std::make_unique<MemoryDefaultsStore>());
+    auto manualTimer = std::make_unique<ManualTimer>();
+    ManualTimer* schedule = manualTimer.get();
+    SystemMonitor fresh(fakes::FakeMachine().makeSources(), bare, std::move(manualTimer),
+                        std::make_unique<ManualRunner>(tasks));
+    fresh.start();
+    EXPECT_EQ(schedule->schedules.front().period, 0.5);
+}
+
+TEST_F(SystemMonitorTest, ChangingTheIntervalReplacesARunningTimerOnly) {
+    monitor->setInterval(3.0);
+    EXPECT_THAT(timer->schedules, IsEmpty());
+    EXPECT_THAT(changes, ElementsAre(Reading::interval));
+    monitor->start(); // back to the stored 2 s
+    changes.clear();
+    monitor->setInterval(2.0);
+    EXPECT_THAT(changes, IsEmpty());
+    monitor->setInterval(1.0);
+    EXPECT_THAT(timer->schedules, ElementsAre(ManualTimer::Schedule{2.0, 0.2}, ManualTimer::Schedule{1.0, 0.1}));
+    timer->fire();
+    EXPECT_EQ(readings().memoryHistory.size(), 2u);
+}
+
+TEST_F(SystemMonitorTest, AFireAfterTheMonitorIsGoneDoesNothing) {
+    monitor->start();
+    const auto fire = timer->fire;
+    monitor.reset();
+    fire();
+}
+
+TEST_F(SystemMonitorTest, ScansEveryThirtySecondsAndNeverTwiceAtOnce) {
+    monitor->start();
+    EXPECT_EQ(tasks.size(), 1u);
+    finishTask();
+    pass(29.9);
+    EXPECT_EQ(tasks.size(), 0u);
+    pass(0.1); // exactly 30 s after the start of the last one
+    EXPECT_EQ(tasks.size(), 1u);
+    pass(60.0); // still running
+    EXPECT_EQ(tasks.size(), 1u);
+    finishTask();
+    pass();
+    EXPECT_EQ(tasks.size(), 1u);
+    EXPECT_EQ(machine.accessories->scans, 2);
+}
+
+TEST_F(SystemMonitorTest, TheSameAccessoriesAreNoChangeButTheDiagnosticsAlwaysAre) {
+    machine.accessories->result = {{{"Mouse", 64, false, "computermouse"}}, "1 device"};
+    for (int scan = 0; scan < 2; ++scan) {
+        pass(30.0);
+        changes.clear();
+        finishTask();
+        EXPECT_EQ(count(Reading::accessories), scan == 0 ? 1 : 0);
+        EXPECT_EQ(count(Reading::accessoriesDiagnostics), 1);
+    }
+    ASSERT_EQ(readings().accessories.size(), 1u);
+    EXPECT_EQ(readings().accessories.front().percent, 64);
+    EXPECT_EQ(readings().accessoriesDiagnostics, "1 device | ble: ");
+}
+
+TEST_F(SystemMonitorTest, AScanThatOutlivesTheMonitorIsDiscarded) {
+    monitor->start();
+    monitor.reset();
+    finishTask();
+}
+
+TEST_F(SystemMonitorTest, DemoReadingsStayFixedWhileAScanEnds) {
+    machine.accessories->result = {{{"Mouse", 64, false, "computermouse"}}, ""};
+    monitor->start();
+    changes.clear();
+    monitor->loadDemo();
+    finishTask();
+    EXPECT_EQ(readings().accessories.size(), 3u);
+    EXPECT_EQ(changes.size(), static_cast<std::size_t>(readingCount) - 1); // all but the interval
+}
+
+TEST(DemoReadings, FollowTheirFormula) {
+    const Readings demo = demoReadings();
+    struct Case {
+        const char* name;
+        const History& history;
+        double first; // computed by hand from the sine formula at i = 0
+    };
+    const Case cases[] = {
+        {"cpu", demo.cpuHistory, (0.6 * 0.3894183423086505 + 0.4 * 0.7173560908995228) * 0.2 + 0.32},
+        {"upload", demo.uploadHistory, (0.6 * 0.7833269096274834 + 0.4 * 0.9738476308781951) * 140000 + 200000},
+        {"power", demo.systemPowerHistory, (0.6 * 0.9974949866040544 + 0.4 * 0.1411200080598672) * 7 + 16},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(c.history.size(), historyLength) << c.name;
+        EXPECT_NEAR(c.history.front(), c.first, 1e-9 * c.first) << c.name;
+    }
+    EXPECT_GE(*std::min_element(demo.downloadHistory.begin(), demo.downloadHistory.end()), 0.0);
+    EXPECT_LE(*std::max_element(demo.memoryHistory.begin(), demo.memoryHistory.end()), 1.0);
+}
+
+TEST(ThreadTaskRunner, WorksElsewhereAndReportsOnTheMainThread) {
+    ThreadTaskRunner runner;
+    QThread* worker = nullptr;
+    QThread* reporter = nullptr;
+    runner.run([&] { worker = QThread::currentThread(); }, [&] { reporter = QThread::currentThread(); });
+    const QDeadlineTimer deadline(10000);
+    while (!reporter && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
+    EXPECT_EQ(reporter, QThread::currentThread());
+    EXPECT_NE(worker, nullptr);
+    EXPECT_NE(worker, reporter);
+}
+
+TEST(ThreadTaskRunner, DropsTheReportWhenItIsGone) {
+    bool reported = false;
+    {
+        ThreadTaskRunner runner;
+        runner.run([] {}, [&] { reported = true; });
+    }
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(reported);
+}
+
+} // namespace
+} // namespace vantrix
