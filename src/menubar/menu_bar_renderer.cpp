@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include <QPainter>
-#include <QPainterPath>
 
+#include "menubar/history_graph.h"
 #include "menubar/monospaced_font.h"
 
 namespace vantrix {
@@ -18,6 +18,7 @@ constexpr double lineGap = 3.0;
 constexpr double graphWidth = 24.0;
 constexpr double graphHeight = 14.0;
 constexpr double graphAdvance = 28.0;
+constexpr double cornerRadius = 3.0;
 constexpr std::size_t graphValues = 24;
 constexpr double tileTextWidth = 21.5; // of the 22 points of a tile
 
@@ -115,13 +116,20 @@ class RowPainter {
     }
 
     void drawGraph(const MenuBarItem& item, double x) {
-        const QRectF rect = snapped(QRectF(x, 4.0, graphWidth, graphHeight));
-        QPainterPath frame;
-        frame.addRoundedRect(rect, 3.0, 3.0);
-        painter_.fillPath(frame, withAlpha(palette_.label, 0.14));
+        const QRect rect = transform_.mapRect(QRectF(x, 4.0, graphWidth, graphHeight)).toRect();
+        if (rect.isEmpty())
+            return;
+        const std::size_t count = std::min(item.history.size(), graphValues);
+        const HistoryGraph graph{.pixels = rect.size(),
+                                 .cornerRadius = cornerRadius * rect.height() / graphHeight,
+                                 .background = withAlpha(palette_.label, 0.14),
+                                 .fill = graphColor(item),
+                                 .values = std::span(item.history).last(count),
+                                 .fraction = item.fraction};
+        // Whole device pixels: no scale can blur it.
         painter_.save();
-        painter_.setClipPath(frame, Qt::IntersectClip);
-        painter_.fillPath(historyPath(item, rect), graphColor(item));
+        painter_.setTransform(transform_.inverted(), true);
+        painter_.drawImage(rect.topLeft(), graph.image());
         painter_.restore();
     }
 
@@ -168,25 +176,6 @@ class RowPainter {
         font.draw(painter_, QPointF(x, snappedY(MenuBarRenderer::height - baseline)), text, color);
     }
 
-    static QPainterPath historyPath(const MenuBarItem& item, const QRectF& rect) {
-        QPainterPath path;
-        const std::size_t count = std::min(item.history.size(), graphValues);
-        if (count < 2) {
-            const double height = std::clamp(item.fraction, 0.0, 1.0) * rect.height();
-            path.addRect(QRectF(rect.left(), rect.bottom() - height, rect.width(), height));
-            return path;
-        }
-        const double* values = item.history.data() + (item.history.size() - count);
-        const double step = rect.width() / static_cast<double>(count - 1);
-        path.moveTo(rect.bottomLeft());
-        for (std::size_t i = 0; i < count; ++i)
-            path.lineTo(rect.left() + static_cast<double>(i) * step,
-                        rect.bottom() - std::clamp(values[i], 0.0, 1.0) * rect.height());
-        path.lineTo(rect.bottomRight());
-        path.closeSubpath();
-        return path;
-    }
-
     QColor severityColor(const MenuBarItem& item, const QColor& otherwise) const {
         if (!colorize_ || item.severity == MenuBarSeverity::normal)
             return otherwise;
@@ -197,17 +186,9 @@ class RowPainter {
     QColor graphColor(const MenuBarItem& item) const { return severityColor(item, withAlpha(palette_.label, 0.7)); }
     QColor captionColor() const { return withAlpha(palette_.label, 0.6); }
 
-    double snappedX(double x) const {
-        const double scale = transform_.m11();
-        return scale > 0.0 ? (std::round(x * scale + transform_.dx()) - transform_.dx()) / scale : x;
-    }
     double snappedY(double y) const {
         const double scale = transform_.m22();
         return scale > 0.0 ? (std::round(y * scale + transform_.dy()) - transform_.dy()) / scale : y;
-    }
-    QRectF snapped(const QRectF& rect) const {
-        return QRectF(QPointF(snappedX(rect.left()), snappedY(rect.top())),
-                      QPointF(snappedX(rect.right()), snappedY(rect.bottom())));
     }
 
     QPainter& painter_;

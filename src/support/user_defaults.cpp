@@ -73,7 +73,7 @@ void UserDefaults::registerDefaults(const QHash<QString, QVariant>& defaults) {
 
 template<typename Kind>
 std::optional<Kind> UserDefaults::firstUsable(const QString& key, std::optional<Kind> (*read)(const QVariant&)) const {
-    if (const auto stored = read(store_->value(key)))
+    if (auto stored = read(store_->value(key)))
         return stored;
     return read(registered_.value(key));
 }

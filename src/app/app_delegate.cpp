@@ -1,0 +1,113 @@
+#include "app/app_delegate.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+#include "app/status_menu.h"
+#include "menubar/preferences.h"
+#include "popover/popover_view.h"
+#include "support/localization.h"
+#include "support/user_defaults.h"
+
+namespace vantrix {
+
+AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
+    : defaults_(defaults), makeStatusItem_(std::move(parts.makeStatusItem)),
+      showSettings_(std::move(parts.showSettings)), information_(std::move(parts.sources.information)),
+      processor_(*information_), monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
+                                          std::make_unique<ThreadTaskRunner>()),
+      popover_(std::make_unique<PopoverView>(monitor_, defaults_, processor_)) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::applicationDidFinishLaunching() {
+    registerPreferences(defaults_);
+    createStatusItem();
+    monitor_.onUpdate = [delegate = QPointer<AppDelegate>(this)] {
+        if (delegate)
+            delegate->refreshStatusItem();
+    };
+    observeDefaults();
+    monitor_.start();
+    refreshStatusItem();
+}
+
+void AppDelegate::createStatusItem() {
+    statusItem_ = makeStatusItem_({
+        .clicked = [this](const StatusClick& click) { statusItemClicked(click); },
+        .menu = [this] { return menuEntries(); },
+        .menuWillOpen = [this] { popover_.close(); },
+    });
+}
+
+void AppDelegate::observeDefaults() {
+    connect(&defaults_, &UserDefaults::changed, this, [this] {
+        monitor_.setInterval(updateInterval(defaults_));
+        refreshStatusItem();
+    });
+}
+
+void AppDelegate::refreshStatusItem() {
+    if (!statusItem_)
+        return;
+    StatusContent content;
+    content.items = menuBarItems(enabledMenuBarModules(defaults_), monitor_.readings(), defaults_);
+    content.style = menuBarStyle(defaults_);
+    content.colorize = defaults_.boolean(preference_key::menuBarColorize);
+    content.accessibilityLabel = content.items.empty() ? "Vantrix" : accessibilityLabel(content.items);
+    statusItem_->show(content);
+}
+
+void AppDelegate::statusItemClicked(const StatusClick& click) {
+    if (click.button == StatusClick::Button::right || click.control)
+        showMenu();
+    else
+        togglePopover();
+}
+
+std::vector<StatusMenuEntry> AppDelegate::menuEntries() {
+    return {
+        {QString::fromStdString(localized("Settings…")), QKeySequence(Qt::CTRL | Qt::Key_Comma),
+         [this] { openSettings(); }},
+        {{}, {}, {}},
+        {QString::fromStdString(localized("Quit Vantrix")), QKeySequence(Qt::CTRL | Qt::Key_Q), [this] { quitApp(); }},
+    };
+}
+
+void AppDelegate::showMenu() {
+    if (!statusItem_)
+        return;
+    popover_.close();
+    menu_ = makeMenu(menuEntries());
+    menu_->popup(menuPlace(menu_->sizeHint(), statusItem_->anchor()));
+}
+
+void AppDelegate::togglePopover() {
+    if (statusItem_)
+        popover_.toggle(statusItem_->anchor());
+}
+
+void AppDelegate::showPopover() {
+    if (statusItem_ && !popover_.isShown())
+        popover_.show(statusItem_->anchor());
+}
+
+void AppDelegate::openSettings() {
+    if (showSettings_)
+        showSettings_();
+}
+
+void AppDelegate::quitApp() {
+    QCoreApplication::quit();
+}
+
+void AppDelegate::handleRequest(const std::string& request) {
+    if (request == "show-popover")
+        showPopover();
+    else if (request == "quit")
+        quitApp();
+    else if (request.starts_with("show-settings"))
+        openSettings();
+}
+
+} // namespace vantrix

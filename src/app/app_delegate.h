@@ -1,0 +1,64 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <QObject>
+
+#include "monitor/system_monitor.h"
+#include "platform/status_item.h"
+#include "popover/popover_host.h"
+#include "samplers/processor_description.h"
+
+class QMenu;
+
+namespace vantrix {
+
+class UserDefaults;
+
+/// The program while it lives in the status area: starts the monitor, keeps the status item fresh and answers clicks.
+class AppDelegate : public QObject {
+    Q_OBJECT
+  public:
+    struct Parts {
+        SamplingSources sources;
+        std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem;
+        std::function<void()> showSettings;
+    };
+
+    /// `defaults` outlives the delegate.
+    AppDelegate(Parts parts, UserDefaults& defaults);
+    ~AppDelegate() override;
+
+    /// The launch sequence, from the registered defaults to the first picture.
+    void applicationDidFinishLaunching();
+
+    void statusItemClicked(const StatusClick& click);
+    void showPopover();
+    void openSettings();
+    void quitApp();
+
+    /// A request of another process: "show-popover", "show-settings" or "quit"; anything else is ignored.
+    void handleRequest(const std::string& request);
+
+  private:
+    void createStatusItem();
+    void observeDefaults();
+    void refreshStatusItem();
+    void showMenu();
+    void togglePopover();
+    std::vector<StatusMenuEntry> menuEntries();
+
+    UserDefaults& defaults_;
+    std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem_;
+    std::function<void()> showSettings_;
+    std::unique_ptr<SystemInformation> information_;
+    ProcessorDescription processor_;
+    SystemMonitor monitor_;
+    PopoverHost popover_;
+    std::unique_ptr<StatusItem> statusItem_; // none until launch has finished
+    std::unique_ptr<QMenu> menu_;            // the one that was shown last
+};
+
+} // namespace vantrix

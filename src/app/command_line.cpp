@@ -1,0 +1,188 @@
+#include "app/command_line.h"
+
+#include <charconv>
+#include <sstream>
+
+namespace vantrix {
+namespace {
+
+constexpr double leastInterval = 0.5;
+constexpr double mostInterval = 3600.0;
+
+template<typename Number>
+std::optional<Number> parsed(const std::string& text) {
+    Number number{};
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size())
+        return std::nullopt;
+    return number;
+}
+
+/// Walks over the arguments; the first thing wrong ends the walk.
+class Parser {
+  public:
+    explicit Parser(const std::vector<std::string>& arguments) : arguments_(arguments) {}
+
+    std::variant<CommandLine, std::string> parse() {
+        while (next_ < arguments_.size() && error_.empty())
+            parseOption(arguments_[next_++]);
+        if (error_.empty())
+            checkCombination();
+        if (!error_.empty())
+            return error_;
+        return result_;
+    }
+
+  private:
+    using Action = CommandLine::Action;
+
+    void parseOption(const std::string& option) {
+        if (option == "--help" || option == "-h")
+            act(Action::help, option);
+        else if (option == "--version")
+            act(Action::version, option);
+        else if (option == "--show-popover")
+            act(Action::showPopover, option);
+        else if (option == "--quit")
+            act(Action::quit, option);
+        else if (option == "--show-settings")
+            parseShowSettings(option);
+        else if (option == "-platform" || option == "--platform")
+            value(option); // the windowing toolkit reads it itself
+        else if (option == "-exportScreenshots")
+            parseExport(option);
+        else
+            parseSetting(option);
+    }
+
+    void parseSetting(const std::string& option) {
+        if (option == "--print")
+            parsePrint(option);
+        else if (option == "--interval")
+            parseInterval(option);
+        else if (option == "--count")
+            parseCount(option);
+        else if (option == "--modules")
+            parseModules(option);
+        else if (option == "--proc-root")
+            result_.roots.proc = value(option);
+        else if (option == "--sys-root")
+            result_.roots.sys = value(option);
+        else
+            error_ = "unknown option " + option + " (see vantrix --help)";
+    }
+
+    void act(Action action, const std::string& option) {
+        if (result_.action != Action::run)
+            error_ = option + " cannot be combined with another request";
+        result_.action = action;
+    }
+
+    std::string value(const std::string& option) {
+        if (next_ >= arguments_.size()) {
+            error_ = option + " needs a value";
+            return {};
+        }
+        return arguments_[next_++];
+    }
+
+    void parsePrint(const std::string& option) {
+        act(Action::print, option);
+        const std::string format = value(option);
+        if (format == "text")
+            result_.format = PrintFormat::text;
+        else if (format == "json")
+            result_.format = PrintFormat::json;
+        else if (format == "waybar")
+            result_.format = PrintFormat::waybar;
+        else if (error_.empty())
+            error_ = "--print takes text, json or waybar, not " + format;
+    }
+
+    void parseInterval(const std::string& option) {
+        const auto seconds = parsed<double>(value(option));
+        if (error_.empty() && !(seconds && *seconds >= leastInterval && *seconds <= mostInterval))
+            error_ = "--interval takes seconds from 0.5 to 3600";
+        result_.interval = seconds;
+        printOptions_.push_back(option);
+    }
+
+    void parseCount(const std::string& option) {
+        const auto count = parsed<long>(value(option));
+        if (error_.empty() && !(count && *count >= 1))
+            error_ = "--count takes a whole number from 1";
+        result_.count = count;
+        printOptions_.push_back(option);
+    }
+
+    void parseModules(const std::string& option) {
+        std::istringstream names(value(option));
+        std::vector<MenuBarModule> modules;
+        for (std::string name; std::getline(names, name, ',') && error_.empty();) {
+            const auto module = choiceNamed(menuBarModules, name);
+            if (module)
+                modules.push_back(*module);
+            else
+                error_ = "--modules: there is no module " + name;
+        }
+        if (error_.empty() && modules.empty())
+            error_ = "--modules needs at least one module";
+        result_.modules = std::move(modules);
+        printOptions_.push_back(option);
+    }
+
+    void parseShowSettings(const std::string& option) {
+        act(Action::showSettings, option);
+        if (next_ >= arguments_.size() || arguments_[next_].starts_with('-'))
+            return;
+        result_.settingsTab = choiceNamed(settingsTabs, arguments_[next_]);
+        if (!result_.settingsTab)
+            error_ = "--show-settings takes general, menuBar, popover or alerts, not " + arguments_[next_];
+        ++next_;
+    }
+
+    void parseExport(const std::string& option) {
+        // Without a folder behind it the flag means nothing, and the program starts as ever.
+        if (next_ < arguments_.size())
+            error_ = option + ": this version cannot draw screenshots";
+    }
+
+    void checkCombination() {
+        if (result_.action == Action::print)
+            return;
+        for (const std::string& option : printOptions_)
+            error_ = option + " goes with --print";
+    }
+
+    const std::vector<std::string>& arguments_;
+    std::size_t next_ = 0;
+    CommandLine result_;
+    std::string error_;
+    std::vector<std::string> printOptions_;
+};
+
+} // namespace
+
+std::variant<CommandLine, std::string> parseCommandLine(const std::vector<std::string>& arguments) {
+    return Parser(arguments).parse();
+}
+
+std::string helpText() {
+    return "Usage: vantrix [OPTION]...\n"
+           "Shows live readings of this machine in the status area of the desktop.\n"
+           "\n"
+           "  --print FORMAT        no window: one line per pass on standard output, as\n"
+           "                        text, json or waybar (that bar's custom module)\n"
+           "  --interval SECONDS    with --print: time between passes, 0.5 to 3600\n"
+           "  --count N             with --print: stop after N passes\n"
+           "  --modules A,B         with --print: what to show, of cpu, memory, network,\n"
+           "                        disk, gpu, temperature, battery\n"
+           "  --show-popover        open the popover of the running program\n"
+           "  --show-settings [TAB] open its settings\n"
+           "  --quit                end it\n"
+           "  --proc-root DIR       read the kernel's process tree from DIR, not /proc\n"
+           "  --sys-root DIR        read the kernel's device tree from DIR, not /sys\n"
+           "  --version, --help\n";
+}
+
+} // namespace vantrix

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/command_line.h"
+#include "menubar/menu_bar_item.h"
+#include "monitor/readings.h"
+
+namespace vantrix {
+
+/// The row as one line of text, every value padded to its usual width so that columns stay in place.
+std::string textLine(const std::vector<MenuBarItem>& items);
+
+/// One object for waybar's custom module: text, tooltip, class (the worst severity), percentage (the first module's).
+std::string waybarLine(const std::vector<MenuBarItem>& items);
+
+/// One JSON object with the current record of every module of `modules`; what was not read is left out.
+std::string jsonLine(const Readings& readings, const std::vector<MenuBarModule>& modules);
+
+} // namespace vantrix

@@ -1,0 +1,84 @@
+#include "app/terminal_output.h"
+
+#include <cstdio>
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include "app/printed_line.h"
+#include "menubar/preferences.h"
+#include "monitor/system_monitor.h"
+#include "platform/desktop_services.h"
+#include "support/user_defaults.h"
+
+namespace vantrix {
+namespace {
+
+constexpr std::chrono::milliseconds firstLook{250}; // a load needs two looks at the counters
+
+std::vector<MenuBarModule> everyModule() {
+    std::vector<MenuBarModule> modules;
+    modules.reserve(menuBarModules.size());
+    for (const auto& choice : menuBarModules)
+        modules.push_back(choice.value);
+    return modules;
+}
+
+/// Prints the monitor's readings after each pass.
+class LinePrinter {
+  public:
+    LinePrinter(const CommandLine& commandLine, const SystemMonitor& monitor, const UserDefaults& defaults)
+        : commandLine_(commandLine), monitor_(monitor), defaults_(defaults) {}
+
+    /// False when there is nothing more to print.
+    bool print() {
+        const std::string line = nextLine() + '\n';
+        const bool written = std::fwrite(line.data(), 1, line.size(), stdout) == line.size();
+        // A reader that went away is the usual end of a pipe, not a fault to report.
+        return written && std::fflush(stdout) == 0 && ++printed_ != commandLine_.count;
+    }
+
+  private:
+    std::string nextLine() const {
+        const Readings& readings = monitor_.readings();
+        if (commandLine_.format == PrintFormat::json)
+            return jsonLine(readings, commandLine_.modules.value_or(everyModule()));
+        const auto items = menuBarItems(commandLine_.modules ? *commandLine_.modules : enabledMenuBarModules(defaults_),
+                                        readings, defaults_);
+        return commandLine_.format == PrintFormat::waybar ? waybarLine(items) : textLine(items);
+    }
+
+    const CommandLine& commandLine_;
+    const SystemMonitor& monitor_;
+    const UserDefaults& defaults_;
+    long printed_ = 0;
+};
+
+} // namespace
+
+int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
+    ignoreBrokenPipes();
+    QCoreApplication application(argc, argv);
+    UserDefaults defaults(makeStandardDefaultsStore());
+    registerPreferences(defaults);
+    SystemMonitor monitor(makeSamplingSources(commandLine.roots), defaults, std::make_unique<QtRepeatingTimer>(),
+                          std::make_unique<ThreadTaskRunner>());
+    LinePrinter printer(commandLine, monitor, defaults);
+    TerminationSignals signals([] { QCoreApplication::quit(); });
+    monitor.sample();
+    QTimer::singleShot(firstLook, &monitor, [&] {
+        monitor.onUpdate = [&] {
+            if (!printer.print())
+                QCoreApplication::quit();
+        };
+        monitor.start();
+        if (commandLine.interval)
+            monitor.setInterval(*commandLine.interval);
+    });
+    if (!commandLine.interval)
+        QObject::connect(&defaults, &UserDefaults::changed, &monitor,
+                         [&] { monitor.setInterval(updateInterval(defaults)); });
+    return QCoreApplication::exec();
+}
+
+} // namespace vantrix

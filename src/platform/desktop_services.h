@@ -1,0 +1,54 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <QString>
+
+#include "support/user_defaults.h"
+
+class QSocketNotifier;
+
+namespace vantrix {
+
+/// The settings of this user.
+std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();
+
+/// Where a person can edit the settings by hand; empty where they are not kept in a file.
+QString settingsFile();
+
+/// Chooses the windowing system to draw on, unless the user chose one. Call before the application object exists.
+/// False when there is no display at all.
+bool prepareDisplay(int argc, char** argv);
+
+/// Writing to a closed pipe gives an error from then on instead of ending the program.
+void ignoreBrokenPipes();
+
+/// Calls `terminate` on the main thread when the system asks the program to end (SIGTERM, SIGINT, SIGHUP). Made after
+/// the application object; a second request ends the program at once.
+class TerminationSignals {
+  public:
+    explicit TerminationSignals(std::function<void()> terminate);
+    ~TerminationSignals();
+
+  private:
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+/// Lets one instance per session run and others talk to it.
+class InstanceChannel {
+  public:
+    virtual ~InstanceChannel() = default;
+    /// Called on the main thread for each request. Set before the event loop runs.
+    std::function<void(const std::string&)> received;
+};
+
+/// This session's only instance; null when another one runs. Needs the application object's event loop to receive.
+std::unique_ptr<InstanceChannel> claimInstance();
+
+/// Hands `request` (one line) to the running instance; false when none answers within two seconds.
+bool sendToRunningInstance(const std::string& request);
+
+} // namespace vantrix

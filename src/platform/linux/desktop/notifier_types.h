@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDBusArgument>
+#include <QImage>
+#include <QList>
+#include <QString>
+
+namespace vantrix {
+
+/// One size of an icon as StatusNotifierItem sends it: ARGB with straight alpha, most significant byte first.
+struct NotifierPixmap {
+    int width = 0;
+    int height = 0;
+    QByteArray bytes;
+
+    bool operator==(const NotifierPixmap&) const = default;
+};
+
+using NotifierPixmaps = QList<NotifierPixmap>;
+
+/// (sa(iiay)ss)
+struct NotifierToolTip {
+    QString iconName;
+    NotifierPixmaps icon;
+    QString title;
+    QString text;
+};
+
+NotifierPixmap toNotifierPixmap(const QImage& image);
+
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);
+QDBusArgument& operator<<(QDBusArgument& argument, const NotifierToolTip& toolTip);
+const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierToolTip& toolTip);
+
+/// Makes the types above known to QtDBus; harmless when repeated.
+void registerNotifierTypes();
+
+} // namespace vantrix

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+
+#include <QDBusConnection>
+#include <QString>
+
+namespace vantrix {
+
+/// Address of the user's session bus: `DBUS_SESSION_BUS_ADDRESS`, else the socket `$XDG_RUNTIME_DIR/bus`. Absent when
+/// there is neither: asking the D-Bus library then would start a stray daemon.
+std::optional<QString> sessionBusAddress();
+
+/// A connection of its own to the bus at `address`, dropped with the object.
+class BusConnection {
+  public:
+    explicit BusConnection(const QString& address);
+    ~BusConnection();
+    BusConnection(const BusConnection&) = delete;
+    BusConnection& operator=(const BusConnection&) = delete;
+
+    bool isConnected() const { return bus_.isConnected(); }
+    QDBusConnection& bus() { return bus_; }
+
+  private:
+    QString name_;
+    QDBusConnection bus_;
+};
+
+} // namespace vantrix

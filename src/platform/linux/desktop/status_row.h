@@ -1,0 +1,64 @@
+#pragma once
+
+#include <cstddef>
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+#include "menubar/menu_bar_renderer.h"
+#include "platform/status_item.h"
+
+namespace vantrix {
+
+/// The status item's content as every back end draws it: the row of items or, without any, the gauge. A value.
+class StatusRow {
+  public:
+    StatusRow() = default;
+    explicit StatusRow(StatusContent content);
+
+    /// In points; 22 high.
+    QSize size() const;
+
+    /// Draws the row with its top left corner at the painter's origin.
+    void paint(QPainter& painter, const MenuBarPalette& palette) const;
+
+    /// The row on a transparent ground; `scale` is pixels per point.
+    QImage image(const MenuBarPalette& palette, int scale) const;
+
+    /// Number of squares that stand for the row where only squares are shown; at least 1.
+    std::size_t tileCount() const;
+
+    /// Square `index` < `tileCount()`, `side` pixels wide.
+    QImage tile(std::size_t index, const MenuBarPalette& palette, int side) const;
+
+    /// What square `index` stands for, in small letters: "cpu".
+    QString tileName(std::size_t index) const;
+
+    /// What square `index` shows, as text: "CPU 12%".
+    QString tileText(std::size_t index) const;
+
+    /// True when square `index` of both rows looks the same.
+    bool sameTile(const StatusRow& other, std::size_t index) const;
+
+    /// The whole row for screen readers and tooltips; never empty.
+    const QString& text() const { return text_; }
+
+    /// The row as running text for hosts that show a label; empty without items.
+    QString label() const;
+
+    /// The longest `label()` these items normally have, which keeps a label's width steady.
+    QString labelGuide() const;
+
+    /// True when picture and text are the same.
+    bool looksLike(const StatusRow& other) const;
+
+  private:
+    StatusContent content_;
+    QString text_ = QStringLiteral("Vantrix");
+};
+
+/// The gauge in a square of `side` pixels.
+QImage gaugeTile(const MenuBarPalette& palette, int side);
+
+} // namespace vantrix

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include <QAbstractNativeEventFilter>
+#include <QColor>
+#include <QObject>
+#include <QRect>
+
+struct xcb_connection_t;
+
+namespace vantrix {
+
+/// The X11 system tray of the default screen: who runs it, and what it says about itself. Talks to the X server over
+/// Qt's own connection; a query takes one round trip. Exists only on the X11 platform.
+class X11Tray : public QObject, public QAbstractNativeEventFilter {
+    Q_OBJECT
+  public:
+    X11Tray();
+    ~X11Tray() override;
+
+    /// The tray's window; 0 while there is no tray.
+    std::uint32_t owner() const { return owner_; }
+
+    /// True when the tray wants windows with an alpha channel.
+    bool wantsAlpha() const;
+
+    /// The colour of the panel's texts, where the tray tells it.
+    const std::optional<QColor>& foreground() const { return foreground_; }
+
+    /// Asks the tray to take `window` in.
+    void dock(std::uint32_t window) const;
+
+    bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+  Q_SIGNALS:
+    /// The tray went, or another one took over.
+    void ownerChanged();
+    /// The tray's colours may have changed.
+    void looksChanged();
+    /// `window` has another parent now; `parent` is 0 when that is the root window.
+    void reparented(std::uint32_t window, std::uint32_t parent);
+
+  private:
+    void findOwner();
+    void readForeground();
+
+    xcb_connection_t* connection_;
+    std::uint32_t root_;
+    std::uint32_t selection_;
+    std::uint32_t opcode_;
+    std::uint32_t manager_;
+    std::uint32_t visualProperty_;
+    std::uint32_t colorsProperty_;
+    std::uint32_t owner_ = 0;
+    std::optional<QColor> foreground_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <cstdlib>
+#include <memory>
+#include <vector>
+
+#include <QByteArray>
+#include <QImage>
+#include <QRect>
+
+#include <xcb/xcb.h>
+
+namespace vantrix {
+
+struct FreeXcbReply {
+    void operator()(void* reply) const { std::free(reply); }
+};
+
+/// A reply or event of libxcb, which the caller owns.
+template<typename T>
+using XcbReply = std::unique_ptr<T, FreeXcbReply>;
+
+/// Qt's connection to the X server; null on other platforms.
+xcb_connection_t* xcbConnection();
+
+/// The default screen of Qt's connection.
+xcb_screen_t* xcbScreen(xcb_connection_t* connection);
+
+xcb_atom_t xcbAtom(xcb_connection_t* connection, const QByteArray& name);
+
+/// The 32-bit values of a property; empty when it is missing or of another format.
+std::vector<std::uint32_t> xcbValues(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property);
+
+/// The window's place on the root window, in device pixels; empty when it is gone.
+QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window);
+
+/// What is on the screen where the window is, once it shows its parent's background; null when that cannot be read.
+QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size);
+
+/// True when windows with an alpha channel are blended with what is behind them.
+bool xcbComposited(xcb_connection_t* connection);
+
+} // namespace vantrix

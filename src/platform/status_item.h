@@ -1,0 +1,65 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <QKeySequence>
+#include <QRect>
+#include <QString>
+
+#include "menubar/menu_bar_item.h"
+
+namespace vantrix {
+
+class UserDefaults;
+
+/// What the status item shows. No items: the gauge symbol alone.
+struct StatusContent {
+    std::vector<MenuBarItem> items;
+    MenuBarStyle style = MenuBarStyle::stacked;
+    bool colorize = true;
+    std::string accessibilityLabel; ///< the whole row as text; "Vantrix" when there are no items
+};
+
+struct StatusClick {
+    enum class Button { left, right, middle };
+
+    Button button = Button::left;
+    bool control = false; ///< the Control key was held
+};
+
+/// One entry of the status item's menu; an empty title is a separator.
+struct StatusMenuEntry {
+    QString title;
+    QKeySequence shortcut;
+    std::function<void()> action;
+};
+
+/// The program's place in the system's status area. Main thread only.
+class StatusItem {
+  public:
+    struct Handlers {
+        std::function<void(const StatusClick&)> clicked;
+        /// The menu's entries, asked anew each time it is about to be shown.
+        std::function<std::vector<StatusMenuEntry>()> menu;
+        /// Called before a menu that the system itself draws opens.
+        std::function<void()> menuWillOpen;
+    };
+
+    virtual ~StatusItem() = default;
+
+    /// Draws and announces the content only where the picture or the text differs from what is shown.
+    virtual void show(const StatusContent& content) = 0;
+
+    /// Where the popover and the menu belong: the item's rectangle on the screen, or the best guess at it, in
+    /// device-independent pixels. Never null once something was shown.
+    virtual QRect anchor() const = 0;
+};
+
+/// The status item of this system. `defaults` (which outlives it) keeps what a user arranged by hand, such as the
+/// place of a floating strip.
+std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& defaults);
+
+} // namespace vantrix

@@ -1,0 +1,122 @@
+#include "app/app_delegate.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMenu>
+
+#include <gmock/gmock.h>
+
+#include "fakes/fake_defaults.h"
+#include "fakes/fake_sources.h"
+
+namespace vantrix {
+namespace {
+
+class FakeStatusItem : public StatusItem {
+  public:
+    explicit FakeStatusItem(Handlers handlers) : handlers(std::move(handlers)) {}
+    void show(const StatusContent& content) override { shown.push_back(content); }
+    QRect anchor() const override { return {100, 0, 60, 22}; }
+
+    Handlers handlers;
+    std::vector<StatusContent> shown;
+};
+
+class AppDelegateTest : public ::testing::Test {
+  protected:
+    AppDelegateTest()
+        : delegate({.sources = machine.makeSources(),
+                    .makeStatusItem =
+                        [this](StatusItem::Handlers handlers) {
+                            auto made = std::make_unique<FakeStatusItem>(std::move(handlers));
+                            item = made.get();
+                            return made;
+                        },
+                    .showSettings = [this] { ++settingsShown; }},
+                   defaults) {
+        delegate.applicationDidFinishLaunching();
+    }
+
+    void click(StatusClick::Button button, bool control = false) { item->handlers.clicked({button, control}); }
+
+    static bool menuIsOpen() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; }
+    static bool popoverIsOpen() { return QApplication::activePopupWidget() != nullptr && !menuIsOpen(); }
+
+    fakes::FakeMachine machine;
+    fakes::FakeDefaults defaults;
+    FakeStatusItem* item = nullptr;
+    int settingsShown = 0;
+    AppDelegate delegate;
+};
+
+using Button = StatusClick::Button;
+
+TEST_F(AppDelegateTest, LaunchShowsTheRowOfEnabledModules) {
+    ASSERT_FALSE(item->shown.empty());
+    const StatusContent& content = item->shown.back();
+    ASSERT_EQ(content.items.size(), 2u);
+    EXPECT_EQ(content.style, MenuBarStyle::stacked);
+    EXPECT_TRUE(content.colorize);
+    EXPECT_EQ(content.accessibilityLabel, "CPU 0%, RAM 50%");
+}
+
+TEST_F(AppDelegateTest, ClicksOpenWhatTheyShould) {
+    click(Button::left);
+    EXPECT_TRUE(popoverIsOpen());
+    click(Button::left);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    click(Button::right);
+    EXPECT_TRUE(menuIsOpen());
+    QApplication::activePopupWidget()->close();
+    click(Button::left, true); // Control
+    EXPECT_TRUE(menuIsOpen());
+    QApplication::activePopupWidget()->close();
+}
+
+TEST_F(AppDelegateTest, OpeningTheMenuClosesThePopoverFirst) {
+    click(Button::left);
+    click(Button::right);
+    EXPECT_TRUE(menuIsOpen());
+    QApplication::activePopupWidget()->close();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(AppDelegateTest, TheMenuHasItsEntriesAndObeysTheirShortcuts) {
+    const auto entries = item->handlers.menu();
+    ASSERT_EQ(entries.size(), 3u);
+    EXPECT_EQ(entries[0].title, QStringLiteral("Settings…"));
+    EXPECT_TRUE(entries[1].title.isEmpty());
+    EXPECT_EQ(entries[2].title, QStringLiteral("Quit Vantrix"));
+    click(Button::right);
+    QKeyEvent comma(QEvent::KeyPress, Qt::Key_Comma, Qt::ControlModifier);
+    QApplication::sendEvent(QApplication::activePopupWidget(), &comma);
+    EXPECT_EQ(settingsShown, 1);
+    EXPECT_FALSE(menuIsOpen());
+}
+
+TEST_F(AppDelegateTest, ASettingShowsAtOnce) {
+    item->shown.clear();
+    defaults.set(preference_key::menuBarEnabled, QString());
+    ASSERT_EQ(item->shown.size(), 1u);
+    EXPECT_TRUE(item->shown.back().items.empty());
+    EXPECT_EQ(item->shown.back().accessibilityLabel, "Vantrix");
+    defaults.set(preference_key::menuBarEnabled, QStringLiteral("disk"));
+    defaults.set(preference_key::menuBarStyle, QStringLiteral("graph"));
+    EXPECT_EQ(item->shown.back().style, MenuBarStyle::graph);
+    EXPECT_EQ(item->shown.back().accessibilityLabel, "DISK 60%");
+}
+
+TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {
+    delegate.handleRequest("show-popover");
+    EXPECT_TRUE(popoverIsOpen());
+    delegate.handleRequest("show-popover");
+    EXPECT_TRUE(popoverIsOpen());
+    delegate.handleRequest("show-settings alerts");
+    EXPECT_EQ(settingsShown, 1);
+    delegate.handleRequest("");
+    delegate.handleRequest("nonsense");
+    QApplication::activePopupWidget()->close();
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,75 @@
+#include "app/command_line.h"
+
+#include <gmock/gmock.h>
+
+namespace vantrix {
+namespace {
+
+using Action = CommandLine::Action;
+
+TEST(CommandLine, ReadsEveryRequest) {
+    struct Case {
+        std::vector<std::string> arguments;
+        Action action;
+    };
+    const Case cases[] = {
+        {{}, Action::run},
+        {{"--print", "json"}, Action::print},
+        {{"--help"}, Action::help},
+        {{"--version"}, Action::version},
+        {{"--show-popover"}, Action::showPopover},
+        {{"--show-settings"}, Action::showSettings},
+        {{"--show-settings", "menuBar"}, Action::showSettings},
+        {{"--quit"}, Action::quit},
+        {{"-platform", "offscreen"}, Action::run},
+        {{"-exportScreenshots"}, Action::run}, // no folder behind it
+    };
+    for (const Case& c : cases) {
+        const auto parsed = parseCommandLine(c.arguments);
+        ASSERT_TRUE(std::holds_alternative<CommandLine>(parsed)) << std::get<std::string>(parsed);
+        EXPECT_EQ(std::get<CommandLine>(parsed).action, c.action);
+    }
+}
+
+TEST(CommandLine, ReadsThePrintOptions) {
+    const auto parsed = parseCommandLine({"--print", "waybar", "--interval", "0.5", "--count", "3", "--modules",
+                                          "disk,cpu", "--proc-root", "/host/proc", "--sys-root", "/host/sys"});
+    const auto& line = std::get<CommandLine>(parsed);
+    EXPECT_EQ(line.format, PrintFormat::waybar);
+    EXPECT_EQ(line.interval, 0.5);
+    EXPECT_EQ(line.count, 3);
+    EXPECT_EQ(line.modules, (std::vector{MenuBarModule::disk, MenuBarModule::cpu}));
+    EXPECT_EQ(line.roots, (KernelRoots{"/host/proc", "/host/sys"}));
+}
+
+TEST(CommandLine, SaysInOneLineWhatIsWrong) {
+    const std::vector<std::vector<std::string>> wrong = {
+        {"--unknown"},
+        {"stray"},
+        {""},
+        {"--print"},
+        {"--print", "xml"},
+        {"--print", "text", "--interval", "0.4"},
+        {"--print", "text", "--interval", "2s"},
+        {"--print", "text", "--interval", "nan"},
+        {"--print", "text", "--interval", "1e9"},
+        {"--print", "text", "--count", "0"},
+        {"--print", "text", "--count", "99999999999999999999"},
+        {"--print", "text", "--modules", "cpu,CPU"},
+        {"--print", "text", "--modules", ""},
+        {"--print", "text", "--quit"},
+        {"--interval", "2"},
+        {"--count", "2"},
+        {"--show-settings", "sounds"},
+        {"--proc-root"},
+    };
+    for (const auto& arguments : wrong) {
+        const auto parsed = parseCommandLine(arguments);
+        ASSERT_TRUE(std::holds_alternative<std::string>(parsed)) << ::testing::PrintToString(arguments);
+        EXPECT_EQ(std::get<std::string>(parsed).find('\n'), std::string::npos);
+        EXPECT_FALSE(std::get<std::string>(parsed).empty());
+    }
+}
+
+} // namespace
+} // namespace vantrix
