@@ -1,0 +1,41 @@
+# Everything a person or a machine does with this tree. Each target installs what it lacks first.
+JOBS ?= $(shell nproc)
+
+.PHONY: run build test test-asan check bench format clean
+
+run: build
+	./build/release/vantrix $(ARGS)
+
+build:
+	scripts/setup.sh build
+	cmake --preset release
+	cmake --build --preset release -j $(JOBS)
+
+test:
+	scripts/setup.sh build test
+	cmake --preset dev
+	cmake --build --preset dev -j $(JOBS)
+	ctest --preset dev -j $(JOBS)
+
+test-asan:
+	scripts/setup.sh build test
+	cmake --preset asan
+	cmake --build --preset asan -j $(JOBS)
+	ctest --preset asan -j $(JOBS)
+
+check:
+	scripts/setup.sh build test check
+	scripts/check.sh
+
+bench:
+	scripts/setup.sh build test bench
+	cmake --preset bench
+	cmake --build --preset bench -j $(JOBS)
+	bench/run.sh build/bench
+
+format:
+	scripts/setup.sh check
+	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+
+clean:
+	rm -rf build

@@ -1,0 +1,132 @@
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <vector>
+
+#include <benchmark/benchmark.h>
+
+#include "bare_reading.h"
+#include "library_readings.h"
+#include "platform/sampling_sources.h"
+
+namespace {
+
+using namespace vantrix;
+
+/// The four samplers over this machine's kernel.
+struct Pass {
+    SamplingSources sources = makeSamplingSources({});
+    CPUSampler cpu{*sources.cpu};
+    MemorySampler memory{*sources.memory};
+    NetworkSampler network{*sources.network, *sources.clock};
+    DiskSampler disk{*sources.disks, *sources.volume, *sources.clock};
+
+    void run() {
+        benchmark::DoNotOptimize(cpu.sample());
+        benchmark::DoNotOptimize(memory.sample());
+        benchmark::DoNotOptimize(network.sample());
+        benchmark::DoNotOptimize(disk.sample());
+    }
+};
+
+void samplingPass(benchmark::State& state) {
+    Pass pass;
+    for (auto _ : state)
+        pass.run();
+}
+
+void processorSource(benchmark::State& state) {
+    const auto sources = makeSamplingSources({});
+    std::vector<CPUSampler::Ticks> cores;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(sources.cpu->read(cores));
+}
+
+void memorySource(benchmark::State& state) {
+    const auto sources = makeSamplingSources({});
+    for (auto _ : state)
+        benchmark::DoNotOptimize(sources.memory->read());
+}
+
+void networkSource(benchmark::State& state) {
+    const auto sources = makeSamplingSources({});
+    std::vector<NetworkSampler::Link> links;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(sources.network->read(links));
+}
+
+void diskSource(benchmark::State& state) {
+    const auto sources = makeSamplingSources({});
+    std::vector<DiskSampler::Counters> disks;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(sources.disks->read(disks));
+}
+
+void volumeSource(benchmark::State& state) {
+    const auto sources = makeSamplingSources({});
+    for (auto _ : state)
+        benchmark::DoNotOptimize(sources.volume->read());
+}
+
+template<typename Reading>
+void otherReading(benchmark::State& state) {
+    Reading reading;
+    for (auto _ : state)
+        reading.pass();
+}
+
+BENCHMARK(samplingPass);
+BENCHMARK(processorSource);
+BENCHMARK(memorySource);
+BENCHMARK(networkSource);
+BENCHMARK(diskSource);
+BENCHMARK(volumeSource);
+BENCHMARK(otherReading<bench::BareReading>)->Name("floor");
+BENCHMARK(otherReading<bench::Proc2Reading>)->Name("libproc2");
+BENCHMARK(otherReading<bench::GTopReading>)->Name("libgtop");
+
+double processSeconds() {
+    timespec now{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) / 1e9;
+}
+
+template<typename Work>
+double microseconds(Work work) {
+    constexpr int repetitions = 20;
+    const double begin = processSeconds();
+    for (int i = 0; i < repetitions; ++i)
+        work();
+    return (processSeconds() - begin) * 1e6 / repetitions;
+}
+
+double median(std::vector<double> values) {
+    const auto middle = values.begin() + static_cast<std::ptrdiff_t>(values.size() / 2);
+    std::nth_element(values.begin(), middle, values.end());
+    return *middle;
+}
+
+/// Both in turn, so that whatever else the machine does weighs on both alike.
+void printRatio() {
+    Pass pass;
+    bench::BareReading floor;
+    std::vector<double> passTimes;
+    std::vector<double> floorTimes;
+    for (int i = 0; i < 1000; ++i) {
+        passTimes.push_back(microseconds([&] { pass.run(); }));
+        floorTimes.push_back(microseconds([&] { floor.pass(); }));
+    }
+    const double passTime = median(passTimes);
+    const double floorTime = median(floorTimes);
+    std::printf("sampling pass %.1f us, floor %.1f us, pass/floor %.2f\n", passTime, floorTime, passTime / floorTime);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv))
+        return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    printRatio();
+}

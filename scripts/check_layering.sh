@@ -1,0 +1,43 @@
+#!/usr/bin/env bash
+# Who may include whom. The build proves that the core links no Qt; this proves the rest of the layering.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+failed=0
+
+complain() {
+  echo "layering: $1"
+  failed=1
+}
+
+# folder : what the folder may include from the project's own folders
+allowed="
+support:support
+samplers:samplers|support
+sensors:sensors|support
+accessories:accessories|support
+monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|menubar/preferences.h
+menubar:menubar|monitor|support|samplers/memory_sampler.h
+popover:popover|monitor|menubar|support|samplers
+platform/linux/sources:platform/linux/sources|platform/sampling_sources.h|samplers|accessories|support
+"
+for line in $allowed; do
+  folder=${line%%:*}
+  pattern=${line#*:}
+  while IFS=: read -r file _ include; do
+    [ -n "$file" ] && complain "$file may not include $include"
+  done < <(grep -rnoE '#include "[^"]+"' "src/$folder" | sed -E 's/#include "([^"]+)"/\1/' | grep -vE ":($pattern)(/|$)" || true)
+done
+
+# The core and the kernel sources use no Qt.
+for folder in support samplers sensors accessories platform/linux/sources; do
+  while IFS= read -r file; do
+    complain "$file uses Qt"
+  done < <(grep -rlE '#include <Q' "src/$folder" | grep -v 'support/user_defaults' || true)
+done
+
+# The operating system is chosen by folder, never by the preprocessor.
+while IFS= read -r file; do
+  complain "$file asks for the operating system outside src/platform"
+done < <(grep -rlE '#\s*(if|ifdef|elif).*(__APPLE__|__linux__|Q_OS_)' src | grep -v '^src/platform/' || true)
+
+exit $failed

@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Installs the packages that the named groups of work need and this machine lacks. Groups: build test check bench.
+set -euo pipefail
+
+declare -A packages=(
+  [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev"
+  [test]="libgtest-dev libgmock-dev dbus xvfb fonts-dejavu-core"
+  [check]="clang clang-format clang-tidy git"
+  [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb"
+)
+
+if ! command -v apt-get >/dev/null; then
+  echo "setup: no apt-get here; install by hand: ${packages[*]}" >&2
+  exit 0
+fi
+
+wanted=()
+for group in "$@"; do
+  # shellcheck disable=SC2206 # one word is one package
+  wanted+=(${packages[$group]})
+done
+
+missing=()
+for package in "${wanted[@]}"; do
+  [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+[ "$(id -u)" -eq 0 ] || as_root=(sudo)
+echo "setup: installing ${missing[*]}"
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
