@@ -87,7 +87,6 @@ void TrayWindow::dock() {
         xcb_change_window_attributes(xcbConnection(), window, XCB_CW_BACK_PIXMAP, &parentRelative);
     }
     tray_.dock(window);
-    QWidget::show();
     verdict_.start(embeddingPatience);
 }
 
@@ -95,8 +94,9 @@ void TrayWindow::reparented(std::uint32_t window, std::uint32_t parent) {
     if (!docked_ || window != winId())
         return;
     embedded_ = parent != 0;
-    if (!embedded_)
-        QWidget::hide(); // thrown out: nobody wants to see it loose on the screen
+    // Not before it is embedded: a window that is mapped already gets unmapped on its way into the tray, and some trays
+    // grant no room to a window that they saw being unmapped. Thrown out, nobody wants to see it loose on the screen.
+    setVisible(embedded_);
     backgroundTimer_.start(backgroundDelay);
     verdict_.start(layoutPatience);
 }
