@@ -18,7 +18,7 @@ namespace vantrix {
 /// Writes are gathered for a moment and laid over what the file holds by then, so that neither an edit by hand nor
 /// an entry this program does not know is lost. A damaged file is set aside before it is replaced. Whatever cannot
 /// be written stays in memory, and is tried again with the next write.
-class FileDefaultsStore : public DefaultsStore {
+class FileDefaultsStore final : public DefaultsStore {
   public:
     enum class Use {
         settings, ///< the user's own: watched for edits, and kept safe from power cuts
