@@ -4,9 +4,9 @@ set -euo pipefail
 
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev libxcb1-dev"
-  [test]="libgtest-dev libgmock-dev dbus xvfb fonts-dejavu-core"
+  [test]="libgtest-dev libgmock-dev dbus xvfb xauth fonts-dejavu-core"
   [check]="clang clang-format clang-tidy git"
-  [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb"
+  [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb xauth"
 )
 
 if ! command -v apt-get >/dev/null; then
