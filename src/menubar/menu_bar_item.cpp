@@ -105,15 +105,7 @@ std::optional<MenuBarItem> batteryItem(const Readings& readings) {
                        "100%"};
 }
 
-} // namespace
-
-MenuBarSeverity severityOf(double fraction, const UserDefaults& defaults) {
-    const double critical = defaults.number(preference_key::criticalThreshold);
-    const double warning = defaults.number(preference_key::warningThreshold);
-    return reached(fraction, critical, warning);
-}
-
-std::optional<MenuBarItem> menuBarItem(MenuBarModule module, const Readings& readings, const UserDefaults& defaults) {
+std::optional<MenuBarItem> readItem(MenuBarModule module, const Readings& readings, const UserDefaults& defaults) {
     switch (module) {
     case MenuBarModule::cpu:
         return cpuItem(readings, defaults);
@@ -131,6 +123,21 @@ std::optional<MenuBarItem> menuBarItem(MenuBarModule module, const Readings& rea
         return batteryItem(readings);
     }
     return std::nullopt;
+}
+
+} // namespace
+
+MenuBarSeverity severityOf(double fraction, const UserDefaults& defaults) {
+    const double critical = defaults.number(preference_key::criticalThreshold);
+    const double warning = defaults.number(preference_key::warningThreshold);
+    return reached(fraction, critical, warning);
+}
+
+std::optional<MenuBarItem> menuBarItem(MenuBarModule module, const Readings& readings, const UserDefaults& defaults) {
+    std::optional<MenuBarItem> item = readItem(module, readings, defaults);
+    if (item)
+        item->module = module;
+    return item;
 }
 
 std::vector<MenuBarItem> menuBarItems(const std::vector<MenuBarModule>& modules, const Readings& readings,

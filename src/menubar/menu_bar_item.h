@@ -21,6 +21,8 @@ struct MenuBarItem {
     std::vector<double> history; ///< 0 to 1, oldest first; empty where the module has none
     double fraction = 0.0;       ///< present value on its own scale, 0 to 1
     std::string reference;       ///< widest text the value normally takes; keeps the block's width steady
+    /// What the reading is of; unlike the label the same in every state and language.
+    MenuBarModule module = MenuBarModule::cpu;
 
     bool operator==(const MenuBarItem&) const = default;
 };

@@ -196,6 +196,8 @@ QDBusMessage DBusMenu::groupProperties(const QDBusMessage& message) {
 }
 
 QDBusMessage DBusMenu::property(const QDBusMessage& message) {
+    if (revision_ == 0)
+        refresh();
     const int id = message.arguments()[0].toInt();
     const QString name = message.arguments()[1].toString();
     if (!has(id))

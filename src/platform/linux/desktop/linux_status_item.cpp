@@ -3,7 +3,6 @@
 #include "platform/linux/desktop/click_anchor.h"
 #include "platform/linux/desktop/desktop_appearance.h"
 #include "platform/linux/desktop/floating_strip.h"
-#include "platform/linux/desktop/notifier_watch.h"
 #include "platform/linux/desktop/status_notifier.h"
 #include "platform/linux/desktop/tray_window.h"
 #include "platform/linux/desktop/x11_tray.h"
@@ -19,7 +18,7 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
     appearance_ = std::make_unique<DesktopAppearance>(onBus ? std::optional(bus_->bus()) : std::nullopt);
     connect(appearance_.get(), &DesktopAppearance::changed, this, &LinuxStatusItem::redraw);
     if (onBus) {
-        watch_ = std::make_unique<NotifierWatch>(bus_->bus());
+        watch_ = std::make_unique<NotifierWatch>(bus_->bus(), surroundings_.hostOfProcess);
         connect(watch_.get(), &NotifierWatch::changed, this, [this] {
             if (kind_ == Kind::notifier)
                 hide(); // its host is gone, or another one took over

@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include "platform/linux/desktop/notifier_watch.h"
 #include "platform/linux/desktop/session_bus.h"
 #include "platform/linux/desktop/status_row.h"
 #include "platform/status_item.h"
@@ -14,17 +15,16 @@
 namespace vantrix {
 
 class DesktopAppearance;
-class NotifierWatch;
 class StatusBackend;
 class TrayWindow;
 class X11Tray;
-struct NotifierHost;
 
 /// What the status item finds around it; tests arrange their own.
 struct StatusSurroundings {
     std::optional<QString> busAddress = sessionBusAddress();
     /// How long a desktop may take to bring up its status area before the strip steps in.
     std::chrono::milliseconds stripDelay{4000};
+    NotifierWatch::HostOfProcess hostOfProcess = notifierHostOfProcess;
 };
 
 /// Shows the row in the best place there is at any time: the X11 tray where it grants the row's width, else a

@@ -19,14 +19,16 @@ QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const
     return bus.asyncCall(message);
 }
 
-QByteArray processName(uint pid) {
-    QFile file(QStringLiteral("/proc/%1/comm").arg(pid));
-    return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed() : QByteArray();
-}
-
 } // namespace
 
-NotifierWatch::NotifierWatch(const QDBusConnection& bus) : bus_(bus) {
+NotifierHost notifierHostOfProcess(uint pid) {
+    QFile file(QStringLiteral("/proc/%1/comm").arg(pid));
+    const QByteArray name = file.open(QIODevice::ReadOnly) ? file.read(64).trimmed() : QByteArray();
+    return notifierHostNamed({name.constData(), static_cast<std::size_t>(name.size())});
+}
+
+NotifierWatch::NotifierWatch(const QDBusConnection& bus, HostOfProcess hostOfProcess)
+    : bus_(bus), hostOfProcess_(std::move(hostOfProcess)) {
     bus_.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {watcherName}, QString(), this,
                  SLOT(ownerChanged(QString, QString, QString)));
     bus_.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
@@ -64,8 +66,7 @@ void NotifierWatch::askProcess() {
         const QDBusPendingReply<uint> reply = *done;
         if (owner != owner_)
             return;
-        const QByteArray name = reply.isValid() ? processName(reply.value()) : QByteArray();
-        settle(notifierHostNamed({name.constData(), static_cast<std::size_t>(name.size())}));
+        settle(reply.isValid() ? hostOfProcess_(reply.value()) : NotifierHost());
     });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QDBusConnection>
@@ -9,12 +10,17 @@
 
 namespace vantrix {
 
+/// What kind of host the process `pid` is, after `/proc/PID/comm`.
+NotifierHost notifierHostOfProcess(uint pid);
+
 /// Follows org.kde.StatusNotifierWatcher on a session bus: who owns the name, and what kind of host that is.
 /// Never waits for an answer.
 class NotifierWatch : public QObject {
     Q_OBJECT
   public:
-    explicit NotifierWatch(const QDBusConnection& bus);
+    using HostOfProcess = std::function<NotifierHost(uint pid)>;
+
+    explicit NotifierWatch(const QDBusConnection& bus, HostOfProcess hostOfProcess = notifierHostOfProcess);
 
     /// Absent while nobody owns the name, or its owner is not known yet.
     const std::optional<NotifierHost>& host() const { return host_; }
@@ -33,6 +39,7 @@ class NotifierWatch : public QObject {
     void settle(std::optional<NotifierHost> host);
 
     QDBusConnection bus_;
+    HostOfProcess hostOfProcess_;
     QString owner_;
     std::optional<NotifierHost> host_;
 };

@@ -72,7 +72,8 @@ QImage StatusRow::tile(std::size_t index, const MenuBarPalette& palette, int sid
 QString StatusRow::tileName(std::size_t index) const {
     if (content_.items.empty())
         return QStringLiteral("gauge");
-    return QString::fromStdString(content_.items[index].label).toLower();
+    const std::string_view name = choiceOf(menuBarModules, content_.items[index].module).rawValue;
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 QString StatusRow::tileText(std::size_t index) const {

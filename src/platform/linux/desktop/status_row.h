@@ -32,7 +32,7 @@ class StatusRow {
     /// Square `index` < `tileCount()`, `side` pixels wide.
     QImage tile(std::size_t index, const MenuBarPalette& palette, int side) const;
 
-    /// What square `index` stands for, in small letters: "cpu".
+    /// What square `index` stands for: "cpu". Does not change with what it shows.
     QString tileName(std::size_t index) const;
 
     /// What square `index` shows, as text: "CPU 12%".
