@@ -64,13 +64,15 @@ void editSettings(UserDefaults& defaults) {
 }
 
 int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
-    if (!prepareDisplay(argc, argv)) {
+    auto display = prepareDisplay(argc, argv);
+    if (!display) {
         std::fprintf(stderr, "vantrix: there is no display to draw on; printing the readings here instead\n");
         return runInTerminal(commandLine, argc, argv);
     }
     ignoreBrokenPipes();
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication application(argc, argv);
+    display.reset();
     QApplication::setApplicationName(QStringLiteral("vantrix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vantrix"));
     const auto channel = claimInstance();

@@ -19,9 +19,10 @@ std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();
 /// Where a person can edit the settings by hand; empty where they are not kept in a file.
 QString settingsFile();
 
-/// Chooses the windowing system to draw on, unless the user chose one. Call before the application object exists.
-/// False when there is no display at all.
-bool prepareDisplay(int argc, char** argv);
+/// Chooses the windowing system to draw on, unless the user chose one. Null when there is no display at all. Call
+/// before the application object exists, and keep what is returned until it does: an X server that loses its only
+/// client starts over, and would refuse the next one meanwhile.
+std::shared_ptr<void> prepareDisplay(int argc, char** argv);
 
 /// Writing to a closed pipe gives an error from then on instead of ending the program.
 void ignoreBrokenPipes();

@@ -17,13 +17,12 @@ bool userChosePlatform(int argc, char** argv) {
            });
 }
 
-bool x11Answers() {
+/// A connection to the X server; null when none answers.
+std::shared_ptr<void> connectToX11() {
     if (!qEnvironmentVariableIsSet("DISPLAY"))
-        return false;
-    xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
-    const bool answers = xcb_connection_has_error(connection) == 0;
-    xcb_disconnect(connection);
-    return answers;
+        return nullptr;
+    std::shared_ptr<xcb_connection_t> connection(xcb_connect(nullptr, nullptr), xcb_disconnect);
+    return xcb_connection_has_error(connection.get()) == 0 ? connection : nullptr;
 }
 
 /// A Wayland session is of use only where the toolkit's plug-in for it is installed too; asking the toolkit itself
@@ -41,13 +40,19 @@ bool waylandIsUsable() {
 
 } // namespace
 
-bool prepareDisplay(int argc, char** argv) {
+std::shared_ptr<void> prepareDisplay(int argc, char** argv) {
+    const auto nothingToKeep = std::make_shared<bool>(true);
     if (userChosePlatform(argc, argv))
-        return true;
+        return nothingToKeep;
     // Under Wayland a program cannot place its own windows; through the X11 bridge it can, and it may dock as well.
-    if (x11Answers())
-        return qputenv("QT_QPA_PLATFORM", "xcb");
-    return waylandIsUsable() && qputenv("QT_QPA_PLATFORM", "wayland");
+    if (auto connection = connectToX11()) {
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        return connection;
+    }
+    if (!waylandIsUsable())
+        return nullptr;
+    qputenv("QT_QPA_PLATFORM", "wayland");
+    return nothingToKeep;
 }
 
 } // namespace vantrix

@@ -114,13 +114,14 @@ void FloatingStrip::place() {
 }
 
 void FloatingStrip::remember() {
-    const QScreen* screen = QGuiApplication::screenAt(geometry().center());
-    if (screen == nullptr)
-        return place();
-    const QRect area = screen->availableGeometry();
-    defaults_.set(placeScreen, screen->name());
-    defaults_.set(placeX, static_cast<double>(geometry().right() - area.right()));
-    defaults_.set(placeY, static_cast<double>(geometry().top() - area.top()));
+    // Dropped half beyond an edge it belongs to the screen that it left last.
+    const QScreen* under = QGuiApplication::screenAt(geometry().center());
+    const QScreen* dropped = under != nullptr ? under : screen();
+    const QRect area = dropped->availableGeometry();
+    const QRect inside = stripPlace(size(), area, geometry().topRight() - area.topRight());
+    defaults_.set(placeScreen, dropped->name());
+    defaults_.set(placeX, static_cast<double>(inside.right() - area.right()));
+    defaults_.set(placeY, static_cast<double>(inside.top() - area.top()));
     place();
 }
 
@@ -140,6 +141,9 @@ void FloatingStrip::resizeEvent(QResizeEvent* event) {
 void FloatingStrip::paintEvent(QPaintEvent*) {
     const bool dark = appearance_.dark();
     QPainter painter(this);
+    // Nothing blends the soft corners there: the mask alone cuts them, and what it leaves must not shine through black.
+    if (!mask().isEmpty())
+        painter.fillRect(rect(), dark ? QColor(32, 33, 36) : QColor(250, 250, 250));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(dark ? QColor(255, 255, 255, 38) : QColor(0, 0, 0, 38));
     painter.setBrush(dark ? QColor(32, 33, 36, 235) : QColor(250, 250, 250, 240));

@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/linux_status_item.h"
 
+#include <cstdio>
+
 #include "platform/linux/desktop/click_anchor.h"
 #include "platform/linux/desktop/desktop_appearance.h"
 #include "platform/linux/desktop/floating_strip.h"
@@ -33,8 +35,10 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
     }
     stripTimer_.setSingleShot(true);
     connect(&stripTimer_, &QTimer::timeout, this, [this] {
-        if (kind_ == Kind::none && row_)
-            use(Kind::strip, std::make_unique<FloatingStrip>(handlers_.clicked, *appearance_, defaults_));
+        if (kind_ != Kind::none || !row_)
+            return;
+        std::fputs("vantrix: no status area answers on this desktop; showing a strip instead\n", stderr);
+        use(Kind::strip, std::make_unique<FloatingStrip>(handlers_.clicked, *appearance_, defaults_));
     });
 }
 

@@ -16,8 +16,8 @@ struct KnownHost {
 
 // Panels of gnome-shell, waybar and swaybar are dark unless a user restyles them by hand, which nothing tells us.
 // plasmashell and lxqt-panel lose memory with every signal: they hear less often. Plasma's watcher lives in kded.
-constexpr NotifierHost waybar{
-    .layout = NotifierLayout::wide, .darkPanel = true, .fetchesAll = true, .tellsClickPoint = false};
+// waybar fetches everything on any signal, but takes over only what the signal names.
+constexpr NotifierHost waybar{.layout = NotifierLayout::wide, .darkPanel = true, .tellsClickPoint = false};
 constexpr NotifierHost mate{.layout = NotifierLayout::wide, .fetchesAll = true, .tellsClickPoint = false};
 constexpr NotifierHost gnomeShell{.layout = NotifierLayout::labelled, .darkPanel = true, .clickOpensMenu = true};
 constexpr NotifierHost xfce{.fetchesAll = true, .newestFirst = true}; // its plugins call themselves panel-6-systray
