@@ -33,6 +33,15 @@ bool blended() {
     return connection == nullptr || xcbComposited(connection);
 }
 
+Qt::WindowFlags stripFlags() {
+    Qt::WindowFlags flags =
+        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;
+    // Wayland compositors put managed X11 windows where they like, and leave the others where they are.
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        flags |= Qt::X11BypassWindowManagerHint;
+    return flags;
+}
+
 std::optional<QPoint> keptPlace(const UserDefaults& defaults) {
     if (!defaults.string(placeX) || !defaults.string(placeY))
         return std::nullopt;
@@ -64,10 +73,7 @@ QRect stripPlace(QSize size, const QRect& area, std::optional<QPoint> kept) {
 
 FloatingStrip::FloatingStrip(std::function<void(const StatusClick&)> clicked, const DesktopAppearance& appearance,
                              UserDefaults& defaults)
-    : QWidget(nullptr, Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus),
-      clicked_(std::move(clicked)), appearance_(appearance), defaults_(defaults) {
-    // A dock is on top of windows on every desktop, but not of a film that fills the screen.
-    setAttribute(Qt::WA_X11NetWmWindowTypeDock);
+    : QWidget(nullptr, stripFlags()), clicked_(std::move(clicked)), appearance_(appearance), defaults_(defaults) {
     setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_AlwaysShowToolTips);
@@ -98,8 +104,11 @@ void FloatingStrip::show(const StatusRow& row) {
     }
     if (!isVisible() || before != row_.size())
         place();
-    if (!isVisible())
+    if (!isVisible()) {
+        if (xcbConnection() != nullptr)
+            xcbMakeDock(xcbConnection(), static_cast<xcb_window_t>(winId()));
         QWidget::show();
+    }
     update();
 }
 
@@ -114,11 +123,12 @@ void FloatingStrip::place() {
 }
 
 void FloatingStrip::remember() {
+    const QRect here = anchor();
     // Dropped half beyond an edge it belongs to the screen that it left last.
-    const QScreen* under = QGuiApplication::screenAt(geometry().center());
+    const QScreen* under = QGuiApplication::screenAt(here.center());
     const QScreen* dropped = under != nullptr ? under : screen();
     const QRect area = dropped->availableGeometry();
-    const QRect inside = stripPlace(size(), area, geometry().topRight() - area.topRight());
+    const QRect inside = stripPlace(size(), area, here.topRight() - area.topRight());
     defaults_.set(placeScreen, dropped->name());
     defaults_.set(placeX, static_cast<double>(inside.right() - area.right()));
     defaults_.set(placeY, static_cast<double>(inside.top() - area.top()));
@@ -148,7 +158,7 @@ void FloatingStrip::paintEvent(QPaintEvent*) {
     painter.setPen(dark ? QColor(255, 255, 255, 38) : QColor(0, 0, 0, 38));
     painter.setBrush(dark ? QColor(32, 33, 36, 235) : QColor(250, 250, 250, 240));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
-    painter.translate(sidePadding, topPadding);
+    painter.translate((width() - row_.size().width()) / 2, (height() - row_.size().height()) / 2);
     row_.paint(painter, dark ? MenuBarPalette::onDark() : MenuBarPalette::onLight());
 }
 
@@ -193,7 +203,14 @@ void FloatingStrip::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 QRect FloatingStrip::anchor() const {
-    return isVisible() ? geometry() : panelCorner(row_.size().width());
+    if (!isVisible())
+        return panelCorner(row_.size().width());
+    xcb_connection_t* connection = xcbConnection();
+    if (connection == nullptr)
+        return geometry();
+    // Not every window manager tells a dock where it stands.
+    const QRect place = xcbRootRect(connection, static_cast<xcb_window_t>(winId()));
+    return place.isEmpty() ? geometry() : fromNativeRect(place);
 }
 
 } // namespace vantrix

@@ -35,8 +35,8 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
     }
     stripTimer_.setSingleShot(true);
     connect(&stripTimer_, &QTimer::timeout, this, [this] {
-        if (kind_ != Kind::none || !row_)
-            return;
+        if (kind_ != Kind::none || candidate_ || !row_)
+            return; // or a tray is still to show how much room it grants
         std::fputs("vantrix: no status area answers on this desktop; showing a strip instead\n", stderr);
         use(Kind::strip, std::make_unique<FloatingStrip>(handlers_.clicked, *appearance_, defaults_));
     });

@@ -33,7 +33,7 @@ constexpr std::array<KnownHost, 11> knownHosts{{
     {"lxqt-panel", {.pace = milliseconds(4000)}},
     {"panel-", xfce, true},
     {"xfce4-panel", xfce},
-    {"swaybar", {.darkPanel = true, .tellsClickPoint = false}},
+    {"swaybar", {.darkPanel = true, .newestFirst = true, .tellsClickPoint = false}},
 }};
 
 } // namespace

@@ -78,8 +78,7 @@ void TrayWindow::show(const StatusRow& row) {
 
 void TrayWindow::dock() {
     docked_ = true;
-    // Out of sight until the tray has it: mapped before that, it would flash in a corner of the screen.
-    setGeometry(QRect(QPoint(-8000, -8000), row_.size()));
+    resize(row_.size());
     const auto window = static_cast<xcb_window_t>(winId());
     setMinimumSize(row_.size()); // now that there is a window to carry the hint, which trays read when they take it
     if (!alpha_) {
@@ -94,8 +93,8 @@ void TrayWindow::reparented(std::uint32_t window, std::uint32_t parent) {
     if (!docked_ || window != winId())
         return;
     embedded_ = parent != 0;
-    // Not before it is embedded: a window that is mapped already gets unmapped on its way into the tray, and some trays
-    // grant no room to a window that they saw being unmapped. Thrown out, nobody wants to see it loose on the screen.
+    // Not before: mapped on its way in, it would flash in a corner of the screen, and GTK's trays would take it for
+    // withdrawn. Thrown out, nobody wants to see it loose on the screen either.
     setVisible(embedded_);
     backgroundTimer_.start(backgroundDelay);
     verdict_.start(layoutPatience);

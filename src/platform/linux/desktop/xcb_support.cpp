@@ -60,6 +60,17 @@ QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QS
     return QImage(xcb_get_image_data(reply.get()), size.width(), size.height(), QImage::Format_RGB32).copy();
 }
 
+void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window) {
+    const auto set = [&](const QByteArray& property, const std::vector<xcb_atom_t>& values) {
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, xcbAtom(connection, property), XCB_ATOM_ATOM, 32,
+                            static_cast<std::uint32_t>(values.size()), values.data());
+    };
+    const auto atom = [&](const QByteArray& name) { return xcbAtom(connection, name); };
+    set("_NET_WM_WINDOW_TYPE", {atom("_NET_WM_WINDOW_TYPE_DOCK")});
+    set("_NET_WM_STATE", {atom("_NET_WM_STATE_ABOVE"), atom("_NET_WM_STATE_STICKY"), atom("_NET_WM_STATE_SKIP_TASKBAR"),
+                          atom("_NET_WM_STATE_SKIP_PAGER")});
+}
+
 bool xcbComposited(xcb_connection_t* connection) {
     const auto cookie = xcb_get_selection_owner(connection, xcbAtom(connection, "_NET_WM_CM_S0"));
     const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(connection, cookie, nullptr));

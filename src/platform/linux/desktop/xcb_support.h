@@ -37,6 +37,10 @@ QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window);
 /// What is on the screen where the window is, once it shows its parent's background; null when that cannot be read.
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size);
 
+/// Has window managers treat a window that is not shown yet as a dock: above windows on every desktop, but not above
+/// one that fills the screen, and without an entry in task bars.
+void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window);
+
 /// True when windows with an alpha channel are blended with what is behind them.
 bool xcbComposited(xcb_connection_t* connection);
 
