@@ -158,7 +158,8 @@ void FloatingStrip::paintEvent(QPaintEvent*) {
     painter.setPen(dark ? QColor(255, 255, 255, 38) : QColor(0, 0, 0, 38));
     painter.setBrush(dark ? QColor(32, 33, 36, 235) : QColor(250, 250, 250, 240));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
-    painter.translate((width() - row_.size().width()) / 2, (height() - row_.size().height()) / 2);
+    const QSize spare = (size() - row_.size()) / 2; // whole points keep the row sharp
+    painter.translate(spare.width(), spare.height());
     row_.paint(painter, dark ? MenuBarPalette::onDark() : MenuBarPalette::onLight());
 }
 
