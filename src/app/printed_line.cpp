@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QString>

@@ -2,8 +2,6 @@
 
 #include <QWidget>
 
-class QTimer;
-
 namespace vantrix {
 
 class ProcessorDescription;
