@@ -17,7 +17,9 @@ sensors:sensors|support
 accessories:accessories|support
 monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|menubar/preferences.h
 menubar:menubar|monitor|support|samplers/memory_sampler.h
-popover:popover|monitor|menubar|support|samplers
+views:views|menubar|support|platform/appearance.h
+popover:popover|views|monitor|menubar|support|samplers|sensors|accessories
+settings:settings|views|monitor|menubar|support|platform/login_item.h
 platform/linux/sources:platform/linux/sources|platform/sampling_sources.h|samplers|accessories|support
 "
 for line in $allowed; do

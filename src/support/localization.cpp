@@ -29,7 +29,11 @@ void installTranslator(Translator translator) {
 }
 
 std::string localized(std::string_view english) {
-    return currentTranslator ? currentTranslator(english) : std::string(english);
+    return currentTranslator ? currentTranslator(english, std::nullopt) : std::string(english);
+}
+
+std::string localizedCount(std::string_view english, long long count) {
+    return formatted(currentTranslator ? currentTranslator(english, count) : std::string(english), {count});
 }
 
 std::string formatted(std::string_view text, std::initializer_list<long long> values) {

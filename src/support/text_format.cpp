@@ -1,17 +1,18 @@
 #include "support/text_format.h"
 
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 
 #include "support/checked.h"
 
 namespace vantrix {
 namespace {
 
-std::string scaled(const char* format, double value) {
-    char text[400]; // the longest: a double just below infinity printed with %.1f
-    const int length = std::snprintf(text, sizeof text, format, value);
-    return std::string(text, static_cast<std::size_t>(length));
+/// Not printf: its decimal point follows the process's locale.
+std::string scaled(double value, int decimals, char unit) {
+    char text[400]; // the longest: a double just below infinity
+    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, decimals).ptr;
+    return std::string(text, end) + unit;
 }
 
 } // namespace
@@ -31,12 +32,12 @@ std::string compactRate(double rate) {
     if (!(rate >= 1e3))
         return "0K";
     if (rate < 1e6)
-        return scaled("%.0fK", rate / 1e3);
+        return scaled(rate / 1e3, 0, 'K');
     if (rate < 1e7)
-        return scaled("%.1fM", rate / 1e6);
+        return scaled(rate / 1e6, 1, 'M');
     if (rate < 1e9)
-        return scaled("%.0fM", rate / 1e6);
-    return scaled("%.1fG", rate / 1e9);
+        return scaled(rate / 1e6, 0, 'M');
+    return scaled(rate / 1e9, 1, 'G');
 }
 
 } // namespace vantrix

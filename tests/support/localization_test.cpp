@@ -20,8 +20,12 @@ TEST(Formatted, LeavesWhatHasNoValue) {
 
 TEST(Localized, AsksTheInstalledTranslator) {
     EXPECT_EQ(localized("cores"), "cores");
-    installTranslator([](std::string_view english) { return "<" + std::string(english) + ">"; });
-    EXPECT_EQ(localized("cores"), "<cores>");
+    installTranslator([](std::string_view english, std::optional<long long> count) {
+        return "<" + std::string(english) + (count == 1 ? ">" : "s>");
+    });
+    EXPECT_EQ(localized("core"), "<cores>");
+    EXPECT_EQ(localizedCount("%lld core", 1), "<1 core>");
+    EXPECT_EQ(localizedCount("%lld core", 2), "<2 cores>");
     installTranslator(nullptr);
     EXPECT_EQ(localized("cores"), "cores");
 }

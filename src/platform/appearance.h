@@ -1,0 +1,33 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QColor>
+#include <QObject>
+
+namespace vantrix {
+
+/// How the desktop wishes programs to look.
+struct Appearance {
+    bool dark = false;
+    std::optional<QColor> accent; ///< the user's highlight colour; absent: the program's own
+    bool reducesMotion = false;   ///< the user wants no animations
+
+    bool operator==(const Appearance&) const = default;
+};
+
+/// Follows the desktop's appearance. Never waits for the desktop: until it answers, the application's palette does.
+class AppearanceSource : public QObject {
+    Q_OBJECT
+  public:
+    virtual Appearance appearance() const = 0;
+
+  Q_SIGNALS:
+    void changed();
+};
+
+/// The appearance of this desktop. Made after the application object.
+std::unique_ptr<AppearanceSource> makeAppearanceSource();
+
+} // namespace vantrix

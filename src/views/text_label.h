@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QFont>
+
+#include "views/theme_colors.h"
+#include "views/view.h"
+
+namespace vantrix {
+
+/// A text that shows itself whole: it takes as many lines as it needs, or, where it has to stay on one, ends in an
+/// ellipsis and tells the rest in its tool tip.
+class TextLabel : public View {
+  public:
+    struct Style {
+        double points = 11.0;
+        QFont::Weight weight = QFont::Normal;
+        QColor ThemeColors::*color = &ThemeColors::label;
+        bool wraps = false;      ///< more lines rather than an ellipsis
+        bool monospaced = false; ///< digits of equal advance; one line only
+        bool trailing = false;   ///< aligned with the trailing edge
+    };
+
+    TextLabel(const Theme& theme, const Style& style, const QString& text = {});
+
+    const QString& text() const { return text_; }
+    void setText(const QString& text);
+    /// Overrides the style's colour; an invalid one gives it back.
+    void setColor(const QColor& color);
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::StaticText; }
+    QString accessibleText() const override;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return style_.wraps; }
+    int heightForWidth(int width) const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+  private:
+    double naturalWidth() const;
+    void updateToolTip();
+
+    Style style_;
+    QString text_;
+    QColor color_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,80 @@
+#include "views/theme.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QEvent>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
+
+namespace vantrix {
+namespace {
+
+constexpr double usualTextHeight = 40.0 / 3.0; // 10 typographic points, in pixels at scale 1
+constexpr double mostTextScale = 3.0;
+// Desktops set their texts in anything from 9 to 12 points; only more than that is a wish for larger ones.
+constexpr double leastEnlargement = 1.25;
+
+double desktopTextScale() {
+    const double scale = QFontInfo(QGuiApplication::font()).pixelSize() / usualTextHeight;
+    return scale < leastEnlargement ? 1.0 : std::min(scale, mostTextScale);
+}
+
+} // namespace
+
+Theme::Theme(const AppearanceSource& source) : source_(source) {
+    refresh();
+    connect(&source, &AppearanceSource::changed, this, &Theme::refresh);
+    qGuiApp->installEventFilter(this);
+}
+
+QPalette Theme::palette() const {
+    const QColor ground = over(colors_.card, colors_.window);
+    QPalette palette(ground, ground);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
+        palette.setColor(role, over(colors_.label, ground));
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, over(colors_.tertiary, ground));
+    palette.setColor(QPalette::Base, ground);
+    palette.setColor(QPalette::ToolTipBase, ground);
+    palette.setColor(QPalette::Highlight, colors_.accent);
+    palette.setColor(QPalette::HighlightedText, ThemeColors::on(colors_.accent));
+    return palette;
+}
+
+QFont Theme::font(double points, QFont::Weight weight) const {
+    QFont font(family_);
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(scaled(points)))));
+    font.setWeight(weight);
+    return font;
+}
+
+const MonospacedFont& Theme::digits(double points, QFont::Weight weight) const {
+    auto& font = digits_[{points, weight}];
+    if (!font)
+        font = std::make_unique<MonospacedFont>(QFont(family_), std::round(scaled(points)), weight);
+    return *font;
+}
+
+bool Theme::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationFontChange)
+        refresh();
+    return false;
+}
+
+void Theme::refresh() {
+    const Appearance appearance = source_.appearance();
+    const QString family = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    const double textScale = desktopTextScale();
+    if (family == family_ && textScale == textScale_ && appearance == appearance_)
+        return;
+    appearance_ = appearance;
+    colors_ = ThemeColors::of(appearance.dark, appearance.accent);
+    family_ = family;
+    textScale_ = textScale;
+    digits_.clear();
+    Q_EMIT changed();
+}
+
+} // namespace vantrix

@@ -1,0 +1,101 @@
+#include "views/theme_colors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantrix {
+namespace {
+
+constexpr double leastTextContrast = 4.5;
+constexpr double leastShapeContrast = 1.9; // a desktop may choose pale yellow as its accent
+constexpr float step = 0.04f;
+
+double linear(double channel) {
+    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
+}
+
+double luminance(const QColor& color) {
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+QColor shade(bool dark, float alpha) {
+    QColor color = dark ? Qt::white : Qt::black;
+    color.setAlphaF(alpha);
+    return color;
+}
+
+/// `color`, moved towards black or white until it stands out from `ground`.
+QColor standingOut(const QColor& color, const QColor& ground, double least) {
+    const bool lighten = luminance(ground) < 0.18; // the ground that black and white stand out from alike
+    QColor result = color;
+    for (float share = step; contrast(result, ground) < least && share < 1.0f; share += step)
+        result = over(shade(lighten, share), color);
+    return result;
+}
+
+ThemeColors darkColors() {
+    return {
+        .window = QColor(30, 30, 33),
+        .card = shade(true, 0.06f),
+        .separator = shade(true, 0.11f),
+        .control = shade(true, 0.12f),
+        .label = shade(true, 0.93f),
+        .secondary = shade(true, 0.68f),
+        .tertiary = shade(true, 0.56f),
+        .quaternary = shade(true, 0.13f),
+        .accent = QColor(64, 148, 255),
+        .orange = QColor(255, 159, 46),
+        .red = QColor(255, 84, 74),
+        .green = QColor(58, 206, 110),
+        .purple = QColor(178, 120, 255),
+    };
+}
+
+ThemeColors lightColors() {
+    return {
+        .window = QColor(245, 245, 247),
+        .card = shade(false, 0.06f),
+        .separator = shade(false, 0.11f),
+        .control = QColor(255, 255, 255),
+        .label = shade(false, 0.87f),
+        .secondary = shade(false, 0.66f),
+        .tertiary = shade(false, 0.60f),
+        .quaternary = shade(false, 0.12f),
+        .accent = QColor(10, 112, 235),
+        .orange = QColor(240, 134, 0),
+        .red = QColor(226, 48, 40),
+        .green = QColor(30, 160, 68),
+        .purple = QColor(142, 78, 226),
+    };
+}
+
+} // namespace
+
+QColor over(const QColor& color, const QColor& ground) {
+    const float alpha = color.alphaF();
+    const auto channel = [alpha](float top, float under) { return top * alpha + under * (1.0f - alpha); };
+    return QColor::fromRgbF(channel(color.redF(), ground.redF()), channel(color.greenF(), ground.greenF()),
+                            channel(color.blueF(), ground.blueF()));
+}
+
+double contrast(const QColor& a, const QColor& b) {
+    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    return (lighter + 0.05) / (darker + 0.05);
+}
+
+ThemeColors ThemeColors::of(bool dark, const std::optional<QColor>& accent) {
+    ThemeColors colors = dark ? darkColors() : lightColors();
+    if (accent)
+        colors.accent = standingOut(*accent, over(colors.card, colors.window), leastShapeContrast);
+    return colors;
+}
+
+QColor ThemeColors::readable(const QColor& color) const {
+    return standingOut(color, over(card, window), leastTextContrast);
+}
+
+QColor ThemeColors::on(const QColor& fill) {
+    return contrast(Qt::white, fill) >= 2.5 ? Qt::white : Qt::black;
+}
+
+} // namespace vantrix

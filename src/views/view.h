@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include <QAccessible>
+#include <QWidget>
+
+namespace vantrix {
+
+class Theme;
+
+/// A widget that paints itself in the theme's colours and tells assistive programs what it shows. Redraws and
+/// remeasures itself when the theme changes.
+class View : public QWidget {
+    Q_OBJECT
+  public:
+    /// `theme` outlives the view.
+    explicit View(const Theme& theme, QWidget* parent = nullptr);
+
+    const Theme& theme() const { return theme_; }
+
+    virtual QAccessible::Role accessibleRole() const { return QAccessible::Grouping; }
+    /// What is read out; by default the accessible name. Asked only when somebody listens.
+    virtual QString accessibleText() const { return accessibleName(); }
+    /// The value of a gauge or a bar, 0 to 1; absent where there is none.
+    virtual std::optional<double> accessibleFraction() const { return std::nullopt; }
+
+  private:
+    const Theme& theme_;
+};
+
+/// `english` in the user's language.
+QString localizedText(std::string_view english);
+
+} // namespace vantrix
