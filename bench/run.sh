@@ -11,6 +11,10 @@ echo
 echo "== drawing the row at scale 2"
 "$build/bench/render_bench"
 
+echo
+echo "== the popover at scale 2"
+"$build/bench/popover_bench" 2>/dev/null
+
 for host in waybar plasmashell; do
   echo
   echo "== the program idling for $seconds s under X11, host: $host (played)"

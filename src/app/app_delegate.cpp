@@ -1,22 +1,45 @@
 #include "app/app_delegate.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QMenu>
 #include <QPointer>
+#include <QScreen>
 
-#include "app/status_menu.h"
 #include "menubar/preferences.h"
+#include "popover/popover_place.h"
 #include "popover/popover_view.h"
 #include "support/localization.h"
 #include "support/user_defaults.h"
+#include "views/shortcut_menu.h"
 
 namespace vantrix {
+namespace {
+
+constexpr std::string_view settingsRequest = "show-settings";
+
+/// The top left corner of a menu of `size` beside `anchor`, inside the screen that the anchor is on.
+QPoint menuPlace(const QSize& size, const QRect& anchor) {
+    const QScreen* screen = QGuiApplication::screenAt(anchor.center());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    return screen ? popoverPlace(size, anchor, screen->geometry()).topLeft() : anchor.bottomLeft();
+}
+
+} // namespace
 
 AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
-    : defaults_(defaults), makeStatusItem_(std::move(parts.makeStatusItem)),
-      showSettings_(std::move(parts.showSettings)), information_(std::move(parts.sources.information)),
-      processor_(*information_), monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
-                                          std::make_unique<ThreadTaskRunner>()),
-      popover_(std::make_unique<PopoverView>(monitor_, defaults_, processor_)) {}
+    : defaults_(defaults), makeStatusItem_(std::move(parts.makeStatusItem)), loginItem_(std::move(parts.loginItem)),
+      information_(std::move(parts.sources.information)), processor_(*information_),
+      monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
+               std::make_unique<ThreadTaskRunner>()),
+      theme_(parts.appearance),
+      popover_(theme_,
+               [this] {
+                   return std::make_unique<PopoverView>(monitor_, CardContext{theme_, defaults_, processor_},
+                                                        [this] { return menuEntries(); });
+               }),
+      settings_({theme_, defaults_, monitor_, *loginItem_, {}}) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -93,8 +116,17 @@ void AppDelegate::showPopover() {
 }
 
 void AppDelegate::openSettings() {
-    if (showSettings_)
-        showSettings_();
+    showSettings({});
+}
+
+/// `tab`: a blank and the tab's name, or nothing.
+void AppDelegate::showSettings(std::string_view tab) {
+    popover_.close();
+    const auto named = tab.starts_with(' ') ? choiceNamed(settingsTabs, tab.substr(1)) : std::nullopt;
+    if (named)
+        settings_.show(*named);
+    else if (tab.empty())
+        settings_.show();
 }
 
 void AppDelegate::quitApp() {
@@ -106,8 +138,8 @@ void AppDelegate::handleRequest(const std::string& request) {
         showPopover();
     else if (request == "quit")
         quitApp();
-    else if (request.starts_with("show-settings"))
-        openSettings();
+    else if (request.starts_with(settingsRequest))
+        showSettings(std::string_view(request).substr(settingsRequest.size()));
 }
 
 } // namespace vantrix

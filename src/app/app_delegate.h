@@ -7,9 +7,12 @@
 #include <QObject>
 
 #include "monitor/system_monitor.h"
+#include "platform/login_item.h"
 #include "platform/status_item.h"
 #include "popover/popover_host.h"
 #include "samplers/processor_description.h"
+#include "settings/settings_window_controller.h"
+#include "views/theme.h"
 
 class QMenu;
 
@@ -23,8 +26,9 @@ class AppDelegate : public QObject {
   public:
     struct Parts {
         SamplingSources sources;
+        const AppearanceSource& appearance; ///< outlives the delegate
         std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem;
-        std::function<void()> showSettings;
+        std::unique_ptr<LoginItem> loginItem;
     };
 
     /// `defaults` outlives the delegate.
@@ -36,10 +40,12 @@ class AppDelegate : public QObject {
 
     void statusItemClicked(const StatusClick& click);
     void showPopover();
+    /// On the tab that was shown last.
     void openSettings();
     void quitApp();
 
-    /// A request of another process: "show-popover", "show-settings" or "quit"; anything else is ignored.
+    /// A request of another process: "show-popover", "show-settings", that with a tab's name after a blank, or
+    /// "quit"; anything else is ignored.
     void handleRequest(const std::string& request);
 
   private:
@@ -48,15 +54,18 @@ class AppDelegate : public QObject {
     void refreshStatusItem();
     void showMenu();
     void togglePopover();
+    void showSettings(std::string_view tab);
     std::vector<StatusMenuEntry> menuEntries();
 
     UserDefaults& defaults_;
     std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem_;
-    std::function<void()> showSettings_;
+    std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<SystemInformation> information_;
     ProcessorDescription processor_;
     SystemMonitor monitor_;
+    Theme theme_;
     PopoverHost popover_;
+    SettingsWindowController settings_;
     std::unique_ptr<StatusItem> statusItem_; // none until launch has finished
     std::unique_ptr<QMenu> menu_;            // the one that was shown last
 };

@@ -49,6 +49,8 @@ class Parser {
             parseShowSettings(option);
         else if (option == "-platform" || option == "--platform")
             value(option); // the windowing toolkit reads it itself
+        else if (option == "-reverse")
+            return; // likewise: lays everything out from right to left
         else if (option == "-exportScreenshots")
             parseExport(option);
         else
@@ -143,8 +145,10 @@ class Parser {
 
     void parseExport(const std::string& option) {
         // Without a folder behind it the flag means nothing, and the program starts as ever.
-        if (next_ < arguments_.size())
-            error_ = option + ": this version cannot draw screenshots";
+        if (next_ >= arguments_.size())
+            return;
+        act(Action::exportScreenshots, option);
+        result_.exportFolder = arguments_[next_++];
     }
 
     void checkCombination() {
@@ -180,6 +184,8 @@ std::string helpText() {
            "  --show-popover        open the popover of the running program\n"
            "  --show-settings [TAB] open its settings\n"
            "  --quit                end it\n"
+           "  -exportScreenshots DIR  draw the popover, the status row and the settings into\n"
+           "                        PNG files in DIR, from demo readings, and end\n"
            "  --proc-root DIR       read the kernel's process tree from DIR, not /proc\n"
            "  --sys-root DIR        read the kernel's device tree from DIR, not /sys\n"
            "  --version, --help\n";

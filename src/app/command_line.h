@@ -14,7 +14,7 @@ enum class PrintFormat { text, json, waybar };
 
 /// What the program was asked to do.
 struct CommandLine {
-    enum class Action { run, print, help, version, showPopover, showSettings, quit };
+    enum class Action { run, print, help, version, showPopover, showSettings, quit, exportScreenshots };
 
     Action action = Action::run;
     PrintFormat format = PrintFormat::text;
@@ -22,6 +22,7 @@ struct CommandLine {
     std::optional<long> count;                         ///< passes, at least 1; absent: until interrupted
     std::optional<std::vector<MenuBarModule>> modules; ///< absent: those enabled in the settings
     std::optional<SettingsTab> settingsTab;
+    std::string exportFolder; ///< of `exportScreenshots`
     KernelRoots roots;
 };
 

@@ -4,14 +4,18 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QDesktopServices>
-#include <QUrl>
+#include <QIcon>
 
+#include "app/accessible_application.h"
 #include "app/app_delegate.h"
 #include "app/command_line.h"
+#include "app/screenshot_export.h"
 #include "app/terminal_output.h"
+#include "app/translations.h"
 #include "menubar/preferences.h"
+#include "platform/appearance.h"
 #include "platform/desktop_services.h"
+#include "platform/login_item.h"
 #include "support/user_defaults.h"
 
 namespace vantrix {
@@ -44,25 +48,6 @@ std::string settingsRequest(const CommandLine& commandLine) {
     return message;
 }
 
-/// Stores every preference as it stands.
-void storePreferences(UserDefaults& defaults) {
-    for (const Preference& preference : allPreferences()) {
-        if (preference.standard.typeId() == QMetaType::Bool)
-            defaults.set(preference.key, defaults.boolean(preference.key));
-        else if (preference.standard.typeId() == QMetaType::Double)
-            defaults.set(preference.key, defaults.number(preference.key));
-        else if (preference.registered)
-            defaults.set(preference.key, *defaults.string(preference.key));
-    }
-}
-
-/// The settings live in a file that a person can read; it is watched, so every saved edit shows at once.
-void editSettings(UserDefaults& defaults) {
-    storePreferences(defaults); // a file that names every setting explains itself
-    defaults.synchronize();
-    QDesktopServices::openUrl(QUrl::fromLocalFile(settingsFile()));
-}
-
 int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
     auto display = prepareDisplay(argc, argv);
     if (!display) {
@@ -73,24 +58,40 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     QApplication application(argc, argv);
     display.reset();
+    installTranslations();
+    installAccessibleApplication();
     QApplication::setApplicationName(QStringLiteral("vantrix"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vantrix"));
+    QApplication::setDesktopFileName(QStringLiteral("vantrix"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/vantrix.svg")));
     const auto channel = claimInstance();
     if (!channel)
         return request("show-popover"); // started twice: the user wants to see the one that runs
     UserDefaults defaults(makeStandardDefaultsStore());
+    const auto appearance = makeAppearanceSource();
     AppDelegate delegate(
         {
             .sources = makeSamplingSources(commandLine.roots),
+            .appearance = *appearance,
             .makeStatusItem =
-                [&](StatusItem::Handlers handlers) { return makeStatusItem(std::move(handlers), defaults); },
-            .showSettings = [&] { editSettings(defaults); },
+                [&](StatusItem::Handlers handlers) {
+                    return makeStatusItem(std::move(handlers), defaults, *appearance);
+                },
+            .loginItem = makeLoginItem(),
         },
         defaults);
     channel->received = [&](const std::string& message) { delegate.handleRequest(message); };
     TerminationSignals signals([] { QApplication::quit(); });
     delegate.applicationDidFinishLaunching();
     return QApplication::exec();
+}
+
+int drawScreenshots(const CommandLine& commandLine, int& argc, char** argv) {
+    drawOffscreen();
+    QApplication application(argc, argv);
+    installTranslations();
+    return exportScreenshots(QString::fromLocal8Bit(commandLine.exportFolder), makeSamplingSources(commandLine.roots),
+                             makeStandardDefaultsStore());
 }
 
 int perform(const CommandLine& commandLine, int& argc, char** argv) {
@@ -113,6 +114,8 @@ int perform(const CommandLine& commandLine, int& argc, char** argv) {
         return request("quit");
     case Action::print:
         return runInTerminal(commandLine, argc, argv);
+    case Action::exportScreenshots:
+        return drawScreenshots(commandLine, argc, argv);
     case Action::run:
         break;
     }

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "app/printed_line.h"
+#include "app/translations.h"
 #include "menubar/preferences.h"
 #include "monitor/system_monitor.h"
 #include "platform/desktop_services.h"
@@ -59,6 +60,7 @@ class LinePrinter {
 int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
     ignoreBrokenPipes();
     QCoreApplication application(argc, argv);
+    installTranslations();
     UserDefaults defaults(makeStandardDefaultsStore());
     registerPreferences(defaults);
     SystemMonitor monitor(makeSamplingSources(commandLine.roots), defaults, std::make_unique<QtRepeatingTimer>(),

@@ -24,6 +24,15 @@ QString settingsFile();
 /// client starts over, and would refuse the next one meanwhile.
 std::shared_ptr<void> prepareDisplay(int argc, char** argv);
 
+/// Draws without any display from now on. Call before the application object exists.
+void drawOffscreen();
+
+/// True when the display blends windows that have an alpha channel with what is behind them. May change at any time.
+bool windowsAreBlended();
+
+/// True when a whole window can be made more or less opaque.
+bool windowsCanFade();
+
 /// Writing to a closed pipe gives an error from then on instead of ending the program.
 void ignoreBrokenPipes();
 

@@ -13,6 +13,7 @@
 
 namespace vantrix {
 
+class AppearanceSource;
 class UserDefaults;
 
 /// What the status item shows. No items: the gauge symbol alone.
@@ -58,8 +59,9 @@ class StatusItem {
     virtual QRect anchor() const = 0;
 };
 
-/// The status item of this system. `defaults` (which outlives it) keeps what a user arranged by hand, such as the
-/// place of a floating strip.
-std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& defaults);
+/// The status item of this system. `defaults` keeps what a user arranged by hand, such as the place of a floating
+/// strip; it and `appearance` outlive the item.
+std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& defaults,
+                                           const AppearanceSource& appearance);
 
 } // namespace vantrix

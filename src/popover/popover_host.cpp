@@ -1,93 +1,81 @@
 #include "popover/popover_host.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include <QGuiApplication>
-#include <QKeyEvent>
 #include <QScreen>
+
+#include "popover/popover_place.h"
+#include "views/theme.h"
 
 namespace vantrix {
 namespace {
 
-constexpr int screenMargin = 30;
-constexpr int leastHeight = 480;
-constexpr int heightWithoutScreen = 870;
-constexpr int gap = 4;            // between the status item and the popover
-constexpr qint64 sameClick = 250; // milliseconds between a click's press and its release
+constexpr int popoverWidth = 340;
+constexpr int fadeDuration = 120; // milliseconds
+constexpr qint64 sameClick = 300; // milliseconds between a click's press and its release
 
-QScreen* screenOf(const QRect& anchor) {
-    QScreen* screen = QGuiApplication::screenAt(anchor.center());
-    return screen ? screen : QGuiApplication::primaryScreen();
+QScreen* screenAt(const QRect& anchor) {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    std::vector<QRect> places;
+    for (const QScreen* screen : screens)
+        places.push_back(screen->geometry());
+    return screens.isEmpty() ? nullptr : screens[static_cast<qsizetype>(screenOf(anchor, places))];
 }
 
 } // namespace
 
-int popoverHeight(double visibleHeight) {
-    if (visibleHeight <= 0.0)
-        return heightWithoutScreen;
-    return std::max(static_cast<int>(std::lround(visibleHeight)) - screenMargin, leastHeight);
+PopoverHost::PopoverHost(const Theme& theme, MakeView makeView, std::function<bool()> canFade)
+    : theme_(theme), makeView_(std::move(makeView)), canFade_(std::move(canFade)) {
+    fade_.setStartValue(0.0);
+    fade_.setEndValue(1.0);
+    fade_.setDuration(fadeDuration);
+    fade_.setEasingCurve(QEasingCurve::OutCubic);
 }
 
-QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible) {
-    QRect place(QPoint(), size);
-    place.moveLeft(anchor.center().x() - size.width() / 2);
-    const int below = anchor.bottom() + 1 + gap;
-    const int above = anchor.top() - gap - size.height();
-    place.moveTop(below + size.height() <= visible.bottom() + 1 ? below : above);
-    // A panel on the left or right edge leaves no room below or above: then the edges of the screen decide.
-    place.moveRight(std::min(place.right(), visible.right()));
-    place.moveLeft(std::max(place.left(), visible.left()));
-    place.moveBottom(std::min(place.bottom(), visible.bottom()));
-    place.moveTop(std::max(place.top(), visible.top()));
-    return place;
-}
+PopoverHost::~PopoverHost() = default;
 
-class PopoverHost::ClosingFilter : public QObject {
-  public:
-    bool eventFilter(QObject* object, QEvent* event) override {
-        auto* view = static_cast<QWidget*>(object);
-        if (event->type() == QEvent::Hide)
-            sinceHidden.start();
-        if (event->type() == QEvent::WindowDeactivate)
-            view->hide();
-        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Cancel))
-            view->hide();
-        return false;
-    }
-
-    QElapsedTimer sinceHidden;
-};
-
-PopoverHost::PopoverHost(std::unique_ptr<QWidget> view)
-    : view_(std::move(view)), filter_(std::make_unique<ClosingFilter>()) {
-    view_->setWindowFlags(Qt::Popup | Qt::FramelessWindowHint);
-    view_->installEventFilter(filter_.get());
-}
-
-PopoverHost::~PopoverHost() {
-    view_->removeEventFilter(filter_.get());
+void PopoverHost::makeFrame() {
+    frame_ = std::make_unique<PopoverFrame>(theme_, makeView_());
+    QObject::connect(&fade_, &QVariantAnimation::valueChanged, frame_.get(),
+                     [this](const QVariant& opacity) { frame_->setWindowOpacity(opacity.toDouble()); });
+    QObject::connect(frame_.get(), &PopoverFrame::closed, &fade_, &QVariantAnimation::stop);
 }
 
 void PopoverHost::show(const QRect& anchor) {
-    const QScreen* screen = screenOf(anchor);
+    if (!frame_)
+        makeFrame();
+    place(anchor);
+    if (canFade_() && !theme_.reducesMotion())
+        fadeIn();
+    else
+        frame_->setWindowOpacity(1.0);
+    frame_->show();
+    frame_->activateWindow();
+    frame_->setFocus(Qt::PopupFocusReason);
+}
+
+void PopoverHost::place(const QRect& anchor) {
+    QScreen* screen = screenAt(anchor);
     const QRect visible = screen ? screen->availableGeometry() : QRect();
-    const QSize wanted = view_->sizeHint();
-    const QSize size(wanted.width(), std::min(wanted.height(), popoverHeight(visible.height())));
-    view_->setGeometry(screen ? popoverPlace(size, anchor, visible) : QRect(anchor.bottomLeft(), size));
-    view_->show();
-    view_->activateWindow();
-    view_->setFocus();
+    const QSize size(popoverWidth, popoverHeight(visible.height()));
+    if (screen)
+        frame_->setScreen(screen); // its scale factor is the one that the place is meant in
+    frame_->setGeometry(screen ? popoverPlace(size, anchor, visible) : QRect(anchor.bottomLeft(), size));
+}
+
+void PopoverHost::fadeIn() {
+    frame_->setWindowOpacity(0.0);
+    fade_.start();
 }
 
 void PopoverHost::close() {
-    view_->hide();
+    if (frame_)
+        frame_->hide();
 }
 
 void PopoverHost::toggle(const QRect& anchor) {
     if (isShown())
         return close();
-    if (filter_->sinceHidden.isValid() && filter_->sinceHidden.elapsed() < sameClick)
+    if (frame_ && frame_->closedWithin(sameClick))
         return;
     show(anchor);
 }

@@ -3,26 +3,28 @@
 #include <functional>
 #include <memory>
 
-#include <QElapsedTimer>
 #include <QRect>
-#include <QWidget>
+#include <QVariantAnimation>
+
+#include "platform/desktop_services.h"
+#include "popover/popover_frame.h"
 
 namespace vantrix {
 
-/// The tallest the popover may be on a screen whose visible area is `visibleHeight` points high; 0: no screen.
-int popoverHeight(double visibleHeight);
+class Theme;
 
-/// Where a popover of `size` opens: below `anchor` where it fits, else above or beside it, centred on it, wholly
-/// inside `visible`.
-QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible);
-
-/// Shows the popover's view beside the status item and closes it when the user turns elsewhere.
+/// Shows the popover beside the status item. Its window and its view are made when it is shown first, and are kept.
 class PopoverHost {
   public:
-    explicit PopoverHost(std::unique_ptr<QWidget> view);
+    using MakeView = std::function<std::unique_ptr<QWidget>()>;
+
+    /// `theme` outlives the host. `canFade` says whether windows of this display can be faded in.
+    PopoverHost(const Theme& theme, MakeView makeView, std::function<bool()> canFade = windowsCanFade);
     ~PopoverHost();
 
-    bool isShown() const { return view_->isVisible(); }
+    bool isShown() const { return frame_ && frame_->isVisible(); }
+    bool isFading() const { return fade_.state() == QAbstractAnimation::Running; }
+    /// `anchor` is the status item's rectangle, in device-independent pixels.
     void show(const QRect& anchor);
     void close();
 
@@ -31,10 +33,15 @@ class PopoverHost {
     void toggle(const QRect& anchor);
 
   private:
-    class ClosingFilter;
+    void makeFrame();
+    void place(const QRect& anchor);
+    void fadeIn();
 
-    std::unique_ptr<QWidget> view_;
-    std::unique_ptr<ClosingFilter> filter_;
+    const Theme& theme_;
+    MakeView makeView_;
+    std::function<bool()> canFade_;
+    std::unique_ptr<PopoverFrame> frame_;
+    QVariantAnimation fade_; ///< of the frame's opacity
 };
 
 } // namespace vantrix

@@ -1,101 +1,152 @@
 #include "popover/popover_view.h"
 
-#include <algorithm>
+#include <array>
 
 #include <QPainter>
+#include <QShortcut>
+#include <QVBoxLayout>
 
-#include "menubar/menu_bar_renderer.h"
 #include "menubar/preferences.h"
-#include "menubar/symbol.h"
 #include "monitor/system_monitor.h"
+#include "popover/cards/cpu_card.h"
+#include "popover/cards/disk_card.h"
+#include "popover/cards/gpu_card.h"
+#include "popover/cards/memory_card.h"
+#include "popover/cards/network_card.h"
 #include "samplers/processor_description.h"
-#include "support/localization.h"
 #include "support/user_defaults.h"
+#include "views/divider.h"
+#include "views/scroll_column.h"
+#include "views/text_label.h"
+#include "views/theme.h"
 
 namespace vantrix {
 namespace {
 
-constexpr double sidePadding = 14.0;
-constexpr double headerHeight = 52.0;
-constexpr double rowArea = 58.0;
-constexpr double symbolSize = 22.0;
-constexpr double textGap = 10.0;
-constexpr double rowScale = 1.35; // the row reads at arm's length here, not out of the corner of the eye
+constexpr int columnPadding = 12;
+constexpr int cardGap = 10;
+constexpr double emptyTextSize = 12.0;
+constexpr int emptyTextPadding = 24;
 
-QFont fontOf(const QWidget& widget, int pixels, QFont::Weight weight) {
-    QFont font = widget.font();
-    font.setPixelSize(pixels);
-    font.setWeight(weight);
-    return font;
+struct CardKind {
+    PopoverCard card;
+    Card* (*make)(const CardContext&);
+    bool (*applies)(const Readings&);
+};
+
+template<typename Kind>
+Card* make(const CardContext& context) {
+    return new Kind(context);
 }
 
-QColor withAlpha(QColor color, float alpha) {
-    color.setAlphaF(alpha);
-    return color;
+bool always(const Readings&) {
+    return true;
 }
+
+/// From the top of the column. The settings only switch cards on and off.
+constexpr std::array cardKinds{
+    CardKind{PopoverCard::cpu, make<CPUCard>, always},
+    CardKind{PopoverCard::memory, make<MemoryCard>, always},
+    CardKind{PopoverCard::network, make<NetworkCard>, always},
+    CardKind{PopoverCard::disk, make<DiskCard>, always},
+    CardKind{PopoverCard::gpu, make<GPUCard>, [](const Readings& readings) { return readings.gpu.has_value(); }},
+};
 
 } // namespace
 
-PopoverView::PopoverView(const SystemMonitor& monitor, const UserDefaults& defaults,
-                         const ProcessorDescription& processor)
-    : monitor_(monitor), defaults_(defaults), processor_(processor) {
+PopoverView::PopoverView(const SystemMonitor& monitor, const CardContext& context, HeaderView::MenuEntries menuEntries)
+    : View(context.theme), monitor_(monitor), context_(context) {
     setAccessibleName(QStringLiteral("Vantrix"));
+    addShortcuts(menuEntries());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(new HeaderView(context.theme, context.processor.brand(), std::move(menuEntries)));
+    layout->addWidget(new Divider(context.theme));
+    layout->addWidget(new ScrollColumn(context.theme, makeColumn()), 1);
+}
+
+QWidget* PopoverView::makeColumn() {
+    auto* column = new QWidget;
+    column_ = new QVBoxLayout(column);
+    column_->setContentsMargins(columnPadding, columnPadding, columnPadding, columnPadding);
+    column_->setSpacing(cardGap);
+    emptySelection_ = new QWidget;
+    auto* padded = new QVBoxLayout(emptySelection_);
+    padded->setContentsMargins(emptyTextPadding, emptyTextPadding, emptyTextPadding, emptyTextPadding);
+    padded->addWidget(new TextLabel(
+        theme(), {.points = emptyTextSize, .color = &ThemeColors::secondary, .wraps = true, .side = Qt::AlignHCenter},
+        localizedText("No cards selected. Choose what to show in Settings → Popover.")));
+    column_->addWidget(emptySelection_);
+    column_->addStretch(1);
+    return column;
+}
+
+/// The menu's shortcuts work in the popover without the menu as well.
+void PopoverView::addShortcuts(const std::vector<StatusMenuEntry>& entries) {
+    for (const StatusMenuEntry& entry : entries)
+        if (!entry.shortcut.isEmpty())
+            connect(new QShortcut(entry.shortcut, this), &QShortcut::activated, this, entry.action);
+}
+
+std::vector<PopoverCard> PopoverView::shownCards() const {
+    std::vector<PopoverCard> shown;
+    for (const auto& [card, view] : cards_)
+        shown.push_back(card);
+    return shown;
 }
 
 QSize PopoverView::sizeHint() const {
-    return {contentWidth, static_cast<int>(headerHeight + rowArea)};
+    return {contentWidth, layout()->heightForWidth(contentWidth)};
 }
 
 void PopoverView::showEvent(QShowEvent*) {
-    // update() only marks the view dirty, so many changes of one pass make one repaint.
-    connect(&monitor_, &SystemMonitor::changed, this, qOverload<>(&QWidget::update));
-    connect(&defaults_, &UserDefaults::changed, this, qOverload<>(&QWidget::update));
+    connect(&monitor_, &SystemMonitor::changed, this, &PopoverView::scheduleRefresh);
+    connect(&context_.defaults, &UserDefaults::changed, this, &PopoverView::scheduleRefresh);
+    refresh();
 }
 
 void PopoverView::hideEvent(QHideEvent*) {
     monitor_.disconnect(this);
-    defaults_.disconnect(this);
+    context_.defaults.disconnect(this);
 }
 
-void PopoverView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    const QColor window = palette().color(QPalette::Window);
-    painter.fillRect(rect(), window);
-    paintHeader(painter);
-    const QColor line = withAlpha(palette().color(QPalette::WindowText), 0.14f);
-    painter.fillRect(QRectF(0, headerHeight, width(), 1), line);
-    painter.setPen(line);
-    painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5)); // tells it from a window of the same colour
-    paintRow(painter, window.lightness() < 128 ? MenuBarPalette::onDark() : MenuBarPalette::onLight());
-}
-
-void PopoverView::paintHeader(QPainter& painter) const {
-    const QColor text = palette().color(QPalette::WindowText);
-    const QRectF symbol(sidePadding, (headerHeight - symbolSize) / 2, symbolSize, symbolSize);
-    paintSymbol(painter, "gauge.with.dots.needle.50percent", symbol, palette().color(QPalette::Highlight));
-    const double left = symbol.right() + textGap;
-    const QRectF title(left, 9, width() - left - sidePadding, 18);
-    painter.setFont(fontOf(*this, 13, QFont::DemiBold));
-    painter.setPen(text);
-    painter.drawText(title, Qt::AlignLeft | Qt::AlignVCenter, QString::fromStdString(localized("Vantrix")));
-    painter.setFont(fontOf(*this, 10, QFont::Normal));
-    painter.setPen(withAlpha(text, 0.65f));
-    const QString brand = painter.fontMetrics().elidedText(QString::fromStdString(processor_.brand()), Qt::ElideRight,
-                                                           static_cast<int>(title.width()));
-    painter.drawText(title.translated(0, 17), Qt::AlignLeft | Qt::AlignVCenter, brand);
-}
-
-void PopoverView::paintRow(QPainter& painter, const MenuBarPalette& palette) const {
-    const auto items = menuBarItems(enabledMenuBarModules(defaults_), monitor_.readings(), defaults_);
-    if (items.empty())
+/// The many changes of one pass make one refresh.
+void PopoverView::scheduleRefresh() {
+    if (isScheduled_)
         return;
-    const MenuBarStyle style = menuBarStyle(defaults_);
-    const QSizeF size = MenuBarRenderer::size(items, style);
-    const double scale = std::min(rowScale, (width() - 2 * sidePadding) / size.width());
-    painter.translate((width() - size.width() * scale) / 2, headerHeight + (rowArea - size.height() * scale) / 2);
-    painter.scale(scale, scale);
-    MenuBarRenderer::paint(painter, items, style, defaults_.boolean(preference_key::menuBarColorize), palette);
+    isScheduled_ = true;
+    QMetaObject::invokeMethod(this, &PopoverView::refresh, Qt::QueuedConnection);
+}
+
+void PopoverView::refresh() {
+    isScheduled_ = false;
+    if (!isVisible())
+        return;
+    placeCards();
+    for (const auto& [card, view] : cards_)
+        view->showReadings(monitor_.readings());
+}
+
+void PopoverView::placeCards() {
+    const NameSet chosen = visibleCards(context_.defaults);
+    emptySelection_->setVisible(chosen.empty());
+    int place = 1; // below the words for an empty selection
+    for (const CardKind& kind : cardKinds) {
+        const bool wanted =
+            contains(chosen, choiceOf(popoverCards, kind.card).rawValue) && kind.applies(monitor_.readings());
+        const auto present = cards_.find(kind.card);
+        if (wanted && present == cards_.end()) {
+            Card* card = kind.make(context_);
+            column_->insertWidget(place, card);
+            card->show(); // now, not when the layout gets to it
+            cards_[kind.card] = card;
+        } else if (!wanted && present != cards_.end()) {
+            delete present->second;
+            cards_.erase(present);
+        }
+        place += wanted ? 1 : 0;
+    }
 }
 
 } // namespace vantrix

@@ -1,38 +1,49 @@
 #pragma once
 
-#include <QWidget>
+#include <map>
+
+#include "menubar/display_choices.h"
+#include "popover/cards/card.h"
+#include "popover/header_view.h"
+
+class QVBoxLayout;
 
 namespace vantrix {
 
-class ProcessorDescription;
 class SystemMonitor;
-class UserDefaults;
-struct MenuBarPalette;
 
-/// What the popover shows: the program's name, the processor, and the status row at reading size. It follows the
-/// monitor while it is visible and costs nothing while it is not.
-class PopoverView : public QWidget {
+/// What the popover shows: a header, and the chosen cards in a column that scrolls. It follows the monitor and the
+/// settings while it is visible and costs nothing while it is not.
+class PopoverView : public View {
     Q_OBJECT
   public:
     static constexpr int contentWidth = 340;
 
-    /// All outlive the view.
-    PopoverView(const SystemMonitor& monitor, const UserDefaults& defaults, const ProcessorDescription& processor);
+    /// `monitor` and what `context` names outlive the view.
+    PopoverView(const SystemMonitor& monitor, const CardContext& context, HeaderView::MenuEntries menuEntries);
+
+    /// The cards in the column, from the top.
+    std::vector<PopoverCard> shownCards() const;
 
     QSize sizeHint() const override;
 
   protected:
-    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
   private:
-    void paintHeader(QPainter& painter) const;
-    void paintRow(QPainter& painter, const MenuBarPalette& palette) const;
+    QWidget* makeColumn();
+    void addShortcuts(const std::vector<StatusMenuEntry>& entries);
+    void scheduleRefresh();
+    void refresh();
+    void placeCards();
 
     const SystemMonitor& monitor_;
-    const UserDefaults& defaults_;
-    const ProcessorDescription& processor_;
+    CardContext context_;
+    QVBoxLayout* column_ = nullptr;
+    QWidget* emptySelection_ = nullptr;  // says so
+    std::map<PopoverCard, Card*> cards_; // those in the column; it owns them
+    bool isScheduled_ = false;
 };
 
 } // namespace vantrix

@@ -15,9 +15,13 @@ MemorySample::Pressure pressureOfLevel(std::optional<std::int64_t> level) {
 
 } // namespace
 
-double usedFraction(const MemorySample& memory) {
+std::uint64_t usedMemory(const MemorySample& memory) {
     constexpr auto fault = "the sum of app, wired and compressed memory overflows";
-    const auto used = checkedAdd(checkedAdd(memory.app, memory.wired, fault), memory.compressed, fault);
+    return checkedAdd(checkedAdd(memory.app, memory.wired, fault), memory.compressed, fault);
+}
+
+double usedFraction(const MemorySample& memory) {
+    const std::uint64_t used = usedMemory(memory);
     if (memory.total == 0)
         return 0.0;
     return std::min(static_cast<double>(used) / static_cast<double>(memory.total), 1.0);

@@ -19,7 +19,10 @@ struct MemorySample {
     bool operator==(const MemorySample&) const = default;
 };
 
-/// (app + wired + compressed) / total, at most 1; 0 when the total is 0. A sum past 64 bits is a fault.
+/// app + wired + compressed, bytes. A sum past 64 bits is a fault.
+std::uint64_t usedMemory(const MemorySample& memory);
+
+/// `usedMemory` / total, at most 1; 0 when the total is 0.
 double usedFraction(const MemorySample& memory);
 
 class MemorySampler {

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace vantrix {
 
@@ -22,5 +23,8 @@ struct NetworkInfo {
 
     bool operator==(const NetworkInfo&) const = default;
 };
+
+/// How good a received signal of `rssi` dBm is, in English; absent when the signal is not known.
+std::optional<std::string_view> signalQuality(std::optional<int> rssi);
 
 } // namespace vantrix

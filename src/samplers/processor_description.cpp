@@ -11,7 +11,7 @@ std::string describeCores(const SystemInformation& information) {
     const auto efficiency = information.integer("hw.perflevel1.logicalcpu");
     if (performance && efficiency)
         return formatted(localized("%lld cores (%lldP + %lldE)"), {logical, *performance, *efficiency});
-    return formatted(localized("%lld cores"), {logical});
+    return localizedCount("%lld cores", logical);
 }
 
 } // namespace

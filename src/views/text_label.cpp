@@ -13,6 +13,7 @@ namespace vantrix {
 namespace {
 
 constexpr int unbounded = 1 << 20;
+constexpr double leastScale = 0.75; // of a text that has to stay on one line
 
 } // namespace
 
@@ -62,6 +63,8 @@ QSize TextLabel::minimumSizeHint() const {
 }
 
 int TextLabel::heightForWidth(int width) const {
+    if (!style_.wraps)
+        return -1;
     const QFontMetricsF metrics(theme().font(style_.points, style_.weight));
     const QRectF bounds = metrics.boundingRect(QRectF(0, 0, width, unbounded), Qt::TextWordWrap, text_);
     return static_cast<int>(std::ceil(std::max(bounds.height(), metrics.height())));
@@ -72,10 +75,21 @@ void TextLabel::resizeEvent(QResizeEvent*) {
 }
 
 void TextLabel::updateToolTip() {
-    const bool cut = !style_.wraps && naturalWidth() > width() + 0.5;
+    const bool cut = !style_.wraps && !style_.monospaced && naturalWidth() * leastScale > width();
     const QString wanted = cut ? text_ : QString();
     if (toolTip() != wanted)
         setToolTip(wanted);
+}
+
+void TextLabel::paintNumber(QPainter& painter, const QColor& color, const QFontMetricsF& metrics) const {
+    // A number that lost its last digits would lie: one too wide is set smaller instead.
+    const double scale = std::min(1.0, width() / std::max(naturalWidth(), 1.0));
+    const auto side = QStyle::visualAlignment(layoutDirection(), style_.side);
+    const double spare = width() - naturalWidth() * scale;
+    const double x = side & Qt::AlignRight ? spare : side & Qt::AlignHCenter ? spare / 2.0 : 0.0;
+    painter.translate(x, std::round((height() - metrics.height()) / 2.0 + metrics.ascent()));
+    painter.scale(scale, scale);
+    theme().digits(style_.points, style_.weight).draw(painter, {}, text_.toStdString(), color);
 }
 
 void TextLabel::paintEvent(QPaintEvent*) {
@@ -83,22 +97,19 @@ void TextLabel::paintEvent(QPaintEvent*) {
     const QColor color = color_.isValid() ? color_ : theme().colors().*style_.color;
     const QFont font = theme().font(style_.points, style_.weight);
     const QFontMetricsF metrics(font);
-    const bool fits = naturalWidth() <= width() + 0.5;
-    if (style_.monospaced && fits) {
-        const bool atRight = style_.trailing != (layoutDirection() == Qt::RightToLeft);
-        const double x = atRight ? width() - naturalWidth() : 0.0;
-        const double baseline = std::round((height() - metrics.height()) / 2.0 + metrics.ascent());
-        theme().digits(style_.points, style_.weight).draw(painter, {x, baseline}, text_.toStdString(), color);
-        return;
-    }
+    if (style_.monospaced)
+        return paintNumber(painter, color, metrics);
     painter.setFont(font);
     painter.setPen(color);
-    const Qt::Alignment side = style_.trailing ? Qt::AlignRight : Qt::AlignLeft;
-    const auto alignment = QStyle::visualAlignment(layoutDirection(), side);
+    const auto alignment = QStyle::visualAlignment(layoutDirection(), style_.side);
     if (style_.wraps)
         return painter.drawText(rect(), static_cast<int>(alignment | Qt::AlignTop) | Qt::TextWordWrap, text_);
-    const QString shown = fits ? text_ : metrics.elidedText(text_, Qt::ElideRight, width());
-    painter.drawText(rect(), static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
+    // A little smaller is better than cut.
+    const double scale = std::clamp(width() / std::max(naturalWidth(), 1.0), leastScale, 1.0);
+    const QRectF room(0.0, 0.0, width() / scale, height() / scale);
+    const QString shown = metrics.elidedText(text_, Qt::ElideRight, std::ceil(room.width()));
+    painter.scale(scale, scale);
+    painter.drawText(room, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
 }
 
 } // namespace vantrix

@@ -5,6 +5,8 @@
 #include "views/theme_colors.h"
 #include "views/view.h"
 
+class QFontMetricsF;
+
 namespace vantrix {
 
 /// A text that shows itself whole: it takes as many lines as it needs, or, where it has to stay on one, ends in an
@@ -15,9 +17,9 @@ class TextLabel : public View {
         double points = 11.0;
         QFont::Weight weight = QFont::Normal;
         QColor ThemeColors::*color = &ThemeColors::label;
-        bool wraps = false;      ///< more lines rather than an ellipsis
-        bool monospaced = false; ///< digits of equal advance; one line only
-        bool trailing = false;   ///< aligned with the trailing edge
+        bool wraps = false;                 ///< more lines rather than an ellipsis
+        bool monospaced = false;            ///< digits of equal advance; one line only
+        Qt::Alignment side = Qt::AlignLeft; ///< or AlignRight, AlignHCenter; mirrored from right to left
     };
 
     TextLabel(const Theme& theme, const Style& style, const QString& text = {});
@@ -41,6 +43,7 @@ class TextLabel : public View {
 
   private:
     double naturalWidth() const;
+    void paintNumber(QPainter& painter, const QColor& color, const QFontMetricsF& metrics) const;
     void updateToolTip();
 
     Style style_;

@@ -4,7 +4,6 @@
 #include <cmath>
 
 #include <QEvent>
-#include <QFontDatabase>
 #include <QFontInfo>
 #include <QGuiApplication>
 
@@ -65,7 +64,7 @@ bool Theme::eventFilter(QObject* watched, QEvent* event) {
 
 void Theme::refresh() {
     const Appearance appearance = source_.appearance();
-    const QString family = QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();
+    const QString family = QGuiApplication::font().family();
     const double textScale = desktopTextScale();
     if (family == family_ && textScale == textScale_ && appearance == appearance_)
         return;

@@ -53,7 +53,7 @@ ThemeColors darkColors() {
 
 ThemeColors lightColors() {
     return {
-        .window = QColor(245, 245, 247),
+        .window = QColor(252, 252, 253),
         .card = shade(false, 0.06f),
         .separator = shade(false, 0.11f),
         .control = QColor(255, 255, 255),

@@ -61,4 +61,10 @@ QString localizedText(std::string_view english) {
     return QString::fromStdString(localized(english));
 }
 
+QString localizedText(std::string_view english, const QString& value) {
+    QString text = localizedText(english);
+    const auto mark = text.indexOf(u"%@");
+    return mark < 0 ? text : text.replace(mark, 2, value);
+}
+
 } // namespace vantrix

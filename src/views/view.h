@@ -32,5 +32,7 @@ class View : public QWidget {
 
 /// `english` in the user's language.
 QString localizedText(std::string_view english);
+/// The same with `value` in the place of its mark "%@".
+QString localizedText(std::string_view english, const QString& value);
 
 } // namespace vantrix

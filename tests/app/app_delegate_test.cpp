@@ -6,8 +6,11 @@
 
 #include <gmock/gmock.h>
 
+#include "fakes/fake_appearance.h"
 #include "fakes/fake_defaults.h"
+#include "fakes/fake_login_item.h"
 #include "fakes/fake_sources.h"
+#include "settings/settings_view.h"
 
 namespace vantrix {
 namespace {
@@ -26,13 +29,14 @@ class AppDelegateTest : public ::testing::Test {
   protected:
     AppDelegateTest()
         : delegate({.sources = machine.makeSources(),
+                    .appearance = appearance,
                     .makeStatusItem =
                         [this](StatusItem::Handlers handlers) {
                             auto made = std::make_unique<FakeStatusItem>(std::move(handlers));
                             item = made.get();
                             return made;
                         },
-                    .showSettings = [this] { ++settingsShown; }},
+                    .loginItem = std::make_unique<fakes::FakeLoginItem>()},
                    defaults) {
         delegate.applicationDidFinishLaunching();
     }
@@ -42,10 +46,18 @@ class AppDelegateTest : public ::testing::Test {
     static bool menuIsOpen() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; }
     static bool popoverIsOpen() { return QApplication::activePopupWidget() != nullptr && !menuIsOpen(); }
 
+    /// The settings window while it is open.
+    static SettingsView* settings() {
+        for (QWidget* window : QApplication::topLevelWidgets())
+            if (auto* view = qobject_cast<SettingsView*>(window); view && view->isVisible())
+                return view;
+        return nullptr;
+    }
+
     fakes::FakeMachine machine;
+    fakes::FakeAppearance appearance;
     fakes::FakeDefaults defaults;
     FakeStatusItem* item = nullptr;
-    int settingsShown = 0;
     AppDelegate delegate;
 };
 
@@ -90,7 +102,7 @@ TEST_F(AppDelegateTest, TheMenuHasItsEntriesAndObeysTheirShortcuts) {
     click(Button::right);
     QKeyEvent comma(QEvent::KeyPress, Qt::Key_Comma, Qt::ControlModifier);
     QApplication::sendEvent(QApplication::activePopupWidget(), &comma);
-    EXPECT_EQ(settingsShown, 1);
+    EXPECT_NE(settings(), nullptr);
     EXPECT_FALSE(menuIsOpen());
 }
 
@@ -112,10 +124,14 @@ TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {
     delegate.handleRequest("show-popover");
     EXPECT_TRUE(popoverIsOpen());
     delegate.handleRequest("show-settings alerts");
-    EXPECT_EQ(settingsShown, 1);
-    delegate.handleRequest("");
-    delegate.handleRequest("nonsense");
-    QApplication::activePopupWidget()->close();
+    EXPECT_FALSE(popoverIsOpen()); // it would cover what was asked for
+    ASSERT_NE(settings(), nullptr);
+    EXPECT_EQ(settings()->currentTab(), SettingsTab::alerts);
+    delegate.handleRequest("show-settings"); // the tab that was shown last
+    EXPECT_EQ(settings()->currentTab(), SettingsTab::alerts);
+    for (const char* request : {"", "nonsense", "show-settings nonsense", "show-settingsgeneral"})
+        delegate.handleRequest(request);
+    EXPECT_EQ(settings()->currentTab(), SettingsTab::alerts);
 }
 
 } // namespace

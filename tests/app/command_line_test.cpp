@@ -22,7 +22,9 @@ TEST(CommandLine, ReadsEveryRequest) {
         {{"--show-settings", "menuBar"}, Action::showSettings},
         {{"--quit"}, Action::quit},
         {{"-platform", "offscreen"}, Action::run},
+        {{"-reverse"}, Action::run},
         {{"-exportScreenshots"}, Action::run}, // no folder behind it
+        {{"-exportScreenshots", "/tmp/pictures"}, Action::exportScreenshots},
     };
     for (const Case& c : cases) {
         const auto parsed = parseCommandLine(c.arguments);

@@ -2,9 +2,11 @@
 
 #include <chrono>
 #include <csignal>
+#include <map>
 
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -72,6 +74,27 @@ TEST_F(ProgramTest, PrintsTheAskedNumberOfLines) {
     EXPECT_EQ(errors, QString());
 }
 
+TEST_F(ProgramTest, SpeaksTheLanguageOfTheEnvironment) {
+    struct Row {
+        const char* language;
+        const char* all;
+        const char* lang;
+        const char* caption;
+    };
+    for (const Row& row : {Row{"", "", "it_IT.UTF-8", "DISCO"}, Row{"zh_TW:fr", "", "zh_TW.UTF-8", "DISQ"},
+                           Row{"it", "C", "it_IT.UTF-8", "DISK"}, Row{"", "es_ES.UTF-8", "fr_FR.UTF-8", "DISCO"}}) {
+        auto environment = process.processEnvironment();
+        environment.insert(u"LANGUAGE"_s, QLatin1StringView(row.language));
+        environment.insert(u"LC_ALL"_s, QLatin1StringView(row.all));
+        environment.insert(u"LC_MESSAGES"_s, QString());
+        environment.insert(u"LANG"_s, QLatin1StringView(row.lang));
+        process.setProcessEnvironment(environment);
+        EXPECT_EQ(run({u"--print"_s, u"text"_s, u"--count"_s, u"1"_s, u"--modules"_s, u"disk"_s}), 0);
+        EXPECT_TRUE(output.startsWith(QLatin1StringView(row.caption) + u' '))
+            << row.language << ' ' << row.all << ' ' << row.lang << ": " << output.toStdString();
+    }
+}
+
 TEST_F(ProgramTest, WithoutADisplayItSaysSoAndPrints) {
     start({});
     ASSERT_TRUE(process.waitForReadyRead(patience));
@@ -90,6 +113,44 @@ TEST_F(ProgramTest, AClosedStandardOutputEndsPrintingQuietly) {
     EXPECT_EQ(process.exitCode(), 0);
     EXPECT_EQ(process.readAllStandardOutput().count('\n'), 1);
     EXPECT_EQ(process.readAllStandardError(), QByteArray());
+}
+
+TEST_F(ProgramTest, ExportsTheSamePicturesEachTime) {
+    QTemporaryDir target;
+    const QDir pictures(target.filePath(u"not/there/yet"_s));
+    const auto contents = [&] {
+        std::map<QString, QByteArray> files;
+        for (const QString& name : pictures.entryList(QDir::Files)) {
+            QFile file(pictures.filePath(name));
+            EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+            files[name] = file.readAll();
+        }
+        return files;
+    };
+    EXPECT_EQ(run({u"-exportScreenshots"_s, pictures.path()}), 0);
+    const auto first = contents();
+    EXPECT_EQ(first.size(), 17u); // 2 popovers, 6 rows, 8 tabs and the log
+    for (const auto& [name, data] : first)
+        EXPECT_GT(data.size(), 500) << name.toStdString();
+    EXPECT_EQ(QImage::fromData(first.at(u"settings-general-dark.png"_s)).size(), QSize(1040, 1000));
+    EXPECT_EQ(QImage::fromData(first.at(u"popover-light.png"_s)).width(), 680);
+    EXPECT_EQ(run({u"-exportScreenshots"_s, pictures.path()}), 0);
+    EXPECT_EQ(contents(), first); // the log was begun anew
+    const QByteArray log = first.at(u"export.log"_s);
+    EXPECT_TRUE(log.startsWith("avvio, cartella: " + pictures.path().toUtf8() + "\ncreo il monitor\n"));
+    EXPECT_TRUE(log.endsWith("salvato settings-alerts-light.png\nfinito\n"));
+    EXPECT_TRUE(errors.startsWith(u"   [export] avvio, cartella: "_s)) << errors.toStdString();
+    EXPECT_TRUE(QDir(folder.path()).isEmpty()); // the user's settings were left alone
+}
+
+TEST_F(ProgramTest, AnExportSaysWhatItCouldNotWrite) {
+    QTemporaryDir target;
+    ASSERT_TRUE(QDir(target.path()).mkpath(u"popover-dark.png"_s)); // a folder where a picture should go
+    EXPECT_EQ(run({u"-exportScreenshots"_s, target.path()}), 0);
+    EXPECT_TRUE(errors.contains(u"ERRORE scrittura popover-dark: "_s)) << errors.toStdString();
+    EXPECT_TRUE(errors.contains(u"salvato popover-light.png"_s));
+    EXPECT_EQ(run({u"-exportScreenshots"_s, u"/dev/null/nowhere"_s}), 1);
+    EXPECT_EQ(errors.count(u'\n'), 1) << errors.toStdString();
 }
 
 TEST_F(ProgramTest, RequestsWithoutARunningInstanceFailInOneLine) {

@@ -1,77 +1,161 @@
 #include "popover/popover_host.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
 
 #include <gmock/gmock.h>
+
+#include "fakes/fake_appearance.h"
+#include "popover/popover_place.h"
+#include "views/theme.h"
 
 namespace vantrix {
 namespace {
 
-TEST(PopoverHeight, LeavesAMarginButNeverBecomesUseless) {
-    EXPECT_EQ(popoverHeight(1080.0), 1050);
-    EXPECT_EQ(popoverHeight(400.0), 480);
-    EXPECT_EQ(popoverHeight(899.5), 870);
-    EXPECT_EQ(popoverHeight(0.0), 870); // no screen
-}
-
-TEST(PopoverPlace, StaysInTheVisibleAreaBesideTheItem) {
-    const QRect visible(0, 30, 1000, 700); // a panel of 30 points at the top
-    const QSize size(340, 200);
-    struct Case {
-        const char* name;
-        QRect anchor;
-        QRect expected;
-    };
-    const Case cases[] = {
-        {"below a top panel, centred", {500, 0, 100, 30}, {379, 34, 340, 200}},
-        {"pushed in from the right edge", {960, 0, 40, 30}, {660, 34, 340, 200}},
-        {"pushed in from the left edge", {0, 0, 40, 30}, {0, 34, 340, 200}},
-        {"above a bottom panel", {500, 730, 100, 30}, {379, 526, 340, 200}},
-        {"beside a panel at the left", {0, 400, 30, 22}, {0, 426, 340, 200}},
-        {"low on a panel at the left", {0, 700, 30, 22}, {0, 496, 340, 200}},
-        {"an anchor off the screen", {-500, -500, 10, 10}, {0, 30, 340, 200}},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(popoverPlace(size, c.anchor, visible), c.expected) << c.name;
-}
-
 class PopoverHostTest : public ::testing::Test {
   protected:
-    PopoverHostTest() {
-        auto widget = std::make_unique<QWidget>();
-        view = widget.get();
-        host = std::make_unique<PopoverHost>(std::move(widget));
+    std::unique_ptr<QWidget> makeView() {
+        ++viewsMade;
+        auto made = std::make_unique<QWidget>();
+        auto* layout = new QVBoxLayout(made.get());
+        for (QPushButton*& button : buttons)
+            layout->addWidget(button = new QPushButton(made.get()));
+        view = made.get();
+        return made;
+    }
+
+    QWidget* window() const { return view->window(); }
+
+    void press(QWidget* receiver, Qt::Key key) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(receiver, &event);
     }
 
     const QRect anchor{100, 0, 50, 22};
+    bool canFade = false;
+    int viewsMade = 0;
     QWidget* view = nullptr;
-    std::unique_ptr<PopoverHost> host;
+    QPushButton* buttons[2] = {};
+    fakes::FakeAppearance appearance;
+    Theme theme{appearance};
+    PopoverHost host{theme, [this] { return makeView(); }, [this] { return canFade; }};
 };
 
-TEST_F(PopoverHostTest, TogglesOpenAndShut) {
-    host->toggle(anchor);
-    EXPECT_TRUE(host->isShown());
-    host->toggle(anchor);
-    EXPECT_FALSE(host->isShown());
+TEST_F(PopoverHostTest, MakesItsViewWhenItIsFirstShownAndKeepsIt) {
+    host.close();
+    EXPECT_FALSE(host.isShown());
+    EXPECT_EQ(viewsMade, 0);
+    for (int round = 0; round < 3; ++round) {
+        host.show(anchor);
+        EXPECT_TRUE(view->isVisible());
+        host.close();
+        EXPECT_FALSE(view->isVisible());
+    }
+    EXPECT_EQ(viewsMade, 1);
 }
 
-TEST_F(PopoverHostTest, TheClickThatClosedItByLandingOutsideDoesNotReopenIt) {
-    host->show(anchor);
-    view->hide(); // what the toolkit does on a press outside, which may be one on the status item
-    host->toggle(anchor);
-    EXPECT_FALSE(host->isShown());
+TEST_F(PopoverHostTest, TogglesOpenAndShut) {
+    host.toggle(anchor);
+    EXPECT_TRUE(host.isShown());
+    host.toggle(anchor);
+    EXPECT_FALSE(host.isShown());
+}
+
+TEST_F(PopoverHostTest, IsAsLargeAsTheScreenSaysWhateverItShows) {
+    const QSize wanted(340, popoverHeight(QGuiApplication::primaryScreen()->availableGeometry().height()));
+    for (const QSize& content : {QSize(20, 20), QSize(600, 4000)}) {
+        host.show(anchor);
+        view->setMinimumSize(content);
+        QApplication::sendPostedEvents();
+        host.close();
+        host.show(anchor);
+        QApplication::sendPostedEvents();
+        EXPECT_EQ(window()->size(), wanted) << content.width();
+    }
+}
+
+TEST_F(PopoverHostTest, AClickOutsideClosesItAndDoesNotReopenIt) {
+    host.show(anchor);
+    const QPointF outside(-50, -10);
+    QMouseEvent click(QEvent::MouseButtonPress, outside, window()->mapToGlobal(outside), Qt::LeftButton, Qt::LeftButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(window(), &click);
+    EXPECT_FALSE(host.isShown());
+    host.toggle(anchor); // the same click, where it landed on the status item
+    EXPECT_FALSE(host.isShown());
+    host.toggle(anchor); // the next one
+    EXPECT_TRUE(host.isShown());
 }
 
 TEST_F(PopoverHostTest, EscapeAndLosingTheFocusCloseIt) {
-    host->show(anchor);
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QApplication::sendEvent(view, &escape);
-    EXPECT_FALSE(host->isShown());
-    host->show(anchor);
+    host.show(anchor);
+    press(window(), Qt::Key_Escape);
+    EXPECT_FALSE(host.isShown());
+    host.show(anchor);
+    press(buttons[0], Qt::Key_Escape);
+    EXPECT_FALSE(host.isShown());
+    host.show(anchor);
     QEvent deactivate(QEvent::WindowDeactivate);
-    QApplication::sendEvent(view, &deactivate);
-    EXPECT_FALSE(host->isShown());
+    QApplication::sendEvent(window(), &deactivate);
+    EXPECT_FALSE(host.isShown());
+}
+
+TEST_F(PopoverHostTest, TabGoesThroughItsControlsAnewEachTime) {
+    for (int round = 0; round < 2; ++round) {
+        host.show(anchor);
+        EXPECT_EQ(window()->focusWidget(), window());
+        press(window(), Qt::Key_Tab);
+        EXPECT_EQ(window()->focusWidget(), buttons[0]);
+        press(buttons[0], Qt::Key_Tab);
+        EXPECT_EQ(window()->focusWidget(), buttons[1]);
+        host.close();
+    }
+}
+
+TEST_F(PopoverHostTest, FadesInAndComesToRest) {
+    canFade = true;
+    host.show(anchor);
+    EXPECT_LT(window()->windowOpacity(), 0.5);
+    const QDeadlineTimer deadline(10000);
+    while (window()->windowOpacity() < 1.0 && !deadline.hasExpired())
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    EXPECT_EQ(window()->windowOpacity(), 1.0);
+    EXPECT_EQ(host.isFading(), false);
+    host.close();
+    host.show(anchor);
+    host.close();
+    EXPECT_FALSE(host.isFading()) << "closed while it faded in";
+}
+
+TEST_F(PopoverHostTest, DoesNotFadeWhereItCannotOrShouldNot) {
+    host.show(anchor);
+    EXPECT_EQ(window()->windowOpacity(), 1.0);
+    host.close();
+    canFade = true;
+    appearance.set({.reducesMotion = true});
+    host.show(anchor);
+    EXPECT_EQ(window()->windowOpacity(), 1.0);
+    EXPECT_FALSE(host.isFading());
+}
+
+TEST_F(PopoverHostTest, HasTheThemesGroundAndRoundCorners) {
+    for (const bool dark : {false, true}) {
+        appearance.set({.dark = dark});
+        host.show(anchor);
+        QImage picture(window()->size(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        window()->render(&picture, QPoint(), QRegion(), QWidget::DrawWindowBackground);
+        EXPECT_EQ(picture.pixelColor(picture.width() / 2, 40), theme.colors().window);
+        EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0);
+        EXPECT_NE(picture.pixelColor(0, picture.height() / 2), theme.colors().window) << "no hair line";
+        EXPECT_EQ(view->palette().color(QPalette::WindowText), theme.palette().color(QPalette::WindowText));
+        host.close();
+    }
 }
 
 } // namespace

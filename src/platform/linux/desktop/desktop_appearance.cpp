@@ -1,5 +1,6 @@
 #include "platform/linux/desktop/desktop_appearance.h"
 
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -8,6 +9,8 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "platform/linux/desktop/session_bus.h"
+
 namespace vantrix {
 
 namespace {
@@ -15,76 +18,88 @@ namespace {
 const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
-const QString appearanceGroup = QStringLiteral("org.freedesktop.appearance");
-const QString schemeKey = QStringLiteral("color-scheme");
 
-// The portal's answer to Read is wrapped in one variant more than the signal's value.
-QVariant unwrapped(QVariant value) {
-    while (value.metaType() == QMetaType::fromType<QDBusVariant>())
-        value = value.value<QDBusVariant>().variant();
-    return value;
+Appearance appearanceAfter(const DesktopWishes& wishes) {
+    const QColor window = QGuiApplication::palette().color(QPalette::Window);
+    return {.dark = wishes.dark().value_or(window.lightness() < 128),
+            .accent = wishes.accent(),
+            .reducesMotion = wishes.reducesMotion()};
 }
 
 } // namespace
 
-DesktopAppearance::DesktopAppearance(const std::optional<QDBusConnection>& bus) : bus_(bus), announced_(dark()) {
+DesktopAppearance::DesktopAppearance(const std::optional<QDBusConnection>& bus)
+    : bus_(bus), appearance_(appearanceAfter(wishes_)) {
     qGuiApp->installEventFilter(this);
     if (!bus_)
         return;
     bus_->connect(QString(), portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
-                  SLOT(settingChanged(QString, QString, QDBusVariant)));
+                  SLOT(settingChanged(QDBusMessage)));
     // The portal often starts later than a program of the session.
     bus_->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
                   QStringLiteral("NameOwnerChanged"), {portalName}, QString(), this,
                   SLOT(portalOwnerChanged(QString, QString, QString)));
-    readScheme();
-}
-
-bool DesktopAppearance::dark() const {
-    const QColor window = QGuiApplication::palette().color(QPalette::Window);
-    return preferred_.value_or(window.lightness() < 128);
+    readSettings();
 }
 
 bool DesktopAppearance::eventFilter(QObject* watched, QEvent* event) {
     if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
-        QMetaObject::invokeMethod(
-            this, [this] { take({}); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &DesktopAppearance::announce, Qt::QueuedConnection);
     return false;
 }
 
 void DesktopAppearance::portalOwnerChanged(const QString&, const QString&, const QString& newOwner) {
     if (!newOwner.isEmpty())
-        readScheme();
+        return readSettings();
+    wishes_ = {};
+    announce();
 }
 
-void DesktopAppearance::settingChanged(const QString& group, const QString& key, const QDBusVariant& value) {
-    if (group == appearanceGroup && key == schemeKey)
-        take(value.variant());
+void DesktopAppearance::settingChanged(const QDBusMessage& signal) {
+    if (signal.signature() != u"ssv")
+        return;
+    const QVariantList arguments = signal.arguments();
+    wishes_.take(arguments[0].toString(), arguments[1].toString(), arguments[2]);
+    announce();
 }
 
-void DesktopAppearance::readScheme() {
-    auto message = QDBusMessage::createMethodCall(portalName, portalPath, settingsInterface, QStringLiteral("Read"));
-    message << appearanceGroup << schemeKey;
+void DesktopAppearance::readSettings() {
+    auto message = QDBusMessage::createMethodCall(portalName, portalPath, settingsInterface, QStringLiteral("ReadAll"));
+    message << DesktopWishes::groups();
     // Where no portal runs the palette does; starting one costs far more than it tells.
     message.setAutoStartService(false);
     auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
         done->deleteLater();
-        const QDBusMessage reply = done->reply();
-        if (reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty())
-            take(reply.arguments().constFirst());
+        takeSettings(done->reply());
     });
 }
 
-void DesktopAppearance::take(const QVariant& value) {
-    if (value.isValid()) {
-        const uint scheme = unwrapped(value).toUInt(); // 1 dark, 2 light, else no preference
-        preferred_ = scheme == 1 || scheme == 2 ? std::optional(scheme == 1) : std::nullopt;
-    }
-    if (dark() == announced_)
+void DesktopAppearance::takeSettings(const QDBusMessage& reply) {
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != u"a{sa{sv}}")
         return;
-    announced_ = dark();
+    const auto groups = qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().constFirst());
+    wishes_ = {};
+    for (auto group = groups.begin(); group != groups.end(); ++group)
+        for (auto setting = group->begin(); setting != group->end(); ++setting)
+            wishes_.take(group.key(), setting.key(), setting.value());
+    announce();
+}
+
+void DesktopAppearance::announce() {
+    const Appearance now = appearanceAfter(wishes_);
+    if (now == appearance_)
+        return;
+    appearance_ = now;
     Q_EMIT changed();
+}
+
+std::unique_ptr<AppearanceSource> makeAppearanceSource() {
+    if (!sessionBusAddress())
+        return std::make_unique<DesktopAppearance>(std::nullopt);
+    // The toolkit has this connection open anyway.
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    return std::make_unique<DesktopAppearance>(bus.isConnected() ? std::optional(bus) : std::nullopt);
 }
 
 } // namespace vantrix

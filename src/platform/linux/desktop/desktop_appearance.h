@@ -3,38 +3,37 @@
 #include <optional>
 
 #include <QDBusConnection>
-#include <QObject>
+#include <QDBusMessage>
 
-class QDBusVariant;
+#include "platform/appearance.h"
+#include "platform/linux/desktop/desktop_wishes.h"
 
 namespace vantrix {
 
-/// Whether the desktop is dark or light, after org.freedesktop.portal.Settings (color-scheme) and, while nobody
-/// answers there or there is no preference, after the application's palette. Never waits.
-class DesktopAppearance : public QObject {
+/// The appearance after org.freedesktop.portal.Settings and, while nobody answers there or there is no preference,
+/// after the application's palette. Never waits, and never starts the portal.
+class DesktopAppearance : public AppearanceSource {
     Q_OBJECT
   public:
     /// Without a bus the palette alone decides.
     explicit DesktopAppearance(const std::optional<QDBusConnection>& bus);
 
-    bool dark() const;
+    Appearance appearance() const override { return appearance_; }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-  Q_SIGNALS:
-    void changed();
-
   private Q_SLOTS:
     void portalOwnerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    void settingChanged(const QDBusMessage& signal);
 
   private:
-    void readScheme();
-    void take(const QVariant& value);
+    void readSettings();
+    void takeSettings(const QDBusMessage& reply);
+    void announce();
 
     std::optional<QDBusConnection> bus_;
-    std::optional<bool> preferred_;
-    bool announced_;
+    DesktopWishes wishes_;
+    Appearance appearance_;
 };
 
 } // namespace vantrix

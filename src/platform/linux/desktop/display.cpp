@@ -6,7 +6,8 @@
 #include <string_view>
 
 #include <QLibraryInfo>
-#include <xcb/xcb.h>
+
+#include "platform/linux/desktop/xcb_support.h"
 
 namespace vantrix {
 namespace {
@@ -53,6 +54,19 @@ std::shared_ptr<void> prepareDisplay(int argc, char** argv) {
         return nullptr;
     qputenv("QT_QPA_PLATFORM", "wayland");
     return nothingToKeep;
+}
+
+void drawOffscreen() {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+bool windowsAreBlended() {
+    xcb_connection_t* connection = xcbConnection();
+    return connection == nullptr || xcbComposited(connection);
+}
+
+bool windowsCanFade() {
+    return xcbConnection() != nullptr && windowsAreBlended();
 }
 
 } // namespace vantrix

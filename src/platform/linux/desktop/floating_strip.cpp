@@ -4,16 +4,16 @@
 #include <cmath>
 
 #include <QApplication>
-#include <QBitmap>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
 
+#include "platform/appearance.h"
 #include "platform/linux/desktop/click_anchor.h"
-#include "platform/linux/desktop/desktop_appearance.h"
 #include "platform/linux/desktop/xcb_support.h"
 #include "support/user_defaults.h"
+#include "views/rounded_window.h"
 
 namespace vantrix {
 
@@ -27,11 +27,6 @@ constexpr double cornerRadius = 9.0;
 const QString placeX = QStringLiteral("statusStripX");
 const QString placeY = QStringLiteral("statusStripY");
 const QString placeScreen = QStringLiteral("statusStripScreen");
-
-bool blended() {
-    xcb_connection_t* connection = xcbConnection();
-    return connection == nullptr || xcbComposited(connection);
-}
 
 Qt::WindowFlags stripFlags() {
     Qt::WindowFlags flags =
@@ -71,7 +66,7 @@ QRect stripPlace(QSize size, const QRect& area, std::optional<QPoint> kept) {
     return {QPoint(x, y), size};
 }
 
-FloatingStrip::FloatingStrip(std::function<void(const StatusClick&)> clicked, const DesktopAppearance& appearance,
+FloatingStrip::FloatingStrip(std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
                              UserDefaults& defaults)
     : QWidget(nullptr, stripFlags()), clicked_(std::move(clicked)), appearance_(appearance), defaults_(defaults) {
     setAttribute(Qt::WA_TranslucentBackground);
@@ -137,19 +132,11 @@ void FloatingStrip::remember() {
 
 void FloatingStrip::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
-    if (blended())
-        return clearMask();
-    QBitmap shape(size());
-    shape.clear();
-    QPainter painter(&shape);
-    painter.setBrush(Qt::color1);
-    painter.drawRoundedRect(QRectF(rect()), cornerRadius, cornerRadius);
-    painter.end();
-    setMask(shape);
+    roundWindow(*this, cornerRadius);
 }
 
 void FloatingStrip::paintEvent(QPaintEvent*) {
-    const bool dark = appearance_.dark();
+    const bool dark = appearance_.appearance().dark;
     QPainter painter(this);
     // Nothing blends the soft corners there: the mask alone cuts them, and what it leaves must not shine through black.
     if (!mask().isEmpty())

@@ -10,7 +10,7 @@
 
 namespace vantrix {
 
-class DesktopAppearance;
+class AppearanceSource;
 class UserDefaults;
 
 /// The row in a small window of its own for desktops without a status area. Always on top, without an entry in the
@@ -18,7 +18,7 @@ class UserDefaults;
 class FloatingStrip : public QWidget, public StatusBackend {
     Q_OBJECT
   public:
-    FloatingStrip(std::function<void(const StatusClick&)> clicked, const DesktopAppearance& appearance,
+    FloatingStrip(std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
                   UserDefaults& defaults);
 
     void show(const StatusRow& row) override;
@@ -37,7 +37,7 @@ class FloatingStrip : public QWidget, public StatusBackend {
     void watchScreens();
 
     std::function<void(const StatusClick&)> clicked_;
-    const DesktopAppearance& appearance_;
+    const AppearanceSource& appearance_;
     UserDefaults& defaults_;
     StatusRow row_;
     std::optional<QPoint> grabbed_; ///< within the strip, while the left button is down

@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
+#include "platform/appearance.h"
 #include "platform/linux/desktop/click_anchor.h"
-#include "platform/linux/desktop/desktop_appearance.h"
 #include "platform/linux/desktop/floating_strip.h"
 #include "platform/linux/desktop/status_notifier.h"
 #include "platform/linux/desktop/tray_window.h"
@@ -12,13 +12,13 @@
 
 namespace vantrix {
 
-LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, const StatusSurroundings& surroundings)
-    : handlers_(std::move(handlers)), defaults_(defaults), surroundings_(surroundings) {
+LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, const AppearanceSource& appearance,
+                                 const StatusSurroundings& surroundings)
+    : handlers_(std::move(handlers)), defaults_(defaults), appearance_(appearance), surroundings_(surroundings) {
     if (surroundings_.busAddress)
         bus_ = std::make_unique<BusConnection>(*surroundings_.busAddress);
     const bool onBus = bus_ && bus_->isConnected();
-    appearance_ = std::make_unique<DesktopAppearance>(onBus ? std::optional(bus_->bus()) : std::nullopt);
-    connect(appearance_.get(), &DesktopAppearance::changed, this, &LinuxStatusItem::redraw);
+    connect(&appearance_, &AppearanceSource::changed, this, &LinuxStatusItem::redraw);
     if (onBus) {
         watch_ = std::make_unique<NotifierWatch>(bus_->bus(), surroundings_.hostOfProcess);
         connect(watch_.get(), &NotifierWatch::changed, this, [this] {
@@ -38,7 +38,7 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
         if (kind_ != Kind::none || candidate_ || !row_)
             return; // or a tray is still to show how much room it grants
         std::fputs("vantrix: no status area answers on this desktop; showing a strip instead\n", stderr);
-        use(Kind::strip, std::make_unique<FloatingStrip>(handlers_.clicked, *appearance_, defaults_));
+        use(Kind::strip, std::make_unique<FloatingStrip>(handlers_.clicked, appearance_, defaults_));
     });
 }
 
@@ -73,14 +73,14 @@ void LinuxStatusItem::choose() {
         return;
     if (watch_ && watch_->host())
         use(Kind::notifier,
-            std::make_unique<StatusNotifier>(*surroundings_.busAddress, *watch_->host(), handlers_, *appearance_,
+            std::make_unique<StatusNotifier>(*surroundings_.busAddress, *watch_->host(), handlers_, appearance_,
                                              [this] { return tray_ ? tray_->foreground() : std::nullopt; }));
     else if (kind_ == Kind::none && !stripTimer_.isActive())
         stripTimer_.start(surroundings_.stripDelay);
 }
 
 void LinuxStatusItem::tryTray() {
-    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_.clicked, *appearance_);
+    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_.clicked, appearance_);
     connect(candidate_.get(), &TrayWindow::settled, this, &LinuxStatusItem::traySettled, Qt::QueuedConnection);
     candidate_->show(*row_);
 }
@@ -126,8 +126,9 @@ QRect LinuxStatusItem::anchor() const {
     return candidate_ ? candidate_->anchor() : panelCorner(row_ ? row_->size().width() : 1);
 }
 
-std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& defaults) {
-    return std::make_unique<LinuxStatusItem>(std::move(handlers), defaults);
+std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& defaults,
+                                           const AppearanceSource& appearance) {
+    return std::make_unique<LinuxStatusItem>(std::move(handlers), defaults, appearance);
 }
 
 } // namespace vantrix

@@ -14,7 +14,7 @@
 
 namespace vantrix {
 
-class DesktopAppearance;
+class AppearanceSource;
 class StatusBackend;
 class TrayWindow;
 class X11Tray;
@@ -34,7 +34,8 @@ class LinuxStatusItem : public QObject, public StatusItem {
   public:
     enum class Kind { none, tray, notifier, strip };
 
-    LinuxStatusItem(Handlers handlers, UserDefaults& defaults, const StatusSurroundings& surroundings = {});
+    LinuxStatusItem(Handlers handlers, UserDefaults& defaults, const AppearanceSource& appearance,
+                    const StatusSurroundings& surroundings = {});
     ~LinuxStatusItem() override;
 
     void show(const StatusContent& content) override;
@@ -53,9 +54,9 @@ class LinuxStatusItem : public QObject, public StatusItem {
 
     Handlers handlers_;
     UserDefaults& defaults_;
+    const AppearanceSource& appearance_;
     StatusSurroundings surroundings_;
     std::unique_ptr<BusConnection> bus_;
-    std::unique_ptr<DesktopAppearance> appearance_;
     std::unique_ptr<NotifierWatch> watch_;
     std::unique_ptr<X11Tray> tray_;
 

@@ -4,8 +4,8 @@
 #include <QDBusMessage>
 #include <QGuiApplication>
 
+#include "platform/appearance.h"
 #include "platform/linux/desktop/click_anchor.h"
-#include "platform/linux/desktop/desktop_appearance.h"
 #include "platform/linux/desktop/panel_palette.h"
 #include "support/localization.h"
 
@@ -42,7 +42,7 @@ bool onX11() {
 } // namespace
 
 StatusNotifier::StatusNotifier(QString busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
-                               const DesktopAppearance& appearance, PanelText panelText)
+                               const AppearanceSource& appearance, PanelText panelText)
     : busAddress_(std::move(busAddress)), host_(host), handlers_(handlers), appearance_(appearance),
       panelText_(std::move(panelText)), paced_(host.pace, [this] { publish(); }),
       pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }) {
@@ -135,7 +135,7 @@ void StatusNotifier::publish() {
 MenuBarPalette StatusNotifier::palette() const {
     if (const std::optional<QColor> text = panelText_())
         return paletteForText(*text);
-    return paletteForPanel(host_.darkPanel || appearance_.dark());
+    return paletteForPanel(host_.darkPanel || appearance_.appearance().dark);
 }
 
 void StatusNotifier::update(std::size_t index, const MenuBarPalette& palette) {

@@ -17,7 +17,7 @@
 
 namespace vantrix {
 
-class DesktopAppearance;
+class AppearanceSource;
 
 /// The row as one or several StatusNotifierItems, laid out for the host at hand. Lives as long as that host does.
 /// Nothing here waits for an answer.
@@ -28,7 +28,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     using PanelText = std::function<std::optional<QColor>()>;
 
     StatusNotifier(QString busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
-                   const DesktopAppearance& appearance, PanelText panelText);
+                   const AppearanceSource& appearance, PanelText panelText);
 
     void show(const StatusRow& row) override;
     QRect anchor() const override;
@@ -53,7 +53,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     QString busAddress_;
     NotifierHost host_;
     StatusItem::Handlers handlers_;
-    const DesktopAppearance& appearance_;
+    const AppearanceSource& appearance_;
     PanelText panelText_;
 
     std::unique_ptr<BusConnection> connection_;

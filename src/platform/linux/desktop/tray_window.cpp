@@ -7,8 +7,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "platform/appearance.h"
 #include "platform/linux/desktop/click_anchor.h"
-#include "platform/linux/desktop/desktop_appearance.h"
 #include "platform/linux/desktop/panel_palette.h"
 #include "platform/linux/desktop/x11_tray.h"
 #include "platform/linux/desktop/xcb_support.h"
@@ -44,7 +44,7 @@ StatusClick clickOf(const QMouseEvent& event) {
 } // namespace
 
 TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked,
-                       const DesktopAppearance& appearance)
+                       const AppearanceSource& appearance)
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint), tray_(tray),
       clicked_(std::move(clicked)), appearance_(appearance), alpha_(tray.wantsAlpha()) {
     setAttribute(Qt::WA_TranslucentBackground, alpha_);
@@ -145,7 +145,7 @@ MenuBarPalette TrayWindow::rowPalette() const {
     const std::optional<QColor> text = tray_.foreground();
     if (text && (!ground || std::abs(perceivedLightness(*text) - *ground) > leastContrast))
         return paletteForText(*text);
-    return paletteForPanel(ground ? *ground < 0.5 : appearance_.dark());
+    return paletteForPanel(ground ? *ground < 0.5 : appearance_.appearance().dark);
 }
 
 void TrayWindow::paintEvent(QPaintEvent*) {

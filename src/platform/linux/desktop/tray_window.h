@@ -9,7 +9,7 @@
 
 namespace vantrix {
 
-class DesktopAppearance;
+class AppearanceSource;
 class X11Tray;
 
 /// The row as a window of its own inside the X11 system tray. Trays differ in how much room they grant, and tell it
@@ -17,7 +17,7 @@ class X11Tray;
 class TrayWindow : public QWidget, public StatusBackend {
     Q_OBJECT
   public:
-    TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked, const DesktopAppearance& appearance);
+    TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance);
 
     void show(const StatusRow& row) override;
     QRect anchor() const override;
@@ -43,7 +43,7 @@ class TrayWindow : public QWidget, public StatusBackend {
 
     X11Tray& tray_;
     std::function<void(const StatusClick&)> clicked_;
-    const DesktopAppearance& appearance_;
+    const AppearanceSource& appearance_;
     StatusRow row_;
     QImage background_; ///< the panel's, where the tray has no alpha channel
     QTimer verdict_;

@@ -31,7 +31,7 @@ TEST_F(LinuxStatusItemTest, ShowsAStripWhereThereIsNoBus) {
     for (const std::optional<QString>& address :
          {std::optional<QString>(), std::optional(u"unix:path=/nowhere/at/all"_qs), std::optional(u"garbage"_qs)}) {
         surroundings.busAddress = address;
-        item = std::make_unique<LinuxStatusItem>(handlers(), defaults, surroundings);
+        item = std::make_unique<LinuxStatusItem>(handlers(), defaults, appearance, surroundings);
         item->show(rowOf(12));
         expectStrip();
         item->show(rowOf(13));

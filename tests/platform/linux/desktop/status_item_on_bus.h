@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/fake_appearance.h"
 #include "fakes/fake_defaults.h"
 #include "platform/linux/desktop/fake_status_host.h"
 #include "platform/linux/desktop/linux_status_item.h"
@@ -37,7 +38,7 @@ class StatusItemOnBus : public ::testing::Test {
     void start(const StatusContent& content = rowOf(12)) {
         surroundings.busAddress = busAddress.value_or(bus.address());
         surroundings.hostOfProcess = [this](uint) { return layout; };
-        item = std::make_unique<LinuxStatusItem>(handlers(), defaults, surroundings);
+        item = std::make_unique<LinuxStatusItem>(handlers(), defaults, appearance, surroundings);
         item->show(content);
     }
 
@@ -76,6 +77,7 @@ class StatusItemOnBus : public ::testing::Test {
     PrivateBus bus;
     FakeStatusHost host{bus.address()};
     fakes::FakeDefaults defaults;
+    fakes::FakeAppearance appearance;
     std::optional<QString> busAddress; ///< where the bus is not the test's own
     StatusSurroundings surroundings{.stripDelay = std::chrono::milliseconds(30)};
     NotifierHost layout;

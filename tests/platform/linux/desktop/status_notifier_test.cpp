@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(Hosts, EveryHost,
 TEST_F(StatusNotifierTest, HostIsKnownByItsProcess) {
     start();
     surroundings.hostOfProcess = notifierHostOfProcess; // this process is no host that anybody knows
-    item = std::make_unique<LinuxStatusItem>(handlers(), defaults, surroundings);
+    item = std::make_unique<LinuxStatusItem>(handlers(), defaults, appearance, surroundings);
     item->show(rowOf(12));
     EXPECT_TRUE(awaitKind(Kind::notifier));
     EXPECT_EQ(notifierHostOfProcess(static_cast<uint>(getpid())).layout, NotifierLayout::tiles);

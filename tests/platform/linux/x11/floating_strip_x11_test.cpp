@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/fake_appearance.h"
 #include "fakes/memory_defaults_store.h"
 #include "platform/linux/desktop/floating_strip.h"
 #include "platform/linux/desktop/linux_status_item.h"
@@ -21,7 +22,7 @@ class StripOnScreen : public testing::Test {
     struct Shown {
         explicit Shown(StripOnScreen& test)
             : item({.clicked = [&test](const StatusClick& click) { test.clicks.push_back(click); }}, test.kept.defaults,
-                   {.busAddress = std::nullopt, .stripDelay = std::chrono::milliseconds(10)}) {
+                   test.appearance, {.busAddress = std::nullopt, .stripDelay = std::chrono::milliseconds(10)}) {
             item.show({.items = {{.label = "CPU", .lines = {"12%"}, .reference = "100%"}}});
             const bool up = becomes(nullptr, [&] { return item.kind() == Kind::strip; });
             EXPECT_TRUE(up);
@@ -43,6 +44,7 @@ class StripOnScreen : public testing::Test {
     QRect area() const { return QGuiApplication::primaryScreen()->availableGeometry(); }
 
     MemoryDefaults kept;
+    fakes::FakeAppearance appearance;
     std::vector<StatusClick> clicks;
     FakeTray mouse;
 };

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/fake_appearance.h"
 #include "fakes/memory_defaults_store.h"
 #include "platform/linux/desktop/linux_status_item.h"
 #include "platform/linux/x11/fake_tray.h"
@@ -34,10 +35,12 @@ class TrayRow : public testing::Test {
     }
 
     MemoryDefaults kept;
+    fakes::FakeAppearance appearance;
     StatusContent content = row(3);
     std::vector<StatusClick> clicks;
     LinuxStatusItem item{{.clicked = [this](const StatusClick& click) { clicks.push_back(click); }},
                          kept.defaults,
+                         appearance,
                          {.busAddress = std::nullopt, .stripDelay = std::chrono::milliseconds(50)}};
 };
 

@@ -12,7 +12,4 @@ namespace vantrix {
 /// A menu of `entries`. Unlike the toolkit's own, it obeys the entries' shortcuts while it is open.
 std::unique_ptr<QMenu> makeMenu(const std::vector<StatusMenuEntry>& entries);
 
-/// The top left corner of a menu of `size` beside `anchor`, inside the screen that the anchor is on.
-QPoint menuPlace(const QSize& size, const QRect& anchor);
-
 } // namespace vantrix

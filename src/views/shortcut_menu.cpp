@@ -1,10 +1,6 @@
-#include "app/status_menu.h"
+#include "views/shortcut_menu.h"
 
-#include <QGuiApplication>
 #include <QKeyEvent>
-#include <QScreen>
-
-#include "popover/popover_host.h"
 
 namespace vantrix {
 namespace {
@@ -38,13 +34,6 @@ std::unique_ptr<QMenu> makeMenu(const std::vector<StatusMenuEntry>& entries) {
         QObject::connect(action, &QAction::triggered, menu.get(), entry.action);
     }
     return menu;
-}
-
-QPoint menuPlace(const QSize& size, const QRect& anchor) {
-    const QScreen* screen = QGuiApplication::screenAt(anchor.center());
-    if (!screen)
-        screen = QGuiApplication::primaryScreen();
-    return screen ? popoverPlace(size, anchor, screen->geometry()).topLeft() : anchor.bottomLeft();
 }
 
 } // namespace vantrix

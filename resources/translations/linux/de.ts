@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name></name>
+    <!-- Texts that would be wrong on Linux: the source is the wording of the other tables -->
+    <message>
+        <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
+        <translation>GPU, Sensoren und Akku erscheinen nur auf Rechnern, die diese Werte liefern.</translation>
+    </message>
+    <message>
+        <source>Temperatures are not available on this Mac.</source>
+        <translation>Auf diesem Rechner sind keine Temperaturen verfügbar.</translation>
+    </message>
+    <message>
+        <source>Only %@ free on the startup disk.</source>
+        <translation>Nur noch %@ auf dem Systemlaufwerk frei.</translation>
+    </message>
+    <message>
+        <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
+        <translation>Benachrichtigungen sind für Vantrix deaktiviert. Aktiviere sie in den Benachrichtigungseinstellungen deines Desktops.</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="en">
+<context>
+    <name></name>
+    <!-- Texts that would be wrong on Linux: the source is the wording of the other tables -->
+    <message>
+        <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
+        <translation>GPU, Sensores y Batería solo aparecen en los equipos que ofrecen esos datos.</translation>
+    </message>
+    <message>
+        <source>Temperatures are not available on this Mac.</source>
+        <translation>Las temperaturas no están disponibles en este equipo.</translation>
+    </message>
+    <message>
+        <source>Only %@ free on the startup disk.</source>
+        <translation>Solo quedan %@ libres en el disco del sistema.</translation>
+    </message>
+    <message>
+        <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
+        <translation>Las notificaciones de Vantrix están desactivadas. Actívalas en los ajustes de notificaciones de tu escritorio.</translation>
+    </message>
+</context>
+</TS>

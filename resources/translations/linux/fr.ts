@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr_FR" sourcelanguage="en">
+<context>
+    <name></name>
+    <!-- Texts that would be wrong on Linux: the source is the wording of the other tables -->
+    <message>
+        <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
+        <translation>GPU, Capteurs et Batterie n’apparaissent que sur les ordinateurs qui fournissent ces données.</translation>
+    </message>
+    <message>
+        <source>Temperatures are not available on this Mac.</source>
+        <translation>Les températures ne sont pas disponibles sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Only %@ free on the startup disk.</source>
+        <translation>Plus que %@ libres sur le disque système.</translation>
+    </message>
+    <message>
+        <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
+        <translation>Les notifications de Vantrix sont désactivées. Activez-les dans les paramètres de notification de votre bureau.</translation>
+    </message>
+</context>
+</TS>

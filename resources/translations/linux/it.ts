@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it_IT" sourcelanguage="en">
+<context>
+    <name></name>
+    <!-- Texts that would be wrong on Linux: the source is the wording of the other tables -->
+    <message>
+        <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
+        <translation>GPU, Sensori e Batteria compaiono solo sui computer che ne forniscono i dati.</translation>
+    </message>
+    <message>
+        <source>Temperatures are not available on this Mac.</source>
+        <translation>Le temperature non sono disponibili su questo computer.</translation>
+    </message>
+    <message>
+        <source>Only %@ free on the startup disk.</source>
+        <translation>Solo %@ liberi sul disco di sistema.</translation>
+    </message>
+    <message>
+        <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
+        <translation>Le notifiche di Vantrix sono disattivate. Attivale nelle impostazioni di notifica del desktop.</translation>
+    </message>
+</context>
+</TS>

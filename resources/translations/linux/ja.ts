@@ -1,0 +1,24 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name></name>
+    <!-- Texts that would be wrong on Linux: the source is the wording of the other tables -->
+    <message>
+        <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
+        <translation>GPU、センサー、バッテリーは、情報を取得できるコンピューターでのみ表示されます。</translation>
+    </message>
+    <message>
+        <source>Temperatures are not available on this Mac.</source>
+        <translation>このコンピューターでは温度を取得できません。</translation>
+    </message>
+    <message>
+        <source>Only %@ free on the startup disk.</source>
+        <translation>システムディスクの空き容量は残り%@です。</translation>
+    </message>
+    <message>
+        <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
+        <translation>Vantrixの通知はオフになっています。デスクトップの通知設定でオンにしてください。</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,186 @@
+#include "app/screenshot_export.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <cstdlib>
+#include <mutex>
+#include <thread>
+
+#include <QDir>
+#include <QPainter>
+
+#include "app/export_log.h"
+#include "app/offscreen_window.h"
+#include "menubar/menu_bar_renderer.h"
+#include "menubar/preferences.h"
+#include "monitor/system_monitor.h"
+#include "platform/appearance.h"
+#include "platform/login_item.h"
+#include "popover/popover_view.h"
+#include "samplers/processor_description.h"
+#include "settings/settings_view.h"
+#include "support/user_defaults.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+constexpr QSize popoverCanvas(PopoverView::contentWidth, 2000);
+constexpr QSize rowPadding(12, 4);
+constexpr int timeoutStatus = 2;
+
+/// The user's settings with this run's own laid over them in memory.
+class OverlayStore final : public DefaultsStore {
+  public:
+    explicit OverlayStore(std::unique_ptr<DefaultsStore> stored) : stored_(std::move(stored)) {}
+
+    QVariant value(const QString& key) const override {
+        const auto own = own_.find(key);
+        return own != own_.end() ? *own : stored_->value(key);
+    }
+    void setValue(const QString& key, const QVariant& value) override { own_[key] = value; }
+
+  private:
+    std::unique_ptr<DefaultsStore> stored_;
+    QHash<QString, QVariant> own_;
+};
+
+/// The appearance of a picture; at rest, because pictures do not move.
+class FixedAppearance final : public AppearanceSource {
+  public:
+    explicit FixedAppearance(bool dark) : dark_(dark) {}
+    Appearance appearance() const override { return {dark_, std::nullopt, true}; }
+
+  private:
+    bool dark_;
+};
+
+/// As on the machine of someone who likes the program.
+class DemoLoginItem final : public LoginItem {
+  public:
+    bool isEnabled() const override { return true; }
+    void setEnabled(bool) override {}
+};
+
+/// Ends the process when an export hangs.
+class Watchdog {
+  public:
+    explicit Watchdog(ExportLog& log) : thread_([this, &log] { watch(log); }) {}
+    ~Watchdog() {
+        {
+            const std::lock_guard lock(mutex_);
+            finished_ = true;
+        }
+        condition_.notify_one();
+        thread_.join();
+    }
+    Watchdog(const Watchdog&) = delete;
+    Watchdog& operator=(const Watchdog&) = delete;
+
+  private:
+    void watch(ExportLog& log) {
+        std::unique_lock lock(mutex_);
+        if (condition_.wait_for(lock, std::chrono::seconds(90), [this] { return finished_; }))
+            return;
+        log.log(QStringLiteral("TIMEOUT: nessun risultato dopo 90 s"));
+        std::_Exit(timeoutStatus);
+    }
+
+    std::mutex mutex_;
+    std::condition_variable condition_;
+    bool finished_ = false;
+    std::thread thread_; // last: it uses what stands above
+};
+
+QString named(std::string_view name) {
+    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+}
+
+class Export {
+  public:
+    Export(ExportLog& log, SamplingSources sources, UserDefaults& defaults)
+        : log_(log), defaults_(defaults), information_(std::move(sources.information)), processor_(*information_),
+          monitor_(std::move(sources), defaults, std::make_unique<QtRepeatingTimer>(),
+                   std::make_unique<ThreadTaskRunner>()) {}
+
+    void run() {
+        log_.log(QStringLiteral("creo il monitor"));
+        monitor_.loadDemo();
+        log_.log(QStringLiteral("dati di esempio caricati"));
+        drawAll(true);
+        drawAll(false);
+    }
+
+  private:
+    void drawAll(bool dark) {
+        const FixedAppearance source(dark);
+        const Theme theme(source);
+        const QString appearance = dark ? QStringLiteral("dark") : QStringLiteral("light");
+        drawPopover(theme, appearance);
+        log_.log(appearance + QStringLiteral(": barra dei menu"));
+        for (const auto& style : menuBarStyles)
+            drawRow(theme, style.value, QStringLiteral("menubar-%1-%2").arg(named(style.rawValue), appearance));
+        for (const auto& tab : settingsTabs)
+            drawSettings(theme, named(tab.rawValue), appearance);
+    }
+
+    void drawPopover(const Theme& theme, const QString& appearance) {
+        log_.log(appearance + QStringLiteral(": popover"));
+        auto view = std::make_unique<PopoverView>(monitor_, CardContext{theme, defaults_, processor_},
+                                                  [] { return std::vector<StatusMenuEntry>(); });
+        const auto image = OffscreenWindow(theme, std::move(view), popoverCanvas).picture();
+        if (!image)
+            return log_.log(appearance + QStringLiteral(": popover NON disegnato"));
+        log_.log(appearance + QStringLiteral(": popover disegnato, ritaglio"));
+        log_.save(QStringLiteral("popover-") + appearance, croppedBelowContent(*image));
+    }
+
+    void drawRow(const Theme& theme, MenuBarStyle style, const QString& name) {
+        const auto items = menuBarItems(moduleOrder(defaults_), monitor_.readings(), defaults_);
+        const QSize size = MenuBarRenderer::size(items, style).toSize() + 2 * rowPadding;
+        QImage image = makePicture(size, theme.colors().window);
+        if (image.isNull())
+            return;
+        QPainter painter(&image);
+        painter.translate(rowPadding.width(), rowPadding.height());
+        const auto palette = theme.isDark() ? MenuBarPalette::onDark() : MenuBarPalette::onLight();
+        MenuBarRenderer::paint(painter, items, style, true, palette);
+        painter.end();
+        log_.save(name, image);
+    }
+
+    void drawSettings(const Theme& theme, const QString& tab, const QString& appearance) {
+        defaults_.set(preference_key::settingsTab, tab);
+        log_.log(appearance + QStringLiteral(": impostazioni ") + tab);
+        auto view = std::make_unique<SettingsView>(SettingsParts{theme, defaults_, monitor_, loginItem_, [](auto) {}});
+        const auto image = OffscreenWindow(theme, std::move(view), SettingsView::contentSize).picture();
+        if (image)
+            log_.save(QStringLiteral("settings-%1-%2").arg(tab, appearance), *image);
+    }
+
+    ExportLog& log_;
+    UserDefaults& defaults_;
+    std::unique_ptr<SystemInformation> information_;
+    ProcessorDescription processor_;
+    SystemMonitor monitor_;
+    DemoLoginItem loginItem_;
+};
+
+} // namespace
+
+int exportScreenshots(const QString& folder, SamplingSources sources, std::unique_ptr<DefaultsStore> stored) {
+    if (!QDir().mkpath(folder)) {
+        std::fprintf(stderr, "vantrix: cannot create the folder %s\n", qUtf8Printable(folder));
+        return EXIT_FAILURE;
+    }
+    UserDefaults defaults(std::make_unique<OverlayStore>(std::move(stored)));
+    registerPreferences(defaults);
+    ExportLog log(folder);
+    log.log(QStringLiteral("avvio, cartella: ") + folder);
+    const Watchdog watchdog(log);
+    Export(log, std::move(sources), defaults).run();
+    log.log(QStringLiteral("finito"));
+    return EXIT_SUCCESS;
+}
+
+} // namespace vantrix

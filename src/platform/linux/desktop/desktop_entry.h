@@ -1,0 +1,30 @@
+#pragma once
+
+#include <optional>
+
+#include <QByteArray>
+#include <QString>
+
+namespace vantrix {
+
+/// What of a desktop entry file decides whether a session starts it.
+struct DesktopEntry {
+    QString exec;
+    QString tryExec;
+    bool hidden = false;
+    bool enabled = true; ///< by the GNOME session's own switch
+
+    /// Absent when the text is no desktop entry of an application.
+    static std::optional<DesktopEntry> parse(const QByteArray& text);
+
+    /// True when a session that follows the entry finds a program to start.
+    bool startsSomething() const;
+};
+
+/// The value of an Exec key that runs `program` without arguments, whatever characters its path has.
+QString execValue(const QString& program);
+
+/// The program that the value of an Exec key runs; empty where the quoting is broken.
+QString programOf(const QString& execValue);
+
+} // namespace vantrix

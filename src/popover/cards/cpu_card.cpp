@@ -1,0 +1,62 @@
+#include "popover/cards/cpu_card.h"
+
+#include <algorithm>
+
+#include <QHBoxLayout>
+
+#include "monitor/readings.h"
+#include "popover/charts/core_bars.h"
+#include "popover/charts/ring_gauge.h"
+#include "popover/charts/stat_row.h"
+#include "popover/reading_text.h"
+#include "samplers/processor_description.h"
+#include "views/text_label.h"
+
+namespace vantrix {
+namespace {
+
+constexpr int ringSide = 76;
+constexpr double ringLine = 8.0;
+constexpr int ringGap = 16;
+constexpr int rowGap = 5;
+
+} // namespace
+
+CPUCard::CPUCard(const CardContext& context)
+    : Card(context.theme, localizedText("CPU"), "cpu"),
+      total_(new RingGauge(context.theme, context.defaults, localizedText("CPU load"), ringLine)),
+      user_(new StatRow(context.theme, localizedText("User"), StatRow::Lead::mark(&ThemeColors::accent))),
+      system_(new StatRow(context.theme, localizedText("System"), StatRow::Lead::mark(&ThemeColors::orange))),
+      idle_(new StatRow(context.theme, localizedText("Idle"), StatRow::Lead::mark(&ThemeColors::secondary))),
+      cores_(new CoreBars(context.theme, context.defaults)) {
+    total_->setFixedSize(ringSide, ringSide);
+    const auto description = QString::fromStdString(context.processor.cores());
+
+    auto* rows = new QVBoxLayout;
+    rows->setSpacing(rowGap);
+    rows->addStretch(1);
+    for (StatRow* row : {user_, system_, idle_})
+        rows->addWidget(row);
+    rows->addWidget(
+        new TextLabel(context.theme, {.points = 10.0, .color = &ThemeColors::tertiary, .wraps = true}, description));
+    rows->addStretch(1);
+
+    auto* top = new QHBoxLayout;
+    top->setSpacing(ringGap);
+    top->addWidget(total_);
+    top->addLayout(rows, 1);
+    content().addLayout(top);
+    content().addWidget(cores_);
+}
+
+void CPUCard::showReadings(const Readings& readings) {
+    const CPUSample& cpu = readings.cpu;
+    total_->setFraction(cpu.total);
+    user_->setValue(percentText(cpu.user));
+    system_->setValue(percentText(cpu.system));
+    idle_->setValue(percentText(std::max(1.0 - cpu.total, 0.0)));
+    cores_->setValues(cpu.perCore);
+    cores_->setVisible(!cpu.perCore.empty());
+}
+
+} // namespace vantrix

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "popover/cards/card.h"
+
+namespace vantrix {
+
+class CoreBars;
+class RingGauge;
+class StatRow;
+
+/// The processor's load: in all, by kind, and core by core.
+class CPUCard : public Card {
+  public:
+    explicit CPUCard(const CardContext& context);
+    void showReadings(const Readings& readings) override;
+
+  private:
+    RingGauge* total_;
+    StatRow* user_;
+    StatRow* system_;
+    StatRow* idle_;
+    CoreBars* cores_;
+};
+
+} // namespace vantrix

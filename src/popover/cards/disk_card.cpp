@@ -1,0 +1,39 @@
+#include "popover/cards/disk_card.h"
+
+#include <QHBoxLayout>
+
+#include "monitor/readings.h"
+#include "popover/charts/segmented_bar.h"
+#include "popover/headline.h"
+#include "popover/rate_column.h"
+#include "popover/reading_text.h"
+
+namespace vantrix {
+namespace {
+
+constexpr double leastScale = 1'000'000.0; // bytes per second: less than this is an idle disk
+
+} // namespace
+
+DiskCard::DiskCard(const CardContext& context)
+    : Card(context.theme, localizedText("Disk"), "internaldrive"), free_(new Headline(context.theme)),
+      used_(new SegmentedBar(context.theme, localizedText("Disk space in use"))),
+      read_(new RateColumn(
+          context.theme, {localizedText("Read"), localizedText("Read history"), {}, &ThemeColors::accent, leastScale})),
+      write_(new RateColumn(
+          context.theme,
+          {localizedText("Write"), localizedText("Write history"), {}, &ThemeColors::green, leastScale})) {
+    content().addWidget(free_);
+    content().addWidget(used_);
+    content().addLayout(sideBySide(read_, write_));
+}
+
+void DiskCard::showReadings(const Readings& readings) {
+    const DiskSample& disk = readings.disk;
+    free_->setText(byteText(disk.available), localizedText("%@ free"));
+    used_->setSegments({{0, usedFraction(disk), &ThemeColors::accent}});
+    read_->setRate(disk.readRate.value_or(0.0), readings.diskReadHistory);
+    write_->setRate(disk.writeRate.value_or(0.0), readings.diskWriteHistory);
+}
+
+} // namespace vantrix

@@ -1,0 +1,27 @@
+#include "popover/cards/gpu_card.h"
+
+#include <QVBoxLayout>
+
+#include "monitor/readings.h"
+#include "popover/charts/sparkline.h"
+#include "popover/headline.h"
+#include "popover/reading_text.h"
+
+namespace vantrix {
+
+GPUCard::GPUCard(const CardContext& context)
+    : Card(context.theme, localizedText("GPU"), "display"), defaults_(context.defaults),
+      load_(new Headline(context.theme)),
+      history_(new Sparkline(context.theme, localizedText("GPU history"), &ThemeColors::accent, {1.0, 0.0})) {
+    content().addWidget(load_);
+    content().addWidget(history_);
+}
+
+void GPUCard::showReadings(const Readings& readings) {
+    const double load = readings.gpu.value_or(0.0);
+    load_->setText(percentText(load));
+    load_->setColor(thresholdColor(load, defaults_));
+    history_->setValues(readings.gpuHistory);
+}
+
+} // namespace vantrix

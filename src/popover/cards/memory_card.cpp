@@ -1,0 +1,67 @@
+#include "popover/cards/memory_card.h"
+
+#include <QVBoxLayout>
+
+#include "monitor/readings.h"
+#include "popover/charts/segmented_bar.h"
+#include "popover/charts/stat_row.h"
+#include "popover/headline.h"
+#include "popover/reading_text.h"
+#include "views/text_label.h"
+
+namespace vantrix {
+namespace {
+
+constexpr int rowGap = 5;
+
+double share(std::uint64_t part, std::uint64_t total) {
+    return total > 0 ? static_cast<double>(part) / static_cast<double>(total) : 0.0;
+}
+
+QString pressureLine(MemorySample::Pressure pressure) {
+    switch (pressure) {
+    case MemorySample::Pressure::critical:
+        return localizedText("Pressure: critical");
+    case MemorySample::Pressure::warning:
+        return localizedText("Pressure: warning");
+    case MemorySample::Pressure::normal:
+        break;
+    }
+    return localizedText("Pressure: normal");
+}
+
+} // namespace
+
+MemoryCard::MemoryCard(const CardContext& context)
+    : Card(context.theme, localizedText("Memory"), "memorychip"), used_(new Headline(context.theme)),
+      shares_(new SegmentedBar(context.theme, localizedText("Memory in use"))),
+      app_(new StatRow(context.theme, localizedText("App"), StatRow::Lead::mark(&ThemeColors::accent))),
+      wired_(new StatRow(context.theme, localizedText("Wired"), StatRow::Lead::mark(&ThemeColors::orange))),
+      compressed_(new StatRow(context.theme, localizedText("Compressed"), StatRow::Lead::mark(&ThemeColors::purple))),
+      swap_(new StatRow(context.theme, localizedText("Swap used"), StatRow::Lead::room())),
+      pressure_(new TextLabel(context.theme, {.points = 11.0, .color = &ThemeColors::secondary, .wraps = true})) {
+    auto* rows = new QVBoxLayout;
+    rows->setSpacing(rowGap);
+    for (StatRow* row : {app_, wired_, compressed_, swap_})
+        rows->addWidget(row);
+    content().addWidget(used_);
+    content().addWidget(shares_);
+    content().addLayout(rows);
+    content().addWidget(pressure_);
+}
+
+void MemoryCard::showReadings(const Readings& readings) {
+    const MemorySample& memory = readings.memory;
+    used_->setText(memoryText(usedMemory(memory)),
+                   QStringLiteral("%@ ") + localizedText("of %@", memoryText(memory.total)));
+    shares_->setSegments({{0, share(memory.app, memory.total), &ThemeColors::accent},
+                          {1, share(memory.wired, memory.total), &ThemeColors::orange},
+                          {2, share(memory.compressed, memory.total), &ThemeColors::purple}});
+    app_->setValue(memoryText(memory.app));
+    wired_->setValue(memoryText(memory.wired));
+    compressed_->setValue(memoryText(memory.compressed));
+    swap_->setValue(memoryText(memory.swapUsed));
+    pressure_->setText(pressureLine(memory.pressure));
+}
+
+} // namespace vantrix

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "popover/cards/card.h"
+
+namespace vantrix {
+
+class Headline;
+class SegmentedBar;
+class StatRow;
+class TextLabel;
+
+/// Memory in use: how much, what for, and whether it is scarce.
+class MemoryCard : public Card {
+  public:
+    explicit MemoryCard(const CardContext& context);
+    void showReadings(const Readings& readings) override;
+
+  private:
+    Headline* used_;
+    SegmentedBar* shares_;
+    StatRow* app_;
+    StatRow* wired_;
+    StatRow* compressed_;
+    StatRow* swap_;
+    TextLabel* pressure_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,128 @@
+#include "popover/cards/network_card.h"
+
+#include <optional>
+
+#include <QVBoxLayout>
+
+#include "monitor/readings.h"
+#include "popover/charts/stat_row.h"
+#include "popover/rate_column.h"
+#include "popover/reading_text.h"
+#include "support/localization.h"
+#include "support/text_format.h"
+#include "views/text_label.h"
+
+namespace vantrix {
+namespace {
+
+constexpr int rowGap = 5;
+constexpr double leastScale = 100'000.0; // bytes per second: less than this is an idle line
+
+const char* symbolOf(NetworkInfo::Kind kind) {
+    switch (kind) {
+    case NetworkInfo::Kind::wifi:
+        return "wifi";
+    case NetworkInfo::Kind::ethernet:
+        return "cable.connector";
+    case NetworkInfo::Kind::offline:
+        return "wifi.slash";
+    case NetworkInfo::Kind::other:
+        break;
+    }
+    return "network";
+}
+
+void showRow(StatRow* row, const std::optional<QString>& value) {
+    row->setVisible(value.has_value());
+    if (value)
+        row->setValue(*value);
+}
+
+std::optional<QString> signalText(const NetworkInfo& info) {
+    const auto quality = signalQuality(info.rssi);
+    if (!quality)
+        return std::nullopt;
+    const auto pattern = QString::fromStdString(formatted(localized("%lld dBm · %@"), {*info.rssi}));
+    return QString(pattern).replace(QStringLiteral("%@"), localizedText(*quality));
+}
+
+std::optional<QString> signalToNoiseText(const NetworkInfo& info) {
+    if (!info.rssi || !info.noise)
+        return std::nullopt;
+    return localizedText("%@ dB", QString::number(static_cast<long long>(*info.rssi) - *info.noise));
+}
+
+std::optional<QString> linkSpeedText(const NetworkInfo& info) {
+    if (!info.linkSpeedMbps)
+        return std::nullopt;
+    return localizedText("%@ Mbps", QString::fromStdString(roundedInteger(*info.linkSpeedMbps)));
+}
+
+std::optional<QString> interfaceText(const NetworkInfo& info) {
+    if (!info.interface)
+        return std::nullopt;
+    const QString name = QString::fromStdString(*info.interface);
+    if (!info.displayName)
+        return name;
+    return QStringLiteral("%1 (%2)").arg(QString::fromStdString(*info.displayName), name);
+}
+
+std::optional<QString> shown(const std::optional<std::string>& text) {
+    return text ? std::optional(QString::fromStdString(*text)) : std::nullopt;
+}
+
+RateColumn* column(const Theme& theme, const RateColumn::Style& style) {
+    return new RateColumn(theme, style);
+}
+
+StatRow* detail(const Theme& theme, const QString& label) {
+    return new StatRow(theme, label, StatRow::Lead::none());
+}
+
+} // namespace
+
+NetworkCard::NetworkCard(const CardContext& context)
+    : Card(context.theme, localizedText("Network"), "network"),
+      download_(column(context.theme, {localizedText("Download"), localizedText("Download history"), "arrow.down",
+                                       &ThemeColors::accent, leastScale})),
+      upload_(column(context.theme, {localizedText("Upload"), localizedText("Upload history"), "arrow.up",
+                                     &ThemeColors::green, leastScale})),
+      connection_(new QWidget), name_(detail(context.theme, localizedText("Network"))),
+      nameWithheld_(new TextLabel(context.theme, {.points = 11.0, .color = &ThemeColors::secondary, .wraps = true},
+                                  localizedText("Network name unavailable"))),
+      signal_(detail(context.theme, localizedText("Signal"))),
+      signalToNoise_(detail(context.theme, localizedText("Signal-to-noise"))),
+      linkSpeed_(detail(context.theme, localizedText("Link speed"))),
+      interface_(detail(context.theme, localizedText("Interface"))),
+      address_(detail(context.theme, localizedText("IP address"))) {
+    signal_->setSymbol("wifi");
+    auto* rows = new QVBoxLayout(connection_);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(rowGap);
+    for (QWidget* row : std::initializer_list<QWidget*>{name_, nameWithheld_, signal_, signalToNoise_, linkSpeed_,
+                                                        interface_, address_})
+        rows->addWidget(row);
+    content().addLayout(sideBySide(download_, upload_));
+    content().addWidget(connection_);
+}
+
+void NetworkCard::showReadings(const Readings& readings) {
+    setSymbol(symbolOf(readings.networkInfo.kind));
+    download_->setRate(readings.network.download, readings.downloadHistory);
+    upload_->setRate(readings.network.upload, readings.uploadHistory);
+    showConnection(readings.networkInfo);
+}
+
+void NetworkCard::showConnection(const NetworkInfo& info) {
+    const bool withheld = info.kind == NetworkInfo::Kind::wifi && !info.ssid && info.ssidHiddenByPrivacy;
+    showRow(name_, shown(info.ssid));
+    nameWithheld_->setVisible(withheld);
+    showRow(signal_, signalText(info));
+    showRow(signalToNoise_, signalToNoiseText(info));
+    showRow(linkSpeed_, linkSpeedText(info));
+    showRow(interface_, interfaceText(info));
+    showRow(address_, shown(info.localIP));
+    connection_->setVisible(info.ssid || withheld || info.rssi || info.linkSpeedMbps || info.interface || info.localIP);
+}
+
+} // namespace vantrix

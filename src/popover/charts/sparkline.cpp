@@ -1,0 +1,121 @@
+#include "popover/charts/sparkline.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+
+#include "monitor/readings.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+constexpr int chartHeight = 34;
+constexpr double lineWidth = 1.5;
+constexpr float opacityAtTop = 0.35f;
+constexpr float opacityAtBottom = 0.02f;
+
+QColor withOpacity(QColor color, float opacity) {
+    color.setAlphaF(opacity);
+    return color;
+}
+
+/// The curve's slope at each point: no steeper than lets the curve rise only where the points do.
+std::vector<double> slopes(std::span<const QPointF> points) {
+    std::vector<double> secants(points.size() - 1);
+    for (std::size_t i = 0; i + 1 < points.size(); ++i)
+        secants[i] = (points[i + 1].y() - points[i].y()) / (points[i + 1].x() - points[i].x());
+    std::vector<double> result(points.size());
+    result.front() = secants.front();
+    result.back() = secants.back();
+    for (std::size_t i = 1; i + 1 < points.size(); ++i) {
+        const double before = secants[i - 1];
+        const double after = secants[i];
+        // The harmonic mean: 0 at a peak, and never more than twice the flatter side.
+        result[i] = before * after <= 0.0 ? 0.0 : 2.0 * before * after / (before + after);
+    }
+    return result;
+}
+
+} // namespace
+
+QPainterPath monotoneCurve(std::span<const QPointF> points) {
+    QPainterPath path;
+    if (points.empty())
+        return path;
+    path.moveTo(points.front());
+    if (points.size() < 2)
+        return path;
+    const std::vector<double> slope = slopes(points);
+    for (std::size_t i = 0; i + 1 < points.size(); ++i) {
+        const double third = (points[i + 1].x() - points[i].x()) / 3.0;
+        path.cubicTo(points[i] + QPointF(third, third * slope[i]), points[i + 1] - QPointF(third, third * slope[i + 1]),
+                     points[i + 1]);
+    }
+    return path;
+}
+
+Sparkline::Sparkline(const Theme& theme, const QString& name, ColorRole color, const Scale& scale)
+    : View(theme), color_(color), scale_(scale) {
+    setAccessibleName(name);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void Sparkline::setValues(std::span<const double> values) {
+    if (std::ranges::equal(values, values_))
+        return;
+    values_.assign(values.begin(), values.end());
+    update();
+}
+
+double Sparkline::top() const {
+    if (scale_.maximum)
+        return std::max(*scale_.maximum, 0.0);
+    const double largest = values_.empty() ? 0.0 : *std::ranges::max_element(values_);
+    return std::max({largest, scale_.minimumScale, 0.0});
+}
+
+QSize Sparkline::sizeHint() const {
+    return {40, chartHeight};
+}
+
+std::vector<QPointF> Sparkline::points() const {
+    // Half a line is kept free above and below, or a value at an edge would lose half its line.
+    const double bottom = height() - lineWidth / 2.0;
+    const double span = bottom - lineWidth / 2.0;
+    const double step = static_cast<double>(width()) / (historyLength - 1);
+    const double scale = top() > 0.0 ? span / top() : 0.0;
+    std::vector<QPointF> points;
+    points.reserve(values_.size());
+    for (std::size_t i = 0; i < values_.size(); ++i)
+        points.emplace_back(static_cast<double>(i) * step, bottom - std::clamp(values_[i] * scale, 0.0, span));
+    return points;
+}
+
+void Sparkline::paintEvent(QPaintEvent*) {
+    if (values_.empty())
+        return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const std::vector<QPointF> marks = points();
+    const QColor color = theme().colors().*color_;
+    const QPainterPath line = monotoneCurve(marks);
+
+    QPainterPath area = line;
+    area.lineTo(marks.back().x(), height());
+    area.lineTo(marks.front().x(), height());
+    QLinearGradient gradient(0, 0, 0, height());
+    gradient.setColorAt(0.0, withOpacity(color, opacityAtTop));
+    gradient.setColorAt(1.0, withOpacity(color, opacityAtBottom));
+    painter.fillPath(area, gradient);
+
+    painter.setPen(QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    if (marks.size() == 1)
+        return painter.drawPoint(marks.front());
+    painter.drawPath(line);
+}
+
+} // namespace vantrix

@@ -1,0 +1,168 @@
+#include "popover/charts/stat_row.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QStyle>
+
+#include "menubar/symbol.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+constexpr double textSize = 11.0;
+constexpr double markerSide = 7.0;
+constexpr double markerRadius = 2.0;
+constexpr double spacing = 6.0;
+constexpr double symbolSide = 13.0;
+constexpr double symbolGap = 4.0;
+constexpr double unbounded = 1e6;
+
+QFontMetricsF metricsOf(const Theme& theme) {
+    return QFontMetricsF(theme.font(textSize));
+}
+
+} // namespace
+
+StatRow::StatRow(const Theme& theme, const QString& label, const Lead& lead) : View(theme), label_(label), lead_(lead) {
+    // Not Fixed: that would hold the height of one line even where the width asks for two.
+    QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+void StatRow::setLabel(const QString& label) {
+    if (label == label_)
+        return;
+    label_ = label;
+    updateGeometry();
+    update();
+}
+
+void StatRow::setValue(const QString& value) {
+    if (value == value_)
+        return;
+    const int before = heightForWidth(width());
+    value_ = value;
+    if (heightForWidth(width()) != before)
+        updateGeometry();
+    update();
+}
+
+void StatRow::setSymbol(std::string_view symbol) {
+    symbol_ = symbol;
+    updateGeometry();
+    update();
+}
+
+QString StatRow::accessibleText() const {
+    return label_ + QStringLiteral(": ") + value_;
+}
+
+double StatRow::leadWidth() const {
+    return lead_.indented ? markerSide + spacing : 0.0;
+}
+
+double StatRow::symbolWidth() const {
+    return symbol_.empty() ? 0.0 : std::round(theme().scaled(symbolSide)) + symbolGap;
+}
+
+double StatRow::labelWidth() const {
+    return std::ceil(metricsOf(theme()).horizontalAdvance(label_));
+}
+
+double StatRow::valueWidth() const {
+    return std::ceil(theme().digits(textSize).width(value_.toStdString())) + symbolWidth();
+}
+
+bool StatRow::fitsOneLine(double width) const {
+    return leadWidth() + labelWidth() + spacing + valueWidth() <= width;
+}
+
+double StatRow::labelHeight(double width) const {
+    const QRectF room(0, 0, std::max(width - leadWidth(), 1.0), unbounded);
+    return std::ceil(metricsOf(theme()).boundingRect(room, Qt::TextWordWrap, label_).height());
+}
+
+QSize StatRow::sizeHint() const {
+    const double wanted = leadWidth() + labelWidth() + spacing + valueWidth();
+    return {static_cast<int>(wanted), static_cast<int>(std::ceil(metricsOf(theme()).height()))};
+}
+
+QSize StatRow::minimumSizeHint() const {
+    return {static_cast<int>(leadWidth() + theme().scaled(40.0)), sizeHint().height()};
+}
+
+int StatRow::heightForWidth(int width) const {
+    const double line = std::ceil(metricsOf(theme()).height());
+    return static_cast<int>(fitsOneLine(width) ? line : labelHeight(width) + line);
+}
+
+double StatRow::baseline(const QRectF& line) const {
+    const QFontMetricsF metrics = metricsOf(theme());
+    return std::round(line.top() + (line.height() - metrics.height()) / 2.0 + metrics.ascent());
+}
+
+void StatRow::paintLead(QPainter& painter) const {
+    if (lead_.marker == nullptr)
+        return;
+    // Beside the first line, centred on its letters.
+    const QRectF line(0.0, 0.0, 0.0, std::min<double>(metricsOf(theme()).height(), height()));
+    const double top = std::round(baseline(line) - (theme().digits(textSize).capHeight() + markerSide) / 2.0);
+    const QRect place(0, static_cast<int>(top), static_cast<int>(markerSide), static_cast<int>(markerSide));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme().colors().*lead_.marker);
+    painter.drawRoundedRect(QStyle::visualRect(layoutDirection(), rect(), place), markerRadius, markerRadius);
+}
+
+void StatRow::paintLabel(QPainter& painter, const QRectF& place) const {
+    painter.setFont(theme().font(textSize));
+    painter.setPen(theme().colors().secondary);
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    if (fitsOneLine(width())) {
+        const double x = mirrored ? place.right() - labelWidth() : place.left();
+        return painter.drawText(QPointF(x, baseline(place)), label_);
+    }
+    const auto side = static_cast<int>(mirrored ? Qt::AlignRight : Qt::AlignLeft);
+    painter.drawText(place, side | Qt::AlignTop | Qt::TextWordWrap, label_);
+}
+
+void StatRow::paintValue(QPainter& painter, const QRectF& place) const {
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    const double shownWidth = std::min(valueWidth(), place.width());
+    double x = mirrored ? place.left() : place.right() - shownWidth;
+    if (!symbol_.empty()) {
+        const double side = symbolWidth() - symbolGap;
+        const double middle = baseline(place) - theme().digits(textSize).capHeight() / 2.0;
+        const double symbolX = mirrored ? x + shownWidth - side : x;
+        paintSymbol(painter, symbol_, QRectF(symbolX, middle - side / 2.0, side, side), theme().colors().secondary);
+        x += mirrored ? 0.0 : symbolWidth();
+    }
+    if (valueWidth() <= place.width())
+        return theme().digits(textSize).draw(painter, {x, baseline(place)}, value_.toStdString(),
+                                             theme().colors().label);
+    painter.setFont(theme().font(textSize));
+    painter.setPen(theme().colors().label);
+    const double room = place.width() - symbolWidth();
+    painter.drawText(QPointF(x, baseline(place)), metricsOf(theme()).elidedText(value_, Qt::ElideMiddle, room));
+}
+
+void StatRow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintLead(painter);
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    const QRectF room(mirrored ? 0.0 : leadWidth(), 0.0, width() - leadWidth(), height());
+    if (fitsOneLine(width())) {
+        paintLabel(painter, room);
+        return paintValue(painter, room);
+    }
+    const double top = labelHeight(width());
+    paintLabel(painter, QRectF(room.left(), 0.0, room.width(), top));
+    paintValue(painter, QRectF(room.left(), top, room.width(), height() - top));
+}
+
+} // namespace vantrix

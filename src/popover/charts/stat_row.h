@@ -1,0 +1,61 @@
+#pragma once
+
+#include <string>
+
+#include "popover/charts/threshold_color.h"
+#include "views/view.h"
+
+namespace vantrix {
+
+/// A label and its value, led by a marker in the colour that stands for it elsewhere on the card. What does not fit on
+/// one line takes two.
+class StatRow : public View {
+  public:
+    /// What stands before the label.
+    struct Lead {
+        ColorRole marker = nullptr; ///< a small mark of that colour
+        bool indented = true;       ///< or as much room, so that the labels of several rows line up
+
+        static Lead mark(ColorRole color) { return {color, true}; }
+        static Lead room() { return {nullptr, true}; }
+        static Lead none() { return {nullptr, false}; }
+    };
+
+    StatRow(const Theme& theme, const QString& label, const Lead& lead);
+
+    void setLabel(const QString& label);
+    void setValue(const QString& value);
+    /// A symbol before the value.
+    void setSymbol(std::string_view symbol);
+    const QString& value() const { return value_; }
+
+    QAccessible::Role accessibleRole() const override { return QAccessible::StaticText; }
+    QString accessibleText() const override;
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    double leadWidth() const;
+    double symbolWidth() const;
+    double labelWidth() const;
+    double valueWidth() const;
+    bool fitsOneLine(double width) const;
+    double labelHeight(double width) const;
+    void paintLead(QPainter& painter) const;
+    void paintLabel(QPainter& painter, const QRectF& place) const;
+    void paintValue(QPainter& painter, const QRectF& place) const;
+    double baseline(const QRectF& line) const;
+
+    QString label_;
+    QString value_;
+    Lead lead_;
+    std::string symbol_;
+};
+
+} // namespace vantrix

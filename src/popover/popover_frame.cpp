@@ -1,0 +1,82 @@
+#include "popover/popover_frame.h"
+
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include "views/rounded_window.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+constexpr double cornerRadius = 12.0;
+
+} // namespace
+
+PopoverFrame::PopoverFrame(const Theme& theme, std::unique_ptr<QWidget> view) : View(theme) {
+    setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+    setAttribute(Qt::WA_TranslucentBackground);
+    setWindowTitle(localizedText("Vantrix"));
+    setAccessibleName(windowTitle());
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint); // the screen decides how large the popover is
+    layout->addWidget(view.release());
+    setPalette(theme.palette());
+    connect(&theme, &Theme::changed, this, [this] { setPalette(this->theme().palette()); });
+}
+
+bool PopoverFrame::closedWithin(qint64 milliseconds) {
+    const bool recently = sinceHidden_.isValid() && sinceHidden_.elapsed() < milliseconds;
+    sinceHidden_.invalidate();
+    return recently;
+}
+
+bool PopoverFrame::event(QEvent* event) {
+    if (event->type() == QEvent::WindowDeactivate)
+        hide();
+    return View::event(event);
+}
+
+void PopoverFrame::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel))
+        return hide();
+    View::keyPressEvent(event);
+}
+
+void PopoverFrame::showEvent(QShowEvent* event) {
+    roundWindow(*this, cornerRadius); // a compositor may have come or gone meanwhile
+    View::showEvent(event);
+}
+
+void PopoverFrame::hideEvent(QHideEvent* event) {
+    sinceHidden_.start();
+    Q_EMIT closed();
+    View::hideEvent(event);
+}
+
+void PopoverFrame::resizeEvent(QResizeEvent* event) {
+    roundWindow(*this, cornerRadius);
+    View::resizeEvent(event);
+}
+
+void PopoverFrame::paintEvent(QPaintEvent* event) {
+    const ThemeColors& colors = theme().colors();
+    QPainter painter(this);
+    // A reading that changed inside repaints no edge.
+    constexpr int edge = static_cast<int>(cornerRadius);
+    if (rect().adjusted(1, edge, -1, -edge).contains(event->rect()))
+        return painter.fillRect(event->rect(), colors.window);
+    if (!mask().isEmpty())
+        painter.fillRect(rect(), colors.window); // what the mask leaves must not shine through black
+    const double hairLine = 1.0 / devicePixelRatioF();
+    const double inset = hairLine / 2.0;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(over(colors.separator, colors.window), hairLine));
+    painter.setBrush(colors.window);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius, cornerRadius);
+}
+
+} // namespace vantrix

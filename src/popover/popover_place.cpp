@@ -1,0 +1,68 @@
+#include "popover/popover_place.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace vantrix {
+namespace {
+
+constexpr int screenMargin = 30;
+constexpr int leastHeight = 480;
+constexpr int heightWithoutScreen = 870;
+constexpr int gap = 4; // between the status item and the popover
+
+/// How far `point` is outside of `rect`; 0 inside.
+int distance(const QPoint& point, const QRect& rect) {
+    const int x = std::max({rect.left() - point.x(), point.x() - rect.right(), 0});
+    const int y = std::max({rect.top() - point.y(), point.y() - rect.bottom(), 0});
+    return x + y;
+}
+
+/// Moves `place` to the first of two corners where it is inside `area`; false where it is at neither.
+bool choose(QRect& place, const QPoint& first, const QPoint& second, const QRect& area) {
+    for (const QPoint& corner : {first, second}) {
+        place.moveTopLeft(corner);
+        if (area.contains(place))
+            return true;
+    }
+    return false;
+}
+
+/// Moved inside `area` from `low` to `high`, or to `low` where it is too long for that.
+int kept(int start, int length, int low, int high) {
+    return std::max(std::min(start, high + 1 - length), low);
+}
+
+} // namespace
+
+int popoverHeight(double visibleHeight) {
+    if (visibleHeight <= 0.0)
+        return heightWithoutScreen;
+    return std::max(static_cast<int>(std::lround(visibleHeight)) - screenMargin, leastHeight);
+}
+
+std::size_t screenOf(const QRect& anchor, const std::vector<QRect>& screens) {
+    const auto nearest = std::min_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
+        return distance(anchor.center(), a) < distance(anchor.center(), b);
+    });
+    return static_cast<std::size_t>(nearest - screens.begin());
+}
+
+QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible) {
+    const int centredX = kept(anchor.center().x() - size.width() / 2, size.width(), visible.left(), visible.right());
+    const int besideY = kept(anchor.top(), size.height(), visible.top(), visible.bottom());
+    // An item is often thinner than the panel it lies in, whose edge then decides.
+    const QPoint below(centredX, std::max(anchor.bottom() + 1 + gap, visible.top()));
+    const QPoint above(centredX, std::min(anchor.top() - gap, visible.bottom() + 1) - size.height());
+    const QPoint right(std::max(anchor.right() + 1 + gap, visible.left()), besideY);
+    const QPoint left(std::min(anchor.left() - gap, visible.right() + 1) - size.width(), besideY);
+    const bool inSidePanel = anchor.right() < visible.left() || anchor.left() > visible.right();
+    QRect place(QPoint(), size);
+    if (!inSidePanel && choose(place, below, above, visible))
+        return place;
+    if (choose(place, right, left, visible))
+        return place;
+    return {QPoint(centredX, kept(below.y(), size.height(), visible.top(), visible.bottom())), size};
+}
+
+} // namespace vantrix

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "popover/charts/threshold_color.h"
+#include "views/view.h"
+
+class QHBoxLayout;
+
+namespace vantrix {
+
+class Sparkline;
+class TextLabel;
+
+/// One direction of a transfer: its name, its present rate and its history.
+class RateColumn : public View {
+  public:
+    struct Style {
+        QString label;
+        QString historyName;     ///< for assistive programs
+        std::string_view symbol; ///< empty: none
+        ColorRole color = nullptr;
+        double minimumScale = 1.0; ///< bytes per second; an idle line stays flat below it
+    };
+
+    RateColumn(const Theme& theme, const Style& style);
+
+    /// Bytes per second.
+    void setRate(double rate, std::span<const double> history);
+
+    QString accessibleText() const override;
+
+  private:
+    TextLabel* rate_;
+    Sparkline* history_;
+    QString label_;
+};
+
+/// Two columns of equal width.
+QHBoxLayout* sideBySide(RateColumn* first, RateColumn* second);
+
+} // namespace vantrix

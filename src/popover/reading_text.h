@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cstdint>
+
+#include <QString>
+
+namespace vantrix {
+
+/// A count of bytes as people read sizes of files: decimal units, at most three digits that matter, the decimal sign of
+/// the user's region. "0 KB", "512 bytes", "12 KB", "9.4 MB", "1.25 TB".
+QString byteText(std::uint64_t bytes);
+
+/// The same as people read sizes of memory: binary units under the same names. "10 GB" is 10 × 2³⁰ bytes.
+QString memoryText(std::uint64_t bytes);
+
+/// Bytes per second, the fraction dropped: "9.4 MB/s". Negative rates and NaN are 0.
+QString rateText(double bytesPerSecond);
+
+/// A share as "37%".
+QString percentText(double fraction);
+
+} // namespace vantrix

@@ -1,0 +1,15 @@
+#include "samplers/network_info.h"
+
+namespace vantrix {
+
+std::optional<std::string_view> signalQuality(std::optional<int> rssi) {
+    if (!rssi)
+        return std::nullopt;
+    if (*rssi >= -50)
+        return "Excellent";
+    if (*rssi >= -60)
+        return "Good";
+    return *rssi >= -70 ? "Fair" : "Weak";
+}
+
+} // namespace vantrix

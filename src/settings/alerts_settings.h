@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+
+#include "settings/form.h"
+
+namespace vantrix {
+
+class UserDefaults;
+
+/// Asks for a test notification. Hands back, perhaps much later, a text on how that went.
+using SendTest = std::function<void(std::function<void(const QString& outcome)>)>;
+
+/// The tab for notifications.
+class AlertsSettings : public Form {
+    Q_OBJECT
+  public:
+    /// `defaults` outlives the tab. Without `sendTest` the button for it is disabled.
+    AlertsSettings(const Theme& theme, UserDefaults& defaults, SendTest sendTest);
+
+  private:
+    FormRow& addSwitch(FormSection& section, const QString& caption, const QString& key);
+    void addKinds();
+    void addConditions();
+    void addTest();
+    void requestTest();
+
+    UserDefaults& defaults_;
+    SendTest sendTest_;
+    TextLabel* outcome_;
+};
+
+} // namespace vantrix

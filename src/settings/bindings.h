@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <vector>
+
+#include <QString>
+
+class QAbstractButton;
+class QObject;
+
+namespace vantrix {
+
+class Picker;
+class Slider;
+class UserDefaults;
+
+/// Calls `show` now and whenever a setting may have changed, as long as `context` lives.
+void follow(QObject& context, const UserDefaults& defaults, const std::function<void()>& show);
+
+/// Ties a control to the setting under `key`, both ways. Only what a person does is stored: a value that the control
+/// cannot show exactly stays as it is. `defaults` outlives the control.
+void bindSwitch(QAbstractButton& button, UserDefaults& defaults, const QString& key);
+void bindSlider(Slider& slider, UserDefaults& defaults, const QString& key);
+
+/// The picker offers `choices` seconds, and besides them the present value where it is none of these; `present` reads
+/// it.
+void bindSeconds(Picker& picker, UserDefaults& defaults, const QString& key, const std::vector<double>& choices,
+                 const std::function<double()>& present);
+
+/// Ties the switch to one name of the set stored under `key`.
+void bindMember(QAbstractButton& button, UserDefaults& defaults, const QString& key, std::string_view rawValue);
+
+} // namespace vantrix

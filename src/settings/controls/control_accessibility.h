@@ -1,0 +1,9 @@
+#pragma once
+
+namespace vantrix {
+
+/// Tells assistive programs about those controls that differ from the toolkit's: a slider's value is a percentage,
+/// a tab button is a tab, a picker tells what it picks. Any number of calls; the first one counts.
+void installControlAccessibility();
+
+} // namespace vantrix

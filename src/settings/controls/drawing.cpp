@@ -1,0 +1,72 @@
+#include "settings/controls/drawing.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QWidget>
+
+#include "views/theme.h"
+
+namespace vantrix {
+
+QColor withAlpha(QColor color, double alpha) {
+    color.setAlphaF(static_cast<float>(alpha));
+    return color;
+}
+
+QColor textColor(const QWidget& control, const Theme& theme) {
+    return control.isEnabled() ? theme.colors().label : theme.colors().tertiary;
+}
+
+void paintButtonGround(QPainter& painter, const QWidget& control, const Theme& theme, const QRectF& rect, bool down) {
+    const double radius = theme.scaled(6.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(control.isEnabled() ? theme.colors().control : theme.colors().quaternary);
+    painter.drawRoundedRect(rect, radius, radius);
+    if (down || (control.underMouse() && control.isEnabled())) {
+        painter.setBrush(withAlpha(theme.colors().label, down ? 0.14 : 0.05));
+        painter.drawRoundedRect(rect, radius, radius);
+    }
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(theme.colors().separator, 1.0));
+    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+}
+
+void paintKnob(QPainter& painter, const QRectF& rect, bool enabled) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, 26));
+    painter.drawEllipse(rect.adjusted(-0.5, 0.0, 0.5, 1.5));
+    painter.setPen(QPen(QColor(0, 0, 0, 36), 0.5));
+    painter.setBrush(QColor(255, 255, 255, enabled ? 255 : 150));
+    painter.drawEllipse(rect);
+}
+
+QRectF mirrored(const QWidget& control, const QRectF& rect) {
+    if (control.layoutDirection() != Qt::RightToLeft)
+        return rect;
+    return {control.width() - rect.right(), rect.y(), rect.width(), rect.height()};
+}
+
+double widestWord(const QFont& font, const QString& text) {
+    const QFontMetricsF metrics(font);
+    double widest = 0.0;
+    for (const QString& word : text.split(u' '))
+        widest = std::max(widest, metrics.horizontalAdvance(word));
+    return std::ceil(widest) + 1.0;
+}
+
+QFont fittingFont(const Theme& theme, const QString& text, QFont::Weight weight, double room) {
+    constexpr double leastPoints = 5.0;
+    double points = bodyPoints;
+    while (points > leastPoints && QFontMetricsF(theme.font(points, weight)).horizontalAdvance(text) > room)
+        points -= 0.5;
+    return theme.font(points, weight);
+}
+
+QString fromView(std::string_view text) {
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace vantrix

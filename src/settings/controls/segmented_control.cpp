@@ -1,0 +1,109 @@
+#include "settings/controls/segmented_control.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QFontMetricsF>
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QRadioButton>
+
+#include "settings/controls/drawing.h"
+#include "views/focus_ring.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+constexpr double segmentHeight = 24.0;
+constexpr double sidePadding = 11.0;
+constexpr double inset = 2.0;
+constexpr double radius = 7.0;
+
+class Segment : public QRadioButton {
+  public:
+    Segment(const Theme& theme, const QString& text)
+        : QRadioButton(text), theme_(theme), ring_(*new FocusRing(*this, theme)) {
+        setAttribute(Qt::WA_Hover);
+        setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    }
+
+    QSize sizeHint() const override {
+        // The heavier weight of the chosen one: the row must not move with the choice.
+        const double text = QFontMetricsF(theme_.font(bodyPoints, QFont::Medium)).horizontalAdvance(this->text());
+        return QSizeF(std::ceil(text + theme_.scaled(2.0 * sidePadding)), theme_.scaled(segmentHeight)).toSize() +
+               QSize(0, 2 * focusMargin);
+    }
+    QSize minimumSizeHint() const override {
+        return {static_cast<int>(theme_.scaled(3.0 * sidePadding)), sizeHint().height()};
+    }
+
+  protected:
+    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const ThemeColors& colors = theme_.colors();
+        const double margin = focusMargin + inset;
+        const QRectF ground = QRectF(rect()).adjusted(inset, margin, -inset, -margin);
+        const double corner = theme_.scaled(radius) - inset;
+        if (isChecked()) {
+            painter.setPen(QPen(colors.separator, 0.5));
+            painter.setBrush(theme_.isDark() ? withAlpha(colors.label, 0.22) : colors.control);
+            painter.drawRoundedRect(ground, corner, corner);
+        } else if (underMouse()) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(withAlpha(colors.label, 0.05));
+            painter.drawRoundedRect(ground, corner, corner);
+        }
+        ring_.paint(painter, ground, corner);
+        const QFont::Weight weight = isChecked() ? QFont::Medium : QFont::Normal;
+        painter.setFont(fittingFont(theme_, text(), weight, ground.width() - 4.0));
+        painter.setPen(textColor(*this, theme_));
+        painter.drawText(ground, Qt::AlignCenter | Qt::TextSingleLine, text());
+    }
+
+  private:
+    const Theme& theme_;
+    FocusRing& ring_;
+};
+
+} // namespace
+
+SegmentedControl::SegmentedControl(const Theme& theme, const QString& name, const QStringList& choices) : View(theme) {
+    setAccessibleName(name);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    auto* row = new QHBoxLayout(this);
+    row->setContentsMargins(focusMargin, 0, focusMargin, 0);
+    row->setSpacing(0);
+    for (const QString& choice : choices) {
+        auto* segment = new Segment(theme, choice);
+        const int index = static_cast<int>(segments_.size());
+        connect(segment, &QRadioButton::clicked, this, [this, index] { Q_EMIT chosen(index); });
+        row->addWidget(segment);
+        segments_.push_back(segment);
+    }
+}
+
+int SegmentedControl::current() const {
+    const auto checked =
+        std::find_if(segments_.begin(), segments_.end(), [](const QRadioButton* s) { return s->isChecked(); });
+    return checked == segments_.end() ? -1 : static_cast<int>(checked - segments_.begin());
+}
+
+void SegmentedControl::setCurrent(int index) {
+    segments_[static_cast<std::size_t>(index)]->setChecked(true);
+}
+
+void SegmentedControl::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme().colors().quaternary);
+    const double corner = theme().scaled(radius);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin), corner,
+                            corner);
+}
+
+} // namespace vantrix

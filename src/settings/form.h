@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QStringList>
+
+#include "settings/form_row.h"
+
+class QVBoxLayout;
+
+namespace vantrix {
+
+/// A group of rows on a rounded ground, hair lines between them, with a header above and remarks below.
+class FormSection : public View {
+  public:
+    /// `header` may be empty.
+    FormSection(const Theme& theme, const QString& header = {}, const QStringList& footers = {});
+
+    /// Takes the row over.
+    template<typename Row>
+    Row& addRow(Row* row) {
+        add(row);
+        return *row;
+    }
+    FormRow& addRow(const FormRow::Content& content) { return addRow(new FormRow(theme(), content)); }
+
+  private:
+    void add(QWidget* row);
+
+    QVBoxLayout* rows_;
+};
+
+/// The sections of one tab, one below the other.
+class Form : public View {
+  public:
+    explicit Form(const Theme& theme);
+
+    FormSection& addSection(const QString& header = {}, const QStringList& footers = {});
+
+  private:
+    QVBoxLayout* sections_;
+};
+
+/// Two controls side by side as one; the second has the room it wants.
+QWidget* besideEachOther(QWidget* first, QWidget* second);
+
+} // namespace vantrix

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QObject>
+#include <QRectF>
+
+class QPainter;
+class QWidget;
+
+namespace vantrix {
+
+class Theme;
+
+/// Room that a control leaves around its drawing for the ring, in points.
+inline constexpr int focusMargin = 3;
+
+/// The ring around a control that the keyboard talks to. It shows for people who use the keyboard and stays away from
+/// those who click. Also lets the control follow the theme. Owned by the control.
+class FocusRing : public QObject {
+  public:
+    FocusRing(QWidget& control, const Theme& theme);
+
+    /// Around `rect`, whose corners have that radius, all in points.
+    void paint(QPainter& painter, const QRectF& rect, double radius) const;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    QWidget& control_;
+    const Theme& theme_;
+    bool usesKeyboard_ = false;
+};
+
+} // namespace vantrix

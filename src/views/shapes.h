@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QPainterPath>
+#include <QRectF>
+
+namespace vantrix {
+
+/// A rounded rectangle whose corners begin to bend early and softly, as on the best-drawn surfaces of today: the
+/// curvature has no jump where the straight edge ends. `radius` is that of the circle it comes closest to.
+QPainterPath continuousRect(const QRectF& rect, double radius);
+
+} // namespace vantrix

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+
+#include <QPushButton>
+
+namespace vantrix {
+
+class FocusRing;
+class Theme;
+
+/// A symbol to click, without a border until the pointer or the keyboard comes to it.
+class SymbolButton : public QPushButton {
+    Q_OBJECT
+  public:
+    /// `points` is the size of the text that the symbol goes with; `name` says what it does, to
+    /// assistive programs and in the tool tip.
+    SymbolButton(const Theme& theme, std::string_view symbol, double points, const QString& name);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    const Theme& theme_;
+    FocusRing& ring_;
+    std::string symbol_;
+    double points_;
+};
+
+} // namespace vantrix

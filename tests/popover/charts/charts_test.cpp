@@ -1,0 +1,222 @@
+#include <cmath>
+
+#include <QApplication>
+#include <QImage>
+#include <QPainterPath>
+
+#include <gmock/gmock.h>
+
+#include "fakes/fake_appearance.h"
+#include "fakes/fake_defaults.h"
+#include "menubar/preferences.h"
+#include "popover/charts/core_bars.h"
+#include "popover/charts/metric_card.h"
+#include "popover/charts/ring_gauge.h"
+#include "popover/charts/segmented_bar.h"
+#include "popover/charts/sparkline.h"
+#include "popover/charts/stat_row.h"
+#include "views/text_label.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+using ::testing::ElementsAre;
+
+class ChartsTest : public ::testing::Test {
+  protected:
+    ChartsTest() { appearance.set({.dark = true, .accent = std::nullopt, .reducesMotion = false}); }
+
+    QImage drawn(QWidget& view, QSize size) {
+        view.resize(size);
+        QImage image(size * 2, QImage::Format_RGB32);
+        image.setDevicePixelRatio(2.0);
+        image.fill(theme.colors().window);
+        view.render(&image, {}, {}, QWidget::DrawChildren);
+        return image;
+    }
+
+    /// `color` as it looks on the window, and what is drawn at a place in points.
+    std::string onWindow(ColorRole role) const {
+        return over(theme.colors().*role, theme.colors().window).name().toStdString();
+    }
+    static std::string at(const QImage& image, double x, double y) {
+        return image.pixelColor(static_cast<int>(x * 2.0), static_cast<int>(y * 2.0)).name().toStdString();
+    }
+
+    fakes::FakeDefaults defaults;
+    fakes::FakeAppearance appearance;
+    Theme theme{appearance};
+};
+
+TEST_F(ChartsTest, ReachingAThresholdCounts) {
+    EXPECT_EQ(thresholdColor(0.749, defaults), &ThemeColors::accent);
+    EXPECT_EQ(thresholdColor(0.75, defaults), &ThemeColors::orange);
+    EXPECT_EQ(thresholdColor(0.9, defaults), &ThemeColors::red);
+    defaults.set(preference_key::criticalThreshold, 0.7); // below the warning: it comes first
+    EXPECT_EQ(thresholdColor(0.72, defaults), &ThemeColors::red);
+}
+
+TEST_F(ChartsTest, SparklineScale) {
+    const struct {
+        const char* name;
+        Sparkline::Scale scale;
+        std::vector<double> values;
+        double top;
+    } cases[] = {
+        {"nothing yet", {{}, 100.0}, {}, 100.0},
+        {"idle", {{}, 100.0}, {0.0, 0.0}, 100.0},
+        {"as large as the least scale", {{}, 100.0}, {100.0}, 100.0},
+        {"larger", {{}, 100.0}, {20.0, 250.0}, 250.0},
+        {"fixed", {1.0, 100.0}, {2.0}, 1.0},
+        {"a fixed one below zero", {-1.0, 0.0}, {}, 0.0},
+        {"all below zero", {{}, -5.0}, {-3.0}, 0.0},
+    };
+    for (const auto& c : cases) {
+        Sparkline line(theme, {}, &ThemeColors::accent, c.scale);
+        line.setValues(c.values);
+        EXPECT_EQ(line.top(), c.top) << c.name;
+        drawn(line, {100, 34}); // and nothing divides by zero
+    }
+}
+
+TEST_F(ChartsTest, SparklineDrawsAShortHistoryAtTheLeft) {
+    Sparkline line(theme, {}, &ThemeColors::accent, {1.0, 0.0});
+    line.setValues(std::vector(10, 0.5));
+    const QImage image = drawn(line, {118, 34}); // two points a step: ten values end at 18
+    EXPECT_EQ(at(image, 10, 17), onWindow(&ThemeColors::accent));
+    EXPECT_NE(at(image, 16, 30), onWindow(&ThemeColors::window)); // the area below
+    EXPECT_EQ(at(image, 24, 17), onWindow(&ThemeColors::window));
+    EXPECT_EQ(line.sizeHint().height(), 34);
+}
+
+TEST_F(ChartsTest, SparklineNeverSwingsBeyondItsValues) {
+    const std::vector<QPointF> points = {{0, 0}, {1, 0}, {2, 10}, {3, 10}, {4, 9}, {5, 0}, {6, 0}};
+    const QPainterPath curve = monotoneCurve(points);
+    for (int i = 0; i <= 600; ++i) {
+        const double y = curve.pointAtPercent(i / 600.0).y();
+        EXPECT_GE(y, -1e-6);
+        EXPECT_LE(y, 10.0 + 1e-6);
+    }
+}
+
+TEST_F(ChartsTest, CoreBarsHaveTheirPlaces) {
+    CoreBars bars(theme, defaults);
+    bars.setValues(std::vector{0.0, 0.5, 1.5});
+    EXPECT_EQ(bars.heightForWidth(96), 30);
+    EXPECT_EQ(bars.track(1, 96.0), QRectF(33, 0, 30, 30)); // three of 30 with gaps of 3
+    EXPECT_EQ(bars.bar(0, 96.0), QRectF(0, 27, 30, 3));    // the stub of an idle core
+    EXPECT_EQ(bars.bar(1, 96.0), QRectF(33, 15, 30, 15));
+    EXPECT_EQ(bars.bar(2, 96.0), QRectF(66, 0, 30, 30));
+    const QImage image = drawn(bars, {96, 30});
+    EXPECT_EQ(at(image, 15, 10), onWindow(&ThemeColors::quaternary));
+    EXPECT_EQ(at(image, 81, 10), onWindow(&ThemeColors::red));
+}
+
+TEST_F(ChartsTest, ManyCoresStayReadable) {
+    for (const std::size_t cores : {48u, 64u, 128u, 256u, 1024u}) {
+        CoreBars bars(theme, defaults);
+        bars.setValues(std::vector(cores, 0.5));
+        constexpr double width = 292.0;
+        const int height = bars.heightForWidth(static_cast<int>(width));
+        for (std::size_t i = 0; i < cores; ++i) {
+            const QRectF track = bars.track(i, width);
+            ASSERT_GE(track.width(), 3.0) << cores;
+            ASSERT_GE(track.height(), 20.0) << cores;
+            ASSERT_TRUE(QRectF(-0.01, 0, width + 0.02, height).contains(track)) << cores << ' ' << i;
+            ASSERT_FALSE(i > 0 && track.intersects(bars.track(i - 1, width))) << cores;
+        }
+    }
+}
+
+TEST_F(ChartsTest, SegmentsStandSideBySide) {
+    SegmentedBar bar(theme, QStringLiteral("Memory in use"));
+    bar.setSegments({{0, 0.5, &ThemeColors::accent}, {1, 0.01, &ThemeColors::orange}, {2, 1.5, &ThemeColors::purple}});
+    EXPECT_THAT(bar.places(100.0), ElementsAre(QRectF(0, 0, 48, 8), QRectF(50, 0, 0, 8), QRectF(52, 0, 98, 8)));
+    bar.setSegments({{0, 0.5, &ThemeColors::accent}, {1, 0.25, &ThemeColors::orange}});
+    EXPECT_EQ(bar.accessibleFraction(), 0.75);
+    const QImage image = drawn(bar, {100, 8});
+    EXPECT_EQ(at(image, 20, 4), onWindow(&ThemeColors::accent));
+    EXPECT_EQ(at(image, 60, 4), onWindow(&ThemeColors::orange));
+    EXPECT_EQ(at(image, 90, 4), onWindow(&ThemeColors::quaternary));
+    bar.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(at(drawn(bar, {100, 8}), 80, 4), onWindow(&ThemeColors::accent));
+}
+
+TEST_F(ChartsTest, AStatRowTakesASecondLineRatherThanOverlap) {
+    StatRow row(theme, QStringLiteral("Interface"), StatRow::Lead::none());
+    row.setValue(QStringLiteral("eth0"));
+    const int one = row.heightForWidth(200);
+    row.setValue(QStringLiteral("enx00e04c680123 of the docking station"));
+    EXPECT_GE(row.heightForWidth(200), 2 * one - 1);
+    EXPECT_EQ(row.heightForWidth(1000), one);
+    EXPECT_EQ(row.accessibleText(), QStringLiteral("Interface: enx00e04c680123 of the docking station"));
+}
+
+TEST_F(ChartsTest, AStatRowLeadsWithItsMark) {
+    StatRow row(theme, QStringLiteral("User"), StatRow::Lead::mark(&ThemeColors::purple));
+    row.setValue(QStringLiteral("25%"));
+    const int height = row.heightForWidth(150);
+    const QImage image = drawn(row, {150, height});
+    EXPECT_EQ(at(image, 3.5, height / 2.0 + 0.5), onWindow(&ThemeColors::purple));
+    EXPECT_EQ(at(image, 9, height / 2.0), onWindow(&ThemeColors::window));
+}
+
+TEST_F(ChartsTest, RingGaugeClampsAndRoundsHalvesUp) {
+    const struct {
+        double fraction;
+        const char* text;
+        double shown;
+    } cases[] = {{1.3, "100%", 1.0}, {-0.2, "0%", 0.0}, {0.125, "13%", 0.125}, {std::nan(""), "0%", 0.0}};
+    for (const auto& c : cases) {
+        RingGauge ring(theme, defaults, QStringLiteral("CPU load"), 8.0);
+        ring.setFraction(c.fraction);
+        EXPECT_EQ(ring.text().toStdString(), c.text);
+        EXPECT_EQ(ring.shownFraction(), c.shown); // not on screen: nothing to animate
+        EXPECT_FALSE(ring.isAnimating());
+    }
+}
+
+TEST_F(ChartsTest, RingGaugeRunsClockwiseFromTheTop) {
+    RingGauge ring(theme, defaults, QStringLiteral("CPU load"), 8.0);
+    ring.setFraction(0.4);
+    const QImage image = drawn(ring, {76, 76});
+    EXPECT_EQ(at(image, 72, 38), onWindow(&ThemeColors::accent));    // three o'clock
+    EXPECT_EQ(at(image, 4, 38), onWindow(&ThemeColors::quaternary)); // nine o'clock
+}
+
+TEST_F(ChartsTest, RingGaugeSpringsToItsValueAndThenRests) {
+    RingGauge ring(theme, defaults, QStringLiteral("CPU load"), 8.0);
+    ring.resize(76, 76);
+    ring.show();
+    ring.setFraction(0.8);
+    EXPECT_TRUE(ring.isAnimating());
+    EXPECT_LT(ring.shownFraction(), 0.1);
+    QElapsedTimer patience;
+    patience.start();
+    while (ring.isAnimating() && patience.elapsed() < 20'000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    EXPECT_EQ(ring.shownFraction(), 0.8);
+    ring.setFraction(0.8);
+    EXPECT_FALSE(ring.isAnimating());
+    ring.setFraction(0.2);
+    ring.hide(); // nobody looks
+    EXPECT_FALSE(ring.isAnimating());
+    EXPECT_EQ(ring.shownFraction(), 0.2);
+    appearance.set({.dark = true, .accent = std::nullopt, .reducesMotion = true});
+    ring.show();
+    ring.setFraction(0.6);
+    EXPECT_FALSE(ring.isAnimating());
+}
+
+TEST_F(ChartsTest, ACardIsAFrameWithRoundCorners) {
+    MetricCard card(theme, QStringLiteral("Memory"), "memorychip");
+    card.setSubtitle(QStringLiteral("3 connected"));
+    EXPECT_EQ(card.accessibleText(), QStringLiteral("Memory, 3 connected"));
+    const QImage image = drawn(card, {316, 120});
+    EXPECT_EQ(at(image, 0, 0), onWindow(&ThemeColors::window));
+    EXPECT_EQ(at(image, 158, 100), onWindow(&ThemeColors::card));
+}
+
+} // namespace
+} // namespace vantrix

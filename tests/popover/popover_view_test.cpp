@@ -1,0 +1,220 @@
+#include "popover/popover_view.h"
+
+#include <algorithm>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QShortcut>
+
+#include <gmock/gmock.h>
+
+#include "fakes/fake_appearance.h"
+#include "fakes/fake_defaults.h"
+#include "fakes/fake_sources.h"
+#include "menubar/preferences.h"
+#include "monitor/system_monitor.h"
+#include "popover/cards/cpu_card.h"
+#include "popover/cards/disk_card.h"
+#include "popover/cards/gpu_card.h"
+#include "popover/cards/network_card.h"
+#include "popover/headline.h"
+#include "samplers/processor_description.h"
+#include "views/text_label.h"
+#include "views/texts_of.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::Not;
+
+class PopoverViewTest : public ::testing::Test {
+  protected:
+    PopoverViewTest()
+        : monitor(machine.makeSources(), defaults, std::make_unique<QtRepeatingTimer>(),
+                  std::make_unique<ThreadTaskRunner>()) {}
+
+    std::unique_ptr<PopoverView> makeView() {
+        return std::make_unique<PopoverView>(monitor, context, [this] {
+            return std::vector<StatusMenuEntry>{
+                {u"Settings…"_s, QKeySequence(u"Ctrl+,"_s), [this] { ++settingsShown; }}};
+        });
+    }
+
+    static void settle() { QCoreApplication::sendPostedEvents(); }
+
+    fakes::FakeMachine machine;
+    fakes::FakeDefaults defaults;
+    fakes::FakeAppearance appearance{{true, std::nullopt, true}};
+    Theme theme{appearance};
+    fakes::FakeInformation information;
+    ProcessorDescription processor{information};
+    CardContext context{theme, defaults, processor};
+    SystemMonitor monitor;
+    int settingsShown = 0;
+};
+
+TEST_F(PopoverViewTest, PlacesTheChosenCardsInTheirFixedOrder) {
+    using enum PopoverCard;
+    const struct {
+        const char* name;
+        QString chosen;
+        std::vector<PopoverCard> shown;
+        bool saysEmpty;
+    } cases[] = {
+        {"another order", u"disk,network,cpu"_s, {cpu, network, disk}, false},
+        {"unknown names", u"nonsense,memory"_s, {memory}, false},
+        {"nothing", u""_s, {}, true},
+        {"only what this machine lacks", u"gpu,battery"_s, {}, false},
+        {"everything",
+         u"cpu,memory,network,disk,gpu,sensors,battery,accessories"_s,
+         {cpu, memory, network, disk},
+         false},
+    };
+    const auto view = makeView();
+    view->show();
+    for (const auto& c : cases) {
+        defaults.set(preference_key::visibleCards, c.chosen);
+        settle();
+        EXPECT_EQ(view->shownCards(), c.shown) << c.name;
+        const auto texts = textsOf(*view);
+        const auto empty = std::ranges::count(texts, "No cards selected. Choose what to show in Settings → Popover.");
+        EXPECT_EQ(empty, c.saysEmpty ? 1 : 0) << c.name;
+    }
+}
+
+TEST_F(PopoverViewTest, FollowsTheMonitorWhileItIsOpen) {
+    const auto view = makeView();
+    view->show();
+    EXPECT_THAT(textsOf(*view), Not(Contains("GPU")));
+    monitor.loadDemo();
+    settle();
+    EXPECT_THAT(textsOf(*view), Contains("GPU"));
+    EXPECT_THAT(textsOf(*view), Contains("User: 25%"));
+    EXPECT_THAT(view->shownCards(), Contains(PopoverCard::gpu));
+}
+
+TEST_F(PopoverViewTest, AClosedOneDoesNothing) {
+    const auto view = makeView();
+    view->show();
+    view->hide();
+    monitor.loadDemo();
+    settle();
+    EXPECT_THAT(textsOf(*view), Not(Contains("User: 25%")));
+    view->show(); // and is up to date as it opens
+    EXPECT_THAT(textsOf(*view), Contains("User: 25%"));
+}
+
+TEST_F(PopoverViewTest, HasItsHeaderAndItsShortcuts) {
+    const auto view = makeView();
+    view->show();
+    EXPECT_THAT(textsOf(*view), Contains("Test processor"));
+    const auto* button = view->findChild<QAbstractButton*>();
+    EXPECT_EQ(button->accessibleName(), u"Vantrix menu"_s);
+    EXPECT_EQ(button->toolTip(), u"Settings and quit"_s);
+    for (auto* shortcut : view->findChildren<QShortcut*>())
+        Q_EMIT shortcut->activated();
+    EXPECT_EQ(settingsShown, 1);
+}
+
+TEST_F(PopoverViewTest, EverythingFitsInItsWidth) {
+    monitor.loadDemo();
+    for (const int pixels : {13, 27}) {
+        const QFont usual = QApplication::font();
+        QFont large = usual;
+        large.setPixelSize(pixels);
+        QApplication::setFont(large);
+        const auto view = makeView();
+        view->resize(PopoverView::contentWidth, 800);
+        view->show();
+        settle();
+        settle();
+        for (const QWidget* child : view->findChildren<QWidget*>()) {
+            if (!child->isVisible())
+                continue;
+            const QRect place(child->mapTo(view.get(), QPoint()), child->size());
+            EXPECT_GE(place.left(), 0) << pixels;
+            EXPECT_LE(place.right(), PopoverView::contentWidth - 1) << pixels << child->metaObject()->className();
+            EXPECT_GE(child->height(), child->heightForWidth(child->width()))
+                << pixels << ' ' << child->accessibleName().toStdString();
+        }
+        QApplication::setFont(usual);
+    }
+}
+
+class CardsTest : public PopoverViewTest {
+  protected:
+    template<typename Kind>
+    std::unique_ptr<Kind> shown() {
+        auto card = std::make_unique<Kind>(context);
+        card->showReadings(readings);
+        return card;
+    }
+
+    Readings readings = demoReadings();
+};
+
+TEST_F(CardsTest, TheIdleShareNeverGoesBelowZero) {
+    readings.cpu.total = 1.02; // rounding noise
+    EXPECT_THAT(textsOf(*shown<CPUCard>()), Contains("Idle: 0%"));
+    readings.cpu.total = 0.999;
+    EXPECT_THAT(textsOf(*shown<CPUCard>()), Contains("Idle: 0%"));
+    readings.cpu = {};
+    const auto card = shown<CPUCard>();
+    EXPECT_THAT(textsOf(*card), Contains("Idle: 100%"));
+    EXPECT_THAT(textsOf(*card), Not(Contains(::testing::StartsWith("Load of each core")))); // there is none to show
+}
+
+TEST_F(CardsTest, TheNetworkCardLeavesOutWhatIsNotKnown) {
+    const auto details = [this](NetworkInfo info) {
+        readings.networkInfo = std::move(info);
+        std::vector<std::string> texts = textsOf(*shown<NetworkCard>());
+        texts.erase(texts.begin(), std::ranges::find(texts, "Upload history") + 1); // what stands above them
+        return texts;
+    };
+    NetworkInfo wifi = demoReadings().networkInfo;
+    EXPECT_THAT(details(wifi),
+                ElementsAre("Network: Home", "Signal: -52 dBm · Good", "Signal-to-noise: 40 dB", "Link speed: 866 Mbps",
+                            "Interface: Wi-Fi (en0)", "IP address: 192.168.1.24"));
+    NetworkInfo withheld;
+    withheld.kind = NetworkInfo::Kind::wifi;
+    withheld.rssi = -71;
+    withheld.ssidHiddenByPrivacy = true;
+    EXPECT_THAT(details(withheld), ElementsAre("Network name unavailable", "Signal: -71 dBm · Weak"));
+    NetworkInfo ethernet;
+    ethernet.kind = NetworkInfo::Kind::ethernet;
+    ethernet.interface = "enp3s0";
+    ethernet.ssidHiddenByPrivacy = true;
+    EXPECT_THAT(details(ethernet), ElementsAre("Interface: enp3s0"));
+    EXPECT_THAT(details({}), ElementsAre());
+}
+
+TEST_F(CardsTest, TheDiskCardShowsAbsentRatesAsZeroAndSurvivesAnEmptyVolume) {
+    readings.disk = {0, 0, std::nullopt, std::nullopt};
+    const auto card = shown<DiskCard>();
+    EXPECT_THAT(textsOf(*card), Contains("0 KB free"));
+    EXPECT_EQ(std::ranges::count(textsOf(*card), "0 KB/s"), 2);
+}
+
+TEST_F(CardsTest, TheHeadlineNeedsNoMoreThanItsRoom) {
+    Headline headline(theme);
+    headline.setText(u"123456.78 GB"_s, u"%@ of 999999.99 TB"_s);
+    EXPECT_EQ(headline.accessibleText(), u"123456.78 GB of 999999.99 TB"_s);
+    headline.resize(100, headline.sizeHint().height());
+    QImage image(headline.size() + QSize(50, 0), QImage::Format_RGB32);
+    image.fill(Qt::black);
+    headline.render(&image, {}, {}, QWidget::DrawChildren);
+    EXPECT_GT(headline.sizeHint().width(), 150);
+    int last = 0; // the last figure stands at the right edge
+    for (int x = 0; x < image.width(); ++x)
+        for (int y = 0; y < image.height(); ++y)
+            last = image.pixelColor(x, y) != Qt::black ? x : last;
+    EXPECT_GT(last, 92);
+    EXPECT_LT(last, 100);
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,227 @@
+#include "settings/settings_window.h"
+
+#include "settings/controls/picker.h"
+#include "settings/controls/push_button.h"
+#include "settings/controls/slider.h"
+#include "settings/controls/switch.h"
+#include "settings/controls/tab_button.h"
+#include "settings/form_row.h"
+#include "support/localization.h"
+
+namespace vantrix {
+namespace {
+
+using namespace settings_window;
+
+TEST_F(SettingsWindowTest, IsOneWindowThatOpensOnTheTabAskedFor) {
+    SettingsView& window = show(SettingsTab::general);
+    EXPECT_EQ(window.size(), QSize(520, 500));
+    EXPECT_EQ(window.currentTab(), SettingsTab::general);
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(&show(SettingsTab::alerts), &window);
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_EQ(window.currentTab(), SettingsTab::alerts);
+    EXPECT_EQ(stored(preference_key::settingsTab), u"alerts");
+    EXPECT_EQ(show(SettingsTab::menuBar).currentTab(), SettingsTab::menuBar) << "while it is open";
+    store(preference_key::settingsTab, QStringLiteral("nonsense"));
+    EXPECT_EQ(window.currentTab(), SettingsTab::general);
+}
+
+TEST_F(SettingsWindowTest, TabsAreChosenByClickAndByArrowKeysAndTellWhatTheyAre) {
+    SettingsView& window = show(SettingsTab::general);
+    control<TabButton>("Popover").click();
+    EXPECT_EQ(window.currentTab(), SettingsTab::popover);
+    control<TabButton>("Popover").setFocus();
+    press(control<TabButton>("Popover"), Qt::Key_Right);
+    EXPECT_EQ(window.currentTab(), SettingsTab::alerts);
+    EXPECT_EQ(stored(preference_key::settingsTab), u"alerts");
+    QAccessibleInterface* tab = QAccessible::queryAccessibleInterface(&control<TabButton>("Alerts"));
+    EXPECT_EQ(tab->role(), QAccessible::PageTab);
+    EXPECT_TRUE(tab->state().selected);
+    EXPECT_EQ(tab->parent()->role(), QAccessible::PageTabList);
+}
+
+TEST_F(SettingsWindowTest, LaunchAtLoginMirrorsTheSystem) {
+    show(SettingsTab::general);
+    auto& launch = control<Switch>("Launch at login");
+    launch.click();
+    EXPECT_TRUE(loginItem.enabled);
+    EXPECT_TRUE(launch.isChecked());
+    loginItem.refuses = true;
+    launch.click();
+    EXPECT_TRUE(launch.isChecked()) << "springs back when the system refuses";
+    show(SettingsTab::alerts);
+    loginItem.enabled = false;
+    show(SettingsTab::general);
+    EXPECT_FALSE(launch.isChecked()) << "changed behind the window's back";
+}
+
+TEST_F(SettingsWindowTest, SlidersStoreCleanNumbersAndPushTheOtherOne) {
+    show(SettingsTab::general);
+    auto& warning = control<Slider>("Warning threshold");
+    press(warning, Qt::Key_Right);
+    press(warning, Qt::Key_Right);
+    EXPECT_EQ(defaults.number(preference_key::warningThreshold), 0.85);
+    press(warning, Qt::Key_End);
+    EXPECT_EQ(defaults.number(preference_key::warningThreshold), 0.95);
+    EXPECT_EQ(control<Slider>("Critical threshold").fraction(), 1.0);
+    EXPECT_TRUE(shows("100%"));
+    press(control<Slider>("Critical threshold"), Qt::Key_Home);
+    EXPECT_EQ(defaults.number(preference_key::warningThreshold), 0.5);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&warning)->text(QAccessible::Value), u"50%");
+
+    show(SettingsTab::alerts);
+    EXPECT_TRUE(shows("CPU above 55%")) << "the critical threshold";
+    press(control<Slider>("Disk full threshold"), Qt::Key_Left);
+    EXPECT_EQ(defaults.number(preference_key::diskAlertThreshold), 0.91);
+    press(control<Slider>("Disk full threshold"), Qt::Key_End);
+    EXPECT_EQ(defaults.number(preference_key::diskAlertThreshold), 0.99);
+}
+
+TEST_F(SettingsWindowTest, ANumberStoredByHandShowsAndStays) {
+    store(preference_key::criticalThreshold, 1e300);
+    store(preference_key::warningThreshold, 0.83);
+    store(preference_key::updateInterval, 2.5);
+    show(SettingsTab::general);
+    auto& interval = control<Picker>("Update every");
+    EXPECT_EQ(interval.currentText(), u"2.5 seconds");
+    EXPECT_EQ(interval.count(), 6);
+    EXPECT_EQ(interval.findText(QStringLiteral("2.5 seconds")), 2);
+    EXPECT_TRUE(shows("83%"));
+    EXPECT_EQ(defaults.number(preference_key::updateInterval), 2.5);
+    EXPECT_EQ(defaults.number(preference_key::warningThreshold), 0.83);
+
+    press(interval, Qt::Key_Down);
+    EXPECT_EQ(defaults.number(preference_key::updateInterval), 3.0);
+    EXPECT_EQ(interval.count(), 5) << "the extra entry goes";
+    store(preference_key::updateInterval, 10.0);
+    EXPECT_EQ(interval.currentText(), u"10 seconds") << "a change from outside";
+}
+
+TEST_F(SettingsWindowTest, SwitchesFollowAndStore) {
+    show(SettingsTab::alerts);
+    struct Case {
+        const char* name;
+        QString key;
+    };
+    const Case cases[] = {
+        {"Send notifications", preference_key::alertsEnabled},
+        {"CPU above 90%", preference_key::alertCPU},
+        {"Memory under pressure", preference_key::alertMemory},
+        {"Disk almost full", preference_key::alertDisk},
+        {"Battery at 15% or less, not charging", preference_key::alertBattery},
+        {"CPU temperature above 95 °C", preference_key::alertTemperature},
+    };
+    for (const Case& c : cases) {
+        auto& control = this->control<Switch>(c.name);
+        const bool before = defaults.boolean(c.key);
+        EXPECT_EQ(control.isChecked(), before) << c.name;
+        press(control, Qt::Key_Space);
+        EXPECT_EQ(defaults.boolean(c.key), !before) << c.name;
+        store(c.key, before);
+        EXPECT_EQ(control.isChecked(), before) << c.name;
+    }
+}
+
+TEST_F(SettingsWindowTest, CardsAreStoredAsASortedSet) {
+    store(preference_key::visibleCards, QStringLiteral("network,future,cpu"));
+    show(SettingsTab::popover);
+    EXPECT_TRUE(control<Switch>("CPU").isChecked());
+    EXPECT_FALSE(control<Switch>("Battery").isChecked());
+    control<Switch>("Battery").click();
+    EXPECT_EQ(stored(preference_key::visibleCards), u"battery,cpu,future,network");
+    control<Switch>("CPU").click();
+    EXPECT_EQ(stored(preference_key::visibleCards), u"battery,future,network");
+}
+
+TEST_F(SettingsWindowTest, TheTestNotificationsOutcomeShowsEvenWhenItComesLate) {
+    show(SettingsTab::alerts);
+    control<PushButton>("Send test notification").click();
+    ASSERT_TRUE(reportTest);
+    reportTest(QStringLiteral("Sent"));
+    EXPECT_TRUE(shows("Sent"));
+
+    const auto late = reportTest;
+    {
+        SettingsView other({theme, defaults, monitor, loginItem, [this](auto report) { reportTest = report; }});
+        other.findChild<PushButton*>()->click();
+    }
+    reportTest(QStringLiteral("too late"));
+    EXPECT_FALSE(shows("too late"));
+
+    SettingsView silent({theme, defaults, monitor, loginItem, {}});
+    EXPECT_FALSE(silent.findChild<PushButton*>()->isEnabled());
+}
+
+TEST_F(SettingsWindowTest, EveryControlHasANameAndTheKeyboardReachesIt) {
+    for (const auto& tab : settingsTabs) {
+        SettingsView& window = show(tab.value);
+        std::set<QWidget*> reached;
+        QWidget* widget = &window;
+        do {
+            widget = widget->nextInFocusChain();
+            if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus)
+                reached.insert(widget);
+        } while (widget != &window);
+        EXPECT_GT(reached.size(), 4u) << tab.title;
+        for (QWidget* control : reached) {
+            QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(control);
+            EXPECT_FALSE(interface->text(QAccessible::Name).isEmpty())
+                << tab.title << ' ' << control->metaObject()->className();
+            EXPECT_NE(interface->role(), QAccessible::Client) << control->metaObject()->className();
+        }
+    }
+}
+
+std::string inLongWords(std::string_view english, std::optional<long long>) {
+    std::string text;
+    for (const char letter : english)
+        text += letter == 'e' ? std::string("eeee") : std::string(1, letter);
+    return text;
+}
+
+/// What is wrong with how the texts and controls of the open tab are laid out; empty when nothing is.
+std::string faultIn(const SettingsView& window) {
+    for (const auto* row : window.findChildren<FormRow*>()) {
+        if (!row->isVisible())
+            continue;
+        const TextLabel& caption = row->caption();
+        const std::string name = caption.text().toStdString();
+        if (caption.heightForWidth(caption.width()) > caption.height())
+            return name + ": cut";
+        if (caption.geometry().intersects(row->control().geometry()))
+            return name + ": under its control";
+        if (!row->rect().contains(row->control().geometry()) || !row->rect().contains(caption.geometry()))
+            return name + ": beyond its row";
+        if (!row->parentWidget()->rect().contains(row->geometry()))
+            return name + ": beyond its group";
+    }
+    return {};
+}
+
+TEST_F(SettingsWindowTest, LargeTextsLongWordsAndMirroringNeitherCutNorOverlap) {
+    const QFont usual = QApplication::font();
+    installTranslator(inLongWords);
+    for (const double points : {10.0, 15.0, 20.0, 30.0})
+        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+            QFont font = usual;
+            font.setPixelSize(static_cast<int>(points * 4.0 / 3.0));
+            QApplication::setFont(font);
+            QApplication::processEvents();
+            SettingsView window({theme, defaults, monitor, loginItem, {}});
+            window.setLayoutDirection(direction);
+            window.show();
+            for (const auto& tab : settingsTabs) {
+                store(preference_key::settingsTab,
+                      QString::fromUtf8(tab.rawValue.data(), qsizetype(tab.rawValue.size())));
+                EXPECT_EQ(window.size(), SettingsView::contentSize);
+                EXPECT_EQ(faultIn(window), "") << tab.title << " at " << points << " points";
+            }
+        }
+    installTranslator(nullptr);
+    QApplication::setFont(usual);
+}
+
+} // namespace
+} // namespace vantrix
