@@ -61,7 +61,6 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
     installTranslations();
     installAccessibleApplication();
     QApplication::setApplicationName(QStringLiteral("vantrix"));
-    QApplication::setApplicationDisplayName(QStringLiteral("Vantrix"));
     QApplication::setDesktopFileName(QStringLiteral("vantrix"));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/vantrix.svg")));
     const auto channel = claimInstance();

@@ -87,24 +87,79 @@ class AccessibleProgramTest : public AccessibilityTest {
         process.start(QStringLiteral(VANTRIX_PROGRAM), arguments);
     }
 
+    /// Starts the program, and once it can be read hands it a request.
+    void startAndAsk(const QStringList& request) {
+        start(program);
+        readUntil(u"vantrix"_s, [](const AccessibleNode& tree) { return tree.role == u"application"; });
+        QProcess asking;
+        start(asking, request);
+        ASSERT_TRUE(spinUntil([&] { return asking.state() == QProcess::NotRunning; }));
+        ASSERT_EQ(asking.exitCode(), 0);
+    }
+
     QTemporaryDir folder;
     QProcess program;
 };
 
 TEST_F(AccessibleProgramTest, ThePopoverCanBeRead) {
-    start(program);
-    readUntil(u"vantrix"_s, [](const AccessibleNode& tree) { return tree.role == u"application"; });
-    QProcess request;
-    start(request, {u"--show-popover"_s});
-    ASSERT_TRUE(spinUntil([&] { return request.state() == QProcess::NotRunning; }));
-    ASSERT_EQ(request.exitCode(), 0);
+    startAndAsk({u"--show-popover"_s});
     const AccessibleNode tree = readUntil(u"vantrix"_s, [](const AccessibleNode& program) {
         const AccessibleNode* popover = find(program, u"dialog"_s, u"Vantrix"_s);
-        return popover != nullptr && !popover->children.empty();
+        return popover != nullptr && find(*popover, u"panel"_s, u"Disk"_s) != nullptr;
     });
     SCOPED_TRACE(qPrintable(describe(tree)));
-    const AccessibleNode& content = find(tree, u"dialog"_s, u"Vantrix"_s)->children.front();
-    EXPECT_EQ(content.name, u"Vantrix"_s);
+    const AccessibleNode& popover = *find(tree, u"dialog"_s, u"Vantrix"_s);
+    EXPECT_TRUE(find(popover, u"push button"_s, u"Vantrix menu"_s));
+    const struct {
+        QString card;
+        QString gauge;
+    } cards[] = {{u"CPU"_s, u"CPU load"_s}, {u"Memory"_s, u"Memory in use"_s}, {u"Disk"_s, u"Disk space in use"_s}};
+    for (const auto& [card, gauge] : cards) {
+        const AccessibleNode* panel = find(popover, u"panel"_s, card);
+        ASSERT_TRUE(panel) << qPrintable(card);
+        const AccessibleNode* bar = find(*panel, u"progress bar"_s, gauge);
+        ASSERT_TRUE(bar && bar->value) << qPrintable(gauge);
+        EXPECT_GE(bar->value->current, 0.0);
+        EXPECT_LE(bar->value->current, bar->value->most);
+    }
+    EXPECT_TRUE(find(popover, u"label"_s, u"Pressure: normal"_s) || find(popover, u"label"_s, u"Pressure: warning"_s) ||
+                find(popover, u"label"_s, u"Pressure: critical"_s));
+    EXPECT_TRUE(find(popover, u"chart"_s, u"Download history"_s));
+}
+
+/// The controls in `node` that assistive programs could not tell from each other.
+void collectNameless(const AccessibleNode& node, QStringList& found) {
+    static const QStringList controls = {u"push button"_s, u"check box"_s, u"radio button"_s,
+                                         u"slider"_s,      u"combo box"_s, u"page tab"_s};
+    if (controls.contains(node.role) && node.name.isEmpty())
+        found += node.role;
+    for (const AccessibleNode& child : node.children)
+        collectNameless(child, found);
+}
+
+TEST_F(AccessibleProgramTest, EveryControlOfTheSettingsHasItsName) {
+    startAndAsk({u"--show-settings"_s, u"alerts"_s});
+    const AccessibleNode tree = readUntil(u"vantrix"_s, [](const AccessibleNode& program) {
+        return find(program, u"slider"_s, u"Disk full threshold"_s) != nullptr;
+    });
+    SCOPED_TRACE(qPrintable(describe(tree)));
+    const struct {
+        QString role;
+        QString name;
+    } expected[] = {{u"page tab"_s, u"Menu Bar"_s},          {u"check box"_s, u"Launch at login"_s},
+                    {u"combo box"_s, u"Update every"_s},     {u"slider"_s, u"Warning threshold"_s},
+                    {u"radio button"_s, u"With graph"_s},    {u"check box"_s, u"Bluetooth accessories"_s},
+                    {u"push button"_s, u"Move Memory up"_s}, {u"push button"_s, u"Send test notification"_s}};
+    for (const auto& [role, name] : expected)
+        EXPECT_TRUE(find(tree, role, name)) << qPrintable(role) << ' ' << qPrintable(name);
+    const AccessibleNode* slider = find(tree, u"slider"_s, u"Critical threshold"_s);
+    ASSERT_TRUE(slider && slider->value);
+    EXPECT_NEAR(slider->value->current, 0.9, 1e-9);
+    EXPECT_NEAR(slider->value->least, 0.55, 1e-9);
+    EXPECT_NEAR(slider->value->most, 1.0, 1e-9);
+    QStringList nameless;
+    collectNameless(tree, nameless);
+    EXPECT_EQ(nameless, QStringList());
 }
 
 } // namespace
