@@ -17,8 +17,8 @@ sensors:sensors|support
 accessories:accessories|support
 monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|menubar/preferences.h
 menubar:menubar|monitor|support|samplers/memory_sampler.h
-views:views|menubar|support|platform/appearance.h|platform/status_item.h
-popover:popover|views|monitor|menubar|support|samplers|platform/status_item.h
+views:views|menubar|support|platform/appearance.h|platform/status_item.h|platform/desktop_services.h
+popover:popover|views|monitor|menubar|support|samplers|platform/status_item.h|platform/desktop_services.h
 settings:settings|views|monitor|menubar|support|platform/login_item.h
 platform/linux/sources:platform/linux/sources|platform/sampling_sources.h|samplers|accessories|support
 "
