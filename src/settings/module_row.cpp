@@ -93,19 +93,22 @@ bool ModuleRow::eventFilter(QObject* watched, QEvent* event) {
 
 bool ModuleRow::filterCheckBox(QEvent* event) {
     // The check box fills most of the row: what begins as a click on it may become a drag.
-    const auto* mouse = static_cast<QMouseEvent*>(event);
     switch (event->type()) {
     case QEvent::MouseButtonPress:
-        if (mouse->button() == Qt::LeftButton)
-            held_ = mouse->globalPosition();
+        hold(*static_cast<QMouseEvent*>(event));
         return false;
     case QEvent::MouseMove:
-        return drag(*mouse);
+        return drag(*static_cast<QMouseEvent*>(event));
     case QEvent::MouseButtonRelease:
         return drop(true);
     default:
         return false;
     }
+}
+
+void ModuleRow::hold(const QMouseEvent& event) {
+    if (event.button() == Qt::LeftButton)
+        held_ = event.globalPosition();
 }
 
 bool ModuleRow::drag(const QMouseEvent& event) {
@@ -134,8 +137,7 @@ bool ModuleRow::drop(bool counts) {
 }
 
 void ModuleRow::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        held_ = event->globalPosition();
+    hold(*event);
 }
 
 void ModuleRow::mouseMoveEvent(QMouseEvent* event) {

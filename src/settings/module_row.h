@@ -44,6 +44,7 @@ class ModuleRow : public View {
 
   private:
     bool filterCheckBox(QEvent* event);
+    void hold(const QMouseEvent& event);
     bool drag(const QMouseEvent& event);
     bool drop(bool counts);
 

@@ -12,6 +12,7 @@ namespace vantrix {
 /// A text that shows itself whole: it takes as many lines as it needs, or, where it has to stay on one, ends in an
 /// ellipsis and tells the rest in its tool tip.
 class TextLabel : public View {
+    Q_OBJECT
   public:
     struct Style {
         double points = 11.0;

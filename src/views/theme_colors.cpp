@@ -79,7 +79,7 @@ QColor over(const QColor& color, const QColor& ground) {
 }
 
 double contrast(const QColor& a, const QColor& b) {
-    const auto [darker, lighter] = std::minmax(luminance(a), luminance(b));
+    const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 

@@ -108,7 +108,9 @@ TEST_F(AccessibleProgramTest, ThePopoverCanBeRead) {
         return popover != nullptr && find(*popover, u"panel"_s, u"Disk"_s) != nullptr;
     });
     SCOPED_TRACE(qPrintable(describe(tree)));
-    const AccessibleNode& popover = *find(tree, u"dialog"_s, u"Vantrix"_s);
+    const AccessibleNode* found = find(tree, u"dialog"_s, u"Vantrix"_s);
+    ASSERT_TRUE(found);
+    const AccessibleNode& popover = *found;
     EXPECT_TRUE(find(popover, u"push button"_s, u"Vantrix menu"_s));
     const struct {
         QString card;

@@ -100,6 +100,7 @@ class AccessibilityBus {
             child.path = path.path();
             children.push_back(child);
         }
+        list.endArray();
         return children;
     }
 
