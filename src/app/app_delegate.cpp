@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPointer>
 #include <QScreen>
+#include <QToolTip>
 
 #include "menubar/preferences.h"
 #include "popover/popover_place.h"
@@ -51,6 +52,8 @@ void AppDelegate::applicationDidFinishLaunching() {
             delegate->refreshStatusItem();
     };
     observeDefaults();
+    QToolTip::setPalette(theme_.palette());
+    connect(&theme_, &Theme::changed, this, [this] { QToolTip::setPalette(theme_.palette()); });
     monitor_.start();
     refreshStatusItem();
 }
@@ -102,6 +105,7 @@ void AppDelegate::showMenu() {
         return;
     popover_.close();
     menu_ = makeMenu(menuEntries());
+    menu_->setPalette(theme_.palette());
     menu_->popup(menuPlace(menu_->sizeHint(), statusItem_->anchor()));
 }
 
@@ -121,11 +125,13 @@ void AppDelegate::openSettings() {
 
 /// `tab`: a blank and the tab's name, or nothing.
 void AppDelegate::showSettings(std::string_view tab) {
-    popover_.close();
     const auto named = tab.starts_with(' ') ? choiceNamed(settingsTabs, tab.substr(1)) : std::nullopt;
+    if (!named && !tab.empty())
+        return;
+    popover_.close();
     if (named)
         settings_.show(*named);
-    else if (tab.empty())
+    else
         settings_.show();
 }
 

@@ -1,11 +1,13 @@
 #include "app/command_line.h"
 
+#include <algorithm>
 #include <charconv>
 #include <sstream>
 
 namespace vantrix {
 namespace {
 
+constexpr std::string_view exportFlag = "-exportScreenshots";
 constexpr double leastInterval = 0.5;
 constexpr double mostInterval = 3600.0;
 
@@ -24,6 +26,13 @@ class Parser {
     explicit Parser(const std::vector<std::string>& arguments) : arguments_(arguments) {}
 
     std::variant<CommandLine, std::string> parse() {
+        // Wherever it stands, and whatever else there is: scripts count on it.
+        const auto flag = std::find(arguments_.begin(), arguments_.end(), exportFlag);
+        if (flag != arguments_.end() && flag + 1 != arguments_.end()) {
+            result_.action = Action::exportScreenshots;
+            result_.exportFolder = *(flag + 1);
+            return result_;
+        }
         while (next_ < arguments_.size() && error_.empty())
             parseOption(arguments_[next_++]);
         if (error_.empty())
@@ -51,8 +60,8 @@ class Parser {
             value(option); // the windowing toolkit reads it itself
         else if (option == "-reverse")
             return; // likewise: lays everything out from right to left
-        else if (option == "-exportScreenshots")
-            parseExport(option);
+        else if (option == exportFlag)
+            return; // without a folder behind it the flag means nothing, and the program starts as ever
         else
             parseSetting(option);
     }
@@ -141,14 +150,6 @@ class Parser {
         if (!result_.settingsTab)
             error_ = "--show-settings takes general, menuBar, popover or alerts, not " + arguments_[next_];
         ++next_;
-    }
-
-    void parseExport(const std::string& option) {
-        // Without a folder behind it the flag means nothing, and the program starts as ever.
-        if (next_ >= arguments_.size())
-            return;
-        act(Action::exportScreenshots, option);
-        result_.exportFolder = arguments_[next_++];
     }
 
     void checkCombination() {

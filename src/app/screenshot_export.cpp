@@ -62,6 +62,20 @@ class DemoLoginItem final : public LoginItem {
     void setEnabled(bool) override {}
 };
 
+/// The machine that the demo readings are of.
+class DemoInformation final : public SystemInformation {
+  public:
+    std::optional<std::int64_t> integer(std::string_view name) const override {
+        if (name == "hw.logicalcpu")
+            return 10;
+        if (name == "hw.perflevel0.logicalcpu")
+            return 8;
+        return name == "hw.perflevel1.logicalcpu" ? std::optional<std::int64_t>(2) : std::nullopt;
+    }
+    std::optional<std::string> text(std::string_view) const override { return "Example Processor 10"; }
+    int processorCount() const override { return 10; }
+};
+
 /// Ends the process when an export hangs.
 class Watchdog {
   public:
@@ -99,7 +113,7 @@ QString named(std::string_view name) {
 class Export {
   public:
     Export(ExportLog& log, SamplingSources sources, UserDefaults& defaults)
-        : log_(log), defaults_(defaults), information_(std::move(sources.information)), processor_(*information_),
+        : log_(log), defaults_(defaults), processor_(information_),
           monitor_(std::move(sources), defaults, std::make_unique<QtRepeatingTimer>(),
                    std::make_unique<ThreadTaskRunner>()) {}
 
@@ -160,7 +174,7 @@ class Export {
 
     ExportLog& log_;
     UserDefaults& defaults_;
-    std::unique_ptr<SystemInformation> information_;
+    DemoInformation information_;
     ProcessorDescription processor_;
     SystemMonitor monitor_;
     DemoLoginItem loginItem_;

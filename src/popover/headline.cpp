@@ -36,6 +36,7 @@ void Headline::setText(const QString& value, const QString& pattern) {
         return;
     pieces_ = std::move(pieces);
     update();
+    announceChange();
 }
 
 void Headline::setColor(ColorRole color) {

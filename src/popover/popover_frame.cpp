@@ -1,6 +1,7 @@
 #include "popover/popover_frame.h"
 
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -28,10 +29,12 @@ PopoverFrame::PopoverFrame(const Theme& theme, std::unique_ptr<QWidget> view) : 
     connect(&theme, &Theme::changed, this, [this] { setPalette(this->theme().palette()); });
 }
 
-bool PopoverFrame::closedWithin(qint64 milliseconds) {
+bool PopoverFrame::closedBySameClick(const QRect& item, qint64 milliseconds) {
     const bool recently = sinceHidden_.isValid() && sinceHidden_.elapsed() < milliseconds;
+    const bool pressed = closingPress_ && item.contains(*closingPress_);
     sinceHidden_.invalidate();
-    return recently;
+    closingPress_.reset();
+    return recently || pressed;
 }
 
 bool PopoverFrame::event(QEvent* event) {
@@ -46,7 +49,15 @@ void PopoverFrame::keyPressEvent(QKeyEvent* event) {
     View::keyPressEvent(event);
 }
 
+void PopoverFrame::mousePressEvent(QMouseEvent* event) {
+    const bool outside = !rect().contains(event->position().toPoint());
+    if (outside)
+        closingPress_ = event->globalPosition().toPoint();
+    View::mousePressEvent(event); // closes it
+}
+
 void PopoverFrame::showEvent(QShowEvent* event) {
+    closingPress_.reset();
     roundWindow(*this, cornerRadius); // a compositor may have come or gone meanwhile
     View::showEvent(event);
 }

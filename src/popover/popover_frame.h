@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 
 #include <QElapsedTimer>
 
@@ -18,8 +19,9 @@ class PopoverFrame : public View {
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Dialog; }
 
-    /// True once after each time it was closed within the last `milliseconds`.
-    bool closedWithin(qint64 milliseconds);
+    /// True once after each time that the click which asks for it now has closed it: by its press on `item`, however
+    /// long it was held, or, where the press is not told, within the last `milliseconds`.
+    bool closedBySameClick(const QRect& item, qint64 milliseconds);
 
   Q_SIGNALS:
     void closed();
@@ -27,6 +29,7 @@ class PopoverFrame : public View {
   protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -34,6 +37,7 @@ class PopoverFrame : public View {
 
   private:
     QElapsedTimer sinceHidden_;
+    std::optional<QPoint> closingPress_; ///< on the screen
 };
 
 } // namespace vantrix

@@ -37,6 +37,7 @@ void PopoverHost::makeFrame() {
     frame_ = std::make_unique<PopoverFrame>(theme_, makeView_());
     QObject::connect(&fade_, &QVariantAnimation::valueChanged, frame_.get(),
                      [this](const QVariant& opacity) { frame_->setWindowOpacity(opacity.toDouble()); });
+    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, frame_.get(), &QWidget::hide);
     QObject::connect(frame_.get(), &PopoverFrame::closed, &fade_, &QVariantAnimation::stop);
 }
 
@@ -57,8 +58,12 @@ void PopoverHost::place(const QRect& anchor) {
     QScreen* screen = screenAt(anchor);
     const QRect visible = screen ? screen->availableGeometry() : QRect();
     const QSize size(popoverWidth, popoverHeight(visible.height()));
-    if (screen)
+    if (screen) {
         frame_->setScreen(screen); // its scale factor is the one that the place is meant in
+        // Where it stands would be wrong; the next click opens it where it belongs.
+        for (const auto moved : {&QScreen::availableGeometryChanged, &QScreen::geometryChanged})
+            QObject::connect(screen, moved, frame_.get(), &QWidget::hide, Qt::UniqueConnection);
+    }
     frame_->setGeometry(screen ? popoverPlace(size, anchor, visible) : QRect(anchor.bottomLeft(), size));
 }
 
@@ -75,7 +80,7 @@ void PopoverHost::close() {
 void PopoverHost::toggle(const QRect& anchor) {
     if (isShown())
         return close();
-    if (frame_ && frame_->closedWithin(sameClick))
+    if (frame_ && frame_->closedBySameClick(anchor, sameClick))
         return;
     show(anchor);
 }

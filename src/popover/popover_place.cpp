@@ -10,6 +10,8 @@ constexpr int screenMargin = 30;
 constexpr int leastHeight = 480;
 constexpr int heightWithoutScreen = 870;
 constexpr int gap = 4; // between the status item and the popover
+constexpr int highestPanel = 96;
+constexpr int panelMargin = 8; // of items in a panel; a strip on the desktop stands further in
 
 /// How far `point` is outside of `rect`; 0 inside.
 int distance(const QPoint& point, const QRect& rect) {
@@ -60,6 +62,13 @@ QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible)
     QRect place(QPoint(), size);
     if (!inSidePanel && choose(place, below, above, visible))
         return place;
+    // Some systems count the panel to the visible area: then the room left beside it is a little too low.
+    const int roomBelow = visible.bottom() + 1 - below.y();
+    const int roomAbove = anchor.top() - gap - visible.top();
+    const int room = std::max(roomBelow, roomAbove);
+    const bool inPanel = anchor.top() - visible.top() < panelMargin || visible.bottom() - anchor.bottom() < panelMargin;
+    if (!inSidePanel && inPanel && room >= std::max(size.height() - highestPanel, leastHeight))
+        return {QPoint(centredX, roomBelow >= roomAbove ? below.y() : visible.top()), QSize(size.width(), room)};
     if (choose(place, right, left, visible))
         return place;
     return {QPoint(centredX, kept(below.y(), size.height(), visible.top(), visible.bottom())), size};

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include <QPainter>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -63,7 +63,9 @@ PopoverView::PopoverView(const SystemMonitor& monitor, const CardContext& contex
     layout->setSpacing(0);
     layout->addWidget(new HeaderView(context.theme, context.processor.brand(), std::move(menuEntries)));
     layout->addWidget(new Divider(context.theme));
-    layout->addWidget(new ScrollColumn(context.theme, makeColumn()), 1);
+    auto* scrolling = new ScrollColumn(context.theme, makeColumn());
+    layout->addWidget(scrolling, 1);
+    addScrollKeys(*scrolling->verticalScrollBar());
 }
 
 QWidget* PopoverView::makeColumn() {
@@ -73,7 +75,7 @@ QWidget* PopoverView::makeColumn() {
     column_->setSpacing(cardGap);
     emptySelection_ = new QWidget;
     auto* padded = new QVBoxLayout(emptySelection_);
-    padded->setContentsMargins(emptyTextPadding, emptyTextPadding, emptyTextPadding, emptyTextPadding);
+    padded->setContentsMargins(0, emptyTextPadding, 0, emptyTextPadding);
     padded->addWidget(new TextLabel(
         theme(), {.points = emptyTextSize, .color = &ThemeColors::secondary, .wraps = true, .side = Qt::AlignHCenter},
         localizedText("No cards selected. Choose what to show in Settings → Popover.")));
@@ -87,6 +89,19 @@ void PopoverView::addShortcuts(const std::vector<StatusMenuEntry>& entries) {
     for (const StatusMenuEntry& entry : entries)
         if (!entry.shortcut.isEmpty())
             connect(new QShortcut(entry.shortcut, this), &QShortcut::activated, this, entry.action);
+}
+
+/// The column is all there is to scroll, so its keys need no focus of its own.
+void PopoverView::addScrollKeys(QScrollBar& bar) {
+    using Step = QAbstractSlider;
+    const std::pair<Qt::Key, QAbstractSlider::SliderAction> keys[] = {
+        {Qt::Key_Up, Step::SliderSingleStepSub},   {Qt::Key_Down, Step::SliderSingleStepAdd},
+        {Qt::Key_PageUp, Step::SliderPageStepSub}, {Qt::Key_PageDown, Step::SliderPageStepAdd},
+        {Qt::Key_Home, Step::SliderToMinimum},     {Qt::Key_End, Step::SliderToMaximum},
+    };
+    for (const auto& [key, action] : keys)
+        connect(new QShortcut(key, this), &QShortcut::activated, &bar,
+                [&bar, action = action] { bar.triggerAction(action); });
 }
 
 std::vector<PopoverCard> PopoverView::shownCards() const {

@@ -6,6 +6,7 @@
 #include "popover/cards/card.h"
 #include "popover/header_view.h"
 
+class QScrollBar;
 class QVBoxLayout;
 
 namespace vantrix {
@@ -34,6 +35,7 @@ class PopoverView : public View {
   private:
     QWidget* makeColumn();
     void addShortcuts(const std::vector<StatusMenuEntry>& entries);
+    void addScrollKeys(QScrollBar& bar);
     void scheduleRefresh();
     void refresh();
     void placeCards();

@@ -34,9 +34,7 @@ ScrollColumn* scrolling(const Theme& theme, Form* form) {
     auto* layout = new QVBoxLayout(page);
     layout->setContentsMargins(sideMargin, verticalMargin, sideMargin, verticalMargin);
     layout->addWidget(form);
-    auto* column = new ScrollColumn(theme, page);
-    column->setFocusPolicy(Qt::NoFocus); // it follows the focus of its controls
-    return column;
+    return new ScrollColumn(theme, page);
 }
 
 } // namespace

@@ -70,7 +70,8 @@ class ScrollIndicator final : public QWidget {
     QRectF thumb() const {
         const double room = height() - 2.0 * gap;
         const double range = bar_.maximum() - bar_.minimum();
-        const double length = std::clamp(room * bar_.pageStep() / (range + bar_.pageStep()), leastLength, room);
+        const double length =
+            std::clamp(room * bar_.pageStep() / (range + bar_.pageStep()), std::min(leastLength, room), room);
         const double start = range > 0.0 ? (room - length) * (bar_.value() - bar_.minimum()) / range : 0.0;
         const bool mirrored = layoutDirection() == Qt::RightToLeft;
         return {mirrored ? gap : width() - gap - thickness, gap + start, thickness, length};
@@ -86,6 +87,7 @@ ScrollColumn::ScrollColumn(const Theme& theme, QWidget* column) {
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus); // it follows the focus of what it holds
     setWidget(column);
     // The ground is the window's.
     viewport()->setAutoFillBackground(false);

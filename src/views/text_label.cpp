@@ -34,6 +34,7 @@ void TextLabel::setText(const QString& text) {
         updateGeometry();
     updateToolTip();
     update();
+    announceChange();
 }
 
 void TextLabel::setColor(const QColor& color) {

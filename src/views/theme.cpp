@@ -38,7 +38,7 @@ QPalette Theme::palette() const {
     palette.setColor(QPalette::Base, ground);
     palette.setColor(QPalette::ToolTipBase, ground);
     palette.setColor(QPalette::Highlight, colors_.accent);
-    palette.setColor(QPalette::HighlightedText, ThemeColors::on(colors_.accent));
+    palette.setColor(QPalette::HighlightedText, ThemeColors::textOn(colors_.accent));
     return palette;
 }
 

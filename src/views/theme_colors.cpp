@@ -8,6 +8,7 @@ namespace {
 
 constexpr double leastTextContrast = 4.5;
 constexpr double leastShapeContrast = 1.9; // a desktop may choose pale yellow as its accent
+constexpr double leastMarkContrast = 2.5;
 constexpr float step = 0.04f;
 
 double linear(double channel) {
@@ -91,11 +92,19 @@ ThemeColors ThemeColors::of(bool dark, const std::optional<QColor>& accent) {
 }
 
 QColor ThemeColors::readable(const QColor& color) const {
-    return standingOut(color, over(card, window), leastTextContrast);
+    return readable(color, over(card, window));
 }
 
-QColor ThemeColors::on(const QColor& fill) {
-    return contrast(Qt::white, fill) >= 2.5 ? Qt::white : Qt::black;
+QColor ThemeColors::readable(const QColor& color, const QColor& ground) {
+    return standingOut(color, ground, leastTextContrast);
+}
+
+QColor ThemeColors::textOn(const QColor& fill) {
+    return contrast(Qt::white, fill) >= leastTextContrast ? Qt::white : Qt::black;
+}
+
+QColor ThemeColors::markOn(const QColor& fill) {
+    return contrast(Qt::white, fill) >= leastMarkContrast ? Qt::white : Qt::black;
 }
 
 } // namespace vantrix

@@ -27,10 +27,12 @@ struct ThemeColors {
     /// `accent` replaces the program's own where the desktop names one.
     static ThemeColors of(bool dark, const std::optional<QColor>& accent);
 
-    /// `color`, darkened or lightened as far as a text in it on a card needs.
+    /// `color`, darkened or lightened as far as a text in it on a card, or on another opaque ground, needs.
     QColor readable(const QColor& color) const;
-    /// A text or mark on a shape filled with `fill`: white, or black where white is hard to see.
-    static QColor on(const QColor& fill);
+    static QColor readable(const QColor& color, const QColor& ground);
+    /// White, or black where that is the better one: for a text on a shape filled with `fill`, and for a bold mark.
+    static QColor textOn(const QColor& fill);
+    static QColor markOn(const QColor& fill);
 
     bool operator==(const ThemeColors&) const = default;
 };

@@ -17,6 +17,15 @@ class ViewInterface final : public QAccessibleWidget, public QAccessibleValueInt
 
     QAccessible::Role role() const override { return view().accessibleRole(); }
 
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        const QAccessible::Role role = view().accessibleRole();
+        // Decoration; what it means stands beside it in words.
+        if (role == QAccessible::Graphic || role == QAccessible::Separator || role == QAccessible::NoRole)
+            state.invisible = true;
+        return state;
+    }
+
     QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Name)
             return view().accessibleText();
@@ -55,6 +64,17 @@ View::View(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme)
         updateGeometry();
         update();
     });
+}
+
+void View::announceChange() {
+    if (!QAccessible::isActive() || !isVisible())
+        return;
+    QAccessibleEvent renamed(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&renamed);
+    if (const auto fraction = accessibleFraction()) {
+        QAccessibleValueChangeEvent changed(this, *fraction);
+        QAccessible::updateAccessibility(&changed);
+    }
 }
 
 QString localizedText(std::string_view english) {

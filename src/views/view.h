@@ -26,6 +26,10 @@ class View : public QWidget {
     /// The value of a gauge or a bar, 0 to 1; absent where there is none.
     virtual std::optional<double> accessibleFraction() const { return std::nullopt; }
 
+  protected:
+    /// To be called when `accessibleText` or `accessibleFraction` has changed. Costs nothing while nobody listens.
+    void announceChange();
+
   private:
     const Theme& theme_;
 };

@@ -25,6 +25,7 @@ TEST(CommandLine, ReadsEveryRequest) {
         {{"-reverse"}, Action::run},
         {{"-exportScreenshots"}, Action::run}, // no folder behind it
         {{"-exportScreenshots", "/tmp/pictures"}, Action::exportScreenshots},
+        {{"--nonsense", "-exportScreenshots", "--print"}, Action::exportScreenshots}, // into a folder of that name
     };
     for (const Case& c : cases) {
         const auto parsed = parseCommandLine(c.arguments);

@@ -92,6 +92,24 @@ TEST_F(PopoverHostTest, AClickOutsideClosesItAndDoesNotReopenIt) {
     EXPECT_TRUE(host.isShown());
 }
 
+TEST(PopoverFrameTest, KnowsTheClickThatClosedItHoweverLongItWasHeld) {
+    fakes::FakeAppearance appearance;
+    const Theme theme(appearance);
+    PopoverFrame frame(theme, std::make_unique<QWidget>());
+    frame.setGeometry(100, 100, 340, 480);
+    const QRect item(200, 0, 60, 22);
+    for (const bool onItem : {true, false}) {
+        frame.show();
+        const QPoint place = onItem ? item.center() : QPoint(900, 600);
+        QMouseEvent press(QEvent::MouseButtonPress, frame.mapFromGlobal(place), place, Qt::LeftButton, Qt::LeftButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(&frame, &press);
+        EXPECT_FALSE(frame.isVisible());
+        EXPECT_EQ(frame.closedBySameClick(item, 0), onItem); // however long ago
+        EXPECT_FALSE(frame.closedBySameClick(item, 0));      // the next click is another one
+    }
+}
+
 TEST_F(PopoverHostTest, EscapeAndLosingTheFocusCloseIt) {
     host.show(anchor);
     press(window(), Qt::Key_Escape);

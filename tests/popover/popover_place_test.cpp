@@ -47,6 +47,14 @@ TEST(PopoverPlace, StaysInTheVisibleAreaBesideTheItem) {
         EXPECT_EQ(popoverPlace(c.size, c.anchor, c.visible), QRect(c.expected, c.size)) << c.name;
 }
 
+TEST(PopoverPlace, GetsLowerWhereAPanelIsCountedToTheVisibleArea) {
+    const QRect screen(0, 0, 1920, 1080);
+    const QSize size(340, popoverHeight(1080.0));
+    EXPECT_EQ(popoverPlace(size, {1700, 0, 100, 28}, screen), QRect(1579, 32, 340, 1048));
+    EXPECT_EQ(popoverPlace(size, {1700, 1050, 100, 30}, screen), QRect(1579, 0, 340, 1046));
+    EXPECT_EQ(popoverPlace(size, {0, 500, 40, 22}, screen), QRect(44, 30, 340, 1050)); // beside, at full height
+}
+
 TEST(ScreenOf, IsTheOneUnderTheItemOrTheNearest) {
     // One to the left and higher up, one to the right at twice the density: its points are larger, so a gap is left.
     const std::vector<QRect> screens = {{0, 0, 1920, 1080}, {-1280, -200, 1280, 1024}, {3840, 0, 1280, 720}};

@@ -4,6 +4,8 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 
 #include <gmock/gmock.h>
@@ -116,8 +118,27 @@ TEST_F(PopoverViewTest, HasItsHeaderAndItsShortcuts) {
     EXPECT_EQ(button->accessibleName(), u"Vantrix menu"_s);
     EXPECT_EQ(button->toolTip(), u"Settings and quit"_s);
     for (auto* shortcut : view->findChildren<QShortcut*>())
-        Q_EMIT shortcut->activated();
+        if (shortcut->key() == QKeySequence(u"Ctrl+,"_s))
+            Q_EMIT shortcut->activated();
     EXPECT_EQ(settingsShown, 1);
+}
+
+TEST_F(PopoverViewTest, KeysScrollItWithoutAFocusOfItsOwn) {
+    monitor.loadDemo();
+    const auto view = makeView();
+    view->resize(PopoverView::contentWidth, 300);
+    view->show();
+    settle();
+    settle();
+    const auto* bar = view->findChild<QScrollArea*>()->verticalScrollBar();
+    for (auto* shortcut : view->findChildren<QShortcut*>())
+        if (shortcut->key() == QKeySequence(Qt::Key_PageDown))
+            Q_EMIT shortcut->activated();
+    EXPECT_GT(bar->value(), 0);
+    for (auto* shortcut : view->findChildren<QShortcut*>())
+        if (shortcut->key() == QKeySequence(Qt::Key_Home))
+            Q_EMIT shortcut->activated();
+    EXPECT_EQ(bar->value(), 0);
 }
 
 TEST_F(PopoverViewTest, EverythingFitsInItsWidth) {

@@ -35,7 +35,8 @@ TEST(ThemeColors, AnyAccentOfTheDesktopStaysVisible) {
         for (const bool dark : {true, false}) {
             const ThemeColors colors = ThemeColors::of(dark, accent);
             EXPECT_GE(contrast(colors.accent, over(colors.card, colors.window)), 1.9) << accent.name().toStdString();
-            EXPECT_GE(contrast(ThemeColors::on(colors.accent), colors.accent), 2.5) << accent.name().toStdString();
+            EXPECT_GE(contrast(ThemeColors::textOn(colors.accent), colors.accent), 4.5) << accent.name().toStdString();
+            EXPECT_GE(contrast(ThemeColors::markOn(colors.accent), colors.accent), 2.5) << accent.name().toStdString();
         }
     }
     EXPECT_EQ(ThemeColors::of(true, QColor(255, 120, 0)).accent, QColor(255, 120, 0)); // a good one stays as it is

@@ -54,8 +54,11 @@ CoreBars::CoreBars(const Theme& theme, const UserDefaults& defaults) : View(them
 void CoreBars::setValues(std::span<const double> values) {
     if (values.size() != values_.size())
         updateGeometry();
+    if (std::ranges::equal(values, values_))
+        return update(); // the thresholds may have moved
     values_.assign(values.begin(), values.end());
-    update(); // also where the loads are the same: the thresholds may have moved
+    announceChange();
+    update();
 }
 
 QRectF CoreBars::track(std::size_t index, double width) const {
@@ -98,6 +101,10 @@ void CoreBars::paintEvent(QPaintEvent*) {
     const auto fill = [&](QRectF rect, const QColor& color) {
         if (mirrored)
             rect.moveLeft(width() - rect.right());
+        // Edges between pixels would blur, and bars of one width would look unlike.
+        const double pixels = devicePixelRatioF();
+        rect.setLeft(std::round(rect.left() * pixels) / pixels);
+        rect.setRight(std::round(rect.right() * pixels) / pixels);
         const double radius = std::min(cornerRadius, rect.width() / 3.0);
         painter.setBrush(color);
         painter.drawRoundedRect(rect, radius, radius);

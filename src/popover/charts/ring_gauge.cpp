@@ -35,6 +35,7 @@ void RingGauge::setFraction(double fraction) {
     if (clamped == fraction_)
         return;
     fraction_ = clamped;
+    announceChange();
     if (!isVisible() || theme().reducesMotion())
         return spring_.jumpTo(fraction_);
     spring_.setTarget(fraction_);

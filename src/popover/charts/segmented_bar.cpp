@@ -28,6 +28,7 @@ void SegmentedBar::setSegments(const std::vector<Segment>& segments) {
         return;
     segments_ = segments;
     update();
+    announceChange();
 }
 
 std::vector<QRectF> SegmentedBar::places(double width) const {

@@ -49,13 +49,26 @@ void StatRow::setValue(const QString& value) {
     value_ = value;
     if (heightForWidth(width()) != before)
         updateGeometry();
+    updateToolTip();
     update();
+    announceChange();
 }
 
 void StatRow::setSymbol(std::string_view symbol) {
     symbol_ = symbol;
     updateGeometry();
     update();
+}
+
+void StatRow::resizeEvent(QResizeEvent*) {
+    updateToolTip();
+}
+
+/// A value too long even for a line of its own is told whole there.
+void StatRow::updateToolTip() {
+    const QString wanted = leadWidth() + valueWidth() > width() ? value_ : QString();
+    if (toolTip() != wanted)
+        setToolTip(wanted);
 }
 
 QString StatRow::accessibleText() const {

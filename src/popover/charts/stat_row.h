@@ -39,8 +39,10 @@ class StatRow : public View {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
+    void updateToolTip();
     double leadWidth() const;
     double symbolWidth() const;
     double labelWidth() const;

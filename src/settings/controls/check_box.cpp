@@ -65,7 +65,8 @@ void CheckBox::paintBox(QPainter& painter, const QRectF& box) const {
     }
     const double inset = theme_.scaled(2.0);
     if (isChecked())
-        paintSymbol(painter, "checkmark", box.adjusted(inset, inset, -inset, -inset), ThemeColors::on(colors.accent));
+        paintSymbol(painter, "checkmark", box.adjusted(inset, inset, -inset, -inset),
+                    ThemeColors::markOn(colors.accent));
     ring_.paint(painter, box, radius);
 }
 

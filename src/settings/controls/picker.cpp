@@ -41,7 +41,7 @@ class EntryDelegate : public QStyledItemDelegate {
         painter->setRenderHint(QPainter::Antialiasing);
         const bool chosen = option.state.testFlag(QStyle::State_Selected);
         const ThemeColors& colors = theme_.colors();
-        const QColor color = chosen ? ThemeColors::on(colors.accent) : colors.label;
+        const QColor color = chosen ? ThemeColors::textOn(colors.accent) : colors.label;
         const QRectF row = option.rect;
         if (chosen) {
             painter->setPen(Qt::NoPen);

@@ -15,6 +15,7 @@
 namespace vantrix {
 namespace {
 
+constexpr double checkedGround = 0.08;
 constexpr double usualPoints = 11.0;
 constexpr double leastWidth = 72.0;
 constexpr double sidePadding = 8.0;
@@ -58,12 +59,13 @@ void TabButton::paintEvent(QPaintEvent*) {
     const QRectF ground = QRectF(rect()).adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin);
     if (isChecked() || underMouse()) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(isChecked() ? withAlpha(colors.label, 0.08) : withAlpha(colors.label, 0.04));
+        painter.setBrush(isChecked() ? withAlpha(colors.label, checkedGround) : withAlpha(colors.label, 0.04));
         painter.drawRoundedRect(ground, radius, radius);
     }
     ring_.paint(painter, ground, radius);
 
-    const QColor color = isChecked() ? colors.readable(colors.accent) : colors.secondary;
+    const QColor behind = over(withAlpha(colors.label, checkedGround), colors.window);
+    const QColor color = isChecked() ? ThemeColors::readable(colors.accent, behind) : colors.secondary;
     const double side = theme_.scaled(symbolSide);
     const QRectF symbol(ground.center().x() - side / 2.0, ground.top() + topPadding, side, side);
     paintSymbol(painter, symbol_, symbol, color);

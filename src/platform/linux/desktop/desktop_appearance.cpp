@@ -21,8 +21,12 @@ const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Setting
 
 Appearance appearanceAfter(const DesktopWishes& wishes) {
     const QColor window = QGuiApplication::palette().color(QPalette::Window);
+    // Only a highlight that a desktop's theme has set: the toolkit's own says nothing about the user.
+    const QPalette palette = QGuiApplication::palette();
+    const bool themed = palette.isBrushSet(QPalette::Active, QPalette::Highlight);
+    const auto highlight = themed ? std::optional(palette.color(QPalette::Highlight)) : std::nullopt;
     return {.dark = wishes.dark().value_or(window.lightness() < 128),
-            .accent = wishes.accent(),
+            .accent = wishes.accent() ? wishes.accent() : highlight,
             .reducesMotion = wishes.reducesMotion()};
 }
 

@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/desktop_entry.h"
 
+#include <algorithm>
+
 #include <QFileInfo>
 #include <QHash>
 #include <QStandardPaths>
@@ -29,7 +31,7 @@ QString escaped(const QString& value) {
     return result.replace(u'\r', QLatin1StringView("\\r"));
 }
 
-/// The keys of the file's main group; a file with anything before its first group but remarks is none.
+/// The keys of the file's main group.
 QHash<QString, QString> mainGroup(const QByteArray& text) {
     QHash<QString, QString> values;
     bool inside = false;
@@ -48,6 +50,10 @@ QHash<QString, QString> mainGroup(const QByteArray& text) {
             values.insert(content.left(equals).trimmed(), unescaped(content.mid(equals + 1).trimmed()));
     }
     return values;
+}
+
+QStringList namesIn(const QString& list) {
+    return list.split(u';', Qt::SkipEmptyParts);
 }
 
 bool canRun(const QString& program) {
@@ -71,13 +77,23 @@ std::optional<DesktopEntry> DesktopEntry::parse(const QByteArray& text) {
     entry.tryExec = values.value(QStringLiteral("TryExec"));
     entry.hidden = is("Hidden", "true");
     entry.enabled = !is("X-GNOME-Autostart-enabled", "false");
+    entry.onlyShowIn = namesIn(values.value(QStringLiteral("OnlyShowIn")));
+    entry.notShowIn = namesIn(values.value(QStringLiteral("NotShowIn")));
     if (!is("Type", "Application") || entry.exec.isEmpty())
         return std::nullopt;
     return entry;
 }
 
+bool DesktopEntry::isFor(const QStringList& desktops) const {
+    const auto named = [&desktops](const QStringList& names) {
+        return std::ranges::any_of(desktops, [&names](const QString& desktop) { return names.contains(desktop); });
+    };
+    return !named(notShowIn) && (onlyShowIn.isEmpty() || named(onlyShowIn));
+}
+
 bool DesktopEntry::startsSomething() const {
-    return !hidden && enabled && canRun(programOf(exec)) && (tryExec.isEmpty() || canRun(tryExec));
+    const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
+    return !hidden && enabled && isFor(desktops) && canRun(programOf(exec)) && (tryExec.isEmpty() || canRun(tryExec));
 }
 
 QString execValue(const QString& program) {

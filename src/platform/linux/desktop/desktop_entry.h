@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <QStringList>
 
 namespace vantrix {
 
@@ -13,10 +14,14 @@ struct DesktopEntry {
     QString tryExec;
     bool hidden = false;
     bool enabled = true; ///< by the GNOME session's own switch
+    QStringList onlyShowIn;
+    QStringList notShowIn;
 
     /// Absent when the text is no desktop entry of an application.
     static std::optional<DesktopEntry> parse(const QByteArray& text);
 
+    /// True when the entry is meant for one of these desktops.
+    bool isFor(const QStringList& desktops) const;
     /// True when a session that follows the entry finds a program to start.
     bool startsSomething() const;
 };
