@@ -58,10 +58,8 @@ class Parser {
             parseShowSettings(option);
         else if (option == "-platform" || option == "--platform")
             value(option); // the windowing toolkit reads it itself
-        else if (option == "-reverse")
-            return; // likewise: lays everything out from right to left
-        else if (option == exportFlag)
-            return; // without a folder behind it the flag means nothing, and the program starts as ever
+        else if (option == "-reverse" || option == exportFlag)
+            return; // the toolkit's, for a layout from right to left; and a flag that means nothing without its folder
         else
             parseSetting(option);
     }

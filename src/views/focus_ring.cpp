@@ -1,5 +1,7 @@
 #include "views/focus_ring.h"
 
+#include <optional>
+
 #include <QFocusEvent>
 #include <QPainter>
 #include <QWidget>
@@ -13,6 +15,24 @@ constexpr double ringWidth = 2.0;
 
 bool comesFromKeyboard(Qt::FocusReason reason) {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
+}
+
+/// Whether `event` says that the keyboard is at work, or that it is not; absent where it says neither.
+std::optional<bool> keyboardSign(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::KeyPress:
+        return true;
+    case QEvent::MouseButtonPress:
+        return false;
+    case QEvent::FocusIn: {
+        const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+        if (comesFromKeyboard(reason))
+            return true;
+        return reason == Qt::MouseFocusReason ? std::optional(false) : std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
 }
 
 } // namespace
@@ -35,17 +55,10 @@ void FocusRing::paint(QPainter& painter, const QRectF& rect, double radius) cons
 }
 
 bool FocusRing::eventFilter(QObject*, QEvent* event) {
-    const bool before = usesKeyboard_;
-    if (event->type() == QEvent::KeyPress)
-        usesKeyboard_ = true;
-    else if (event->type() == QEvent::MouseButtonPress)
-        usesKeyboard_ = false;
-    else if (event->type() == QEvent::FocusIn && comesFromKeyboard(static_cast<QFocusEvent*>(event)->reason()))
-        usesKeyboard_ = true;
-    else if (event->type() == QEvent::FocusIn && static_cast<QFocusEvent*>(event)->reason() == Qt::MouseFocusReason)
-        usesKeyboard_ = false;
-    if (before != usesKeyboard_)
+    const bool uses = keyboardSign(*event).value_or(usesKeyboard_);
+    if (uses != usesKeyboard_)
         control_.update();
+    usesKeyboard_ = uses;
     return false;
 }
 

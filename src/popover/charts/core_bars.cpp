@@ -64,10 +64,11 @@ void CoreBars::setValues(std::span<const double> values) {
 QRectF CoreBars::track(std::size_t index, double width) const {
     const Grid grid = gridFor(values_.size(), width);
     const auto column = static_cast<double>(index % grid.columns);
-    const auto row = static_cast<double>(index / grid.columns);
+    const std::size_t row = index / grid.columns;
     const auto columns = static_cast<double>(grid.columns);
     const double barWidth = (width - grid.spacing * (columns - 1.0)) / columns;
-    return {column * (barWidth + grid.spacing), row * (grid.rowHeight + spacing), barWidth, grid.rowHeight};
+    return {column * (barWidth + grid.spacing), static_cast<double>(row) * (grid.rowHeight + spacing), barWidth,
+            grid.rowHeight};
 }
 
 QRectF CoreBars::bar(std::size_t index, double width) const {
