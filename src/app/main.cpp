@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <QApplication>
-#include <QIcon>
 
 #include "app/accessible_application.h"
 #include "app/app_delegate.h"
@@ -62,7 +61,6 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
     installAccessibleApplication();
     QApplication::setApplicationName(QStringLiteral("vantrix"));
     QApplication::setDesktopFileName(QStringLiteral("vantrix"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/vantrix.svg")));
     const auto channel = claimInstance();
     if (!channel)
         return request("show-popover"); // started twice: the user wants to see the one that runs

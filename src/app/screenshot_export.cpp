@@ -106,10 +106,6 @@ class Watchdog {
     std::thread thread_; // last: it uses what stands above
 };
 
-QString named(std::string_view name) {
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-}
-
 class Export {
   public:
     Export(ExportLog& log, SamplingSources sources, UserDefaults& defaults)
@@ -133,9 +129,10 @@ class Export {
         drawPopover(theme, appearance);
         log_.log(appearance + QStringLiteral(": barra dei menu"));
         for (const auto& style : menuBarStyles)
-            drawRow(theme, style.value, QStringLiteral("menubar-%1-%2").arg(named(style.rawValue), appearance));
+            drawRow(theme, style.value,
+                    QStringLiteral("menubar-%1-%2").arg(QString::fromUtf8(style.rawValue), appearance));
         for (const auto& tab : settingsTabs)
-            drawSettings(theme, named(tab.rawValue), appearance);
+            drawSettings(theme, QString::fromUtf8(tab.rawValue), appearance);
     }
 
     void drawPopover(const Theme& theme, const QString& appearance) {

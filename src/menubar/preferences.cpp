@@ -14,7 +14,7 @@ namespace {
 constexpr QChar separator = u',';
 
 QString text(std::string_view rawValue) {
-    return QString::fromUtf8(rawValue.data(), static_cast<qsizetype>(rawValue.size()));
+    return QString::fromUtf8(rawValue);
 }
 
 template<typename Case, std::size_t N>

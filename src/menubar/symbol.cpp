@@ -14,7 +14,7 @@ namespace {
 
 /// Empty where no symbol has that name.
 QByteArray source(std::string_view name) {
-    const auto text = QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    const auto text = QString::fromUtf8(name);
     QFile file(QStringLiteral(":/symbols/%1.svg").arg(text));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }

@@ -5,8 +5,6 @@
 #include <optional>
 #include <string>
 
-#include <QString>
-
 #include "support/user_defaults.h"
 
 class QSocketNotifier;
@@ -15,9 +13,6 @@ namespace vantrix {
 
 /// The settings of this user.
 std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();
-
-/// Where a person can edit the settings by hand; empty where they are not kept in a file.
-QString settingsFile();
 
 /// Chooses the windowing system to draw on, unless the user chose one. Null when there is no display at all. Call
 /// before the application object exists, and keep what is returned until it does: an X server that loses its only

@@ -64,8 +64,9 @@ void bindSeconds(Picker& picker, UserDefaults& defaults, const QString& key, con
 
 void bindMember(QAbstractButton& button, UserDefaults& defaults, const QString& key, std::string_view rawValue) {
     const auto stored = [&defaults, key] { return defaults.string(key).value_or(QString()); };
-    follow(button, defaults,
-           [&button, stored, rawValue] { button.setChecked(stored().split(u',').contains(fromView(rawValue))); });
+    follow(button, defaults, [&button, stored, rawValue] {
+        button.setChecked(stored().split(u',').contains(QString::fromUtf8(rawValue)));
+    });
     QObject::connect(&button, &QAbstractButton::clicked, &button, [&defaults, key, stored, rawValue](bool on) {
         defaults.set(key, withName(stored(), rawValue, on));
     });

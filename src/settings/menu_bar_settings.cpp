@@ -49,7 +49,8 @@ void MenuBarSettings::addStyle() {
     auto* layouts = new SegmentedControl(theme(), name, titles);
     follow(*layouts, defaults_, [this, layouts] { layouts->setCurrent(static_cast<int>(menuBarStyle(defaults_))); });
     connect(layouts, &SegmentedControl::chosen, this, [this](int index) {
-        defaults_.set(preference_key::menuBarStyle, fromView(menuBarStyles[static_cast<std::size_t>(index)].rawValue));
+        defaults_.set(preference_key::menuBarStyle,
+                      QString::fromUtf8(menuBarStyles[static_cast<std::size_t>(index)].rawValue));
     });
     section.addRow({.caption = name, .control = layouts});
 

@@ -13,7 +13,7 @@ PopoverSettings::PopoverSettings(const Theme& theme, UserDefaults& defaults) : F
         localizedText("Cards"), {localizedText("GPU, Sensors and Battery only appear on Macs that report them.")});
     for (const auto& card : popoverCards) {
         const bool fixed = card.value == PopoverCard::cpu || card.value == PopoverCard::gpu;
-        const QString title = fixed ? fromView(card.title) : localizedText(card.title);
+        const QString title = fixed ? QString::fromUtf8(card.title) : localizedText(card.title);
         auto* shown = new Switch(theme, title);
         bindMember(*shown, defaults, preference_key::visibleCards, card.rawValue);
         auto* symbol = new SymbolView(theme, card.symbolName, bodyPoints, &ThemeColors::secondary);

@@ -86,7 +86,7 @@ void SettingsView::showStoredTab() {
 }
 
 void SettingsView::select(SettingsTab tab) {
-    defaults_.set(preference_key::settingsTab, fromView(choiceOf(settingsTabs, tab).rawValue));
+    defaults_.set(preference_key::settingsTab, QString::fromUtf8(choiceOf(settingsTabs, tab).rawValue));
 }
 
 void SettingsView::selectNext(int by) {

@@ -1,6 +1,7 @@
 #include "settings/settings_window_controller.h"
 
 #include <QGuiApplication>
+#include <QIcon>
 #include <QScreen>
 #include <QShortcut>
 
@@ -15,7 +16,7 @@ SettingsWindowController::SettingsWindowController(SettingsParts parts) : parts_
 SettingsWindowController::~SettingsWindowController() = default;
 
 void SettingsWindowController::show(SettingsTab tab) {
-    parts_.defaults.set(preference_key::settingsTab, fromView(choiceOf(settingsTabs, tab).rawValue));
+    parts_.defaults.set(preference_key::settingsTab, QString::fromUtf8(choiceOf(settingsTabs, tab).rawValue));
     show();
 }
 
@@ -32,6 +33,7 @@ void SettingsWindowController::createWindow() {
     window_ = std::make_unique<SettingsView>(parts_);
     const QString title = localizedText("Vantrix Settings");
     window_->setWindowTitle(title);
+    window_->setWindowIcon(QIcon(QStringLiteral(":/vantrix.svg"))); // not at start-up: it brings a plug-in along
     window_->setAccessibleName(title);
     window_->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     window_->setAttribute(Qt::WA_QuitOnClose, false);

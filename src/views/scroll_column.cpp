@@ -36,9 +36,7 @@ class ScrollIndicator final : public QWidget {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
-        QColor color = theme_.colors().label;
-        color.setAlphaF(grabbedAt_ ? 0.5f : 0.28f);
-        painter.setBrush(color);
+        painter.setBrush(withAlpha(theme_.colors().label, grabbedAt_ ? 0.5 : 0.28));
         painter.drawRoundedRect(thumb(), thickness / 2.0, thickness / 2.0);
     }
 

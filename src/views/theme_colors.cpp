@@ -20,9 +20,7 @@ double luminance(const QColor& color) {
 }
 
 QColor shade(bool dark, float alpha) {
-    QColor color = dark ? Qt::white : Qt::black;
-    color.setAlphaF(alpha);
-    return color;
+    return withAlpha(dark ? Qt::white : Qt::black, alpha);
 }
 
 /// `color`, moved towards black or white until it stands out from `ground`.
@@ -71,6 +69,11 @@ ThemeColors lightColors() {
 }
 
 } // namespace
+
+QColor withAlpha(QColor color, double alpha) {
+    color.setAlphaF(static_cast<float>(alpha));
+    return color;
+}
 
 QColor over(const QColor& color, const QColor& ground) {
     const float alpha = color.alphaF();

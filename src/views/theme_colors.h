@@ -41,6 +41,9 @@ struct ThemeColors {
 /// luminances.
 double contrast(const QColor& a, const QColor& b);
 
+/// `color` with that opacity, 0 to 1.
+QColor withAlpha(QColor color, double alpha);
+
 /// What `color` looks like over an opaque `ground`.
 QColor over(const QColor& color, const QColor& ground);
 

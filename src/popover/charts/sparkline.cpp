@@ -15,13 +15,8 @@ namespace {
 
 constexpr int chartHeight = 34;
 constexpr double lineWidth = 1.5;
-constexpr float opacityAtTop = 0.35f;
-constexpr float opacityAtBottom = 0.02f;
-
-QColor withOpacity(QColor color, float opacity) {
-    color.setAlphaF(opacity);
-    return color;
-}
+constexpr double opacityAtTop = 0.35;
+constexpr double opacityAtBottom = 0.02;
 
 /// The curve's slope at each point: no steeper than lets the curve rise only where the points do.
 std::vector<double> slopes(std::span<const QPointF> points) {
@@ -108,8 +103,8 @@ void Sparkline::paintEvent(QPaintEvent*) {
     area.lineTo(marks.back().x(), height());
     area.lineTo(marks.front().x(), height());
     QLinearGradient gradient(0, 0, 0, height());
-    gradient.setColorAt(0.0, withOpacity(color, opacityAtTop));
-    gradient.setColorAt(1.0, withOpacity(color, opacityAtBottom));
+    gradient.setColorAt(0.0, withAlpha(color, opacityAtTop));
+    gradient.setColorAt(1.0, withAlpha(color, opacityAtBottom));
     painter.fillPath(area, gradient);
 
     painter.setPen(QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));

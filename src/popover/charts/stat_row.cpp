@@ -34,14 +34,6 @@ StatRow::StatRow(const Theme& theme, const QString& label, const Lead& lead) : V
     setSizePolicy(policy);
 }
 
-void StatRow::setLabel(const QString& label) {
-    if (label == label_)
-        return;
-    label_ = label;
-    updateGeometry();
-    update();
-}
-
 void StatRow::setValue(const QString& value) {
     if (value == value_)
         return;

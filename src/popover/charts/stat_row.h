@@ -23,7 +23,6 @@ class StatRow : public View {
 
     StatRow(const Theme& theme, const QString& label, const Lead& lead);
 
-    void setLabel(const QString& label);
     void setValue(const QString& value);
     /// A symbol before the value.
     void setSymbol(std::string_view symbol);

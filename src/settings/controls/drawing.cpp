@@ -11,11 +11,6 @@
 
 namespace vantrix {
 
-QColor withAlpha(QColor color, double alpha) {
-    color.setAlphaF(static_cast<float>(alpha));
-    return color;
-}
-
 QColor textColor(const QWidget& control, const Theme& theme) {
     return control.isEnabled() ? theme.colors().label : theme.colors().tertiary;
 }
@@ -63,10 +58,6 @@ QFont fittingFont(const Theme& theme, const QString& text, QFont::Weight weight,
     while (points > leastPoints && QFontMetricsF(theme.font(points, weight)).horizontalAdvance(text) > room)
         points -= 0.5;
     return theme.font(points, weight);
-}
-
-QString fromView(std::string_view text) {
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 } // namespace vantrix

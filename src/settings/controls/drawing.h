@@ -1,7 +1,5 @@
 #pragma once
 
-#include <string_view>
-
 #include <QColor>
 #include <QFont>
 #include <QRectF>
@@ -16,8 +14,6 @@ class Theme;
 
 /// The size of the texts in controls and rows, in points at the usual text size.
 inline constexpr double bodyPoints = 13.0;
-
-QColor withAlpha(QColor color, double alpha);
 
 /// The colour of a control's text or mark.
 QColor textColor(const QWidget& control, const Theme& theme);
@@ -36,7 +32,5 @@ double widestWord(const QFont& font, const QString& text);
 
 /// The font of a control's text on one line; smaller where `room` is too narrow for the usual size.
 QFont fittingFont(const Theme& theme, const QString& text, QFont::Weight weight, double room);
-
-QString fromView(std::string_view text);
 
 } // namespace vantrix

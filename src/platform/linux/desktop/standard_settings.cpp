@@ -7,8 +7,4 @@ std::unique_ptr<DefaultsStore> makeStandardDefaultsStore() {
     return std::make_unique<FileDefaultsStore>(FileDefaultsStore::settingsPath());
 }
 
-QString settingsFile() {
-    return FileDefaultsStore::settingsPath();
-}
-
 } // namespace vantrix

@@ -73,7 +73,7 @@ QString StatusRow::tileName(std::size_t index) const {
     if (content_.items.empty())
         return QStringLiteral("gauge");
     const std::string_view name = choiceOf(menuBarModules, content_.items[index].module).rawValue;
-    return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
+    return QString::fromUtf8(name);
 }
 
 QString StatusRow::tileText(std::size_t index) const {
