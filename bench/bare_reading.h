@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <string>
 #include <vector>
 
 namespace vantrix::bench {
@@ -27,6 +29,22 @@ class BareReading {
     std::vector<File> files_;
     std::vector<char> buffer_;
     int links_ = -1;
+};
+
+/// The floor of a pass over recorded files: those that this process holds open below a folder, each read once.
+class BareFiles {
+  public:
+    explicit BareFiles(const std::string& root);
+    ~BareFiles();
+    BareFiles(const BareFiles&) = delete;
+    BareFiles& operator=(const BareFiles&) = delete;
+
+    std::size_t count() const { return files_.size(); }
+    void pass();
+
+  private:
+    std::vector<int> files_;
+    std::vector<char> buffer_;
 };
 
 } // namespace vantrix::bench

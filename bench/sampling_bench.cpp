@@ -6,26 +6,39 @@
 #include <benchmark/benchmark.h>
 
 #include "bare_reading.h"
+#include "fakes/busy_laptop.h"
 #include "library_readings.h"
+#include "platform/linux/sources/temporary_folder.h"
 #include "platform/sampling_sources.h"
+#include "sensors/sensors_sampler.h"
 
 namespace {
 
 using namespace vantrix;
 
-/// The four samplers over this machine's kernel.
+/// Every sampler over one machine's kernel.
 struct Pass {
-    SamplingSources sources = makeSamplingSources({});
+    explicit Pass(const KernelRoots& roots = {}) : sources(makeSamplingSources(roots)) {}
+
+    SamplingSources sources;
     CPUSampler cpu{*sources.cpu};
     MemorySampler memory{*sources.memory};
     NetworkSampler network{*sources.network, *sources.clock};
+    NetworkInfoSampler networkInfo{*sources.networkInfo};
     DiskSampler disk{*sources.disks, *sources.volume, *sources.clock};
+    GPUSampler gpu{*sources.gpu};
+    SensorsSampler sensors{sources.sensorKeys.get(), sources.temperatures.get(), sources.energy.get(), *sources.clock};
+    BatterySampler battery{*sources.battery};
 
     void run() {
         benchmark::DoNotOptimize(cpu.sample());
         benchmark::DoNotOptimize(memory.sample());
         benchmark::DoNotOptimize(network.sample());
+        benchmark::DoNotOptimize(networkInfo.sample(true, LocationAccess::authorizedAlways));
         benchmark::DoNotOptimize(disk.sample());
+        benchmark::DoNotOptimize(gpu.sample());
+        benchmark::DoNotOptimize(sensors.sample());
+        benchmark::DoNotOptimize(battery.sample());
     }
 };
 
@@ -107,9 +120,8 @@ double median(std::vector<double> values) {
 }
 
 /// Both in turn, so that whatever else the machine does weighs on both alike.
-void printRatio() {
-    Pass pass;
-    bench::BareReading floor;
+template<typename Floor>
+void printRatio(const char* machine, Pass& pass, Floor& floor) {
     std::vector<double> passTimes;
     std::vector<double> floorTimes;
     for (int i = 0; i < 1000; ++i) {
@@ -118,7 +130,27 @@ void printRatio() {
     }
     const double passTime = median(passTimes);
     const double floorTime = median(floorTimes);
-    std::printf("sampling pass %.1f us, floor %.1f us, pass/floor %.2f\n", passTime, floorTime, passTime / floorTime);
+    std::printf("%s: sampling pass %.1f us, floor %.1f us, pass/floor %.2f\n", machine, passTime, floorTime,
+                passTime / floorTime);
+}
+
+void compareOnThisMachine() {
+    Pass pass;
+    bench::BareReading floor;
+    printRatio("this machine", pass, floor);
+}
+
+/// A laptop with every kind of device, from files. What a pass keeps open is what its floor reads.
+void compareOnBusyLaptop() {
+    const TemporaryFolder folder;
+    const std::string root = folder.path("laptop");
+    fakes::writeBusyLaptop(FIXTURES, root);
+    Pass pass({root + "/proc", root + "/sys"});
+    for (int i = 0; i < 3; ++i)
+        pass.run();
+    bench::BareFiles floor(root);
+    std::printf("busy laptop: %zu files read in a pass\n", floor.count());
+    printRatio("busy laptop", pass, floor);
 }
 
 } // namespace
@@ -128,5 +160,6 @@ int main(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 1;
     benchmark::RunSpecifiedBenchmarks();
-    printRatio();
+    compareOnThisMachine();
+    compareOnBusyLaptop();
 }

@@ -229,5 +229,17 @@
     <message><source>Keyboard</source><translation>Tastiera</translation></message>
     <message><source>Mouse</source><translation>Mouse</translation></message>
     <message><source>Headphones</source><translation>Cuffie</translation></message>
+    <message><source>Wi-Fi</source><translation>Wi-Fi</translation></message>
+    <message><source>Ethernet</source><translation>Ethernet</translation></message>
+    <message><source>USB Ethernet</source><translation>Ethernet USB</translation></message>
+    <message><source>Mobile broadband</source><translation>Banda larga mobile</translation></message>
+    <message><source>VPN</source><translation>VPN</translation></message>
+    <message><source>Bluetooth</source><translation>Bluetooth</translation></message>
+    <message><source>PPP</source><translation>PPP</translation></message>
+    <message><source>Bridge</source><translation>Bridge</translation></message>
+    <message><source>Bond</source><translation>Aggregazione</translation></message>
+    <message><source>VLAN</source><translation>VLAN</translation></message>
+    <message><source>%@°C</source><translation>%@ °C</translation></message>
+    <message><source>Battery charge</source><translation>Carica della batteria</translation></message>
 </context>
 </TS>

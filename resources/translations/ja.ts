@@ -211,5 +211,17 @@
     <message><source>Keyboard</source><translation>キーボード</translation></message>
     <message><source>Mouse</source><translation>マウス</translation></message>
     <message><source>Headphones</source><translation>ヘッドフォン</translation></message>
+    <message><source>Wi-Fi</source><translation>Wi-Fi</translation></message>
+    <message><source>Ethernet</source><translation>Ethernet</translation></message>
+    <message><source>USB Ethernet</source><translation>USB Ethernet</translation></message>
+    <message><source>Mobile broadband</source><translation>モバイルブロードバンド</translation></message>
+    <message><source>VPN</source><translation>VPN</translation></message>
+    <message><source>Bluetooth</source><translation>Bluetooth</translation></message>
+    <message><source>PPP</source><translation>PPP</translation></message>
+    <message><source>Bridge</source><translation>ブリッジ</translation></message>
+    <message><source>Bond</source><translation>ボンド</translation></message>
+    <message><source>VLAN</source><translation>VLAN</translation></message>
+    <message><source>%@°C</source><translation>%@°C</translation></message>
+    <message><source>Battery charge</source><translation>バッテリー残量</translation></message>
 </context>
 </TS>

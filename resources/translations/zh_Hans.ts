@@ -208,5 +208,17 @@
     <message><source>Keyboard</source><translation>键盘</translation></message>
     <message><source>Mouse</source><translation>鼠标</translation></message>
     <message><source>Headphones</source><translation>耳机</translation></message>
+    <message><source>Wi-Fi</source><translation>Wi-Fi</translation></message>
+    <message><source>Ethernet</source><translation>以太网</translation></message>
+    <message><source>USB Ethernet</source><translation>USB 以太网</translation></message>
+    <message><source>Mobile broadband</source><translation>移动宽带</translation></message>
+    <message><source>VPN</source><translation>VPN</translation></message>
+    <message><source>Bluetooth</source><translation>蓝牙</translation></message>
+    <message><source>PPP</source><translation>PPP</translation></message>
+    <message><source>Bridge</source><translation>网桥</translation></message>
+    <message><source>Bond</source><translation>链路聚合</translation></message>
+    <message><source>VLAN</source><translation>VLAN</translation></message>
+    <message><source>%@°C</source><translation>%@°C</translation></message>
+    <message><source>Battery charge</source><translation>电池电量</translation></message>
 </context>
 </TS>

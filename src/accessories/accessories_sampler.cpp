@@ -2,7 +2,41 @@
 
 #include <algorithm>
 
+#include "accessories/accessory_levels.h"
+#include "accessories/accessory_symbol.h"
+
 namespace vantrix {
+namespace {
+
+/// "aa-bb-…" and "AA:BB:…" are one address.
+std::string hexDigits(std::string_view address) {
+    std::string digits = loweredASCII(address);
+    std::erase_if(digits, [](char c) { return c == ':' || c == '-'; });
+    return digits;
+}
+
+bool isSameDevice(const AccessoryBattery& a, const AccessoryBattery& b) {
+    if (a.address.empty() || b.address.empty())
+        return a.name == b.name;
+    return isCase(a) == isCase(b) && hexDigits(a.address) == hexDigits(b.address);
+}
+
+} // namespace
+
+std::string accessoriesDiagnostics(std::string_view origin, const std::vector<AccessoryBattery>& accessories,
+                                   const std::vector<std::string>& others) {
+    std::string text = std::string(origin) + ": " + std::to_string(accessories.size());
+    std::string_view separator = ": ";
+    const auto append = [&](const std::string& entry) {
+        text.append(separator).append(entry);
+        separator = ", ";
+    };
+    for (const AccessoryBattery& accessory : accessories)
+        append(accessory.name + ' ' + std::to_string(accessory.percent) + '%');
+    for (const std::string& name : others)
+        append(name + " [no value]");
+    return text;
+}
 
 std::vector<AccessoryBattery> combineAccessories(const std::vector<AccessoryBattery>& scanned,
                                                  const std::vector<AccessoryBattery>& live) {
@@ -10,7 +44,7 @@ std::vector<AccessoryBattery> combineAccessories(const std::vector<AccessoryBatt
     combined.reserve(scanned.size() + live.size());
     const auto put = [&](const AccessoryBattery& accessory) {
         const auto known = std::find_if(combined.begin(), combined.end(),
-                                        [&](const auto& other) { return other.name == accessory.name; });
+                                        [&](const auto& other) { return isSameDevice(other, accessory); });
         if (known == combined.end())
             combined.push_back(accessory);
         else

@@ -24,6 +24,11 @@ void putPresent(QJsonObject& object, const char* key, const std::optional<T>& va
         object[QLatin1StringView(key)] = *value;
 }
 
+void putPresent(QJsonObject& object, const char* key, const std::optional<std::string>& value) {
+    if (value)
+        object[QLatin1StringView(key)] = QString::fromStdString(*value);
+}
+
 void putPresent(QJsonObject& object, const char* key, const QJsonObject& value) {
     if (!value.isEmpty())
         object[QLatin1StringView(key)] = value;
@@ -44,6 +49,22 @@ QJsonObject toJson(const MemorySample& memory) {
             {u"compressed"_s, bytes(memory.compressed)},
             {u"swapUsed"_s, bytes(memory.swapUsed)},
             {u"pressure"_s, QLatin1StringView(pressures[static_cast<int>(memory.pressure)])}};
+}
+
+QJsonObject toJson(const NetworkInfo& info) {
+    constexpr const char* kinds[] = {"wifi", "ethernet", "other", "offline"};
+    QJsonObject object{{u"kind"_s, QLatin1StringView(kinds[static_cast<int>(info.kind)])}};
+    putPresent(object, "interface", info.interface);
+    putPresent(object, "displayName", info.displayName);
+    putPresent(object, "localIP", info.localIP);
+    putPresent(object, "ssid", info.ssid);
+    putPresent(object, "rssi", info.rssi);
+    putPresent(object, "noise", info.noise);
+    putPresent(object, "linkSpeedMbps", info.linkSpeedMbps);
+    if (info.ssidHiddenByPrivacy)
+        object[u"ssidHiddenByPrivacy"_s] = true;
+    putPresent(object, "debug", info.debug);
+    return object;
 }
 
 QJsonObject toJson(const DiskSample& disk) {
@@ -71,6 +92,13 @@ QJsonObject toJson(const ComponentPower& power) {
 
 QJsonObject toJson(const TemperatureReading& reading) {
     return {{u"name"_s, QString::fromStdString(reading.name)}, {u"value"_s, reading.value}};
+}
+
+QJsonObject toJson(const AccessoryBattery& accessory) {
+    return {{u"name"_s, QString::fromStdString(accessory.name)},
+            {u"percent"_s, accessory.percent},
+            {u"isCharging"_s, accessory.isCharging},
+            {u"symbol"_s, QString::fromStdString(accessory.symbol)}};
 }
 
 template<typename Record>
@@ -112,7 +140,7 @@ QJsonObject toJson(const BatterySample& battery) {
     return object;
 }
 
-/// The record behind one module; empty when it was never read.
+/// The records behind one module; none when they were never read.
 void putModule(QJsonObject& object, MenuBarModule module, const Readings& readings) {
     switch (module) {
     case MenuBarModule::cpu:
@@ -127,6 +155,7 @@ void putModule(QJsonObject& object, MenuBarModule module, const Readings& readin
         if (!readings.downloadHistory.empty())
             object[u"network"_s] =
                 QJsonObject{{u"download"_s, readings.network.download}, {u"upload"_s, readings.network.upload}};
+        object[u"networkInfo"_s] = toJson(readings.networkInfo);
         return;
     case MenuBarModule::disk:
         object[u"disk"_s] = toJson(readings.disk);
@@ -146,10 +175,16 @@ void putModule(QJsonObject& object, MenuBarModule module, const Readings& readin
 
 } // namespace
 
-std::string jsonLine(const Readings& readings, const std::vector<MenuBarModule>& modules) {
+std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules) {
     QJsonObject object{{u"interval"_s, readings.interval}};
-    for (MenuBarModule module : modules)
-        putModule(object, module, readings);
+    for (const auto& choice : menuBarModules)
+        if (!modules || std::ranges::find(*modules, choice.value) != modules->end())
+            putModule(object, choice.value, readings);
+    if (!modules) {
+        putList(object, "accessories", readings.accessories);
+        if (!readings.accessoriesDiagnostics.empty())
+            object[u"accessoriesDiagnostics"_s] = QString::fromStdString(readings.accessoriesDiagnostics);
+    }
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
 }
 

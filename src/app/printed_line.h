@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,7 +16,8 @@ std::string textLine(const std::vector<MenuBarItem>& items);
 /// One object for waybar's custom module: text, tooltip, class (the worst severity), percentage (the first module's).
 std::string waybarLine(const std::vector<MenuBarItem>& items);
 
-/// One JSON object with the current record of every module of `modules`; what was not read is left out.
-std::string jsonLine(const Readings& readings, const std::vector<MenuBarModule>& modules);
+/// One JSON object with the current records of `modules`, of everything that is read when absent. What was not read is
+/// left out.
+std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules);
 
 } // namespace vantrix

@@ -17,14 +17,6 @@ namespace {
 
 constexpr std::chrono::milliseconds firstLook{250}; // a load needs two looks at the counters
 
-std::vector<MenuBarModule> everyModule() {
-    std::vector<MenuBarModule> modules;
-    modules.reserve(menuBarModules.size());
-    for (const auto& choice : menuBarModules)
-        modules.push_back(choice.value);
-    return modules;
-}
-
 /// Prints the monitor's readings after each pass.
 class LinePrinter {
   public:
@@ -43,7 +35,7 @@ class LinePrinter {
     std::string nextLine() const {
         const Readings& readings = monitor_.readings();
         if (commandLine_.format == PrintFormat::json)
-            return jsonLine(readings, commandLine_.modules.value_or(everyModule()));
+            return jsonLine(readings, commandLine_.modules);
         const auto items = menuBarItems(commandLine_.modules ? *commandLine_.modules : enabledMenuBarModules(defaults_),
                                         readings, defaults_);
         return commandLine_.format == PrintFormat::waybar ? waybarLine(items) : textLine(items);

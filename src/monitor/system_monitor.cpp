@@ -17,8 +17,22 @@ SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaul
                              std::unique_ptr<RepeatingTimer> timer, std::unique_ptr<TaskRunner> background)
     : defaults_(defaults), sources_(std::move(sources)), accessoriesSampler_(std::move(sources_.accessories)),
       cpuSampler_(*sources_.cpu), memorySampler_(*sources_.memory), networkSampler_(*sources_.network, *sources_.clock),
-      diskSampler_(*sources_.disks, *sources_.volume, *sources_.clock), timer_(std::move(timer)),
-      background_(std::move(background)) {}
+      location_(std::move(sources_.location)), diskSampler_(*sources_.disks, *sources_.volume, *sources_.clock),
+      sensorsSampler_(sources_.sensorKeys.get(), sources_.temperatures.get(), sources_.energy.get(), *sources_.clock),
+      timer_(std::move(timer)), background_(std::move(background)) {
+    if (sources_.networkInfo)
+        networkInfoSampler_.emplace(*sources_.networkInfo);
+    if (sources_.gpu)
+        gpuSampler_.emplace(*sources_.gpu);
+    if (sources_.battery)
+        batterySampler_.emplace(*sources_.battery);
+    location_.onChange = [this] { // the monitor owns what calls it
+        if (!networkInfoSampler_)
+            return;
+        networkInfoSampler_->renewWiFiClient();
+        sampleNetworkInfo();
+    };
+}
 
 void SystemMonitor::start() {
     if (isScheduled_)
@@ -62,7 +76,11 @@ void SystemMonitor::sample() {
     sampleCPU();
     sampleMemory();
     sampleNetwork();
+    sampleNetworkInfo();
     sampleDisk();
+    sampleGPU();
+    sampleSensors();
+    sampleBattery();
     sampleAccessories();
     if (onUpdate)
         onUpdate();
@@ -94,11 +112,41 @@ void SystemMonitor::sampleNetwork() {
     appendTo(&Readings::uploadHistory, sample->upload, Reading::uploadHistory);
 }
 
+void SystemMonitor::sampleNetworkInfo() {
+    if (networkInfoSampler_ && !isDemo_)
+        store(&Readings::networkInfo, networkInfoSampler_->sample(location_.isAuthorized(), location_.status()),
+              Reading::networkInfo);
+}
+
 void SystemMonitor::sampleDisk() {
     const DiskSample sample = diskSampler_.sample();
     store(&Readings::disk, sample, Reading::disk);
     appendTo(&Readings::diskReadHistory, sample.readRate.value_or(0.0), Reading::diskReadHistory);
     appendTo(&Readings::diskWriteHistory, sample.writeRate.value_or(0.0), Reading::diskWriteHistory);
+}
+
+void SystemMonitor::sampleGPU() {
+    if (!gpuSampler_)
+        return;
+    const std::optional<double> load = gpuSampler_->sample();
+    if (load != readings_.gpu)
+        store(&Readings::gpu, load, Reading::gpu);
+    if (load)
+        appendTo(&Readings::gpuHistory, *load, Reading::gpuHistory);
+}
+
+void SystemMonitor::sampleSensors() {
+    const SensorsSample& sample = sensorsSampler_.sample();
+    store(&Readings::sensors, sample, Reading::sensors);
+    if (sample.cpu)
+        appendTo(&Readings::cpuTemperatureHistory, *sample.cpu, Reading::cpuTemperatureHistory);
+    if (sample.systemPower)
+        appendTo(&Readings::systemPowerHistory, *sample.systemPower, Reading::systemPowerHistory);
+}
+
+void SystemMonitor::sampleBattery() {
+    if (batterySampler_)
+        store(&Readings::battery, batterySampler_->sample(), Reading::battery);
 }
 
 void SystemMonitor::sampleAccessories() {

@@ -10,6 +10,7 @@
 #include "monitor/repeating_timer.h"
 #include "monitor/task_runner.h"
 #include "platform/sampling_sources.h"
+#include "sensors/sensors_sampler.h"
 
 namespace vantrix {
 
@@ -39,6 +40,9 @@ class SystemMonitor : public QObject {
     /// Replaces every reading by fixed values and turns live accessory updates off, for product images.
     void loadDemo();
 
+    /// Asks for what the system demands before it tells the name of a Wi-Fi network.
+    void requestLocationAccess() { location_.requestLocationAccess(); }
+
     /// Called once at the end of every pass.
     std::function<void()> onUpdate;
 
@@ -51,7 +55,11 @@ class SystemMonitor : public QObject {
     void sampleCPU();
     void sampleMemory();
     void sampleNetwork();
+    void sampleNetworkInfo();
     void sampleDisk();
+    void sampleGPU();
+    void sampleSensors();
+    void sampleBattery();
     void sampleAccessories();
     void finishAccessories(AccessoriesSampler::Scan scan);
     void mergeAccessories();
@@ -66,7 +74,12 @@ class SystemMonitor : public QObject {
     CPUSampler cpuSampler_;
     MemorySampler memorySampler_;
     NetworkSampler networkSampler_;
+    std::optional<NetworkInfoSampler> networkInfoSampler_; // absent where nothing tells of the connection
+    LocationAccess location_;
     DiskSampler diskSampler_;
+    std::optional<GPUSampler> gpuSampler_;         // absent with its source
+    SensorsSampler sensorsSampler_;
+    std::optional<BatterySampler> batterySampler_; // absent with its source
 
     Readings readings_;
     std::unique_ptr<RepeatingTimer> timer_;

@@ -4,10 +4,17 @@
 #include <string>
 
 #include "accessories/accessories_sampler.h"
+#include "samplers/battery_sampler.h"
 #include "samplers/cpu_sampler.h"
 #include "samplers/disk_sampler.h"
+#include "samplers/gpu_sampler.h"
+#include "samplers/location_access.h"
 #include "samplers/memory_sampler.h"
+#include "samplers/network_info_sampler.h"
 #include "samplers/network_sampler.h"
+#include "sensors/hid_temperature_sampler.h"
+#include "sensors/io_report_sampler.h"
+#include "sensors/sensor_keys.h"
 #include "support/clock.h"
 #include "support/system_information.h"
 
@@ -22,15 +29,24 @@ struct KernelRoots {
     bool operator==(const KernelRoots&) const = default;
 };
 
-/// Everything the samplers read from. Nothing here is null except `accessories`, where a system has no slow scan.
+/// Everything the samplers read from. What a system lacks is null: `gpu`, the three sources of sensors, `battery` and
+/// `accessories` without such devices' interfaces, `networkInfo` where nothing tells of the connection, `location`
+/// where network names are nobody's secret. The rest never is.
 struct SamplingSources {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<SystemInformation> information;
     std::unique_ptr<CPUSampler::Source> cpu;
     std::unique_ptr<MemorySampler::Source> memory;
     std::unique_ptr<NetworkSampler::Source> network;
+    std::unique_ptr<NetworkInfoSampler::Source> networkInfo;
+    std::unique_ptr<LocationManager> location;
     std::unique_ptr<DiskSampler::CounterSource> disks;
     std::unique_ptr<DiskSampler::VolumeSource> volume;
+    std::unique_ptr<GPUSampler::Source> gpu;
+    std::unique_ptr<SensorKeys> sensorKeys;
+    std::unique_ptr<HIDTemperatureSampler::Source> temperatures;
+    std::unique_ptr<IOReportSampler::Source> energy;
+    std::unique_ptr<BatterySampler::Source> battery;
     std::unique_ptr<AccessoriesSampler> accessories;
 };
 

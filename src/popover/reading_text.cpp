@@ -1,77 +1,14 @@
 #include "popover/reading_text.h"
 
-#include <array>
-#include <cmath>
+#include <cstdint>
 #include <limits>
 
 #include <QLocale>
 
-#include "support/localization.h"
 #include "support/text_format.h"
 #include "views/view.h"
 
 namespace vantrix {
-namespace {
-
-/// Digits after the point, by unit from kilobytes up: more where one unit spans more of a disk or a memory.
-constexpr std::array decimals{0, 1, 2, 2, 2, 2};
-
-QString withUnit(const QString& value, std::size_t unit) {
-    switch (unit) {
-    case 0:
-        return localizedText("%@ KB", value);
-    case 1:
-        return localizedText("%@ MB", value);
-    case 2:
-        return localizedText("%@ GB", value);
-    case 3:
-        return localizedText("%@ TB", value);
-    case 4:
-        return localizedText("%@ PB", value);
-    default:
-        return localizedText("%@ EB", value);
-    }
-}
-
-/// `value` rounded to `digits` after the point, without zeros at the end.
-QString trimmed(double value, int digits) {
-    double scale = std::pow(10.0, digits);
-    while (digits > 0 && std::fmod(std::round(value * scale), 10.0) == 0.0) {
-        --digits;
-        scale /= 10.0;
-    }
-    QLocale locale;
-    locale.setNumberOptions(QLocale::OmitGroupSeparator);
-    return locale.toString(value, 'f', digits);
-}
-
-QString sizeText(std::uint64_t bytes, double base) {
-    if (bytes == 0)
-        return withUnit(trimmed(0.0, 0), 0);
-    if (static_cast<double>(bytes) < base)
-        return QString::fromStdString(localizedCount("%lld bytes", static_cast<long long>(bytes)));
-    double value = static_cast<double>(bytes) / base;
-    std::size_t unit = 0;
-    const auto rounded = [&] {
-        const double scale = std::pow(10.0, decimals[unit]);
-        return std::round(value * scale) / scale;
-    };
-    while (unit + 1 < decimals.size() && rounded() >= base) { // 999.96 MB reads 1 GB, not 1000 MB
-        value /= base;
-        ++unit;
-    }
-    return withUnit(trimmed(value, decimals[unit]), unit);
-}
-
-} // namespace
-
-QString byteText(std::uint64_t bytes) {
-    return sizeText(bytes, 1000.0);
-}
-
-QString memoryText(std::uint64_t bytes) {
-    return sizeText(bytes, 1024.0);
-}
 
 QString rateText(double rate) {
     constexpr auto most = std::numeric_limits<std::uint64_t>::max();
@@ -81,6 +18,14 @@ QString rateText(double rate) {
     else if (rate > 0.0)
         bytes = static_cast<std::uint64_t>(rate);
     return localizedText("%@/s", byteText(bytes));
+}
+
+QString temperatureText(double celsius) {
+    return localizedText("%@°C", QString::fromStdString(roundedInteger(celsius)));
+}
+
+QString powerText(double watts) {
+    return localizedText("%@ W", QLocale().toString(watts, 'f', 1));
 }
 
 QString percentText(double fraction) {

@@ -24,4 +24,7 @@ std::string localizedCount(std::string_view english, long long count);
 /// numbers without grouping. A mark without a value stays as it is.
 std::string formatted(std::string_view text, std::initializer_list<long long> values);
 
+/// The same for the marks "%@" and "%N$@" and texts.
+std::string formatted(std::string_view text, std::initializer_list<std::string_view> values);
+
 } // namespace vantrix

@@ -25,13 +25,6 @@ QJsonObject parsed(const std::string& line) {
     return document.object();
 }
 
-std::vector<MenuBarModule> everyModule() {
-    std::vector<MenuBarModule> modules;
-    for (const auto& choice : menuBarModules)
-        modules.push_back(choice.value);
-    return modules;
-}
-
 TEST(TextLine, KeepsItsColumnsWhileNumbersChange) {
     EXPECT_EQ(textLine(row), "CPU   7%  NET ↓12K ↑1.5M  DISK  95%");
     EXPECT_EQ(textLine({}), "");
@@ -52,7 +45,7 @@ TEST(WaybarLine, EscapesWhatWouldBeMarkup) {
 }
 
 TEST(JsonLine, HoldsEveryRecordUnderItsFieldNames) {
-    const QJsonObject object = parsed(jsonLine(demoReadings(), everyModule()));
+    const QJsonObject object = parsed(jsonLine(demoReadings(), std::nullopt));
     EXPECT_EQ(object["cpu"_L1]["perCore"_L1].toArray().size(), 10);
     EXPECT_EQ(object["memory"_L1]["total"_L1].toInteger(), qint64{16} << 30);
     EXPECT_EQ(object["memory"_L1]["pressure"_L1].toString(), u"normal"_s);
@@ -62,15 +55,21 @@ TEST(JsonLine, HoldsEveryRecordUnderItsFieldNames) {
     EXPECT_EQ(object["sensors"_L1]["cpu"_L1].toDouble(), 52.0);
     EXPECT_EQ(object["sensors"_L1]["fans"_L1].toArray().size(), 1);
     EXPECT_EQ(object["battery"_L1]["minutesRemaining"_L1].toInt(), 410);
+    EXPECT_EQ(object["networkInfo"_L1]["kind"_L1].toString(), u"wifi"_s);
+    EXPECT_EQ(object["networkInfo"_L1]["rssi"_L1].toInt(), -52);
+    EXPECT_EQ(object["networkInfo"_L1]["linkSpeedMbps"_L1].toDouble(), 866.0);
+    EXPECT_EQ(object["accessories"_L1].toArray().size(), 3);
+    EXPECT_EQ(object["accessories"_L1][1]["percent"_L1].toInt(), 64);
 }
 
 TEST(JsonLine, LeavesOutWhatIsAbsent) {
     Readings readings;
     readings.disk = {1000, 400, std::nullopt, std::nullopt};
-    const QJsonObject object = parsed(jsonLine(readings, everyModule()));
-    EXPECT_EQ(object.keys(), (QStringList{u"disk"_s, u"interval"_s}));
+    const QJsonObject object = parsed(jsonLine(readings, std::nullopt));
+    EXPECT_EQ(object.keys(), (QStringList{u"disk"_s, u"interval"_s, u"networkInfo"_s}));
+    EXPECT_EQ(object["networkInfo"_L1].toObject(), (QJsonObject{{u"kind"_s, u"offline"_s}}));
     EXPECT_EQ(object["disk"_L1].toObject().keys(), (QStringList{u"available"_s, u"total"_s}));
-    EXPECT_EQ(parsed(jsonLine(demoReadings(), {MenuBarModule::gpu})).keys(), (QStringList{u"gpu"_s, u"interval"_s}));
+    EXPECT_EQ(parsed(jsonLine(demoReadings(), std::vector{MenuBarModule::gpu})).keys(), (QStringList{u"gpu"_s, u"interval"_s}));
 }
 
 } // namespace

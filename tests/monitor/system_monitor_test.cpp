@@ -153,20 +153,122 @@ TEST_F(SystemMonitorTest, RecordsAndHistoriesNotifyOnEveryPassEvenWhenEqual) {
     pass();
     for (Reading reading : {Reading::cpu, Reading::cpuHistory, Reading::memory, Reading::memoryHistory,
                             Reading::network, Reading::downloadHistory, Reading::uploadHistory, Reading::disk,
-                            Reading::diskReadHistory, Reading::diskWriteHistory})
+                            Reading::diskReadHistory, Reading::diskWriteHistory, Reading::sensors})
         EXPECT_EQ(count(reading), 1) << static_cast<int>(reading);
-    EXPECT_EQ(changes.size(), 10u);
+    EXPECT_EQ(changes.size(), 11u);
 }
 
 TEST_F(SystemMonitorTest, OneListenerCallPerPassAfterEverythingIsStored) {
     int calls = 0;
     monitor->onUpdate = [&] {
         ++calls;
-        EXPECT_EQ(changes.back(), Reading::diskWriteHistory);
+        EXPECT_EQ(changes.back(), Reading::sensors);
     };
     monitor->start();
     pass();
     EXPECT_EQ(calls, 2);
+}
+
+/// The sources that a machine may lack, which write down in which order they were asked.
+struct Extras {
+    std::vector<std::string> asked;
+    Properties gpu{{"Device Utilization %", std::int64_t{40}}};
+    Properties powerSource{{"Type", "InternalBattery"}, {"Current Capacity", std::int64_t{50}}};
+    std::optional<double> temperature = 52.0;
+    std::optional<double> power = 9.5;
+    std::optional<std::string_view> route = "en0";
+
+    void addTo(SamplingSources& sources) {
+        sources.networkInfo = std::make_unique<Connection>(*this);
+        sources.gpu = std::make_unique<GPU>(*this);
+        sources.temperatures = std::make_unique<Temperatures>(*this);
+        sources.sensorKeys = std::make_unique<Keys>(*this);
+        sources.battery = std::make_unique<Battery>(*this);
+    }
+
+  private:
+    struct Connection : NetworkInfoSampler::Source {
+        explicit Connection(Extras& e) : extras(e) {}
+        bool refresh() override {
+            extras.asked.emplace_back("connection");
+            return true;
+        }
+        std::optional<std::string_view> primaryInterface(NetworkInfoSampler::AddressFamily) override {
+            return extras.route;
+        }
+        std::optional<std::string_view> ipv4Address(std::string_view) override { return "192.0.2.1"; }
+        std::optional<NetworkInfoSampler::Interface> describe(std::string_view) override {
+            return NetworkInfoSampler::Interface{NetworkInfoSampler::InterfaceType::ethernet, "Ethernet"};
+        }
+        std::optional<NetworkInfoSampler::WiFi> wifi(std::string_view) override { return std::nullopt; }
+        bool hidesNetworkNames() const override { return false; }
+        Extras& extras;
+    };
+    struct GPU : GPUSampler::Source {
+        explicit GPU(Extras& e) : extras(e) {}
+        std::optional<std::span<const Properties>> read() override {
+            extras.asked.emplace_back("gpu");
+            return std::span(&extras.gpu, 1);
+        }
+        Extras& extras;
+    };
+    struct Temperatures : HIDTemperatureSampler::Source {
+        explicit Temperatures(Extras& e) : extras(e) {}
+        bool read(std::vector<HIDTemperatureSampler::Service>& services) override {
+            extras.asked.emplace_back("sensors");
+            services = {{"CPU", extras.temperature}};
+            return true;
+        }
+        Extras& extras;
+    };
+    struct Keys : SensorKeys {
+        explicit Keys(Extras& e) : extras(e) {}
+        std::optional<double> value(std::string_view key) override {
+            return key == "PSTR" ? extras.power : std::nullopt;
+        }
+        Extras& extras;
+    };
+    struct Battery : BatterySampler::Source {
+        explicit Battery(Extras& e) : extras(e) {}
+        std::optional<std::span<const Properties>> powerSources() override {
+            extras.asked.emplace_back("battery");
+            return std::span(&extras.powerSource, 1);
+        }
+        const Properties* smartBattery() override { return nullptr; }
+        Extras& extras;
+    };
+};
+
+TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
+    Extras extras;
+    auto sources = machine.makeSources();
+    extras.addTo(sources);
+    SystemMonitor full(std::move(sources), defaults, std::make_unique<ManualTimer>(),
+                       std::make_unique<ManualRunner>(tasks));
+    std::vector<Reading> told;
+    QObject::connect(&full, &SystemMonitor::changed, [&](Reading reading) { told.push_back(reading); });
+    full.sample();
+    EXPECT_THAT(extras.asked, ElementsAre("connection", "gpu", "sensors", "battery"));
+    EXPECT_EQ(full.readings().networkInfo.kind, NetworkInfo::Kind::ethernet);
+    EXPECT_EQ(full.readings().gpu, 0.4);
+    EXPECT_EQ(full.readings().battery->percent, 50);
+
+    // Absent values keep the histories as they are, an unchanged load is no news.
+    extras.temperature = std::nullopt;
+    extras.route = std::nullopt;
+    told.clear();
+    full.sample();
+    EXPECT_EQ(full.readings().networkInfo, NetworkInfo());
+    EXPECT_EQ(full.readings().sensors.cpu, std::nullopt);
+    EXPECT_THAT(full.readings().cpuTemperatureHistory, ElementsAre(52.0));
+    EXPECT_THAT(full.readings().systemPowerHistory, ElementsAre(9.5, 9.5));
+    EXPECT_THAT(full.readings().gpuHistory, ElementsAre(0.4, 0.4));
+    EXPECT_EQ(std::ranges::count(told, Reading::gpu), 0);
+    EXPECT_EQ(std::ranges::count(told, Reading::battery), 1);
+    extras.gpu.clear();
+    full.sample();
+    EXPECT_EQ(full.readings().gpu, std::nullopt);
+    EXPECT_EQ(full.readings().gpuHistory.size(), 2u);
 }
 
 TEST_F(SystemMonitorTest, StartTakesTheStoredIntervalWithItsFloor) {

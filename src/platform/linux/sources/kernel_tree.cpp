@@ -30,6 +30,13 @@ std::optional<std::string> readStart(const std::string& path, std::size_t limit)
     return text;
 }
 
+std::string pathBelow(const std::string& folder, std::string_view entry) {
+    std::string path = folder;
+    path += '/';
+    path += entry;
+    return path;
+}
+
 bool pathExists(const std::string& path) {
     return access(path.c_str(), F_OK) == 0;
 }

@@ -12,6 +12,9 @@ namespace vantrix {
 /// The first `limit` bytes of a file; absent when it cannot be read.
 std::optional<std::string> readStart(const std::string& path, std::size_t limit = 4096);
 
+/// The path of an entry of `folder`.
+std::string pathBelow(const std::string& folder, std::string_view entry);
+
 bool pathExists(const std::string& path);
 
 /// True when `name` can be one entry of a folder, so that a path made with it stays below that folder.

@@ -1,19 +1,16 @@
 #include "platform/linux/sources/rtnetlink_links.h"
 
 #include <algorithm>
-#include <cerrno>
 
 #include <linux/netlink.h>
 #include <linux/rtnetlink.h>
-#include <sys/socket.h>
 
 #include "platform/linux/sources/sysfs_links.h"
 
 namespace vantrix {
 namespace {
 
-constexpr std::size_t largestDatagram = 32768; // what the kernel packs into one at most
-constexpr int datagramsPerPass = 1000;         // a storm of news goes on in the next pass
+constexpr int datagramsPerPass = 1000; // a storm of news goes on in the next pass
 
 } // namespace
 
@@ -64,8 +61,10 @@ std::vector<LinkTable::Entry>::iterator LinkTable::find(int index) {
     return std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) { return entry.index == index; });
 }
 
+RtnetlinkLinks::RtnetlinkLinks(std::string sys) : table_(std::move(sys)), socket_(NETLINK_ROUTE, RTMGRP_LINK) {}
+
 bool RtnetlinkLinks::refresh() {
-    if ((!socket_ && !open()) || !takeNews())
+    if (!socket_.open() || !takeNews())
         return false;
     if (isListDue_ && readList()) {
         isListDue_ = false;
@@ -74,46 +73,15 @@ bool RtnetlinkLinks::refresh() {
     return hasList_;
 }
 
-bool RtnetlinkLinks::open() {
-    socket_ = FileDescriptor(socket(AF_NETLINK, SOCK_RAW | SOCK_CLOEXEC | SOCK_NONBLOCK, NETLINK_ROUTE));
-    sockaddr_nl address{};
-    address.nl_family = AF_NETLINK;
-    address.nl_groups = RTMGRP_LINK;
-    if (!socket_ || bind(socket_.get(), reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0)
-        return false;
-    buffer_.resize(largestDatagram);
-    return true;
-}
-
-RtnetlinkLinks::Received RtnetlinkLinks::receive(std::string_view& datagram) {
-    sockaddr_nl sender{};
-    socklen_t senderSize = sizeof sender;
-    ssize_t length = 0;
-    do
-        length = recvfrom(socket_.get(), buffer_.data(), buffer_.size(), MSG_DONTWAIT | MSG_TRUNC,
-                          reinterpret_cast<sockaddr*>(&sender), &senderSize);
-    while (length < 0 && errno == EINTR);
-    if (length < 0 && (errno == EAGAIN || errno == EWOULDBLOCK))
-        return Received::nothing;
-    if (length < 0)
-        return errno == ENOBUFS ? Received::lost : Received::failed;
-    const auto size = static_cast<std::size_t>(length);
-    if (size > buffer_.size())
-        return Received::lost;
-    // Only the kernel has port 0; what other programs send is ignored.
-    datagram = {buffer_.data(), sender.nl_pid == 0 ? size : 0};
-    return Received::datagram;
-}
-
 bool RtnetlinkLinks::takeNews() {
     std::string_view datagram;
     for (int i = 0; i < datagramsPerPass; ++i) {
-        const Received received = receive(datagram);
-        if (received == Received::failed)
+        const auto received = socket_.receive(datagram);
+        if (received == NetlinkChannel::Received::failed)
             return false;
-        if (received == Received::nothing)
+        if (received == NetlinkChannel::Received::nothing)
             break;
-        if (received == Received::lost) {
+        if (received == NetlinkChannel::Received::lost) {
             isListDue_ = true;
             continue;
         }
@@ -137,7 +105,7 @@ bool RtnetlinkLinks::askForList() {
     question.attribute.rta_len = RTA_LENGTH(sizeof question.filter);
     question.attribute.rta_type = IFLA_EXT_MASK;
     question.filter = RTEXT_FILTER_SKIP_STATS;
-    return send(socket_.get(), &question, sizeof question, 0) == static_cast<ssize_t>(sizeof question);
+    return socket_.send({reinterpret_cast<const char*>(&question), sizeof question});
 }
 
 bool RtnetlinkLinks::readList() {
@@ -148,7 +116,7 @@ bool RtnetlinkLinks::readList() {
     bool isComplete = false;
     // The kernel writes the answer while it is read, so it never has to be waited for.
     for (int i = 0; i < datagramsPerPass && !isComplete; ++i) {
-        if (receive(datagram) != Received::datagram || !applyList(datagram, isComplete))
+        if (socket_.receive(datagram) != NetlinkChannel::Received::datagram || !applyList(datagram, isComplete))
             return false;
     }
     if (isComplete)

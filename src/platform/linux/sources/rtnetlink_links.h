@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/linux/sources/file_descriptor.h"
 #include "platform/linux/sources/link_states.h"
+#include "platform/linux/sources/netlink_socket.h"
 #include "platform/linux/sources/rtnetlink_messages.h"
 
 namespace vantrix {
@@ -42,16 +42,12 @@ class LinkTable {
 /// States of links from a subscription to the kernel's news, so that nothing is asked on a pass without news.
 class RtnetlinkLinks : public LinkStates {
   public:
-    explicit RtnetlinkLinks(std::string sys) : table_(std::move(sys)) {}
+    explicit RtnetlinkLinks(std::string sys);
 
     bool refresh() override;
     LinkState state(std::string_view name, std::size_t place) override { return table_.state(name, place); }
 
   private:
-    enum class Received { datagram, nothing, lost, failed };
-
-    bool open();
-    Received receive(std::string_view& datagram);
     bool takeNews();
     bool askForList();
     bool readList();
@@ -59,8 +55,7 @@ class RtnetlinkLinks : public LinkStates {
     void apply(const LinkMessage& message);
 
     LinkTable table_;
-    FileDescriptor socket_;
-    std::vector<char> buffer_;
+    NetlinkSocket socket_;
     std::uint32_t sequence_ = 0;
     bool isListDue_ = true;
     bool hasList_ = false;

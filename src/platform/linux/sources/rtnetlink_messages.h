@@ -17,7 +17,7 @@ struct LinkMessage {
     };
 
     Kind kind = Kind::other;
-    std::uint32_t sequence = 0; ///< that of the question; 0 for news
+    std::uint32_t sequence = 0; ///< that of the question; news have that of whoever made the change
     bool isInterrupted = false; ///< links changed while the list was made
     int index = 0;              ///< of the link
     std::uint32_t flags = 0;    ///< IFF_…

@@ -1,14 +1,26 @@
 #include "platform/sampling_sources.h"
 
-#include "platform/linux/sources/empty_accessories.h"
+#include <linux/netlink.h>
+
 #include "platform/linux/sources/kernel_tree.h"
+#include "platform/linux/sources/linux_battery_source.h"
 #include "platform/linux/sources/linux_clock.h"
+#include "platform/linux/sources/linux_gpu_source.h"
 #include "platform/linux/sources/linux_memory_source.h"
+#include "platform/linux/sources/linux_network_info.h"
+#include "platform/linux/sources/linux_sensor_keys.h"
 #include "platform/linux/sources/linux_system_information.h"
+#include "platform/linux/sources/linux_temperatures.h"
+#include "platform/linux/sources/nl80211_reader.h"
+#include "platform/linux/sources/nvidia_library.h"
+#include "platform/linux/sources/power_supply_accessories.h"
+#include "platform/linux/sources/powercap_energy.h"
 #include "platform/linux/sources/proc_diskstats.h"
 #include "platform/linux/sources/proc_net_dev.h"
+#include "platform/linux/sources/proc_net_route.h"
 #include "platform/linux/sources/proc_stat.h"
 #include "platform/linux/sources/rtnetlink_links.h"
+#include "platform/linux/sources/rtnetlink_routes.h"
 #include "platform/linux/sources/sysfs_links.h"
 #include "platform/linux/sources/volume.h"
 
@@ -22,17 +34,26 @@ std::string withoutTrailingSlashes(std::string path) {
 }
 
 /// "net" in a tree of processes means the reader's own network namespace, "1/net" that of the tree's machine.
-std::string foreignNetDev(const std::string& proc) {
-    std::string path = proc + "/1/net/dev";
-    return pathExists(path) ? path : proc + "/net/dev";
+std::string foreignNet(const std::string& proc) {
+    std::string path = proc + "/1/net";
+    return pathExists(path + "/dev") ? path : proc + "/net";
 }
 
 std::unique_ptr<NetworkSampler::Source> makeNetworkSource(const KernelRoots& roots) {
     auto sysfs = std::make_unique<SysfsLinks>(roots.sys);
     if (roots != KernelRoots())
-        return std::make_unique<NetDevSource>(foreignNetDev(roots.proc), std::move(sysfs), nullptr);
+        return std::make_unique<NetDevSource>(foreignNet(roots.proc) + "/dev", std::move(sysfs), nullptr);
     return std::make_unique<NetDevSource>(roots.proc + "/net/dev", std::make_unique<RtnetlinkLinks>(roots.sys),
                                           std::move(sysfs));
+}
+
+std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRoots& roots) {
+    if (roots != KernelRoots())
+        return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<ProcNetRoutes>(foreignNet(roots.proc)),
+                                                  nullptr, nullptr);
+    auto wifi = std::make_unique<Nl80211Reader>(std::make_unique<NetlinkSocket>(NETLINK_GENERIC));
+    return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<RtnetlinkRoutes>(),
+                                              std::make_unique<ProcNetRoutes>(roots.proc + "/net"), std::move(wifi));
 }
 
 } // namespace
@@ -45,9 +66,16 @@ SamplingSources makeSamplingSources(const KernelRoots& given) {
     sources.cpu = std::make_unique<ProcStatSource>(roots.proc);
     sources.memory = std::make_unique<LinuxMemorySource>(roots.proc, roots.sys);
     sources.network = makeNetworkSource(roots);
+    sources.networkInfo = makeNetworkInfoSource(roots);
     sources.disks = std::make_unique<DiskStatsSource>(roots.proc, roots.sys);
     sources.volume = std::make_unique<VolumeStatistics>(rootVolume(roots.proc));
-    sources.accessories = std::make_unique<EmptyAccessories>();
+    sources.gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());
+    const auto sensorClock = std::make_shared<LinuxClock>();
+    sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);
+    sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock);
+    sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
+    sources.battery = std::make_unique<LinuxBatterySource>(roots.sys);
+    sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
     return sources;
 }
 

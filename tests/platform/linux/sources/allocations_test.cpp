@@ -1,9 +1,17 @@
+#include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <new>
+#include <thread>
 
 #include <gtest/gtest.h>
 
+#include "fakes/busy_laptop.h"
+#include "platform/linux/sources/linux_network_info.h"
 #include "platform/sampling_sources.h"
+#include "sensors/sensors_sampler.h"
+#include "temporary_folder.h"
 
 namespace {
 
@@ -58,25 +66,94 @@ int allocationsAfterSecondPass(const KernelRoots& roots) {
     MemorySampler memory(*sources.memory);
     NetworkSampler network(*sources.network, *sources.clock);
     DiskSampler disk(*sources.disks, *sources.volume, *sources.clock);
+    NetworkInfoSampler networkInfo(*sources.networkInfo);
+    GPUSampler gpu(*sources.gpu);
+    SensorsSampler sensors(sources.sensorKeys.get(), sources.temperatures.get(), sources.energy.get(), *sources.clock);
+    BatterySampler battery(*sources.battery);
     const auto pass = [&] {
+        networkInfo.sample(true, 3);
         cpu.sample();
         memory.sample();
         network.sample();
         disk.sample();
+        gpu.sample();
+        sensors.sample();
+        battery.sample();
     };
     EXPECT_GT(allocationsDuring(pass), 0); // else nothing is counted at all
     pass();
-    return allocationsDuring([&] {
+    const auto hundredPasses = [&] {
         for (int i = 0; i < 100; ++i)
             pass();
-    });
+    };
+    // On a busy machine a sensor may seem slow, which gets it a thread, once. What allocates on every pass shows
+    // anyway.
+    int least = allocationsDuring(hundredPasses);
+    for (int i = 0; i < 3 && least > 0; ++i)
+        least = std::min(least, allocationsDuring(hundredPasses));
+    return least;
 }
 
 TEST(SamplingPass, AllocatesNothingAfterTheSecond) {
     EXPECT_EQ(allocationsAfterSecondPass({}), 0);
-    for (const char* machine : {"many-interfaces", "zram-in-use", "laptop-hybrid-cores", "no-psi"}) {
+    for (const char* machine :
+         {"many-interfaces", "zram-in-use", "laptop-hybrid-cores", "no-psi", "two-packs-and-accessories",
+          "gpu-asleep-beside-another", "laptop-many-sensors", "desktop-resting-disk-sleeping-gpu",
+          "board-with-thermal-zones-alone"}) {
         const std::string folder = std::string(FIXTURES) + '/' + machine;
         EXPECT_EQ(allocationsAfterSecondPass({folder + "/proc", folder + "/sys"}), 0) << machine;
+    }
+}
+
+TEST(SamplingPass, AllocatesNothingOnALaptopThatHasEverything) {
+    const TemporaryFolder folder;
+    const std::string laptop = folder.path("laptop");
+    fakes::writeBusyLaptop(FIXTURES, laptop);
+    EXPECT_EQ(allocationsAfterSecondPass({laptop + "/proc", laptop + "/sys"}), 0);
+}
+
+struct RouteOverWiFi : DefaultRoutes {
+    DefaultRoute route{3, "wlan0", "192.168.100.200"};
+
+    bool refresh() override { return true; }
+    std::uint64_t generation() const override { return 1; }
+    const DefaultRoute* primary(Family) const override { return &route; }
+};
+
+struct LongNamed : WiFiReader {
+    std::string problem;
+    std::shared_ptr<std::atomic<int>> reads;
+
+    LongNamed(const char* text, std::shared_ptr<std::atomic<int>> count) : problem(text), reads(std::move(count)) {}
+    void read(int, WiFiReading& reading) override {
+        reading.signal = -52;
+        reading.ssid = "a name of all the 32 letters....";
+        reading.problem = problem;
+        ++*reads;
+    }
+};
+
+TEST(SamplingPass, AllocatesNothingOnWiFi) {
+    const TemporaryFolder folder;
+    folder.write("class/net/wlan0/phy80211/index", "0\n");
+    for (const char* problem : {"", "a problem too long for a short string"}) {
+        const auto reads = std::make_shared<std::atomic<int>>(0);
+        LinuxNetworkInfo source(folder.path(""), std::make_unique<RouteOverWiFi>(), nullptr,
+                                std::make_unique<LongNamed>(problem, reads));
+        NetworkInfoSampler sampler(source);
+        int counted = 0;
+        for (int pass = 0; pass < 100; ++pass) {
+            const int before = *reads;
+            const int fresh = allocationsDuring([&] { sampler.sample(true, 3); });
+            counted += pass < 5 ? 0 : fresh;
+            const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+            while (*reads == before && std::chrono::steady_clock::now() < deadline)
+                std::this_thread::yield(); // passes are far apart
+        }
+        EXPECT_EQ(counted, 0) << problem;
+        const NetworkInfo& info = sampler.sample(true, 3);
+        EXPECT_EQ(info.ssid.has_value(), *problem == '\0');
+        EXPECT_EQ(info.debug.value_or(""), problem);
     }
 }
 

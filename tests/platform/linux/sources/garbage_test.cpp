@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -5,15 +6,23 @@
 
 #include <gtest/gtest.h>
 
+#include "accessories/bluetooth_report.h"
+#include "platform/linux/sources/battery_packs.h"
 #include "platform/linux/sources/cpu_topology.h"
+#include "platform/linux/sources/gpu_meter.h"
 #include "platform/linux/sources/linux_memory_source.h"
+#include "platform/linux/sources/power_supply_accessories.h"
 #include "platform/linux/sources/proc_diskstats.h"
 #include "platform/linux/sources/proc_net_dev.h"
+#include "platform/linux/sources/proc_net_route.h"
 #include "platform/linux/sources/proc_stat.h"
 #include "platform/linux/sources/processor_brand.h"
+#include "platform/linux/sources/route_messages.h"
 #include "platform/linux/sources/rtnetlink_messages.h"
+#include "platform/linux/sources/sensor_files.h"
 #include "platform/linux/sources/sysfs_links.h"
 #include "platform/sampling_sources.h"
+#include "sensors/sensors_sampler.h"
 #include "temporary_folder.h"
 
 namespace vantrix {
@@ -108,11 +117,21 @@ void parseWithEverything(const std::string& text) {
     }
     parseZramMemory(text);
     parseLinkFlags(text);
+    parseSensorValue(text);
     EXPECT_LE(parseCPUList(text).value_or(std::vector<int>()).size(), 65536u);
     EXPECT_NE(parseModelName(text), "");
+    parseLoad(text);
+    findAddress(text);
+    parseBluetoothReport(text);
+    if (const auto pack = parseSupply(text))
+        combinePacks({&*pack, 1}, std::nullopt);
     std::string_view datagram = text;
     while (takeLinkMessage(datagram)) {
     }
+    datagram = text;
+    while (takeRouteMessage(datagram)) {
+    }
+    EXPECT_LT(parseDefaultRoute(text).size() + parseDefaultIPv6Route(text).size(), text.size() + 1);
 }
 
 std::vector<std::filesystem::path> filesBelow(const std::string& folder) {
@@ -127,7 +146,7 @@ std::vector<std::filesystem::path> filesBelow(const std::string& folder) {
 
 TEST(Garbage, NoParserStumbles) {
     Mutator mutator;
-    for (const char* machine : {"laptop-hybrid-cores", "zram-in-use"}) {
+    for (const char* machine : {"laptop-hybrid-cores", "zram-in-use", "two-packs-and-accessories"}) {
         for (const auto& file : filesBelow(std::string(FIXTURES) + '/' + machine)) {
             const std::string text = contentOf(file);
             for (int i = 0; i < 1000; ++i)
@@ -164,6 +183,71 @@ TEST(Garbage, NoFileEndsASamplingPass) {
     }
     EXPECT_TRUE(memory.sample().has_value()); // the files are whole again
     EXPECT_NE(cpu.sample(), nullptr);
+}
+
+TEST(Garbage, NoFileMakesNonsenseOfBatteriesAndGPUs) {
+    Mutator mutator;
+    for (const char* machine : {"two-packs-and-accessories", "gpu-asleep-beside-another"}) {
+        const TemporaryFolder folder;
+        std::filesystem::copy(std::string(FIXTURES) + '/' + machine, folder.path("m"),
+                              std::filesystem::copy_options::recursive);
+        const auto sources = makeSamplingSources({folder.path("m/proc"), folder.path("m/sys")});
+        GPUSampler gpu(*sources.gpu);
+        BatterySampler battery(*sources.battery);
+        for (const auto& file : filesBelow(folder.path("m"))) {
+            const std::string text = contentOf(file);
+            const auto name = std::filesystem::relative(file, folder.path("")).string();
+            for (int i = 0; i < 100; ++i) {
+                folder.write(name, mutator.damaged(text));
+                const double load = gpu.sample().value_or(0.0);
+                EXPECT_TRUE(load >= 0.0 && load <= 1.0) << load;
+                const auto sample = battery.sample().value_or(BatterySample());
+                EXPECT_TRUE(sample.percent >= 0 && sample.percent <= 100) << sample.percent;
+                EXPECT_LT(sample.watts.value_or(0.0), 400.0);
+                EXPECT_LE(sample.temperature.value_or(0.0), 150.0);
+            }
+            for (const auto& accessory : sources.accessories->scan().accessories)
+                EXPECT_TRUE(accessory.percent >= 0 && accessory.percent <= 100) << accessory.percent;
+            folder.write(name, text);
+        }
+    }
+}
+
+bool isPlausible(const SensorsSample& sample) {
+    const auto isTemperature = [](double value) { return value > 0.0 && value < 150.0; };
+    const auto isFan = [](const FanReading& fan) { return fan.rpm >= 0.0 && fan.rpm < 20000.0; };
+    return isTemperature(sample.cpu.value_or(1.0)) && isTemperature(sample.cpuHottest.value_or(1.0)) &&
+           std::ranges::all_of(sample.all, isTemperature, &TemperatureReading::value) &&
+           std::ranges::all_of(sample.fans, isFan) && sample.systemPower.value_or(1.0) < 600.0;
+}
+
+/// Chips and zones lose their names, sensors their numbers; all that is shown stays plausible, and comes back whole.
+TEST(Garbage, NoFileMakesASensorImplausible) {
+    Mutator mutator;
+    const TemporaryFolder folder;
+    std::filesystem::copy(std::string(FIXTURES) + "/laptop-many-sensors", folder.path("m"),
+                          std::filesystem::copy_options::recursive | std::filesystem::copy_options::copy_symlinks);
+    const auto sources = makeSamplingSources({folder.path("m/proc"), folder.path("m/sys")});
+    const auto makeSampler = [](const SamplingSources& from) {
+        return SensorsSampler(from.sensorKeys.get(), from.temperatures.get(), from.energy.get(), *from.clock);
+    };
+    SensorsSampler longRunning = makeSampler(sources);
+    const SensorsSample whole = longRunning.sample();
+    EXPECT_EQ(whole.all.size(), 35u);
+    for (const auto& file : filesBelow(folder.path("m"))) {
+        const std::string text = contentOf(file);
+        const auto name = std::filesystem::relative(file, folder.path("")).string();
+        for (int i = 0; i < 3; ++i) {
+            folder.write(name, mutator.damaged(text));
+            EXPECT_TRUE(isPlausible(longRunning.sample())) << name;
+            const auto fresh = makeSamplingSources({folder.path("m/proc"), folder.path("m/sys")});
+            EXPECT_TRUE(isPlausible(makeSampler(fresh).sample())) << name;
+        }
+        folder.write(name, text);
+    }
+    for (int i = 0; i < 60; ++i)
+        longRunning.sample();
+    EXPECT_EQ(longRunning.sample().all, whole.all);
 }
 
 TEST(Garbage, LongTextsAreTakenOrRefusedWhole) {

@@ -119,6 +119,18 @@ std::string testName(const ::testing::TestParamInfo<Machine>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Recorded, MachinesTest, ::testing::ValuesIn(machines), testName);
 
+TEST(Machines, TwoPacksAreOneBattery) {
+    const auto sources = makeSamplingSources({"", std::string(FIXTURES) + "/two-packs-and-accessories/sys"});
+    // 20 Wh of 20, and 2 Ah of 5 at 11.1 V; 11.4 W flow.
+    EXPECT_EQ(BatterySampler(*sources.battery).sample(), (BatterySample{56, false, false, 222, 312, 83, 31.2, 11.4}));
+}
+
+TEST(Machines, SleepingGPUCountsAsIdle) {
+    const auto sources = makeSamplingSources({"", std::string(FIXTURES) + "/gpu-asleep-beside-another/sys"});
+    GPUSampler gpu(*sources.gpu);
+    EXPECT_EQ(gpu.sample(), 0.35);
+}
+
 TEST(ThisMachine, AnswersEveryReading) {
     const auto sources = makeSamplingSources({});
     CPUSampler cpu(*sources.cpu);
@@ -135,7 +147,9 @@ TEST(ThisMachine, AnswersEveryReading) {
     EXPECT_GE(sources.information->processorCount(), 1);
     EXPECT_EQ(sources.information->integer("hw.unheard"), std::nullopt);
     EXPECT_EQ(sources.information->text("hw.logicalcpu"), std::nullopt);
-    EXPECT_TRUE(sources.accessories->scan().accessories.empty());
+    EXPECT_TRUE(sources.accessories->scan().diagnostics.starts_with("power_supply: "));
+    GPUSampler(*sources.gpu).sample(); // a machine for tests need not have these
+    BatterySampler(*sources.battery).sample();
     const double begin = sources.clock->uptime();
     EXPECT_GE(sources.clock->uptime(), begin);
 }
@@ -150,6 +164,9 @@ TEST(MissingMachine, IsAbsentThroughout) {
     EXPECT_FALSE(sources.network->read(links));
     EXPECT_FALSE(sources.disks->read(disks));
     EXPECT_TRUE(sources.volume->read()); // "/" is always there
+    EXPECT_FALSE(GPUSampler(*sources.gpu).sample());
+    EXPECT_FALSE(BatterySampler(*sources.battery).sample());
+    EXPECT_TRUE(sources.accessories->scan().accessories.empty());
     EXPECT_EQ(sources.information->integer("hw.logicalcpu"), std::nullopt);
     EXPECT_EQ(sources.information->text("machdep.cpu.brand_string"), std::nullopt);
 }

@@ -10,8 +10,8 @@ namespace vantrix {
 /// A folder that lives as long as its test.
 class TemporaryFolder {
   public:
-    TemporaryFolder() {
-        std::string name = std::filesystem::temp_directory_path() / "vantrix-XXXXXX";
+    explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+        std::string name = parent / "vantrix-XXXXXX";
         path_ = mkdtemp(name.data());
     }
     ~TemporaryFolder() { std::filesystem::remove_all(path_); }

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "accessories/accessory_battery.h"
+
+namespace vantrix {
+
+/// The levels that one accessory may tell, in percent.
+struct AccessoryLevels {
+    std::optional<int> single;
+    std::optional<int> combined;
+    std::optional<int> left;
+    std::optional<int> right;
+    std::optional<int> box; ///< the case that earbuds are carried in
+
+    /// The single level, else the combined one, else the smaller of left and right, else the one of them that is
+    /// present; absent when there is none.
+    std::optional<int> main() const;
+};
+
+/// Appends the accessory with its main level and, where its case tells one, an entry for that: the name followed by
+/// " case". Appends nothing for levels that are absent. Levels are brought within 0 to 100.
+void appendAccessory(std::vector<AccessoryBattery>& list, AccessoryBattery accessory, const AccessoryLevels& levels);
+
+/// True for the entry of a case.
+bool isCase(const AccessoryBattery& accessory);
+
+} // namespace vantrix

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/linux/sources/device_rest.h"
+#include "platform/linux/sources/hwmon_chips.h"
+#include "platform/linux/sources/rescan_schedule.h"
+#include "platform/linux/sources/temperature_names.h"
+#include "sensors/hid_temperature_sampler.h"
+
+namespace vantrix {
+
+/// Notices a processor's sensor whose value stands still: a processor's temperature never keeps it for an hour.
+class FrozenWatch {
+  public:
+    bool isFrozen(double value, double now);
+
+  private:
+    double value_ = 0.0;
+    double since_ = 0.0;
+};
+
+/// Temperatures of <sys>/class/hwmon, or of <sys>/class/thermal where no chip has any. Devices that sleep are not
+/// asked, nor are spinning disks that rest.
+class LinuxTemperatures : public HIDTemperatureSampler::Source {
+  public:
+    LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock);
+
+    bool read(std::vector<HIDTemperatureSampler::Service>& services) override;
+
+  private:
+    struct Chip {
+        DeviceRest rest;
+        DeviceRest::State state = DeviceRest::State::awake;
+    };
+
+    struct Place {
+        std::string path;
+        std::string faultPath;
+        std::size_t chip = 0;
+    };
+
+    struct Sensor : KeptSensor {
+        std::size_t chip = 0;
+        FrozenWatch watch;
+    };
+
+    /// What a search finds; the lists go along with each other.
+    struct Found {
+        std::vector<FoundTemperature> temperatures;
+        std::vector<Place> places;
+        std::vector<Chip> chips;
+    };
+
+    void search();
+    void findInputs(const HwmonChip& chip, Found& found) const;
+    void findZones(Found& found) const;
+    std::optional<double> readSensor(Sensor& sensor, double& now, bool& failed);
+
+    std::string sys_;
+    std::shared_ptr<const Clock> clock_;
+    RescanSchedule schedule_;
+    std::vector<Chip> chips_;
+    std::vector<Sensor> sensors_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace vantrix {
+
+/// What is needed of the NVIDIA driver's management library, which is looked up when the program runs.
+class NvidiaLibrary {
+  public:
+    using Device = void*; ///< the library's own handle
+
+    virtual ~NvidiaLibrary() = default;
+    /// False when the library is not installed or finds no driver.
+    virtual bool start() = 0;
+    /// Lets go of every GPU; devices found before are invalid afterwards.
+    virtual void stop() = 0;
+    /// The GPU at a PCI address, "0000:01:00.0". The library may touch other GPUs on its way there. Only when started.
+    virtual std::optional<Device> find(const std::string& address) = 0;
+    /// Load in percent over the last sampling period of the GPU. Only when started.
+    virtual std::optional<unsigned> utilization(Device device) = 0;
+};
+
+std::unique_ptr<NvidiaLibrary> makeNvidiaLibrary();
+
+} // namespace vantrix

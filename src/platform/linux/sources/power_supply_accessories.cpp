@@ -1,0 +1,113 @@
+#include "platform/linux/sources/power_supply_accessories.h"
+
+#include <algorithm>
+
+#include "accessories/accessory_symbol.h"
+#include "platform/linux/sources/kernel_number.h"
+#include "platform/linux/sources/kernel_tree.h"
+#include "platform/linux/sources/power_supply.h"
+#include "platform/linux/sources/text_scan.h"
+#include "support/utf8.h"
+
+namespace vantrix {
+namespace {
+
+/// The first line of a file without the blanks around it; empty when it cannot be read.
+std::string readWord(const std::string& path) {
+    const auto text = readStart(path, 256);
+    if (!text)
+        return {};
+    const std::string line = text->substr(0, text->find('\n'));
+    const auto begin = line.find_first_not_of(' ');
+    return begin == std::string::npos ? "" : line.substr(begin, line.find_last_not_of(' ') - begin + 1);
+}
+
+/// The value of a line "KEY=value" of the file uevent; empty when there is none.
+std::string readEventValue(const std::string& device, std::string_view key) {
+    const auto text = readStart(device + "/uevent");
+    std::string_view rest = text ? *text : std::string_view();
+    while (const auto line = takeLine(rest)) {
+        if (line->size() > key.size() && line->starts_with(key) && (*line)[key.size()] == '=')
+            return std::string(line->substr(key.size() + 1));
+    }
+    return {};
+}
+
+std::string nameOf(const std::string& supply, const std::string& entry) {
+    std::string name = readWord(supply + "/model_name");
+    if (name.empty())
+        name = readEventValue(supply + "/device", "HID_NAME");
+    return repairedUTF8(name.empty() ? entry : name);
+}
+
+std::string addressOf(const std::string& supply, const std::string& entry) {
+    const std::string address = findAddress(entry);
+    return address.empty() ? findAddress(readEventValue(supply + "/device", "HID_UNIQ")) : address;
+}
+
+std::optional<int> levelOf(const std::string& supply) {
+    if (const auto percent = parseNumber(readWord(supply + "/capacity")))
+        return static_cast<int>(std::clamp<std::int64_t>(*percent, 0, 100));
+    return percentOfLevel(readWord(supply + "/capacity_level"));
+}
+
+/// A wireless device keeps its entry while it is switched off, or out of reach of its receiver.
+bool isThere(const std::string& supply) {
+    return readWord(supply + "/online") != "0" && readWord(supply + "/present") != "0";
+}
+
+bool isAddressAt(std::string_view text) {
+    constexpr std::string_view pattern = "xx:xx:xx:xx:xx:xx";
+    constexpr std::string_view hex = "0123456789abcdefABCDEF";
+    return text.size() >= pattern.size() &&
+           std::equal(pattern.begin(), pattern.end(), text.begin(), [&](char expected, char c) {
+               return expected == ':' ? c == ':' : hex.find(c) != std::string_view::npos;
+           });
+}
+
+} // namespace
+
+std::string findAddress(std::string_view text) {
+    constexpr std::size_t length = 17;
+    while (text.size() >= length && !isAddressAt(text))
+        text.remove_prefix(1);
+    std::string address(text.size() >= length ? text.substr(0, length) : std::string_view());
+    std::transform(address.begin(), address.end(), address.begin(),
+                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return address;
+}
+
+std::optional<int> percentOfLevel(std::string_view word) {
+    constexpr std::pair<std::string_view, int> levels[] = {
+        {"Critical", 5}, {"Low", 15}, {"Normal", 50}, {"High", 75}, {"Full", 100}};
+    for (const auto& [name, percent] : levels) {
+        if (word == name)
+            return percent;
+    }
+    return std::nullopt;
+}
+
+AccessoriesSampler::Scan PowerSupplyAccessories::scan() {
+    Scan scan;
+    std::vector<std::string> others;
+    auto entries = entriesStartingWith(folder_, "");
+    std::sort(entries.begin(), entries.end()); // the same order in every scan
+    for (const std::string& entry : entries) {
+        const std::string supply = folder_ + '/' + entry;
+        if (entry.starts_with('.') || supplyKind(supply) != SupplyKind::accessory || !isThere(supply))
+            continue;
+        std::string name = nameOf(supply, entry);
+        const auto level = levelOf(supply);
+        if (!level) {
+            others.push_back(std::move(name));
+            continue;
+        }
+        const std::string symbol = symbolForAccessory(name);
+        scan.accessories.push_back(
+            {std::move(name), *level, readWord(supply + "/status") == "Charging", symbol, addressOf(supply, entry)});
+    }
+    scan.diagnostics = accessoriesDiagnostics("power_supply", scan.accessories, others);
+    return scan;
+}
+
+} // namespace vantrix

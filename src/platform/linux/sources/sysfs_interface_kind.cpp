@@ -1,0 +1,73 @@
+#include "platform/linux/sources/sysfs_interface_kind.h"
+
+#include <algorithm>
+#include <array>
+
+#include <net/if_arp.h>
+#include <unistd.h>
+
+#include "platform/linux/sources/kernel_tree.h"
+
+namespace vantrix {
+namespace {
+
+using Type = NetworkInfoSampler::InterfaceType;
+
+struct Sort {
+    std::string_view deviceType;
+    InterfaceKind kind;
+};
+
+constexpr Sort sorts[] = {
+    {"wlan", {Type::ieee80211, "Wi-Fi"}}, {"wwan", {Type::other, "Mobile broadband"}},
+    {"wireguard", {Type::other, "VPN"}},  {"bluetooth", {Type::other, "Bluetooth"}},
+    {"bridge", {Type::other, "Bridge"}},  {"bond", {Type::other, "Bond"}},
+    {"vlan", {Type::other, "VLAN"}},      {"ppp", {Type::other, "PPP"}},
+};
+
+/// The value of a line "DEVTYPE=…" in a uevent file; empty without one.
+std::string_view deviceType(std::string_view uevent) {
+    constexpr std::string_view key = "DEVTYPE=";
+    while (!uevent.empty()) {
+        const auto line = uevent.substr(0, uevent.find('\n'));
+        if (line.starts_with(key))
+            return line.substr(key.size());
+        uevent.remove_prefix(std::min(line.size() + 1, uevent.size()));
+    }
+    return {};
+}
+
+bool isOnUSB(const std::string& folder) {
+    std::array<char, 512> target;
+    const ssize_t length = readlink((folder + "device/subsystem").c_str(), target.data(), target.size());
+    return length > 0 && std::string_view(target.data(), static_cast<std::size_t>(length)).ends_with("/usb");
+}
+
+InterfaceKind kindOfPort(const std::string& folder) {
+    const auto type = readStart(folder + "type", 16).value_or("");
+    if (type == std::to_string(ARPHRD_PPP) + '\n')
+        return {Type::other, "PPP"};
+    if (pathExists(folder + "tun_flags"))
+        return {Type::other, "VPN"};
+    if (type != std::to_string(ARPHRD_ETHER) + '\n' || !pathExists(folder + "device"))
+        return {Type::other, {}};
+    return {Type::ethernet, isOnUSB(folder) ? "USB Ethernet" : "Ethernet"};
+}
+
+} // namespace
+
+std::optional<InterfaceKind> readInterfaceKind(const std::string& sys, std::string_view name) {
+    const std::string folder = sys + "/class/net/" + std::string(name) + '/';
+    if (!isEntryName(name) || !pathExists(folder))
+        return std::nullopt;
+    if (pathExists(folder + "wireless") || pathExists(folder + "phy80211"))
+        return InterfaceKind{Type::ieee80211, "Wi-Fi"};
+    const auto uevent = readStart(folder + "uevent").value_or("");
+    for (const Sort& sort : sorts) {
+        if (sort.deviceType == deviceType(uevent))
+            return sort.kind;
+    }
+    return kindOfPort(folder);
+}
+
+} // namespace vantrix

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+namespace vantrix {
+
+/// The time of day: seconds since 1 January 2001 00:00:00 UTC. Unlike `Clock` it goes on while the machine sleeps, and
+/// may be set at any time; injected so that tests move it by hand.
+using WallClock = std::function<double()>;
+
+inline double secondsSince2001() {
+    constexpr std::chrono::sys_days reference{std::chrono::year{2001} / 1 / 1};
+    return std::chrono::duration<double>(std::chrono::system_clock::now() - reference).count();
+}
+
+/// True when `seconds` have passed from `start` to `now`, or `start` is absent: the distant past. A clock that was set
+/// back counts as passed, or what waits for it might wait for years.
+inline bool havePassed(double seconds, const std::optional<double>& start, double now) {
+    return !start || now < *start || now - *start >= seconds;
+}
+
+} // namespace vantrix
