@@ -31,6 +31,8 @@ QPoint menuPlace(const QSize& size, const QRect& anchor) {
 
 AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
     : defaults_(defaults), makeStatusItem_(std::move(parts.makeStatusItem)), loginItem_(std::move(parts.loginItem)),
+      notifications_(std::move(parts.notifications)), widgets_(std::move(parts.widgets)),
+      alerts_(*notifications_, defaults), widgetBridge_(widgets_.get(), defaults),
       information_(std::move(parts.sources.information)), processor_(*information_),
       monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
                std::make_unique<ThreadTaskRunner>()),
@@ -40,7 +42,7 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
                    return std::make_unique<PopoverView>(monitor_, CardContext{theme_, defaults_, processor_},
                                                         [this] { return menuEntries(); });
                }),
-      settings_({theme_, defaults_, monitor_, *loginItem_, {}}) {}
+      settings_({theme_, defaults_, monitor_, *loginItem_, [this](auto done) { alerts_.sendTest(std::move(done)); }}) {}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -49,7 +51,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     createStatusItem();
     monitor_.onUpdate = [delegate = QPointer<AppDelegate>(this)] {
         if (delegate)
-            delegate->refreshStatusItem();
+            delegate->monitorDidUpdate();
     };
     observeDefaults();
     QToolTip::setPalette(theme_.palette());
@@ -71,6 +73,12 @@ void AppDelegate::observeDefaults() {
         monitor_.setInterval(updateInterval(defaults_));
         refreshStatusItem();
     });
+}
+
+void AppDelegate::monitorDidUpdate() {
+    refreshStatusItem();
+    alerts_.evaluate(monitor_.readings());
+    widgetBridge_.update(monitor_.readings());
 }
 
 void AppDelegate::refreshStatusItem() {

@@ -6,13 +6,17 @@
 
 #include <QObject>
 
+#include "alerts/alert_manager.h"
 #include "monitor/system_monitor.h"
 #include "platform/login_item.h"
+#include "platform/notification_center.h"
 #include "platform/status_item.h"
+#include "platform/widget_center.h"
 #include "popover/popover_host.h"
 #include "samplers/processor_description.h"
 #include "settings/settings_window_controller.h"
 #include "views/theme.h"
+#include "widget/widget_bridge.h"
 
 class QMenu;
 
@@ -20,7 +24,8 @@ namespace vantrix {
 
 class UserDefaults;
 
-/// The program while it lives in the status area: starts the monitor, keeps the status item fresh and answers clicks.
+/// The program while it lives in the status area: starts the monitor, hands each pass to the status item, the alerts
+/// and the widgets, and answers clicks.
 class AppDelegate : public QObject {
     Q_OBJECT
   public:
@@ -29,6 +34,8 @@ class AppDelegate : public QObject {
         const AppearanceSource& appearance; ///< outlives the delegate
         std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem;
         std::unique_ptr<LoginItem> loginItem;
+        std::unique_ptr<NotificationCenter> notifications;
+        std::unique_ptr<WidgetCenter> widgets; ///< may be null
     };
 
     /// `defaults` outlives the delegate.
@@ -51,6 +58,7 @@ class AppDelegate : public QObject {
   private:
     void createStatusItem();
     void observeDefaults();
+    void monitorDidUpdate();
     void refreshStatusItem();
     void showMenu();
     void togglePopover();
@@ -60,6 +68,10 @@ class AppDelegate : public QObject {
     UserDefaults& defaults_;
     std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem_;
     std::unique_ptr<LoginItem> loginItem_;
+    std::unique_ptr<NotificationCenter> notifications_;
+    std::unique_ptr<WidgetCenter> widgets_;
+    AlertManager alerts_;
+    WidgetBridge widgetBridge_;
     std::unique_ptr<SystemInformation> information_;
     ProcessorDescription processor_;
     SystemMonitor monitor_;

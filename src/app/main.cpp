@@ -15,6 +15,8 @@
 #include "platform/appearance.h"
 #include "platform/desktop_services.h"
 #include "platform/login_item.h"
+#include "platform/notification_center.h"
+#include "platform/widget_center.h"
 #include "support/user_defaults.h"
 
 namespace vantrix {
@@ -75,6 +77,8 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
                     return makeStatusItem(std::move(handlers), defaults, *appearance);
                 },
             .loginItem = makeLoginItem(),
+            .notifications = makeNotificationCenter(),
+            .widgets = makeWidgetCenter(),
         },
         defaults);
     channel->received = [&](const std::string& message) { delegate.handleRequest(message); };

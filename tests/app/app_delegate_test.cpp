@@ -1,6 +1,7 @@
 #include "app/app_delegate.h"
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QMenu>
 
@@ -9,7 +10,10 @@
 #include "fakes/fake_appearance.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_login_item.h"
+#include "fakes/fake_notification_center.h"
 #include "fakes/fake_sources.h"
+#include "fakes/fake_widget_center.h"
+#include "settings/controls/push_button.h"
 #include "settings/settings_view.h"
 
 namespace vantrix {
@@ -18,11 +22,16 @@ namespace {
 class FakeStatusItem : public StatusItem {
   public:
     explicit FakeStatusItem(Handlers handlers) : handlers(std::move(handlers)) {}
-    void show(const StatusContent& content) override { shown.push_back(content); }
+    void show(const StatusContent& content) override {
+        shown.push_back(content);
+        if (onShow)
+            onShow();
+    }
     QRect anchor() const override { return {100, 0, 60, 22}; }
 
     Handlers handlers;
     std::vector<StatusContent> shown;
+    std::function<void()> onShow;
 };
 
 class AppDelegateTest : public ::testing::Test {
@@ -36,7 +45,9 @@ class AppDelegateTest : public ::testing::Test {
                             item = made.get();
                             return made;
                         },
-                    .loginItem = std::make_unique<fakes::FakeLoginItem>()},
+                    .loginItem = std::make_unique<fakes::FakeLoginItem>(),
+                    .notifications = std::unique_ptr<NotificationCenter>(notifications),
+                    .widgets = std::unique_ptr<WidgetCenter>(widgets)},
                    defaults) {
         delegate.applicationDidFinishLaunching();
     }
@@ -57,6 +68,8 @@ class AppDelegateTest : public ::testing::Test {
     fakes::FakeMachine machine;
     fakes::FakeAppearance appearance;
     fakes::FakeDefaults defaults;
+    fakes::FakeNotificationCenter* notifications = new fakes::FakeNotificationCenter; // the delegate's
+    fakes::FakeWidgetCenter* widgets = new fakes::FakeWidgetCenter;                   // the delegate's
     FakeStatusItem* item = nullptr;
     AppDelegate delegate;
 };
@@ -116,6 +129,33 @@ TEST_F(AppDelegateTest, ASettingShowsAtOnce) {
     defaults.set(preference_key::menuBarStyle, QStringLiteral("graph"));
     EXPECT_EQ(item->shown.back().style, MenuBarStyle::graph);
     EXPECT_EQ(item->shown.back().accessibilityLabel, "DISK 60%");
+}
+
+TEST_F(AppDelegateTest, EachPassGoesToTheStatusItemThenTheAlertsThenTheWidgets) {
+    EXPECT_EQ(widgets->reloads, 1) << "the first pass tells the widgets at once";
+    machine.volume->volume = DiskSampler::Volume{1000, 1};
+    defaults.set(preference_key::alertDuration, 0.0);
+    defaults.set(preference_key::alertsEnabled, true);
+    std::vector<std::string> order;
+    item->onShow = [&] { order.push_back("status item"); };
+    notifications->onPost = [&] { order.push_back("alert"); };
+    widgets->onStore = [&] { order.push_back("widget"); };
+    defaults.set(preference_key::updateInterval, 0.5); // starts the timer anew
+    order.clear();
+    QDeadlineTimer deadline(20'000);
+    while (order.size() < 3 && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
+    EXPECT_EQ(order, (std::vector<std::string>{"status item", "alert", "widget"}));
+}
+
+TEST_F(AppDelegateTest, TheSettingsSendATestNotification) {
+    delegate.handleRequest("show-settings alerts");
+    for (auto* button : settings()->findChildren<PushButton*>())
+        if (button->text() == u"Send test notification")
+            button->click();
+    ASSERT_EQ(notifications->requests.size(), 1u);
+    notifications->requests[0](true);
+    EXPECT_EQ(notifications->posts.size(), 1u);
 }
 
 TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {

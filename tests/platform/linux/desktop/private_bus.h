@@ -24,16 +24,17 @@ bool spinUntil(Condition done, std::chrono::milliseconds patience = std::chrono:
     return true;
 }
 
-/// A message bus of the test's own, which starts no services; gone with the object.
+/// A message bus of the test's own, which starts no services but those that `more` configures; gone with the object.
 class PrivateBus {
   public:
-    PrivateBus() {
+    explicit PrivateBus(const QByteArray& more = {}) {
         QFile config(folder_.filePath(QStringLiteral("bus.conf")));
         if (!config.open(QIODevice::WriteOnly))
             return;
         config.write("<busconfig><type>session</type><listen>unix:dir=" + QFile::encodeName(folder_.path()) +
                      "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
-                     "<allow eavesdrop=\"true\"/></policy></busconfig>\n");
+                     "<allow eavesdrop=\"true\"/></policy>" +
+                     more + "</busconfig>\n");
         config.close();
         // Not left behind by a test that crashes.
         daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });

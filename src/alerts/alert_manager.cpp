@@ -1,0 +1,150 @@
+#include "alerts/alert_manager.h"
+
+#include <utility>
+
+#include <QPointer>
+
+#include "menubar/preferences.h"
+#include "support/localization.h"
+#include "support/size_text.h"
+#include "support/text_format.h"
+#include "support/user_defaults.h"
+
+namespace vantrix {
+namespace {
+
+using Kind = AlertManager::Kind;
+
+constexpr int lowBattery = 15;        // percent
+constexpr double hotProcessor = 95.0; // °C
+
+/// The kinds that are evaluated, in that order.
+constexpr std::array evaluatedKinds{Kind::cpu, Kind::memory, Kind::disk, Kind::battery, Kind::temperature};
+
+constexpr std::size_t indexOf(Kind kind) {
+    return static_cast<std::size_t>(kind);
+}
+
+QString localizedText(std::string_view english) {
+    return QString::fromStdString(localized(english));
+}
+
+/// `english` looked up, with the values in it.
+template<typename... Value>
+QString localizedText(std::string_view english, const Value&... values) {
+    return QString::fromStdString(formatted(localized(english), {std::string_view(values)...}));
+}
+
+std::string temperatureText(double celsius) {
+    return roundedInteger(celsius) + "°C";
+}
+
+} // namespace
+
+AlertManager::AlertManager(NotificationCenter& center, const UserDefaults& defaults, WallClock clock)
+    : center_(center), defaults_(defaults), clock_(std::move(clock)) {
+    center_.willPresent = [] { return NotificationCenter::Presentation{.banner = true, .sound = true}; };
+}
+
+void AlertManager::evaluate(const Readings& readings) {
+    if (!defaults_.boolean(preference_key::alertsEnabled))
+        return;
+    const double duration = defaults_.number(preference_key::alertDuration);
+    for (const Kind kind : evaluatedKinds) {
+        double& sustained = sustained_[indexOf(kind)];
+        if (!isWanted(kind) || !holds(kind, readings)) {
+            sustained = 0.0;
+            continue;
+        }
+        sustained += readings.interval;
+        if (sustained < duration || !havePassed(cooldown, lastSent_[indexOf(kind)], clock_()))
+            continue;
+        const Message message = messageFor(kind, readings);
+        send(kind, message.title, message.body);
+    }
+}
+
+bool AlertManager::isWanted(Kind kind) const {
+    switch (kind) {
+    case Kind::cpu:
+        return defaults_.boolean(preference_key::alertCPU);
+    case Kind::memory:
+        return defaults_.boolean(preference_key::alertMemory);
+    case Kind::disk:
+        return defaults_.boolean(preference_key::alertDisk);
+    case Kind::battery:
+        return defaults_.boolean(preference_key::alertBattery);
+    case Kind::temperature:
+        return defaults_.boolean(preference_key::alertTemperature);
+    case Kind::test:
+        break;
+    }
+    return false;
+}
+
+bool AlertManager::holds(Kind kind, const Readings& readings) const {
+    switch (kind) {
+    case Kind::cpu:
+        return readings.cpu.total >= defaults_.number(preference_key::criticalThreshold);
+    case Kind::memory:
+        return readings.memory.pressure != MemorySample::Pressure::normal &&
+               usedFraction(readings.memory) >= defaults_.number(preference_key::criticalThreshold);
+    case Kind::disk:
+        return readings.disk.total != 0 &&
+               usedFraction(readings.disk) >= defaults_.number(preference_key::diskAlertThreshold);
+    case Kind::battery:
+        return readings.battery && !readings.battery->isPluggedIn && !readings.battery->isCharging &&
+               readings.battery->percent <= lowBattery;
+    case Kind::temperature:
+        return readings.sensors.cpu && *readings.sensors.cpu >= hotProcessor;
+    case Kind::test:
+        break;
+    }
+    return false;
+}
+
+AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readings) {
+    switch (kind) {
+    case Kind::cpu:
+        return {localizedText("High CPU usage"),
+                localizedText("The CPU has been at %@ or more for a while.", compactPercent(readings.cpu.total))};
+    case Kind::memory:
+        return {localizedText("Memory is running low"),
+                localizedText("%@ of %@ in use and the system is under memory pressure.",
+                              memoryText(usedMemory(readings.memory)).toStdString(),
+                              memoryText(readings.memory.total).toStdString())};
+    case Kind::disk:
+        return {localizedText("Disk almost full"),
+                localizedText("Only %@ free on the startup disk.", byteText(readings.disk.available).toStdString())};
+    case Kind::battery:
+        return {localizedText("Battery low"),
+                localizedText("%@ left. Plug in the charger.", std::to_string(readings.battery->percent) + '%')};
+    case Kind::temperature:
+        return {localizedText("CPU is running hot"),
+                localizedText("The CPU temperature is %@.", temperatureText(*readings.sensors.cpu))};
+    case Kind::test:
+        break;
+    }
+    return {QStringLiteral("Vantrix"), localizedText("Notifications are working.")};
+}
+
+void AlertManager::send(Kind kind, const QString& title, const QString& body) {
+    const std::string_view name = kindNames[indexOf(kind)];
+    center_.post(QStringLiteral("vantrix.") + QLatin1StringView(name.data(), qsizetype(name.size())), title, body);
+    lastSent_[indexOf(kind)] = clock_();
+}
+
+void AlertManager::sendTest(std::function<void(const QString&)> done) {
+    center_.requestAuthorization([manager = QPointer<AlertManager>(this), done = std::move(done)](bool granted) {
+        if (!manager)
+            return;
+        if (!granted)
+            return done(localizedText(
+                "Notifications are turned off for Vantrix. Enable them in System Settings → Notifications."));
+        const Message message = messageFor(Kind::test, {});
+        manager->send(Kind::test, message.title, message.body);
+        done(localizedText("Test notification sent."));
+    });
+}
+
+} // namespace vantrix

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string_view>
+
+#include <QObject>
+#include <QString>
+
+#include "monitor/readings.h"
+#include "platform/notification_center.h"
+#include "support/wall_clock.h"
+
+namespace vantrix {
+
+class UserDefaults;
+
+/// Turns readings into notifications for conditions that last. Main thread only.
+class AlertManager : public QObject {
+    Q_OBJECT
+  public:
+    enum class Kind { cpu, memory, disk, battery, temperature, test };
+
+    /// The kinds by their names in identifiers, in the order of their evaluation.
+    static constexpr std::array<std::string_view, 6> kindNames{"cpu",     "memory",      "disk",
+                                                               "battery", "temperature", "test"};
+
+    /// Seconds between two notifications of one kind.
+    static constexpr double cooldown = 900.0;
+
+    /// `center` and `defaults` outlive the manager.
+    AlertManager(NotificationCenter& center, const UserDefaults& defaults, WallClock clock = secondsSince2001);
+
+    /// To be called once after every pass: a condition's time is counted in passes, not by the clock.
+    void evaluate(const Readings& readings);
+
+    /// Posts a notification at once; the next one of its kind takes its place.
+    void send(Kind kind, const QString& title, const QString& body);
+
+    /// Posts the test notification if the system lets it. Hands back, perhaps much later, a text on how that went; not
+    /// once the manager is gone.
+    void sendTest(std::function<void(const QString& outcome)> done);
+
+  private:
+    struct Message {
+        QString title;
+        QString body;
+    };
+
+    bool holds(Kind kind, const Readings& readings) const;
+    bool isWanted(Kind kind) const;
+    static Message messageFor(Kind kind, const Readings& readings);
+
+    NotificationCenter& center_;
+    const UserDefaults& defaults_;
+    WallClock clock_;
+    std::array<double, kindNames.size()> sustained_{}; // seconds
+    std::array<std::optional<double>, kindNames.size()> lastSent_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <optional>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QHash>
+#include <QObject>
+
+#include "platform/notification_center.h"
+
+class QDBusPendingCallWatcher;
+
+namespace vantrix {
+
+/// Notifications through the session's org.freedesktop.Notifications service, which the bus starts where it can.
+///
+/// Nothing waits for the service. While it has not answered for one identifier, the latest notification posted under
+/// that identifier is held back, because only the answer tells what it is to replace.
+class DesktopNotifications : public QObject, public NotificationCenter {
+    Q_OBJECT
+  public:
+    /// Without a bus nothing is ever shown.
+    explicit DesktopNotifications(const std::optional<QDBusConnection>& bus);
+
+    void post(const QString& identifier, const QString& title, const QString& body) override;
+
+    /// Granted when a notification service runs or can be started: Linux desktops ask nobody.
+    void requestAuthorization(std::function<void(bool granted)> answer) override;
+
+  private Q_SLOTS:
+    void serviceOwnerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
+
+  private:
+    struct Texts {
+        QString title;
+        QString body;
+    };
+
+    /// What was posted under one identifier.
+    struct Posted {
+        uint id = 0; ///< the service's number for it; 0: nothing to replace
+        bool isUnanswered = false;
+        std::optional<Texts> next; ///< held back until the answer
+    };
+
+    void notify(const QString& identifier, const Texts& texts);
+    void takeAnswer(const QString& identifier, const QDBusMessage& reply);
+    void askBus(const QString& method, const QVariantList& arguments, std::function<void(const QDBusMessage&)> take);
+    void call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> take);
+
+    std::optional<QDBusConnection> bus_;
+    QString owner_; ///< the service's unique name; empty while not told
+    QHash<QString, Posted> posted_;
+};
+
+} // namespace vantrix

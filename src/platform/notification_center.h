@@ -1,0 +1,37 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QString>
+
+namespace vantrix {
+
+/// Where the system shows the program's notifications. Main thread only; never waits, and reports no failures.
+class NotificationCenter {
+  public:
+    /// How a notification is shown that arrives while the program is in front.
+    struct Presentation {
+        bool banner = false;
+        bool sound = false;
+
+        bool operator==(const Presentation&) const = default;
+    };
+
+    virtual ~NotificationCenter() = default;
+
+    /// Shows plain texts with the default sound, in the place of what was posted under `identifier` before.
+    virtual void post(const QString& identifier, const QString& title, const QString& body) = 0;
+
+    /// Asks whether banners with sound may be shown, of the user where that is the system's custom. `answer` is called
+    /// later, on the main thread, and never once the centre is gone.
+    virtual void requestAuthorization(std::function<void(bool granted)> answer) = 0;
+
+    /// Asked by systems that leave it to the program. Set once, by the owner; without it nothing is shown then.
+    std::function<Presentation()> willPresent;
+};
+
+/// The notification centre of this desktop. Made after the application object.
+std::unique_ptr<NotificationCenter> makeNotificationCenter();
+
+} // namespace vantrix
