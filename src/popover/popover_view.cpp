@@ -8,11 +8,14 @@
 
 #include "menubar/preferences.h"
 #include "monitor/system_monitor.h"
+#include "popover/cards/accessories_card.h"
+#include "popover/cards/battery_card.h"
 #include "popover/cards/cpu_card.h"
 #include "popover/cards/disk_card.h"
 #include "popover/cards/gpu_card.h"
 #include "popover/cards/memory_card.h"
 #include "popover/cards/network_card.h"
+#include "popover/cards/sensors_card.h"
 #include "samplers/processor_description.h"
 #include "support/user_defaults.h"
 #include "views/divider.h"
@@ -50,6 +53,12 @@ constexpr std::array cardKinds{
     CardKind{PopoverCard::network, make<NetworkCard>, always},
     CardKind{PopoverCard::disk, make<DiskCard>, always},
     CardKind{PopoverCard::gpu, make<GPUCard>, [](const Readings& readings) { return readings.gpu.has_value(); }},
+    CardKind{PopoverCard::sensors, make<SensorsCard>,
+             [](const Readings& readings) { return readings.sensors != SensorsSample(); }},
+    CardKind{PopoverCard::battery, make<BatteryCard>,
+             [](const Readings& readings) { return readings.battery.has_value(); }},
+    CardKind{PopoverCard::accessories, make<AccessoriesCard>,
+             [](const Readings& readings) { return !readings.accessories.empty(); }},
 };
 
 } // namespace

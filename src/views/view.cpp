@@ -82,9 +82,7 @@ QString localizedText(std::string_view english) {
 }
 
 QString localizedText(std::string_view english, const QString& value) {
-    QString text = localizedText(english);
-    const auto mark = text.indexOf(u"%@");
-    return mark < 0 ? text : text.replace(mark, 2, value);
+    return QString::fromStdString(formatted(localized(english), {value.toStdString()}));
 }
 
 } // namespace vantrix

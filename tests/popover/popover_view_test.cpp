@@ -15,10 +15,13 @@
 #include "fakes/fake_sources.h"
 #include "menubar/preferences.h"
 #include "monitor/system_monitor.h"
+#include "popover/cards/accessories_card.h"
+#include "popover/cards/battery_card.h"
 #include "popover/cards/cpu_card.h"
 #include "popover/cards/disk_card.h"
 #include "popover/cards/gpu_card.h"
 #include "popover/cards/network_card.h"
+#include "popover/cards/sensors_card.h"
 #include "popover/headline.h"
 #include "samplers/processor_description.h"
 #include "views/text_label.h"
@@ -96,7 +99,7 @@ TEST_F(PopoverViewTest, FollowsTheMonitorWhileItIsOpen) {
     settle();
     EXPECT_THAT(textsOf(*view), Contains("GPU"));
     EXPECT_THAT(textsOf(*view), Contains("User: 25%"));
-    EXPECT_THAT(view->shownCards(), Contains(PopoverCard::gpu));
+    EXPECT_EQ(view->shownCards().size(), popoverCards.size());
 }
 
 TEST_F(PopoverViewTest, AClosedOneDoesNothing) {
@@ -218,6 +221,90 @@ TEST_F(CardsTest, TheDiskCardShowsAbsentRatesAsZeroAndSurvivesAnEmptyVolume) {
     const auto card = shown<DiskCard>();
     EXPECT_THAT(textsOf(*card), Contains("0 KB free"));
     EXPECT_EQ(std::ranges::count(textsOf(*card), "0 KB/s"), 2);
+}
+
+TEST_F(CardsTest, TheBatteryCardFollowsTheBattery) {
+    const struct {
+        const char* name;
+        BatterySample battery;
+        const char* status;
+        ColorRole color;
+    } cases[] = {
+        {"nearly empty", {.percent = 12}, "Battery, On battery", &ThemeColors::red},
+        {"low", {.percent = 20}, "Battery, On battery", &ThemeColors::red},
+        {"going down", {.percent = 21}, "Battery, On battery", &ThemeColors::orange},
+        {"at the bound", {.percent = 40}, "Battery, On battery", &ThemeColors::orange},
+        {"well filled", {.percent = 41}, "Battery, On battery", &ThemeColors::green},
+        {"charging", {.percent = 5, .isCharging = true, .isPluggedIn = true}, "Battery, Charging", &ThemeColors::green},
+        {"held", {.percent = 15, .isPluggedIn = true}, "Battery, Plugged in", &ThemeColors::green},
+    };
+    for (const auto& c : cases) {
+        readings.battery = c.battery;
+        const auto card = shown<BatteryCard>();
+        EXPECT_EQ(card->accessibleText().toStdString(), c.status) << c.name;
+        const auto bars = card->template findChildren<View*>();
+        const auto bar =
+            std::ranges::find_if(bars, [](const View* v) { return v->accessibleName() == u"Battery charge"; });
+        ASSERT_NE(bar, bars.end());
+        (*bar)->resize(100, 8);
+        QImage image(100, 8, QImage::Format_RGB32);
+        image.fill(theme.colors().window);
+        (*bar)->render(&image, {}, {}, QWidget::DrawChildren);
+        EXPECT_EQ(image.pixelColor(1, 4).name(), (theme.colors().*c.color).name()) << c.name;
+    }
+}
+
+TEST_F(CardsTest, TheBatteryCardTellsTimesAndDetailsThatItKnows) {
+    readings.battery =
+        BatterySample{.percent = 50, .isCharging = true, .isPluggedIn = true, .minutesRemaining = 59, .watts = 31.25};
+    EXPECT_THAT(textsOf(*shown<BatteryCard>()), Contains("to full: 59m"));
+    EXPECT_THAT(textsOf(*shown<BatteryCard>()), Contains("Charging power: 31.3 W"));
+    readings.battery = BatterySample{.percent = 50, .minutesRemaining = 60, .healthPercent = 96, .temperature = 30.6};
+    const auto texts = textsOf(*shown<BatteryCard>());
+    EXPECT_THAT(texts, Contains("left: 1h 0m"));
+    EXPECT_THAT(texts, Contains("Maximum capacity: 96%"));
+    EXPECT_THAT(texts, Contains("Temperature: 31°C"));
+    EXPECT_THAT(texts, Not(Contains(::testing::HasSubstr("power"))));
+    EXPECT_THAT(texts, Not(Contains(::testing::HasSubstr("Cycle count"))));
+}
+
+TEST_F(CardsTest, TheSensorsCardShowsOnlyWhatThereIs) {
+    const auto texts = textsOf(*shown<SensorsCard>());
+    for (const char* text : {"CPU: 52°C · max 58°C", "GPU: 48°C", "SoC: 45°C", "SSD: 38°C", "Battery: 31°C",
+                             "System power: 16.4 W", "CPU power: 5.8 W", "GPU power: 1.9 W", "Neural Engine: 0.1 W",
+                             "Memory (DRAM): 0.9 W", "Fan 1: 1870 rpm · max 5900"})
+        EXPECT_THAT(texts, Contains(text));
+    EXPECT_THAT(texts, Not(Contains(::testing::HasSubstr("Adapter input"))));
+
+    readings.sensors = {};
+    readings.sensors.fans = {{0, 900.0, std::nullopt, std::nullopt}};
+    readings.sensors.systemPower = 10.0;
+    EXPECT_THAT(textsOf(*shown<SensorsCard>()),
+                ElementsAre("Sensors", "Temperatures are not available on this Mac."));
+}
+
+TEST_F(CardsTest, EverySensorIsListedOnDemand) {
+    const auto card = shown<SensorsCard>();
+    auto* button = card->findChild<QAbstractButton*>();
+    EXPECT_EQ(button->text(), u"All sensors (6)"_s);
+    EXPECT_THAT(textsOf(*card), Not(Contains("NAND: 38°C")));
+    button->click();
+    EXPECT_THAT(textsOf(*card), Contains("NAND: 38°C"));
+    readings.sensors.all.resize(2);
+    card->showReadings(readings);
+    EXPECT_THAT(textsOf(*card), Not(Contains("NAND: 38°C")));
+    readings.sensors.all.resize(1);
+    card->showReadings(readings);
+    EXPECT_FALSE(button->isVisibleTo(card.get()));
+}
+
+TEST_F(CardsTest, TheAccessoriesCardFollowsItsList) {
+    const auto card = shown<AccessoriesCard>();
+    EXPECT_EQ(card->accessibleText(), u"Accessories, 3 connected"_s);
+    readings.accessories = {{"Mouse", 64, true, "computermouse"}};
+    card->showReadings(readings);
+    EXPECT_THAT(textsOf(*card), Contains("Mouse: 64%, Charging"));
+    EXPECT_THAT(textsOf(*card), Not(Contains(::testing::StartsWith("Keyboard"))));
 }
 
 TEST_F(CardsTest, TheHeadlineNeedsNoMoreThanItsRoom) {

@@ -33,9 +33,7 @@ const char* symbolOf(NetworkInfo::Kind kind) {
 }
 
 void showRow(StatRow* row, const std::optional<QString>& value) {
-    row->setVisible(value.has_value());
-    if (value)
-        row->setValue(*value);
+    row->showIfKnown(value, [](const QString& text) { return text; });
 }
 
 std::optional<QString> signalText(const NetworkInfo& info) {

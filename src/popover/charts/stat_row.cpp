@@ -19,6 +19,7 @@ constexpr double markerRadius = 2.0;
 constexpr double spacing = 6.0;
 constexpr double symbolSide = 13.0;
 constexpr double symbolGap = 4.0;
+constexpr double leadSymbolSide = 15.0;
 constexpr double unbounded = 1e6;
 
 QFontMetricsF metricsOf(const Theme& theme) {
@@ -34,6 +35,14 @@ StatRow::StatRow(const Theme& theme, const QString& label, const Lead& lead) : V
     setSizePolicy(policy);
 }
 
+void StatRow::setLabel(const QString& label) {
+    if (label == label_)
+        return;
+    label_ = label;
+    updateGeometry();
+    update();
+}
+
 void StatRow::setValue(const QString& value) {
     if (value == value_)
         return;
@@ -46,7 +55,16 @@ void StatRow::setValue(const QString& value) {
     announceChange();
 }
 
+void StatRow::setMarker(ColorRole color) {
+    if (color == lead_.marker)
+        return;
+    lead_.marker = color;
+    update();
+}
+
 void StatRow::setSymbol(std::string_view symbol) {
+    if (symbol == symbol_)
+        return;
     symbol_ = symbol;
     updateGeometry();
     update();
@@ -64,10 +82,13 @@ void StatRow::updateToolTip() {
 }
 
 QString StatRow::accessibleText() const {
-    return label_ + QStringLiteral(": ") + value_;
+    const QString text = label_ + QStringLiteral(": ") + value_;
+    return note_.isEmpty() ? text : text + QStringLiteral(", ") + note_;
 }
 
 double StatRow::leadWidth() const {
+    if (!lead_.symbol.empty())
+        return std::round(theme().scaled(leadSymbolSide)) + spacing;
     return lead_.indented ? markerSide + spacing : 0.0;
 }
 
@@ -112,12 +133,16 @@ double StatRow::baseline(const QRectF& line) const {
 }
 
 void StatRow::paintLead(QPainter& painter) const {
-    if (lead_.marker == nullptr)
-        return;
     // Beside the first line, centred on its letters.
     const QRectF line(0.0, 0.0, 0.0, std::min<double>(metricsOf(theme()).height(), height()));
-    const double top = std::round(baseline(line) - (theme().digits(textSize).capHeight() + markerSide) / 2.0);
-    const QRect place(0, static_cast<int>(top), static_cast<int>(markerSide), static_cast<int>(markerSide));
+    const double side = lead_.symbol.empty() ? markerSide : leadWidth() - spacing;
+    const double top = std::round(baseline(line) - (theme().digits(textSize).capHeight() + side) / 2.0);
+    const QRect place(0, static_cast<int>(top), static_cast<int>(side), static_cast<int>(side));
+    if (!lead_.symbol.empty())
+        return paintSymbol(painter, lead_.symbol, QStyle::visualRect(layoutDirection(), rect(), place),
+                           theme().colors().secondary);
+    if (lead_.marker == nullptr)
+        return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme().colors().*lead_.marker);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "popover/charts/threshold_color.h"
@@ -14,18 +15,32 @@ class StatRow : public View {
     /// What stands before the label.
     struct Lead {
         ColorRole marker = nullptr; ///< a small mark of that colour
+        std::string symbol;         ///< or a symbol
         bool indented = true;       ///< or as much room, so that the labels of several rows line up
 
-        static Lead mark(ColorRole color) { return {color, true}; }
-        static Lead room() { return {nullptr, true}; }
-        static Lead none() { return {nullptr, false}; }
+        static Lead mark(ColorRole color) { return {color, {}, true}; }
+        static Lead picture(std::string symbol) { return {nullptr, std::move(symbol), true}; }
+        static Lead room() { return {}; }
+        static Lead none() { return {nullptr, {}, false}; }
     };
 
     StatRow(const Theme& theme, const QString& label, const Lead& lead);
 
+    void setLabel(const QString& label);
     void setValue(const QString& value);
-    /// A symbol before the value.
+    /// A symbol before the value; empty: none.
     void setSymbol(std::string_view symbol);
+    /// The symbol's meaning, for assistive programs; empty: none.
+    void setNote(const QString& note) { note_ = note; }
+    void setMarker(ColorRole color);
+
+    /// Shows `value` as `text` says, or hides the row where there is no value.
+    template<typename Value, typename Text>
+    void showIfKnown(const std::optional<Value>& value, Text text) {
+        setVisible(value.has_value());
+        if (value)
+            setValue(text(*value));
+    }
     const QString& value() const { return value_; }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::StaticText; }
@@ -57,6 +72,7 @@ class StatRow : public View {
     QString value_;
     Lead lead_;
     std::string symbol_;
+    QString note_;
 };
 
 } // namespace vantrix

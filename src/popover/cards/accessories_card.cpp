@@ -1,0 +1,54 @@
+#include "popover/cards/accessories_card.h"
+
+#include <algorithm>
+
+#include <QVBoxLayout>
+
+#include "monitor/readings.h"
+#include "popover/charts/stat_row.h"
+#include "support/localization.h"
+
+namespace vantrix {
+namespace {
+
+constexpr int rowGap = 7;
+
+bool sameDevice(const AccessoryBattery& a, const AccessoryBattery& b) {
+    return a.name == b.name && a.symbol == b.symbol;
+}
+
+} // namespace
+
+AccessoriesCard::AccessoriesCard(const CardContext& context)
+    : Card(context.theme, localizedText("Accessories"), "dot.radiowaves.left.and.right"), column_(new QVBoxLayout) {
+    column_->setSpacing(rowGap);
+    content().addLayout(column_);
+}
+
+void AccessoriesCard::makeRows(const std::vector<AccessoryBattery>& accessories) {
+    for (StatRow* row : rows_)
+        delete row;
+    rows_.clear();
+    for (const AccessoryBattery& accessory : accessories) {
+        auto* row =
+            new StatRow(theme(), QString::fromStdString(accessory.name), StatRow::Lead::picture(accessory.symbol));
+        column_->addWidget(row);
+        row->show();
+        rows_.push_back(row);
+    }
+}
+
+void AccessoriesCard::showReadings(const Readings& readings) {
+    const auto& accessories = readings.accessories;
+    if (!std::ranges::equal(accessories, shown_, sameDevice) || rows_.size() != accessories.size())
+        makeRows(accessories);
+    shown_ = accessories;
+    setSubtitle(QString::fromStdString(localizedCount("%lld connected", static_cast<long long>(accessories.size()))));
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        rows_[i]->setSymbol(accessories[i].isCharging ? "bolt.fill" : "");
+        rows_[i]->setValue(QString::number(accessories[i].percent) + u'%');
+        rows_[i]->setNote(accessories[i].isCharging ? localizedText("Charging") : QString());
+    }
+}
+
+} // namespace vantrix

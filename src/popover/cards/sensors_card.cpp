@@ -1,0 +1,199 @@
+#include "popover/cards/sensors_card.h"
+
+#include <array>
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+#include "monitor/readings.h"
+#include "popover/charts/stat_row.h"
+#include "popover/reading_text.h"
+#include "support/localization.h"
+#include "support/text_format.h"
+#include "views/disclosure_button.h"
+#include "views/text_label.h"
+
+namespace vantrix {
+namespace {
+
+constexpr int rowGap = 5;
+constexpr int columnGap = 16;
+constexpr double hot = 90.0; // °C, as in the status item
+constexpr double warm = 80.0;
+
+ColorRole heatOf(double temperature) {
+    if (temperature >= hot)
+        return &ThemeColors::red;
+    return temperature >= warm ? &ThemeColors::orange : &ThemeColors::accent;
+}
+
+void showTemperature(StatRow* row, const std::optional<double>& temperature) {
+    row->showIfKnown(temperature, temperatureText);
+    if (temperature)
+        row->setMarker(heatOf(*temperature));
+}
+
+QString cpuText(const SensorsSample& sensors) {
+    const QString mean = temperatureText(*sensors.cpu);
+    if (!sensors.cpuHottest)
+        return mean;
+    return mean + QStringLiteral(" · ") + localizedText("max %@", temperatureText(*sensors.cpuHottest));
+}
+
+QString fanText(const FanReading& fan) {
+    const QString speed = localizedText("%@ rpm", QString::fromStdString(roundedInteger(fan.rpm)));
+    if (!fan.maxRPM)
+        return speed;
+    return speed + QStringLiteral(" · ") + localizedText("max %@", QString::fromStdString(roundedInteger(*fan.maxRPM)));
+}
+
+bool hasTemperature(const SensorsSample& sensors) {
+    return sensors.cpu || sensors.cpuHottest || sensors.gpu || sensors.soc || sensors.ssd || sensors.battery ||
+           !sensors.all.empty();
+}
+
+QVBoxLayout* columnOf(std::initializer_list<QWidget*> rows) {
+    auto* column = new QVBoxLayout;
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(rowGap);
+    for (QWidget* row : rows)
+        column->addWidget(row);
+    return column;
+}
+
+/// As many rows as `count`, in `column`.
+void resizeRows(std::vector<StatRow*>& rows, std::size_t count, QVBoxLayout& column, const Theme& theme) {
+    for (; rows.size() > count; rows.pop_back())
+        delete rows.back();
+    while (rows.size() < count) {
+        rows.push_back(new StatRow(theme, {}, StatRow::Lead::none()));
+        column.addWidget(rows.back());
+        rows.back()->show();
+    }
+}
+
+} // namespace
+
+SensorsCard::SensorsCard(const CardContext& context)
+    : Card(context.theme, localizedText("Sensors"), "thermometer.medium"),
+      unavailable_(new TextLabel(context.theme, {.points = 11.0, .color = &ThemeColors::secondary, .wraps = true},
+                                 localizedText("Temperatures are not available on this Mac."))),
+      details_(new QWidget), fanColumn_(columnOf({})), allSensors_(new DisclosureButton(context.theme)),
+      sensorList_(new QWidget) {
+    auto* details = new QVBoxLayout(details_);
+    details->setContentsMargins(0, 0, 0, 0);
+    details->setSpacing(10);
+    details->addLayout(makeTemperatures());
+    details->addLayout(makePowers());
+    details->addLayout(fanColumn_);
+    details->addWidget(allSensors_);
+    details->addWidget(sensorList_);
+    sensorList_->setLayout(columnOf({}));
+    sensorList_->hide();
+    connect(allSensors_, &QAbstractButton::toggled, this, [this] { showAll(); });
+    content().addWidget(unavailable_);
+    content().addWidget(details_);
+}
+
+QLayout* SensorsCard::makeTemperatures() {
+    const auto row = [this](const QString& label) {
+        return new StatRow(theme(), label, StatRow::Lead::mark(&ThemeColors::accent));
+    };
+    cpu_ = row(localizedText("CPU"));
+    gpu_ = row(localizedText("GPU"));
+    soc_ = row(localizedText("SoC"));
+    ssd_ = row(localizedText("SSD"));
+    battery_ = row(localizedText("Battery"));
+    auto* column = columnOf({cpu_});
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(columnGap);
+    grid->setVerticalSpacing(rowGap);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnStretch(1, 1);
+    column->addLayout(grid);
+    grid_ = grid;
+    return column;
+}
+
+QLayout* SensorsCard::makePowers() {
+    const auto row = [this](const QString& label, ColorRole color) {
+        return new StatRow(theme(), label, StatRow::Lead::mark(color));
+    };
+    systemPower_ = row(localizedText("System power"), &ThemeColors::accent);
+    adapterPower_ = row(localizedText("Adapter input"), &ThemeColors::green);
+    cpuPower_ = row(localizedText("CPU power"), &ThemeColors::orange);
+    gpuPower_ = row(localizedText("GPU power"), &ThemeColors::red);
+    neuralPower_ = row(localizedText("Neural Engine"), &ThemeColors::purple);
+    memoryPower_ = row(localizedText("Memory (DRAM)"), &ThemeColors::green);
+    return columnOf({systemPower_, adapterPower_, cpuPower_, gpuPower_, neuralPower_, memoryPower_});
+}
+
+void SensorsCard::showReadings(const Readings& readings) {
+    const SensorsSample& sensors = readings.sensors;
+    const bool available = hasTemperature(sensors);
+    unavailable_->setVisible(!available);
+    details_->setVisible(available);
+    if (!available)
+        return;
+    showTemperatures(sensors);
+    showPowers(sensors);
+    showFans(sensors);
+    all_ = sensors.all;
+    showAll();
+}
+
+void SensorsCard::showTemperatures(const SensorsSample& sensors) {
+    cpu_->setVisible(sensors.cpu.has_value());
+    if (sensors.cpu) {
+        cpu_->setValue(cpuText(sensors));
+        cpu_->setMarker(heatOf(*sensors.cpu));
+    }
+    const std::array named{std::pair(gpu_, sensors.gpu), std::pair(soc_, sensors.soc), std::pair(ssd_, sensors.ssd),
+                           std::pair(battery_, sensors.battery)};
+    // Two to a line, without holes where one is missing.
+    int place = 0;
+    for (const auto& [row, temperature] : named) {
+        showTemperature(row, temperature);
+        if (!temperature)
+            continue;
+        if (grid_->itemAtPosition(place / 2, place % 2) == nullptr ||
+            grid_->itemAtPosition(place / 2, place % 2)->widget() != row)
+            grid_->addWidget(row, place / 2, place % 2);
+        ++place;
+    }
+}
+
+void SensorsCard::showPowers(const SensorsSample& sensors) {
+    const ComponentPower components = sensors.components.value_or(ComponentPower());
+    systemPower_->showIfKnown(sensors.systemPower, powerText);
+    adapterPower_->showIfKnown(sensors.adapterPower, powerText);
+    cpuPower_->showIfKnown(components.cpu, powerText);
+    gpuPower_->showIfKnown(components.gpu, powerText);
+    neuralPower_->showIfKnown(components.ane, powerText);
+    memoryPower_->showIfKnown(components.dram, powerText);
+}
+
+void SensorsCard::showFans(const SensorsSample& sensors) {
+    resizeRows(fans_, sensors.fans.size(), *fanColumn_, theme());
+    for (std::size_t i = 0; i < fans_.size(); ++i) {
+        fans_[i]->setLabel(QString::fromStdString(formatted(localized("Fan %lld"), {sensors.fans[i].id + 1})));
+        fans_[i]->setValue(fanText(sensors.fans[i]));
+    }
+}
+
+void SensorsCard::showAll() {
+    const auto count = static_cast<long long>(all_.size());
+    const bool offered = count >= 2;
+    allSensors_->setVisible(offered);
+    allSensors_->setText(QString::fromStdString(formatted(localized("All sensors (%lld)"), {count})));
+    sensorList_->setVisible(offered && allSensors_->isChecked());
+    if (!offered || !allSensors_->isChecked())
+        return;
+    resizeRows(sensors_, all_.size(), *static_cast<QVBoxLayout*>(sensorList_->layout()), theme());
+    for (std::size_t i = 0; i < sensors_.size(); ++i) {
+        sensors_[i]->setLabel(QString::fromStdString(all_[i].name));
+        sensors_[i]->setValue(temperatureText(all_[i].value));
+    }
+}
+
+} // namespace vantrix
