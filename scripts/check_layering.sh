@@ -15,7 +15,7 @@ support:support
 samplers:samplers|support
 sensors:sensors|support
 accessories:accessories|support
-monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|menubar/preferences.h
+monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|platform/bluetooth.h|menubar/preferences.h
 menubar:menubar|monitor|support|samplers/memory_sampler.h
 views:views|menubar|support|platform/appearance.h|platform/status_item.h|platform/desktop_services.h
 popover:popover|views|monitor|menubar|support|samplers|sensors|accessories|platform/status_item.h|platform/desktop_services.h

@@ -35,7 +35,7 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
       alerts_(*notifications_, defaults), widgetBridge_(widgets_.get(), defaults),
       information_(std::move(parts.sources.information)), processor_(*information_),
       monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
-               std::make_unique<ThreadTaskRunner>()),
+               std::make_unique<ThreadTaskRunner>(), std::move(parts.bluetooth)),
       theme_(parts.appearance),
       popover_(theme_,
                [this] {

@@ -36,6 +36,7 @@ class AppDelegate : public QObject {
         std::unique_ptr<LoginItem> loginItem;
         std::unique_ptr<NotificationCenter> notifications;
         std::unique_ptr<WidgetCenter> widgets; ///< may be null
+        Bluetooth bluetooth = {};              ///< may be empty
     };
 
     /// `defaults` outlives the delegate.

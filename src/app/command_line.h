@@ -24,6 +24,9 @@ struct CommandLine {
     std::optional<SettingsTab> settingsTab;
     std::string exportFolder; ///< of `exportScreenshots`
     KernelRoots roots;
+
+    /// False for a host that is watched from inside a container: what this machine's services tell is not of it.
+    bool watchesThisMachine() const { return roots == KernelRoots(); }
 };
 
 /// The parsed arguments (the program's own name left out), or one line that says what is wrong with them.

@@ -13,6 +13,7 @@
 #include "app/translations.h"
 #include "menubar/preferences.h"
 #include "platform/appearance.h"
+#include "platform/bluetooth.h"
 #include "platform/desktop_services.h"
 #include "platform/login_item.h"
 #include "platform/notification_center.h"
@@ -79,6 +80,7 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
             .loginItem = makeLoginItem(),
             .notifications = makeNotificationCenter(),
             .widgets = makeWidgetCenter(),
+            .bluetooth = commandLine.watchesThisMachine() ? makeBluetooth() : Bluetooth(),
         },
         defaults);
     channel->received = [&](const std::string& message) { delegate.handleRequest(message); };

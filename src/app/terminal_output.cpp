@@ -9,6 +9,7 @@
 #include "app/translations.h"
 #include "menubar/preferences.h"
 #include "monitor/system_monitor.h"
+#include "platform/bluetooth.h"
 #include "platform/desktop_services.h"
 #include "support/user_defaults.h"
 
@@ -16,6 +17,12 @@ namespace vantrix {
 namespace {
 
 constexpr std::chrono::milliseconds firstLook{250}; // a load needs two looks at the counters
+
+/// Only JSON tells of accessories.
+Bluetooth bluetoothFor(const CommandLine& commandLine) {
+    const bool isWanted = commandLine.format == PrintFormat::json && commandLine.watchesThisMachine();
+    return isWanted ? makeBluetooth() : Bluetooth();
+}
 
 /// Prints the monitor's readings after each pass.
 class LinePrinter {
@@ -56,7 +63,7 @@ int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
     UserDefaults defaults(makeStandardDefaultsStore());
     registerPreferences(defaults);
     SystemMonitor monitor(makeSamplingSources(commandLine.roots), defaults, std::make_unique<QtRepeatingTimer>(),
-                          std::make_unique<ThreadTaskRunner>());
+                          std::make_unique<ThreadTaskRunner>(), bluetoothFor(commandLine));
     LinePrinter printer(commandLine, monitor, defaults);
     TerminationSignals signals([] { QCoreApplication::quit(); });
     monitor.sample();

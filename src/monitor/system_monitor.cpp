@@ -14,7 +14,8 @@ constexpr double accessoriesScanInterval = 30.0; // seconds
 } // namespace
 
 SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaults,
-                             std::unique_ptr<RepeatingTimer> timer, std::unique_ptr<TaskRunner> background)
+                             std::unique_ptr<RepeatingTimer> timer, std::unique_ptr<TaskRunner> background,
+                             Bluetooth bluetooth)
     : defaults_(defaults), sources_(std::move(sources)), accessoriesSampler_(std::move(sources_.accessories)),
       cpuSampler_(*sources_.cpu), memorySampler_(*sources_.memory), networkSampler_(*sources_.network, *sources_.clock),
       location_(std::move(sources_.location)), diskSampler_(*sources_.disks, *sources_.volume, *sources_.clock),
@@ -26,6 +27,13 @@ SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaul
         gpuSampler_.emplace(*sources_.gpu);
     if (sources_.battery)
         batterySampler_.emplace(*sources_.battery);
+    if (bluetooth.central) {
+        bluetooth_.emplace(std::move(bluetooth.central), std::move(bluetooth.classicDevices),
+                           std::move(bluetooth.timer));
+        bluetooth_->onChange = [this] { // merged once whatever told of the change is done
+            QMetaObject::invokeMethod(this, &SystemMonitor::mergeAccessories, Qt::QueuedConnection);
+        };
+    }
     location_.onChange = [this] { // the monitor owns what calls it
         if (!networkInfoSampler_)
             return;
@@ -179,10 +187,13 @@ void SystemMonitor::finishAccessories(AccessoriesSampler::Scan scan) {
 void SystemMonitor::mergeAccessories() {
     if (isDemo_)
         return;
-    auto combined = combineAccessories(sampledAccessories_, {});
+    auto combined =
+        combineAccessories(sampledAccessories_, bluetooth_ ? bluetooth_->all() : std::vector<AccessoryBattery>());
     if (combined != readings_.accessories)
         store(&Readings::accessories, combined, Reading::accessories);
-    store(&Readings::accessoriesDiagnostics, sampledDiagnostics_ + " | ble: ", Reading::accessoriesDiagnostics);
+    store(&Readings::accessoriesDiagnostics,
+          sampledDiagnostics_ + " | ble: " + (bluetooth_ ? bluetooth_->diagnostics() : std::string()),
+          Reading::accessoriesDiagnostics);
 }
 
 void SystemMonitor::loadDemo() {

@@ -6,9 +6,11 @@
 
 #include <QObject>
 
+#include "accessories/bluetooth_battery_reader.h"
 #include "monitor/readings.h"
 #include "monitor/repeating_timer.h"
 #include "monitor/task_runner.h"
+#include "platform/bluetooth.h"
 #include "platform/sampling_sources.h"
 #include "sensors/sensors_sampler.h"
 
@@ -21,9 +23,9 @@ class UserDefaults;
 class SystemMonitor : public QObject {
     Q_OBJECT
   public:
-    /// `defaults` outlives the monitor.
+    /// `defaults` outlives the monitor. Without Bluetooth the accessories are those that the scan finds.
     SystemMonitor(SamplingSources sources, const UserDefaults& defaults, std::unique_ptr<RepeatingTimer> timer,
-                  std::unique_ptr<TaskRunner> background);
+                  std::unique_ptr<TaskRunner> background, Bluetooth bluetooth = {});
 
     const Readings& readings() const { return readings_; }
 
@@ -77,7 +79,7 @@ class SystemMonitor : public QObject {
     std::optional<NetworkInfoSampler> networkInfoSampler_; // absent where nothing tells of the connection
     LocationAccess location_;
     DiskSampler diskSampler_;
-    std::optional<GPUSampler> gpuSampler_;         // absent with its source
+    std::optional<GPUSampler> gpuSampler_; // absent with its source
     SensorsSampler sensorsSampler_;
     std::optional<BatterySampler> batterySampler_; // absent with its source
 
@@ -90,6 +92,7 @@ class SystemMonitor : public QObject {
     std::optional<double> lastAccessoriesSample_; // uptime; absent: the distant past
     std::vector<AccessoryBattery> sampledAccessories_;
     std::string sampledDiagnostics_;
+    std::optional<BluetoothBatteryReader> bluetooth_; // absent with its central
 };
 
 } // namespace vantrix

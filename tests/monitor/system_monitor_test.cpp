@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "fakes/fake_bluetooth.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
 
@@ -352,6 +353,57 @@ TEST_F(SystemMonitorTest, TheSameAccessoriesAreNoChangeButTheDiagnosticsAlwaysAr
     ASSERT_EQ(readings().accessories.size(), 1u);
     EXPECT_EQ(readings().accessories.front().percent, 64);
     EXPECT_EQ(readings().accessoriesDiagnostics, "1 device | ble: ");
+}
+
+/// A monitor with Bluetooth, one mouse of which the scan finds as well.
+class BluetoothMonitorTest : public SystemMonitorTest {
+  protected:
+    BluetoothMonitorTest() {
+        monitor = std::make_unique<SystemMonitor>(machine.makeSources(), defaults, std::make_unique<ManualTimer>(),
+                                                  std::make_unique<ManualRunner>(tasks), bluetooth.make());
+        QObject::connect(monitor.get(), &SystemMonitor::changed,
+                         [this](Reading reading) { changes.push_back(reading); });
+        machine.accessories->result = {{{"hid-mouse", 40, false, "", "AA:1"}, {"Pen", 30, false, ""}}, "scan"};
+        bluetooth.central->peripherals = {mouse};
+        mouse->value = {64};
+    }
+
+    std::shared_ptr<fakes::FakePeripheral> mouse = std::make_shared<fakes::FakePeripheral>("1", "Mouse");
+    fakes::FakeBluetooth bluetooth;
+};
+
+TEST_F(BluetoothMonitorTest, LiveLevelsReplaceScannedOnesOfTheSameDevice) {
+    bluetooth.classic->devices = {{"Headset", "AA:2", true, 4, {.single = 70}}};
+    pass();
+    finishTask();
+    EXPECT_EQ(readings().accessoriesDiagnostics, "scan | ble: starting, 0 with battery service | classic: ");
+    EXPECT_EQ(readings().accessories.size(), 2u);
+    bluetooth.central->become(BluetoothState::poweredOn);
+    QCoreApplication::sendPostedEvents(monitor.get());
+    EXPECT_THAT(readings().accessories, ElementsAre(AccessoryBattery{"Mouse", 64, false, "computermouse"},
+                                                    AccessoryBattery{"Pen", 30, false, ""},
+                                                    AccessoryBattery{"Headset", 70, false, "headphones"}));
+    EXPECT_EQ(readings().accessoriesDiagnostics,
+              "scan | ble: on, 1 with battery service: Mouse 64% | classic: Headset 70%");
+    changes.clear();
+    mouse->tell({64});
+    QCoreApplication::sendPostedEvents(monitor.get());
+    EXPECT_EQ(changes, std::vector{Reading::accessoriesDiagnostics});
+    mouse->tell({63});
+    QCoreApplication::sendPostedEvents(monitor.get());
+    EXPECT_EQ(readings().accessories[0].percent, 63);
+}
+
+TEST_F(BluetoothMonitorTest, DemoReadingsStayFixedAndAMonitorThatGoesIsNotCalled) {
+    monitor->loadDemo();
+    changes.clear();
+    bluetooth.central->become(BluetoothState::poweredOn);
+    QCoreApplication::sendPostedEvents(monitor.get());
+    EXPECT_THAT(changes, IsEmpty());
+    mouse->tell({5});
+    monitor.reset();
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(mouse->delegate, nullptr);
 }
 
 TEST_F(SystemMonitorTest, AScanThatOutlivesTheMonitorIsDiscarded) {

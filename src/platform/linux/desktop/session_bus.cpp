@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/session_bus.h"
 
+#include <atomic>
+
 #include <QFile>
 
 namespace vantrix {
@@ -7,7 +9,7 @@ namespace vantrix {
 namespace {
 
 QString nextConnectionName() {
-    static int count = 0;
+    static std::atomic<int> count = 0; // connections are made on several threads
     return QStringLiteral("vantrix-%1").arg(++count);
 }
 
@@ -23,6 +25,14 @@ std::optional<QString> sessionBusAddress() {
     if (socket.startsWith(u"/bus") || !QFile::exists(socket))
         return std::nullopt;
     return QStringLiteral("unix:path=") + socket;
+}
+
+std::optional<QString> systemBusAddress() {
+    const QString address = qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS");
+    if (!address.isEmpty())
+        return address;
+    const QString socket = QStringLiteral("/run/dbus/system_bus_socket");
+    return QFile::exists(socket) ? std::optional(QStringLiteral("unix:path=") + socket) : std::nullopt;
 }
 
 BusConnection::BusConnection(const QString& address)

@@ -11,6 +11,9 @@ namespace vantrix {
 /// there is neither: asking the D-Bus library then would start a stray daemon.
 std::optional<QString> sessionBusAddress();
 
+/// Address of the machine's bus: `DBUS_SYSTEM_BUS_ADDRESS`, else its usual socket. Absent when there is neither.
+std::optional<QString> systemBusAddress();
+
 /// A connection of its own to the bus at `address`, dropped with the object.
 class BusConnection {
   public:

@@ -1,0 +1,102 @@
+#pragma once
+
+#include <utility>
+
+#include "platform/bluetooth.h"
+
+namespace vantrix::fakes {
+
+/// Notes what it is asked; the test answers through `delegate`.
+class FakePeripheral : public BluetoothPeripheral {
+  public:
+    explicit FakePeripheral(std::string id, std::optional<std::string> called = std::nullopt)
+        : id(std::move(id)), called(std::move(called)) {}
+
+    std::string identifier() const override { return id; }
+    std::optional<std::string> name() const override { return called; }
+    std::string address() const override { return "AA:" + id; }
+    bool isConnected() const override { return connected; }
+    void discoverServices(const BluetoothUUID& kind) override {
+        asked.push_back("services");
+        if (delegate && answers)
+            delegate->didDiscoverServices(*this, {{BluetoothUUID("180A"), "other"}, {kind, "service"}});
+    }
+    void discoverCharacteristics(const BluetoothAttribute& service, const BluetoothUUID& kind) override {
+        asked.push_back("characteristics of " + service.identifier);
+        if (delegate)
+            delegate->didDiscoverCharacteristics(*this, {{BluetoothUUID("2A29"), "maker"}, {kind, "level"}});
+    }
+    void readValue(const BluetoothAttribute& characteristic) override {
+        asked.push_back("read " + characteristic.identifier);
+        if (delegate && value)
+            delegate->didUpdateValue(*this, characteristic, *value);
+    }
+    void subscribe(const BluetoothAttribute& characteristic) override {
+        asked.push_back("subscribe " + characteristic.identifier);
+    }
+    void tell(const std::vector<std::uint8_t>& bytes, const char* uuid = "2A19") {
+        delegate->didUpdateValue(*this, {BluetoothUUID(uuid), "level"}, bytes);
+    }
+
+    std::string id;
+    std::optional<std::string> called;
+    bool connected = true;
+    bool answers = true; ///< to discoveries
+    std::optional<std::vector<std::uint8_t>> value;
+    std::vector<std::string> asked;
+};
+
+class FakeCentral : public BluetoothCentral {
+  public:
+    BluetoothState state() const override { return current; }
+    std::vector<std::shared_ptr<BluetoothPeripheral>> connectedPeripherals(const BluetoothUUID& service) override {
+        ++listings;
+        return service == BluetoothUUID("180f") ? peripherals : decltype(peripherals)();
+    }
+    void connect(BluetoothPeripheral& peripheral) override { connecting.push_back(peripheral.identifier()); }
+    void become(BluetoothState state) {
+        current = state;
+        delegate->centralDidUpdateState();
+    }
+
+    BluetoothState current = BluetoothState::unknown;
+    std::vector<std::shared_ptr<BluetoothPeripheral>> peripherals;
+    std::vector<std::string> connecting;
+    int listings = 0;
+};
+
+class FakeClassicDevices : public ClassicBluetoothDevices {
+  public:
+    std::vector<Device> devices;
+    std::vector<Device> paired() override { return devices; }
+};
+
+class FakeTimer : public RepeatingTimer {
+  public:
+    void schedule(double seconds, double, std::function<void()> callback) override {
+        ++schedules;
+        period = seconds;
+        fire = std::move(callback);
+    }
+    std::function<void()> fire;
+    int schedules = 0;
+    double period = 0.0;
+};
+
+/// Bluetooth in the test's hands; the pointers stay valid as long as whatever took the bundle.
+struct FakeBluetooth {
+    FakeCentral* central = nullptr;
+    FakeClassicDevices* classic = nullptr;
+    FakeTimer* timer = nullptr;
+
+    Bluetooth make() {
+        auto bundle = std::make_tuple(std::make_unique<FakeCentral>(), std::make_unique<FakeClassicDevices>(),
+                                      std::make_unique<FakeTimer>());
+        central = std::get<0>(bundle).get();
+        classic = std::get<1>(bundle).get();
+        timer = std::get<2>(bundle).get();
+        return {std::move(std::get<0>(bundle)), std::move(std::get<1>(bundle)), std::move(std::get<2>(bundle))};
+    }
+};
+
+} // namespace vantrix::fakes
