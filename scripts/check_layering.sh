@@ -22,7 +22,8 @@ popover:popover|views|monitor|menubar|support|samplers|sensors|accessories|platf
 settings:settings|views|monitor|menubar|support|platform/login_item.h
 alerts:alerts|monitor|menubar|support|samplers|accessories|platform/notification_center.h
 widget:widget|monitor|menubar|support|samplers|accessories|platform/widget_center.h
-platform/linux/sources:platform/linux/sources|platform/sampling_sources.h|samplers|sensors|accessories|support
+doctor:doctor|support|samplers|sensors|accessories|platform/diagnosis.h|platform/sampling_sources.h
+platform/linux/sources:platform/linux/sources|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
 "
 for line in $allowed; do
   folder=${line%%:*}

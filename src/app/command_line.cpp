@@ -56,6 +56,8 @@ class Parser {
             act(Action::quit, option);
         else if (option == "--show-settings")
             parseShowSettings(option);
+        else if (option == "--doctor")
+            parseDoctor(option);
         else if (option == "-platform" || option == "--platform")
             value(option); // the windowing toolkit reads it itself
         else if (option == "-reverse" || option == exportFlag)
@@ -150,6 +152,17 @@ class Parser {
         ++next_;
     }
 
+    void parseDoctor(const std::string& option) {
+        act(Action::doctor, option);
+        if (next_ >= arguments_.size() || arguments_[next_].starts_with('-'))
+            return;
+        const std::string& format = arguments_[next_++];
+        if (format == "json")
+            result_.format = PrintFormat::json;
+        else if (format != "text")
+            error_ = "--doctor takes text or json, not " + format;
+    }
+
     void checkCombination() {
         if (result_.action == Action::print)
             return;
@@ -180,6 +193,8 @@ std::string helpText() {
            "  --count N             with --print: stop after N passes\n"
            "  --modules A,B         with --print: what to show, of cpu, memory, network,\n"
            "                        disk, gpu, temperature, battery\n"
+           "  --doctor [json]       tell what every reading comes from and why one is\n"
+           "                        missing; what a bug report starts with\n"
            "  --show-popover        open the popover of the running program\n"
            "  --show-settings [TAB] open its settings\n"
            "  --quit                end it\n"

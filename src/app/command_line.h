@@ -14,10 +14,10 @@ enum class PrintFormat { text, json, waybar };
 
 /// What the program was asked to do.
 struct CommandLine {
-    enum class Action { run, print, help, version, showPopover, showSettings, quit, exportScreenshots };
+    enum class Action { run, print, doctor, help, version, showPopover, showSettings, quit, exportScreenshots };
 
     Action action = Action::run;
-    PrintFormat format = PrintFormat::text;
+    PrintFormat format = PrintFormat::text;            ///< of `print`; of `doctor` text or json
     std::optional<double> interval;                    ///< seconds, 0.5 to 3600; absent: the stored preference
     std::optional<long> count;                         ///< passes, at least 1; absent: until interrupted
     std::optional<std::vector<MenuBarModule>> modules; ///< absent: those enabled in the settings

@@ -8,6 +8,7 @@
 #include "app/accessible_application.h"
 #include "app/app_delegate.h"
 #include "app/command_line.h"
+#include "app/doctor.h"
 #include "app/screenshot_export.h"
 #include "app/terminal_output.h"
 #include "app/translations.h"
@@ -99,7 +100,8 @@ int drawScreenshots(const CommandLine& commandLine, int& argc, char** argv) {
 
 int perform(const CommandLine& commandLine, int& argc, char** argv) {
     using Action = CommandLine::Action;
-    if (commandLine.action == Action::run || commandLine.action == Action::print)
+    if (commandLine.action == Action::run || commandLine.action == Action::print ||
+        commandLine.action == Action::doctor)
         if (const auto root = unreadableRoot(commandLine.roots))
             return fail("cannot read the folder " + *root, usageError);
     switch (commandLine.action) {
@@ -117,6 +119,8 @@ int perform(const CommandLine& commandLine, int& argc, char** argv) {
         return request("quit");
     case Action::print:
         return runInTerminal(commandLine, argc, argv);
+    case Action::doctor:
+        return runDoctor(commandLine, VANTRIX_VERSION, argc, argv);
     case Action::exportScreenshots:
         return drawScreenshots(commandLine, argc, argv);
     case Action::run:

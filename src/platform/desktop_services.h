@@ -56,4 +56,8 @@ std::unique_ptr<InstanceChannel> claimInstance();
 /// Hands `request` (one line) to the running instance; false when none answers within two seconds.
 bool sendToRunningInstance(const std::string& request);
 
+/// The process of the session's running instance, found without asking it anything; absent when none runs, 0 when it
+/// runs out of sight, in another namespace of processes.
+std::optional<int> runningInstance();
+
 } // namespace vantrix

@@ -29,6 +29,9 @@ struct KernelRoots {
     bool operator==(const KernelRoots&) const = default;
 };
 
+/// The roots as they were given, "/host/proc/" as "/host/proc".
+KernelRoots withoutTrailingSlashes(KernelRoots roots);
+
 /// Everything the samplers read from. What a system lacks is null: `gpu`, the three sources of sensors, `battery` and
 /// `accessories` without such devices' interfaces, `networkInfo` where nothing tells of the connection, `location`
 /// where network names are nobody's secret. The rest never is.

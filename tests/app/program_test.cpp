@@ -7,6 +7,8 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QImage>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -156,6 +158,41 @@ TEST_F(ProgramTest, AnExportSaysWhatItCouldNotWrite) {
 TEST_F(ProgramTest, RequestsWithoutARunningInstanceFailInOneLine) {
     EXPECT_EQ(run({u"--quit"_s}), 1);
     EXPECT_EQ(errors.count(u'\n'), 1);
+}
+
+TEST_F(ProgramTest, TheDoctorReportsOnAnyMachine) {
+    for (const char* machine : {"container", "old-kernel", "laptop-hybrid-cores"}) {
+        EXPECT_EQ(run(QStringList{u"--doctor"_s, u"json"_s} + fixture(machine)), 0) << machine;
+        EXPECT_EQ(errors, QString()) << machine;
+        const auto report = QJsonDocument::fromJson(output.toUtf8()).object();
+        const auto processor = report[u"readings"][0];
+        EXPECT_EQ(processor[u"name"], u"Processor"_s) << machine;
+        EXPECT_EQ(processor[u"state"], u"ok"_s) << machine;
+        EXPECT_EQ(processor[u"source"], u"<proc>/stat"_s) << machine;
+        EXPECT_GT(processor[u"microseconds"].toDouble(), 0.0) << machine;
+        EXPECT_FALSE(report.contains(u"instance"_s)) << machine;
+    }
+    EXPECT_TRUE(QDir(folder.path()).isEmpty()); // it looked, and left nothing behind
+}
+
+TEST_F(ProgramTest, TheDoctorTellsWhatTheRunningInstanceCosts) {
+    auto environment = process.processEnvironment();
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    process.setProcessEnvironment(environment);
+    QProcess instance;
+    instance.setProcessEnvironment(environment);
+    instance.start(QStringLiteral(VANTRIX_PROGRAM), {});
+    ASSERT_TRUE(instance.waitForStarted(patience));
+    const QDeadlineTimer deadline(patience);
+    while (run({u"--show-popover"_s}) != 0 && !deadline.hasExpired()) {
+    }
+    EXPECT_EQ(run({u"--doctor"_s, u"json"_s}), 0);
+    const auto told = QJsonDocument::fromJson(output.toUtf8())[u"instance"];
+    EXPECT_EQ(told[u"pid"].toInteger(), instance.processId());
+    EXPECT_GT(told[u"wakeUps"].toInteger(), 0);
+    EXPECT_GT(told[u"residentBytes"].toInteger(), 1'000'000);
+    EXPECT_EQ(run({u"--quit"_s}), 0); // it was not disturbed
+    EXPECT_TRUE(instance.waitForFinished(patience));
 }
 
 TEST_F(ProgramTest, ASecondInstanceTalksToTheFirstAndQuitEndsIt) {

@@ -133,6 +133,16 @@ Descriptor listenAt(const sockaddr_un& address) {
     return listener;
 }
 
+Descriptor connectToInstance() {
+    const auto address = socketAddress();
+    Descriptor socket(::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0));
+    if (!address || !socket)
+        return Descriptor();
+    limitWaiting(socket.get());
+    const bool isConnected = ::connect(socket.get(), generic(*address), sizeof *address) == 0;
+    return isConnected ? std::move(socket) : Descriptor();
+}
+
 } // namespace
 
 std::unique_ptr<InstanceChannel> claimInstance() {
@@ -147,15 +157,20 @@ std::unique_ptr<InstanceChannel> claimInstance() {
 }
 
 bool sendToRunningInstance(const std::string& request) {
-    const auto address = socketAddress();
-    const Descriptor socket(::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0));
-    if (!address || !socket)
-        return false;
-    limitWaiting(socket.get());
+    const Descriptor socket = connectToInstance();
     char answer[8];
-    return ::connect(socket.get(), generic(*address), sizeof *address) == 0 &&
-           ::send(socket.get(), request.data(), request.size(), MSG_NOSIGNAL) >= 0 &&
+    return socket && ::send(socket.get(), request.data(), request.size(), MSG_NOSIGNAL) >= 0 &&
            ::recv(socket.get(), answer, sizeof answer, 0) > 0;
+}
+
+std::optional<int> runningInstance() {
+    const Descriptor socket = connectToInstance();
+    ucred listener{};
+    socklen_t size = sizeof listener;
+    // The kernel remembers who listens; one that hangs can be found too.
+    if (!socket || ::getsockopt(socket.get(), SOL_SOCKET, SO_PEERCRED, &listener, &size) != 0)
+        return std::nullopt;
+    return listener.pid;
 }
 
 } // namespace vantrix

@@ -82,21 +82,30 @@ void IdleResidency::forget() {
         part.idle.reset();
 }
 
-std::unique_ptr<GPUMeter> findMeter(const std::string& card, const std::string& device) {
+MeterFiles findMeterFiles(const std::string& card, const std::string& device) {
     if (pathExists(device + "/gpu_busy_percent"))
-        return std::make_unique<LoadFile>(device + "/gpu_busy_percent");
+        return {{device + "/gpu_busy_percent"}, false};
     auto idleFiles = card.empty() ? std::vector<std::string>() : idleFilesOfI915(card);
     if (idleFiles.empty())
         idleFiles = idleFilesOfXe(device);
     if (!idleFiles.empty())
-        return std::make_unique<IdleResidency>(idleFiles);
+        return {std::move(idleFiles), true};
     const std::string frequencies = device + "/devfreq";
     for (const std::string& name : entriesStartingWith(frequencies, "")) {
         std::string load = pathBelow(frequencies, name) + "/load";
         if (!name.starts_with('.') && pathExists(load))
-            return std::make_unique<LoadFile>(std::move(load));
+            return {{std::move(load)}, false};
     }
-    return nullptr;
+    return {};
+}
+
+std::unique_ptr<GPUMeter> findMeter(const std::string& card, const std::string& device) {
+    const MeterFiles files = findMeterFiles(card, device);
+    if (files.paths.empty())
+        return nullptr;
+    if (files.tellIdleTime)
+        return std::make_unique<IdleResidency>(files.paths);
+    return std::make_unique<LoadFile>(files.paths.front());
 }
 
 } // namespace vantrix

@@ -51,8 +51,16 @@ class IdleResidency : public GPUMeter {
     double lastTime_ = 0.0;
 };
 
-/// The first meter that the driver offers; null when it offers none. Looks into the files of the device. `card` is its
-/// entry in <sys>/class/drm, empty for a device that has none.
+/// What the first meter that a driver offers reads: one file of the load, or several of idle time.
+struct MeterFiles {
+    std::vector<std::string> paths; ///< empty when the driver offers none
+    bool tellIdleTime = false;
+};
+
+/// Looks into the files of the device. `card` is its entry in <sys>/class/drm, empty for a device that has none.
+MeterFiles findMeterFiles(const std::string& card, const std::string& device);
+
+/// The first meter that the driver offers; null when it offers none.
 std::unique_ptr<GPUMeter> findMeter(const std::string& card, const std::string& device);
 
 } // namespace vantrix

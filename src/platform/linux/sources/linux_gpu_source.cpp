@@ -2,26 +2,9 @@
 
 #include <algorithm>
 
+#include "platform/linux/sources/gpu_names.h"
+
 namespace vantrix {
-namespace {
-
-/// "card0", but not its connectors "card0-HDMI-A-1".
-bool isCard(std::string_view name) {
-    return name.size() > 4 && name.starts_with("card") &&
-           name.find_first_not_of("0123456789", 4) == std::string_view::npos;
-}
-
-/// Memory controllers and buses scale their frequency too.
-bool isGPUFrequency(std::string_view name) {
-    return name.find("gpu") != std::string_view::npos || name.find("mali") != std::string_view::npos;
-}
-
-bool isAddress(std::string_view name) {
-    return std::count(name.begin(), name.end(), ':') == 2;
-}
-
-} // namespace
-
 KernelGPU::KernelGPU(std::string card, std::string device)
     : card_(std::move(card)), device_(std::move(device)), power_(device_), rest_(device_) {}
 
@@ -74,7 +57,7 @@ std::optional<std::span<const Properties>> LinuxGPUSource::read() {
 void LinuxGPUSource::findGPUs() {
     gpus_.clear();
     for (const std::string& name : cards_.names()) {
-        if (isCard(name))
+        if (isGPUCard(name))
             gpus_.emplace_back(cards_.path() + '/' + name, cards_.path() + '/' + name + "/device");
     }
     for (const std::string& name : frequencies_.names()) {
@@ -83,7 +66,7 @@ void LinuxGPUSource::findGPUs() {
     }
     std::vector<std::string> addresses;
     std::copy_if(nvidiaDevices_.names().begin(), nvidiaDevices_.names().end(), std::back_inserter(addresses),
-                 isAddress);
+                 isPCIAddress);
     nvidiaGPUs_.set(nvidiaDevices_.path(), addresses);
 }
 

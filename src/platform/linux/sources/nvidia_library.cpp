@@ -5,7 +5,11 @@
 namespace vantrix {
 namespace {
 
-/// libnvidia-ml.so.1, by its documented interface; every function answers 0 for success.
+struct Close {
+    void operator()(void* library) const { dlclose(library); }
+};
+
+/// The library, by its documented interface; every function answers 0 for success.
 class ManagementLibrary final : public NvidiaLibrary {
   public:
     ~ManagementLibrary() override { stop(); }
@@ -39,13 +43,9 @@ class ManagementLibrary final : public NvidiaLibrary {
         unsigned memory;
     };
 
-    struct Close {
-        void operator()(void* library) const { dlclose(library); }
-    };
-
     bool load() {
         if (!library_)
-            library_.reset(dlopen("libnvidia-ml.so.1", RTLD_NOW | RTLD_LOCAL));
+            library_.reset(dlopen(nvidiaLibraryName, RTLD_NOW | RTLD_LOCAL));
         return library_ && resolve(initialize_, "nvmlInit_v2") && resolve(shutdown_, "nvmlShutdown") &&
                resolve(handleByAddress_, "nvmlDeviceGetHandleByPciBusId_v2") &&
                resolve(utilizationRates_, "nvmlDeviceGetUtilizationRates");
@@ -69,6 +69,10 @@ class ManagementLibrary final : public NvidiaLibrary {
 
 std::unique_ptr<NvidiaLibrary> makeNvidiaLibrary() {
     return std::make_unique<ManagementLibrary>();
+}
+
+bool isNvidiaLibraryInstalled() {
+    return std::unique_ptr<void, Close>(dlopen(nvidiaLibraryName, RTLD_LAZY | RTLD_LOCAL)) != nullptr;
 }
 
 } // namespace vantrix

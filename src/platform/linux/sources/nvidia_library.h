@@ -24,4 +24,9 @@ class NvidiaLibrary {
 
 std::unique_ptr<NvidiaLibrary> makeNvidiaLibrary();
 
+inline constexpr const char* nvidiaLibraryName = "libnvidia-ml.so.1";
+
+/// Whether the library can be loaded; reaches no GPU.
+bool isNvidiaLibraryInstalled();
+
 } // namespace vantrix

@@ -2,7 +2,7 @@
 
 #include <linux/netlink.h>
 
-#include "platform/linux/sources/kernel_tree.h"
+#include "platform/linux/sources/kernel_roots.h"
 #include "platform/linux/sources/linux_battery_source.h"
 #include "platform/linux/sources/linux_clock.h"
 #include "platform/linux/sources/linux_gpu_source.h"
@@ -27,30 +27,18 @@
 namespace vantrix {
 namespace {
 
-std::string withoutTrailingSlashes(std::string path) {
-    while (path.size() > 1 && path.ends_with('/'))
-        path.pop_back();
-    return path;
-}
-
-/// "net" in a tree of processes means the reader's own network namespace, "1/net" that of the tree's machine.
-std::string foreignNet(const std::string& proc) {
-    std::string path = proc + "/1/net";
-    return pathExists(path + "/dev") ? path : proc + "/net";
-}
-
 std::unique_ptr<NetworkSampler::Source> makeNetworkSource(const KernelRoots& roots) {
     auto sysfs = std::make_unique<SysfsLinks>(roots.sys);
     if (roots != KernelRoots())
-        return std::make_unique<NetDevSource>(foreignNet(roots.proc) + "/dev", std::move(sysfs), nullptr);
+        return std::make_unique<NetDevSource>(netFolder(roots) + "/dev", std::move(sysfs), nullptr);
     return std::make_unique<NetDevSource>(roots.proc + "/net/dev", std::make_unique<RtnetlinkLinks>(roots.sys),
                                           std::move(sysfs));
 }
 
 std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRoots& roots) {
     if (roots != KernelRoots())
-        return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<ProcNetRoutes>(foreignNet(roots.proc)),
-                                                  nullptr, nullptr);
+        return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<ProcNetRoutes>(netFolder(roots)), nullptr,
+                                                  nullptr);
     auto wifi = std::make_unique<Nl80211Reader>(std::make_unique<NetlinkSocket>(NETLINK_GENERIC));
     return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<RtnetlinkRoutes>(),
                                               std::make_unique<ProcNetRoutes>(roots.proc + "/net"), std::move(wifi));
@@ -59,7 +47,7 @@ std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRo
 } // namespace
 
 SamplingSources makeSamplingSources(const KernelRoots& given) {
-    const KernelRoots roots{withoutTrailingSlashes(given.proc), withoutTrailingSlashes(given.sys)};
+    const KernelRoots roots = withoutTrailingSlashes(given);
     SamplingSources sources;
     sources.clock = std::make_unique<LinuxClock>();
     sources.information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys);

@@ -1,0 +1,109 @@
+#include "doctor/examination.h"
+
+#include <future>
+
+#include <gmock/gmock.h>
+
+#include "fakes/fake_sources.h"
+
+namespace vantrix {
+namespace {
+
+using ::testing::HasSubstr;
+
+constexpr std::chrono::seconds patience{20};
+
+SourceDiagnosis source(std::string_view name, SourceState state = SourceState::ok, const char* reason = "") {
+    return {std::string(name), "file", state, "", reason};
+}
+
+Finding found(const char* value, const char* note = "") {
+    return {value, note, 5.0, false};
+}
+
+TEST(Examination, TakesLoadsAndRatesBetweenItsPasses) {
+    fakes::FakeMachine machine;
+    Examination examination(machine.makeSources(), patience);
+    machine.accessories->result.accessories = {{"Ann's mouse", 64}, {"Pen", 5}};
+    examination.beginPass();
+    EXPECT_EQ(machine.accessories->scans, 0); // slow, and in need of no baseline
+    machine.cpu->advance(30, 100);
+    machine.disks->disks = {{{4'000'000, 0}}};
+    machine.network->links->front().counters = NetworkSampler::Counters{2'000'000, 1000};
+    machine.clock->now += 2.0;
+    auto findings = examination.finish();
+    EXPECT_EQ(findings["Processor"].value, "30%");
+    EXPECT_EQ(findings["Network"].value, "in 1.0M/s, out 0K/s");
+    EXPECT_EQ(findings["Disk rates"].value, "read 2.0M/s, write 0K/s");
+    EXPECT_EQ(findings["Disk space"].value, "60% of 1 KB");
+    EXPECT_EQ(findings["Accessories"].value, "64%, 5%"); // and no names
+    EXPECT_EQ(machine.accessories->scans, 1);
+    EXPECT_GE(findings["Memory"].microseconds.value_or(-1.0), 0.0);
+    EXPECT_EQ(findings["Pressure"].microseconds, std::nullopt); // the same read as the memory's
+}
+
+TEST(Examination, ASourceThatHangsIsLeftBehindAlone) {
+    struct Hanging : GPUSampler::Source {
+        std::shared_future<void> end;
+        std::optional<std::span<const Properties>> read() override {
+            end.wait();
+            return std::nullopt;
+        }
+    };
+    std::promise<void> end;
+    fakes::FakeMachine machine;
+    auto sources = machine.makeSources();
+    auto hanging = std::make_unique<Hanging>();
+    hanging->end = end.get_future().share();
+    sources.gpu = std::move(hanging);
+    Findings findings;
+    {
+        Examination examination(std::move(sources), std::chrono::milliseconds(1000));
+        examination.beginPass();
+        machine.cpu->advance(50, 100);
+        findings = examination.finish();
+    }
+    EXPECT_TRUE(findings["GPU"].isSilent);
+    EXPECT_EQ(findings["Processor"].value, "50%");
+    const auto rows = joined({source("GPU")}, findings);
+    EXPECT_EQ(rows.front().diagnosis.state, SourceState::silent);
+    end.set_value(); // the read ends after what it was for
+}
+
+TEST(JoinedRows, SayWhatSourceAndValueTellTogether) {
+    const struct {
+        const char* name;
+        SourceDiagnosis source;
+        Finding finding;
+        SourceState state;
+        const char* value;
+        const char* reason;
+    } rows[] = {
+        {"works", source("A"), found("1"), SourceState::ok, "1", ""},
+        {"works in part", source("A"), found("1", "2 are mute."), SourceState::ok, "1", "2 are mute."},
+        {"sleeps", source("A", SourceState::asleep, "Sleeps."), found("0%"), SourceState::asleep, "0%", "Sleeps."},
+        {"should answer", source("A"), found(""), SourceState::silent, "", "It is there, but gives no value now."},
+        {"need not answer", source("A", SourceState::ok, "At times."), found(""), SourceState::absent, "", "At times."},
+        {"cannot answer", source("A"), found("", "Not over it."), SourceState::absent, "", "Not over it."},
+        {"absent", source("A", SourceState::absent, "None."), found("0"), SourceState::absent, "", "None."},
+        {"denied", source("A", SourceState::denied, "Ask."), found(""), SourceState::denied, "", "Ask."},
+    };
+    for (const auto& row : rows) {
+        const auto result = joined({row.source}, {{"A", row.finding}});
+        EXPECT_EQ(result.front().diagnosis, (SourceDiagnosis{"A", "file", row.state, row.value, row.reason}))
+            << row.name;
+        EXPECT_EQ(result.front().microseconds, 5.0) << row.name;
+    }
+}
+
+TEST(JoinedRows, OneOfSeveralDevicesHasTheValue) {
+    const auto rows = joined({source("GPU", SourceState::asleep), source("GPU"), source("GPU"), source("Fans")},
+                             {{"GPU", found("37%")}});
+    EXPECT_EQ(rows[0].diagnosis.value, "");
+    EXPECT_EQ(rows[1].diagnosis.value, "37%, highest of 2");
+    EXPECT_EQ(rows[2].microseconds, std::nullopt);
+    EXPECT_EQ(rows[2].diagnosis.state, SourceState::ok);
+}
+
+} // namespace
+} // namespace vantrix
