@@ -175,6 +175,8 @@ class CardsTest : public PopoverViewTest {
     std::unique_ptr<Kind> shown() {
         auto card = std::make_unique<Kind>(context);
         card->showReadings(readings);
+        for (const QWidget* window : QApplication::topLevelWidgets())
+            EXPECT_FALSE(window->isVisible()) << "a row of the card opened a window of its own";
         return card;
     }
 

@@ -62,11 +62,12 @@ QVBoxLayout* columnOf(std::initializer_list<QWidget*> rows) {
 }
 
 /// As many rows as `count`, in `column`.
-void resizeRows(std::vector<StatRow*>& rows, std::size_t count, QVBoxLayout& column, const Theme& theme) {
+void resizeRows(std::vector<StatRow*>& rows, std::size_t count, QVBoxLayout& column, const Theme& theme,
+                const StatRow::Lead& lead) {
     for (; rows.size() > count; rows.pop_back())
         delete rows.back();
     while (rows.size() < count) {
-        rows.push_back(new StatRow(theme, {}, StatRow::Lead::none()));
+        rows.push_back(new StatRow(theme, {}, lead));
         column.addWidget(rows.back());
         rows.back()->show();
     }
@@ -104,6 +105,8 @@ QLayout* SensorsCard::makeTemperatures() {
     soc_ = row(localizedText("SoC"));
     ssd_ = row(localizedText("SSD"));
     battery_ = row(localizedText("Battery"));
+    for (StatRow* placedLater : {gpu_, soc_, ssd_, battery_})
+        placedLater->setParent(details_); // else showing it would open a window
     auto* column = columnOf({cpu_});
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(columnGap);
@@ -174,7 +177,7 @@ void SensorsCard::showPowers(const SensorsSample& sensors) {
 }
 
 void SensorsCard::showFans(const SensorsSample& sensors) {
-    resizeRows(fans_, sensors.fans.size(), *fanColumn_, theme());
+    resizeRows(fans_, sensors.fans.size(), *fanColumn_, theme(), StatRow::Lead::room());
     for (std::size_t i = 0; i < fans_.size(); ++i) {
         fans_[i]->setLabel(QString::fromStdString(formatted(localized("Fan %lld"), {sensors.fans[i].id + 1})));
         fans_[i]->setValue(fanText(sensors.fans[i]));
@@ -189,7 +192,8 @@ void SensorsCard::showAll() {
     sensorList_->setVisible(offered && allSensors_->isChecked());
     if (!offered || !allSensors_->isChecked())
         return;
-    resizeRows(sensors_, all_.size(), *static_cast<QVBoxLayout*>(sensorList_->layout()), theme());
+    resizeRows(sensors_, all_.size(), *static_cast<QVBoxLayout*>(sensorList_->layout()), theme(),
+               StatRow::Lead::none());
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         sensors_[i]->setLabel(QString::fromStdString(all_[i].name));
         sensors_[i]->setValue(temperatureText(all_[i].value));
