@@ -85,8 +85,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Shape{"headphones", true}, Shape{"airpods", true}, Shape{"earbuds.case", true},
                     Shape{"gearshape", true}, Shape{"menubar.rectangle", false}, Shape{"rectangle.stack", true},
                     Shape{"bell.badge", false}, Shape{"chevron.up", true}, Shape{"chevron.down", true},
-                    Shape{"ellipsis.circle", true}, Shape{"bolt.fill", false}, Shape{"checkmark", false},
-                    Shape{"fan", false}),
+                    Shape{"ellipsis.circle", true}, Shape{"bolt.fill", false}, Shape{"checkmark", false}),
     rowName);
 
 TEST(Symbols, EveryChoiceWithASymbolHasADrawing) {

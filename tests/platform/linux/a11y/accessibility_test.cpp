@@ -88,8 +88,8 @@ class AccessibleProgramTest : public AccessibilityTest {
     }
 
     /// Starts the program, and once it can be read hands it a request.
-    void startAndAsk(const QStringList& request) {
-        start(program);
+    void startAndAsk(const QStringList& request, const QStringList& arguments = {}) {
+        start(program, arguments);
         readUntil(u"vantrix"_s, [](const AccessibleNode& tree) { return tree.role == u"application"; });
         QProcess asking;
         start(asking, request);
@@ -127,6 +127,22 @@ TEST_F(AccessibleProgramTest, ThePopoverCanBeRead) {
     EXPECT_TRUE(find(popover, u"label"_s, u"Pressure: normal"_s) || find(popover, u"label"_s, u"Pressure: warning"_s) ||
                 find(popover, u"label"_s, u"Pressure: critical"_s));
     EXPECT_TRUE(find(popover, u"chart"_s, u"Download history"_s));
+}
+
+TEST_F(AccessibleProgramTest, CardsOfALaptopCanBeReadAndOpened) {
+    const QString machine = QStringLiteral(FIXTURES "/two-packs-and-accessories");
+    startAndAsk({u"--show-popover"_s}, {u"--sys-root"_s, machine + u"/sys"_s});
+    const AccessibleNode tree = readUntil(u"vantrix"_s, [](const AccessibleNode& program) {
+        return find(program, u"panel"_s, u"Accessories, 4 connected"_s) != nullptr;
+    });
+    SCOPED_TRACE(qPrintable(describe(tree)));
+    const AccessibleNode* battery = find(tree, u"panel"_s, u"Battery, On battery"_s);
+    ASSERT_TRUE(battery);
+    const AccessibleNode* charge = find(*battery, u"progress bar"_s, u"Battery charge"_s);
+    ASSERT_TRUE(charge && charge->value);
+    EXPECT_GT(charge->value->current, 0.0);
+    EXPECT_TRUE(find(tree, u"label"_s, u"Desk Keyboard: 87%"_s));
+    EXPECT_TRUE(find(tree, u"label"_s, u"Game Pad: 100%, Charging"_s));
 }
 
 /// The controls in `node` that assistive programs could not tell from each other.
