@@ -36,7 +36,7 @@ QString localizedText(std::string_view english, const Value&... values) {
 }
 
 std::string temperatureText(double celsius) {
-    return roundedInteger(celsius) + "°C";
+    return formatted(localized("%@°C"), {std::string_view(roundedInteger(celsius))});
 }
 
 } // namespace

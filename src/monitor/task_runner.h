@@ -1,9 +1,7 @@
 #pragma once
 
 #include <functional>
-
-#include <QObject>
-#include <QThreadPool>
+#include <memory>
 
 namespace vantrix {
 
@@ -11,19 +9,24 @@ namespace vantrix {
 class TaskRunner {
   public:
     virtual ~TaskRunner() = default;
-    /// Calls `work` on another thread at low priority, then `done` on the main thread. `done` is dropped when the
-    /// runner is gone by then.
+    /// Calls `work` on another thread, then `done` on the main thread. `done` is dropped when the runner is gone by
+    /// then.
     virtual void run(std::function<void()> work, std::function<void()> done) = 0;
 };
 
+/// A thread for each task. Work that hangs is left behind when the runner goes, so it owns, or shares, what it touches.
 class ThreadTaskRunner final : public TaskRunner {
   public:
+    /// Made on the main thread.
     ThreadTaskRunner();
+    /// Gives work under way a moment to end.
+    ~ThreadTaskRunner() override;
     void run(std::function<void()> work, std::function<void()> done) override;
 
   private:
-    QObject mainThread_; // outlives the pool: what is posted to it is dropped with it
-    QThreadPool pool_;
+    struct Shared;
+
+    std::shared_ptr<Shared> shared_;
 };
 
 } // namespace vantrix

@@ -96,10 +96,9 @@ void NetworkInfoSampler::addWiFi(std::string_view interface, bool granted, std::
 void NetworkInfoSampler::explainMissingClient(std::string_view interface) {
     const auto reason = source_.missingWiFiReason();
     std::string& text = emptied(info_.debug);
-    if (reason.empty())
-        text.append("no CoreWLAN interface for ").append(interface);
-    else
-        text.append(reason);
+    text.append("no CoreWLAN interface for ").append(interface);
+    if (!reason.empty())
+        text.append(": ").append(reason);
 }
 
 void NetworkInfoSampler::explainHiddenName(std::string_view interface, bool granted, std::int32_t status) {

@@ -16,9 +16,11 @@ inline double secondsSince2001() {
 }
 
 /// True when `seconds` have passed from `start` to `now`, or `start` is absent: the distant past. A clock that was set
-/// back counts as passed, or what waits for it might wait for years.
-inline bool havePassed(double seconds, const std::optional<double>& start, double now) {
-    return !start || now < *start || now - *start >= seconds;
+/// back moves the start along, or what waits for it might wait for years.
+inline bool havePassed(double seconds, std::optional<double>& start, double now) {
+    if (start && now < *start)
+        start = now;
+    return !start || now - *start >= seconds;
 }
 
 } // namespace vantrix

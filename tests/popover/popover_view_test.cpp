@@ -281,8 +281,28 @@ TEST_F(CardsTest, TheSensorsCardShowsOnlyWhatThereIs) {
     readings.sensors = {};
     readings.sensors.fans = {{0, 900.0, std::nullopt, std::nullopt}};
     readings.sensors.systemPower = 10.0;
-    EXPECT_THAT(textsOf(*shown<SensorsCard>()),
-                ElementsAre("Sensors", "Temperatures are not available on this Mac."));
+    EXPECT_THAT(textsOf(*shown<SensorsCard>()), ElementsAre("Sensors", "Temperatures are not available on this Mac."));
+}
+
+TEST_F(CardsTest, ASensorThatIsGoneLeavesNoHoleAndNoWork) {
+    const auto card = shown<SensorsCard>();
+    card->resize(320, 500);
+    card->show();
+    readings.sensors.gpu.reset();
+    card->showReadings(readings);
+    QCoreApplication::sendPostedEvents();
+    struct Layouts : QObject {
+        int count = 0;
+        bool eventFilter(QObject*, QEvent* event) override {
+            count += event->type() == QEvent::LayoutRequest ? 1 : 0;
+            return false;
+        }
+    } layouts;
+    for (QObject* child : card->template findChildren<QObject*>())
+        child->installEventFilter(&layouts);
+    card->showReadings(readings);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(layouts.count, 0);
 }
 
 TEST_F(CardsTest, EverySensorIsListedOnDemand) {

@@ -25,7 +25,7 @@ struct FakeController : SMC::Transport {
         answer[40] = number == refusedCall ? 0x84 : 0;
         for (std::size_t i = 0; i < 4; ++i) {
             // The size is told by the first answer alone.
-            answer[28 + i] = number == 1 ? static_cast<std::uint8_t>(size >> (8 * i)) : 0xee;
+            answer[28 + i] = static_cast<std::uint8_t>(number == 1 ? size >> (8 * i) : 0xee);
             answer[32 + i] = static_cast<std::uint8_t>(type[i]);
         }
         std::copy(bytes.begin(), bytes.end(), answer.begin() + 48);

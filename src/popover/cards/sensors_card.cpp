@@ -157,8 +157,10 @@ void SensorsCard::showTemperatures(const SensorsSample& sensors) {
     int place = 0;
     for (const auto& [row, temperature] : named) {
         showTemperature(row, temperature);
-        if (!temperature)
+        if (!temperature) {
+            grid_->removeWidget(row); // else it would hold its place
             continue;
+        }
         if (grid_->itemAtPosition(place / 2, place % 2) == nullptr ||
             grid_->itemAtPosition(place / 2, place % 2)->widget() != row)
             grid_->addWidget(row, place / 2, place % 2);

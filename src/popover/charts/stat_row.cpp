@@ -108,9 +108,18 @@ bool StatRow::fitsOneLine(double width) const {
     return leadWidth() + labelWidth() + spacing + valueWidth() <= width;
 }
 
+/// Names of devices may be longer than a line and have no blank.
+int StatRow::wrapFlag(double width) const {
+    const auto words = label_.split(u' ');
+    const bool doAllFit = std::all_of(words.begin(), words.end(), [&](const QString& word) {
+        return metricsOf(theme()).horizontalAdvance(word) <= width;
+    });
+    return doAllFit ? Qt::TextWordWrap : Qt::TextWrapAnywhere;
+}
+
 double StatRow::labelHeight(double width) const {
     const QRectF room(0, 0, std::max(width - leadWidth(), 1.0), unbounded);
-    return std::ceil(metricsOf(theme()).boundingRect(room, Qt::TextWordWrap, label_).height());
+    return std::ceil(metricsOf(theme()).boundingRect(room, wrapFlag(room.width()), label_).height());
 }
 
 QSize StatRow::sizeHint() const {
@@ -158,7 +167,7 @@ void StatRow::paintLabel(QPainter& painter, const QRectF& place) const {
         return painter.drawText(QPointF(x, baseline(place)), label_);
     }
     const auto side = static_cast<int>(mirrored ? Qt::AlignRight : Qt::AlignLeft);
-    painter.drawText(place, side | Qt::AlignTop | Qt::TextWordWrap, label_);
+    painter.drawText(place, side | Qt::AlignTop | wrapFlag(place.width()), label_);
 }
 
 void StatRow::paintValue(QPainter& painter, const QRectF& place) const {

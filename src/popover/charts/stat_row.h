@@ -62,6 +62,7 @@ class StatRow : public View {
     double labelWidth() const;
     double valueWidth() const;
     bool fitsOneLine(double width) const;
+    int wrapFlag(double width) const;
     double labelHeight(double width) const;
     void paintLead(QPainter& painter) const;
     void paintLabel(QPainter& painter, const QRectF& place) const;

@@ -29,15 +29,16 @@ std::vector<BluetoothAttribute> attributesOf(const BluezObjects& objects, const 
 } // namespace
 
 BluezPeripheral::BluezPeripheral(std::shared_ptr<BluezWatch> watch, const QString& path)
-    : watch_(std::move(watch)), path_(path) {}
-
-std::optional<std::string> BluezPeripheral::name() const {
-    const QString name = bluez::nameOf(watch_->objects(), path_);
-    return name.isEmpty() ? std::nullopt : std::optional(name.toStdString());
+    : watch_(std::move(watch)), path_(path) {
+    noteIdentity();
 }
 
-std::string BluezPeripheral::address() const {
-    return bluez::addressOf(watch_->objects(), path_).toStdString();
+void BluezPeripheral::noteIdentity() {
+    if (!watch_->objects().has(path_, bluez::device))
+        return;
+    const QString name = bluez::nameOf(watch_->objects(), path_);
+    name_ = name.isEmpty() ? std::nullopt : std::optional(name.toStdString());
+    address_ = bluez::addressOf(watch_->objects(), path_).toStdString();
 }
 
 bool BluezPeripheral::isConnected() const {
@@ -105,6 +106,8 @@ void BluezPeripheral::subscribe(const BluetoothAttribute& characteristic) {
 void BluezPeripheral::objectChanged(const QString& path) {
     if (path != path_ && !path.startsWith(path_ + u'/'))
         return;
+    if (path == path_)
+        noteIdentity();
     if (wanted_)
         discoverServices(BluetoothUUID(*wanted_));
     const auto subscription = std::find_if(subscribed_.begin(), subscribed_.end(), [&](const auto& characteristic) {

@@ -18,8 +18,9 @@ class BluezPeripheral final : public BluetoothPeripheral, public std::enable_sha
     BluezPeripheral(std::shared_ptr<BluezWatch> watch, const QString& path);
 
     std::string identifier() const override { return path_.toStdString(); }
-    std::optional<std::string> name() const override;
-    std::string address() const override;
+    /// Stays what it was when the service goes, as the level does.
+    std::optional<std::string> name() const override { return name_; }
+    std::string address() const override { return address_; }
     bool isConnected() const override;
 
     /// Answered as soon as there is something to discover.
@@ -33,6 +34,7 @@ class BluezPeripheral final : public BluetoothPeripheral, public std::enable_sha
     void objectChanged(const QString& path);
 
   private:
+    void noteIdentity();
     bool isBattery(const BluetoothAttribute& attribute) const;
     std::vector<BluetoothAttribute> services(const BluetoothUUID& kind) const;
     void tell(const BluetoothAttribute& characteristic, const QByteArray& value);
@@ -40,6 +42,8 @@ class BluezPeripheral final : public BluetoothPeripheral, public std::enable_sha
 
     std::shared_ptr<BluezWatch> watch_;
     QString path_;
+    std::optional<std::string> name_;
+    std::string address_;
     std::optional<BluetoothUUID> wanted_; ///< service to discover, still without an answer
     std::vector<BluetoothAttribute> subscribed_;
     QSet<QString> beingRead_; ///< paths of characteristics

@@ -8,6 +8,9 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QTimer>
+
+#include "platform/linux/desktop/bus_probe.h"
 
 namespace vantrix {
 namespace {
@@ -19,6 +22,7 @@ const QString propertiesSignal = QStringLiteral("PropertiesChanged");
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 
+constexpr std::chrono::seconds busPatience{2};
 constexpr int usualTimeout = -1;
 // A slow service's objects are welcome whenever they come: nobody asks again.
 constexpr int noTimeout = std::numeric_limits<int>::max();
@@ -32,17 +36,21 @@ const QStringList& followedInterfaces() {
 
 } // namespace
 
-BluezWatch::BluezWatch(const QString& address) {
+BluezWatch::BluezWatch(const QString& address, std::chrono::milliseconds retry) : retry_(retry) {
     const auto made = std::make_shared<std::unique_ptr<BusConnection>>();
-    runner_.run([made, address] { *made = std::make_unique<BusConnection>(address); },
-                [this, made] {
-                    connection_ = std::move(*made);
-                    takeBus();
-                });
+    runner_.run(
+        [made, address] {
+            if (busAnswers(address, busPatience))
+                *made = std::make_unique<BusConnection>(address);
+        },
+        [this, made] {
+            connection_ = std::move(*made);
+            takeBus();
+        });
 }
 
 void BluezWatch::takeBus() {
-    if (!connection_->isConnected())
+    if (!connection_ || !connection_->isConnected())
         return settle(Phase::absent);
     // Given the service's name as the sender, the toolkit would wait for the bus to tell who owns it.
     connection_->bus().connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName},
@@ -114,13 +122,23 @@ void BluezWatch::load() {
 void BluezWatch::takeObjects(const QDBusMessage& reply) {
     if (reply.type() == QDBusMessage::ErrorMessage && QDBusError(reply).type() == QDBusError::AccessDenied)
         return settle(Phase::denied);
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != u"a{oa{sa{sv}}}")
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != u"a{oa{sa{sv}}}") {
+        tryAgainLater();
         return settle(Phase::absent);
+    }
     const auto objects = qdbus_cast<QMap<QDBusObjectPath, BluezObjects::Interfaces>>(reply.arguments().constFirst());
     objects_.clear();
     for (auto object = objects.begin(); object != objects.end(); ++object)
         objects_.add(object.key().path(), *object);
     settle(Phase::loaded);
+}
+
+/// A service that has only just started may be short of something.
+void BluezWatch::tryAgainLater() {
+    QTimer::singleShot(retry_, this, [this, owner = owner_] {
+        if (owner == owner_ && phase_ == Phase::absent)
+            load();
+    });
 }
 
 BluetoothState BluezWatch::state() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -19,8 +20,11 @@ namespace vantrix {
 class BluezWatch : public QObject {
     Q_OBJECT
   public:
+    /// How long after a failed question for the objects the next one is.
+    static constexpr std::chrono::milliseconds usualRetry = std::chrono::minutes(1);
+
     /// Connects to the bus at `address` away from the main thread.
-    explicit BluezWatch(const QString& address);
+    explicit BluezWatch(const QString& address, std::chrono::milliseconds retry = usualRetry);
 
     /// `unknown` until the service, or its absence, is known. On when any adapter is.
     BluetoothState state() const;
@@ -52,13 +56,15 @@ class BluezWatch : public QObject {
     void forgetOwner();
     void load();
     void takeObjects(const QDBusMessage& reply);
+    void tryAgainLater();
     void settle(Phase phase);
     void announceState();
     void unfollowCharacteristic(const QString& path);
     void call(QDBusMessage message, int timeout, std::function<void(const QDBusMessage&)> take);
 
-    std::unique_ptr<BusConnection> connection_;
-    QString owner_; ///< unique name; empty while there is none
+    std::chrono::milliseconds retry_;
+    std::unique_ptr<BusConnection> connection_; ///< null while the bus does not answer
+    QString owner_;                             ///< unique name; empty while there is none
     Phase phase_ = Phase::starting;
     BluetoothState announced_ = BluetoothState::unknown;
     BluezObjects objects_;

@@ -103,18 +103,22 @@ bool isPluggedIn(std::span<const SupplyState> packs, std::optional<bool> isExter
            (isAny(packs, Status::full) || isAny(packs, Status::notCharging));
 }
 
-/// Minutes for `energy` (µWh) to move, -1 when they cannot be told.
-std::int64_t minutesFor(double energy, double power) {
+/// -1 beyond what anybody would believe.
+std::int64_t plausibleMinutes(double minutes) {
     constexpr double longest = 100.0 * 60.0;
-    const double minutes = power > 0.0 ? std::round(std::max(energy, 0.0) / power * 60.0) : -1.0;
-    return minutes <= longest ? static_cast<std::int64_t>(minutes) : -1;
+    return minutes <= longest ? static_cast<std::int64_t>(std::round(minutes)) : -1;
+}
+
+/// Minutes for `energy` (µWh) to move at `power` (µW), -1 when they cannot be told.
+std::int64_t minutesFor(double energy, double power) {
+    return power > 0.0 ? plausibleMinutes(std::max(energy, 0.0) / power * 60.0) : -1;
 }
 
 /// -1 when it cannot be told.
 std::int64_t timeRemaining(std::span<const SupplyState> packs, const std::optional<Energy>& energy, bool isCharging) {
     const auto told = packs.front()[isCharging ? SupplyState::timeToFull : SupplyState::timeToEmpty];
     if (packs.size() == 1 && told.value_or(0) > 0)
-        return minutesFor(static_cast<double>(*told), 3600.0);
+        return plausibleMinutes(static_cast<double>(*told) / 60.0); // from seconds
     const auto flow = sumOfFlow(packs);
     if (!energy || !flow)
         return -1;

@@ -24,7 +24,7 @@ LinuxNetworkInfo::LinuxNetworkInfo(std::string sys, std::unique_ptr<DefaultRoute
 bool LinuxNetworkInfo::refresh() {
     if (routes_->refresh())
         return true;
-    if (!fallback_)
+    if (!fallback_ || routes_->generation() > 0)
         return false;
     routes_ = std::move(fallback_);
     describedAt_ = 0;
@@ -56,14 +56,18 @@ std::optional<NetworkInfoSampler::Interface> LinuxNetworkInfo::describe(std::str
     const bool isDueAgain = !type_ && ++passesWithoutType_ >= passesToLookAgain;
     if (isNew || isDueAgain)
         lookUp(interface);
-    if (isNew && wifi_)
-        wifi_->forget();
     if (!type_)
         return std::nullopt;
     return NetworkInfoSampler::Interface{*type_, unlessEmpty(displayName_)};
 }
 
 void LinuxNetworkInfo::lookUp(std::string_view interface) {
+    // News come with every scan and every container's link; what Wi-Fi told last stands as long as it is the same link.
+    const DefaultRoute* route = routeOver(interface);
+    const int index = route != nullptr ? route->index : 0;
+    if (wifi_ && (described_ != interface || describedIndex_ != index))
+        wifi_->forget();
+    describedIndex_ = index;
     const auto kind = readInterfaceKind(sys_, interface);
     type_ = kind ? std::optional(kind->type) : std::nullopt;
     displayName_ = kind && !kind->name.empty() ? localized(kind->name) : std::string();

@@ -12,7 +12,7 @@ namespace vantrix {
 class LinuxNetworkInfo : public NetworkInfoSampler::Source {
   public:
     /// Without `wifi`, as for another machine's trees, no Wi-Fi details are asked for. `fallback` takes over for good
-    /// once `routes` does not work; either may be all there is.
+    /// when `routes` does not work from the start; either may be all there is.
     LinuxNetworkInfo(std::string sys, std::unique_ptr<DefaultRoutes> routes, std::unique_ptr<DefaultRoutes> fallback,
                      std::unique_ptr<WiFiReader> wifi);
 
@@ -37,6 +37,7 @@ class LinuxNetworkInfo : public NetworkInfoSampler::Source {
     // What the interface described last is; looked up anew after each change of routes or links, and now and then
     // while there is no such link.
     std::string described_;
+    int describedIndex_ = 0;
     std::uint64_t describedAt_ = 0;
     std::optional<NetworkInfoSampler::InterfaceType> type_; // absent: no such link
     int passesWithoutType_ = 0;

@@ -41,8 +41,10 @@ std::string nameOf(const std::string& supply, const std::string& entry) {
 }
 
 std::string addressOf(const std::string& supply, const std::string& entry) {
-    const std::string address = findAddress(entry);
-    return address.empty() ? findAddress(readEventValue(supply + "/device", "HID_UNIQ")) : address;
+    if (const std::string address = findAddress(entry); !address.empty())
+        return address;
+    const std::string address = findAddress(readEventValue(supply + "/device", "HID_UNIQ"));
+    return address.empty() ? entry : address; // two mice of one kind are two
 }
 
 std::optional<int> levelOf(const std::string& supply) {

@@ -41,7 +41,9 @@ std::optional<double> PowerTotals::system() {
         return power;
     if (const auto power = sum(meters_))
         return power;
-    return sum(batteries_);
+    const auto drained = sum(batteries_);
+    // A weak adapter carries a part of the load beside the batteries.
+    return drained ? std::optional(*drained + sum(adapters_).value_or(0.0)) : std::nullopt;
 }
 
 std::optional<double> PowerTotals::adapter() {

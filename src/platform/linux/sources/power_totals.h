@@ -20,7 +20,7 @@ class PowerTotals {
     void beginPass();
 
     /// From the first of these that answers: the processor's counter for the platform ("psys"), a power meter of the
-    /// board, and, while no adapter feeds the machine, what its batteries give.
+    /// board, and what its batteries give, with what an adapter that cannot keep up is known to deliver.
     std::optional<double> system();
     std::optional<double> adapter();
 

@@ -18,6 +18,10 @@ void putChannel(std::vector<IOReportSampler::Channel>& channels, std::size_t pla
     channel.value = static_cast<std::int64_t>(energy);
 }
 
+bool isComponent(std::string_view zone) {
+    return zone.starts_with("package") || zone == "uncore" || zone == "dram";
+}
+
 } // namespace
 
 std::optional<std::uint64_t> PowercapEnergy::Counter::growth() const {
@@ -68,6 +72,8 @@ bool PowercapEnergy::readDifference(std::vector<IOReportSampler::Channel>& chann
 void PowercapEnergy::search() {
     std::vector<Counter> counters;
     for (EnergyZone& zone : findEnergyZones(sys_, clock_)) {
+        if (!isComponent(zone.name()))
+            continue; // each read wakes a processor of the package
         const auto known = std::find_if(counters_.begin(), counters_.end(), [&](const Counter& counter) {
             return counter.zone.folder() == zone.folder() && counter.zone.name() == zone.name();
         });

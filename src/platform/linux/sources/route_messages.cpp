@@ -1,5 +1,8 @@
 #include "platform/linux/sources/route_messages.h"
 
+#include <cerrno>
+#include <cstdlib>
+
 #include <sys/socket.h>
 
 #include "platform/linux/sources/netlink_records.h"
@@ -97,6 +100,7 @@ void parseBody(RouteMessage& message, std::uint16_t type, std::string_view body)
         return;
     case NLMSG_ERROR:
         message.kind = RouteMessage::Kind::failed;
+        message.error = std::abs(recordAt<int>(body).value_or(-EBADMSG));
         return;
     default:
         return;

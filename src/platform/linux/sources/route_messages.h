@@ -23,6 +23,7 @@ struct RouteMessage {
     std::uint32_t sequence = 0; ///< that of the question; news have that of whoever made the change
     bool isListed = false;      ///< part of a list that was asked for, not news
     bool isInterrupted = false; ///< something changed while the list was made
+    int error = 0;              ///< errno of a failure
     int family = 0;             ///< of the route: AF_INET or AF_INET6
     std::uint32_t metric = 0;   ///< of the route: the lowest is taken
     int index = 0;              ///< of the link that it leads to or that has the address; 0 where it leads nowhere

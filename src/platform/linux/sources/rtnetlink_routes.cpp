@@ -50,13 +50,20 @@ RtnetlinkRoutes::RtnetlinkRoutes()
     : socket_(NETLINK_ROUTE, RTMGRP_LINK | RTMGRP_IPV4_IFADDR | RTMGRP_IPV4_ROUTE | RTMGRP_IPV6_ROUTE) {}
 
 bool RtnetlinkRoutes::refresh() {
-    if (!socket_.open() || !takeNews())
-        return false;
+    if (!socket_.open() || !takeNews()) {
+        startOver();
+        return generation_ > 0; // what was known stands until the kernel can be asked again
+    }
     for (int attempt = 0; areListsDue_ && attempt < attemptsPerPass; ++attempt) {
         areListsDue_ = false; // unless news come in between
         areListsDue_ = !readLists() || areListsDue_;
     }
     return generation_ > 0;
+}
+
+void RtnetlinkRoutes::startOver() {
+    socket_.close();
+    areListsDue_ = true;
 }
 
 const DefaultRoute* RtnetlinkRoutes::primary(Family family) const {
@@ -122,8 +129,11 @@ bool RtnetlinkRoutes::readList(std::uint16_t type, unsigned char family) {
         else if (received == Received::datagram)
             applyList(datagram, isComplete);
         else
-            return false;
+            break;
     }
+    // What the kernel has begun to answer would be in the way of the next question.
+    if (!isComplete)
+        startOver();
     return isComplete;
 }
 
@@ -133,8 +143,9 @@ void RtnetlinkRoutes::applyList(std::string_view datagram, bool& isComplete) {
         const bool isRefusal = message->kind == RouteMessage::Kind::failed;
         if (message->sequence != sequence_ || (!message->isListed && !isRefusal))
             continue;
-        // A kernel that refuses a list, as one without IPv6 may, has nothing to put on it.
-        if (message->kind == RouteMessage::Kind::done || isRefusal)
+        // A kernel that does not know such a list, as one without IPv6, has nothing to put on it.
+        const bool isUnknownList = isRefusal && (message->error == EOPNOTSUPP || message->error == EAFNOSUPPORT);
+        if (message->kind == RouteMessage::Kind::done || isUnknownList)
             isComplete = true;
         areListsDue_ = areListsDue_ || message->isInterrupted;
         list_.add(*message);

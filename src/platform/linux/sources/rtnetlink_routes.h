@@ -46,6 +46,7 @@ class RtnetlinkRoutes : public DefaultRoutes {
 
   private:
     bool takeNews();
+    void startOver();
     void noteNews(std::string_view datagram);
     bool readLists();
     bool readList(std::uint16_t type, unsigned char family);

@@ -62,7 +62,7 @@ SamplingSources makeSamplingSources(const KernelRoots& given) {
     sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);
     sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock);
     sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
-    sources.battery = std::make_unique<LinuxBatterySource>(roots.sys);
+    sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock);
     sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
     return sources;
 }

@@ -52,8 +52,8 @@ class BluezTest : public testing::Test {
     void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon"; }
 
     /// Starts reading, with a timer that the test fires.
-    void read() {
-        auto watch = std::make_shared<BluezWatch>(bus.address());
+    void read(std::chrono::milliseconds retry = BluezWatch::usualRetry) {
+        auto watch = std::make_shared<BluezWatch>(bus.address(), retry);
         auto ownTimer = std::make_unique<fakes::FakeTimer>();
         timer = ownTimer.get();
         reader = std::make_unique<BluetoothBatteryReader>(
@@ -149,7 +149,9 @@ TEST_F(BluezTest, FollowsTheServiceThroughRestarts) {
         ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 64% | classic: "));
         ASSERT_TRUE(levelGets(50 + restart));
         bluez.resign();
-        ASSERT_TRUE(spinUntil([&] { return reader->diagnostics().starts_with("unavailable, 1 "); }));
+        const std::string level = std::to_string(50 + restart);
+        ASSERT_TRUE(saysSoon(("unavailable, 1 with battery service: Desk Mouse " + level + "% | classic: ").c_str()));
+        EXPECT_EQ(reader->readings()[0].address, "AA:BB:CC:DD:EE:01");
         EXPECT_TRUE(spinUntil([&] { return matchRules() == rules; })) << "its signals are no longer asked for";
         bluez.change(mousePath, bluez::battery, {{u"Percentage"_s, percent(64)}});
     }
@@ -344,6 +346,17 @@ TEST_F(BluezTest, SurvivesWhatMakesNoSense) {
         ASSERT_TRUE(spinUntil([&] { return !bluez.asked.empty(); }));
         ASSERT_TRUE(spinUntil([&] { return reader->diagnostics().starts_with("unavailable"); }));
     }
+}
+
+TEST_F(BluezTest, AsksAgainWhenTheFirstAnswerWasNone) {
+    addAdapterAndMouse();
+    bluez.error = QDBusError::NoMemory;
+    ASSERT_TRUE(bluez.appear());
+    read(std::chrono::milliseconds(1));
+    ASSERT_TRUE(spinUntil([&] { return bluez.asked.size() > 2; }));
+    EXPECT_TRUE(reader->diagnostics().starts_with("unavailable"));
+    bluez.error = QDBusError::NoError;
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 64% | classic: "));
 }
 
 TEST_F(BluezTest, TenThousandChangesGrowNothing) {

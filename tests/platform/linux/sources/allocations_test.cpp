@@ -96,10 +96,9 @@ int allocationsAfterSecondPass(const KernelRoots& roots) {
 
 TEST(SamplingPass, AllocatesNothingAfterTheSecond) {
     EXPECT_EQ(allocationsAfterSecondPass({}), 0);
-    for (const char* machine :
-         {"many-interfaces", "zram-in-use", "laptop-hybrid-cores", "no-psi", "two-packs-and-accessories",
-          "gpu-asleep-beside-another", "laptop-many-sensors", "desktop-resting-disk-sleeping-gpu",
-          "board-with-thermal-zones-alone"}) {
+    for (const char* machine : {"many-interfaces", "zram-in-use", "laptop-hybrid-cores", "no-psi",
+                                "two-packs-and-accessories", "gpu-asleep-beside-another", "laptop-many-sensors",
+                                "desktop-resting-disk-sleeping-gpu", "board-with-thermal-zones-alone"}) {
         const std::string folder = std::string(FIXTURES) + '/' + machine;
         EXPECT_EQ(allocationsAfterSecondPass({folder + "/proc", folder + "/sys"}), 0) << machine;
     }
@@ -153,7 +152,7 @@ TEST(SamplingPass, AllocatesNothingOnWiFi) {
         EXPECT_EQ(counted, 0) << problem;
         const NetworkInfo& info = sampler.sample(true, 3);
         EXPECT_EQ(info.ssid.has_value(), *problem == '\0');
-        EXPECT_EQ(info.debug.value_or(""), problem);
+        EXPECT_EQ(info.debug.has_value(), *problem != 0);
     }
 }
 

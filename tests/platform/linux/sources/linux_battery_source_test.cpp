@@ -1,7 +1,12 @@
 #include "platform/linux/sources/linux_battery_source.h"
 
+#include <atomic>
+#include <chrono>
+#include <thread>
+
 #include <gtest/gtest.h>
 
+#include "samplers/fake_clock.h"
 #include "temporary_folder.h"
 
 namespace vantrix {
@@ -9,7 +14,7 @@ namespace {
 
 struct LinuxBatterySourceTest : ::testing::Test {
     TemporaryFolder folder;
-    LinuxBatterySource source{folder.path("sys"), 1};
+    LinuxBatterySource source{folder.path("sys"), std::make_shared<FakeClock>(), 1};
 
     void write(const std::string& entry, const std::string& file, const std::string& text) {
         folder.write("sys/class/power_supply/" + entry + '/' + file, text);
@@ -120,7 +125,7 @@ TEST_F(LinuxBatterySourceTest, FollowsPacksAndPorts) {
 }
 
 TEST_F(LinuxBatterySourceTest, TheFolderIsListedOnlyNowAndThenAndPacksAreNoticedAllTheSame) {
-    LinuxBatterySource usual(folder.path("sys"));
+    LinuxBatterySource usual(folder.path("sys"), std::make_shared<FakeClock>());
     const auto passesUntil = [&](int percent) {
         for (int passes = 1; passes < 100; ++passes) {
             const auto now = BatterySampler(usual).sample();
@@ -135,6 +140,28 @@ TEST_F(LinuxBatterySourceTest, TheFolderIsListedOnlyNowAndThenAndPacksAreNoticed
     EXPECT_LE(passesUntil(-1), KernelFolder::usualPeriod);
     setPack("BAT1", "STATUS=Unknown CAPACITY=70");
     EXPECT_EQ(passesUntil(70), KernelFolder::usualPeriod);
+}
+
+/// On this clock every read takes very long.
+struct SlowClock : Clock {
+    mutable std::atomic<double> now = 0.0;
+    double uptime() const override { return now += 0.03; }
+};
+
+TEST_F(LinuxBatterySourceTest, ASlowControllerIsAskedAside) {
+    LinuxBatterySource slow(folder.path("sys"), std::make_shared<SlowClock>());
+    const auto percent = [&] {
+        const auto now = BatterySampler(slow).sample();
+        return now ? now->percent : -1;
+    };
+    setPack("BAT0", "STATUS=Unknown CAPACITY=50");
+    EXPECT_EQ(percent(), 50); // the first look is the one that shows how slow it is
+    setPack("BAT0", "STATUS=Unknown CAPACITY=40");
+    EXPECT_EQ(percent(), 50);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (percent() != 40 && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::yield();
+    EXPECT_EQ(percent(), 40);
 }
 
 TEST_F(LinuxBatterySourceTest, MouseIsNoBatteryOfTheMachine) {

@@ -1,6 +1,9 @@
 #include "platform/linux/sources/linux_network_info.h"
 
+#include <atomic>
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 #include <gtest/gtest.h>
 
@@ -97,7 +100,7 @@ TEST(LinuxNetworkInfo, FollowsTheTreesOfAnotherMachine) {
     const auto sources = makeSamplingSources({folder.path("proc"), folder.path("sys")});
     NetworkInfoSampler sampler(*sources.networkInfo);
     NetworkInfo expected{NetworkInfo::Kind::wifi, "wlan0", "Wi-Fi"};
-    expected.debug = "Wi-Fi details are only asked for on the machine itself";
+    expected.debug = "no CoreWLAN interface for wlan0: Wi-Fi details are only asked for on the machine itself";
     EXPECT_EQ(sampler.sample(true, 3), expected);
     folder.write("proc/net/route", heading + route("eth0", "00000000", "0003", "100"));
     EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::ethernet, "eth0", "Ethernet"}));
@@ -111,6 +114,62 @@ TEST(LinuxNetworkInfo, FollowsTheTreesOfAnotherMachine) {
     folder.remove("proc/net/route");
     const auto gone = makeSamplingSources({folder.path("proc"), folder.path("sys")});
     EXPECT_EQ(NetworkInfoSampler(*gone.networkInfo).sample(true, 3), NetworkInfo());
+}
+
+struct RouteOverWiFi : DefaultRoutes {
+    explicit RouteOverWiFi(std::shared_ptr<std::uint64_t> count) : news(std::move(count)) {}
+    std::shared_ptr<std::uint64_t> news;
+    DefaultRoute route{3, "wlan0", "192.0.2.1"};
+
+    bool refresh() override { return true; }
+    std::uint64_t generation() const override { return *news; }
+    const DefaultRoute* primary(Family) const override { return &route; }
+};
+
+struct HangingReader : WiFiReader {
+    explicit HangingReader(std::shared_ptr<std::atomic<bool>> gate) : hangs(std::move(gate)) {}
+    std::shared_ptr<std::atomic<bool>> hangs;
+
+    void read(int, WiFiReading& reading) override {
+        while (*hangs)
+            std::this_thread::yield();
+        reading = WiFiReading();
+        reading.signal = -50;
+        reading.ssid = "Home";
+    }
+};
+
+TEST(LinuxNetworkInfo, NewsOfOtherLinksKeepWhatWiFiTold) {
+    const TemporaryFolder folder;
+    folder.write("class/net/wlan0/phy80211/index", "0\n");
+    const auto news = std::make_shared<std::uint64_t>(1);
+    const auto hangs = std::make_shared<std::atomic<bool>>(false);
+    LinuxNetworkInfo source(folder.path(""), std::make_unique<RouteOverWiFi>(news), nullptr,
+                            std::make_unique<HangingReader>(hangs));
+    NetworkInfoSampler sampler(source);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (sampler.sample(true, 3).ssid != "Home" && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::yield();
+    *hangs = true;
+    ++*news;
+    EXPECT_EQ(sampler.sample(true, 3).ssid, "Home");
+    *hangs = false;
+}
+
+/// Routes that work, or worked once.
+struct FailingRoutes : RouteOverWiFi {
+    explicit FailingRoutes(std::uint64_t generation) : RouteOverWiFi(std::make_shared<std::uint64_t>(generation)) {}
+    bool refresh() override { return false; }
+};
+
+TEST(LinuxNetworkInfo, FallsBackForGoodOnlyWhereTheRoutesNeverWorked) {
+    const TemporaryFolder folder;
+    folder.write("net/route", heading + route("eth0", "00000000", "0003", "100"));
+    for (const std::uint64_t generation : {0, 1}) {
+        LinuxNetworkInfo source(folder.path(""), std::make_unique<FailingRoutes>(generation),
+                                std::make_unique<ProcNetRoutes>(folder.path("net")), nullptr);
+        EXPECT_EQ(NetworkInfoSampler(source).sample(true, 3).interface.has_value(), generation == 0);
+    }
 }
 
 } // namespace

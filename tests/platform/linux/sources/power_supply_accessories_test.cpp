@@ -17,7 +17,7 @@ TEST(PowerSupplyAccessories, ReadsTheBatteriesOfDevices) {
                                               AccessoryBattery{"Game Pad", 100, true, other},
                                               AccessoryBattery{"wacom_battery_1", 30, false, other}));
     EXPECT_EQ(scan.accessories[0].address, "AA:BB:CC:00:11:22"); // of the entry's name
-    EXPECT_EQ(scan.accessories[1].address, "");
+    EXPECT_EQ(scan.accessories[1].address, "hidpp_battery_0");
     EXPECT_EQ(scan.accessories[2].address, "AA:BB:CC:DD:EE:0F"); // of the device behind it
     EXPECT_EQ(scan.diagnostics, "power_supply: 4: Desk Keyboard 87%, Wireless Mouse 15%, Game Pad 100%, "
                                 "wacom_battery_1 30%, Silent Headset [no value]");
