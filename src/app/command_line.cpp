@@ -39,6 +39,7 @@ class Parser {
             checkCombination();
         if (!error_.empty())
             return error_;
+        result_.roots = withoutTrailingSlashes(std::move(result_.roots));
         return result_;
     }
 

@@ -23,7 +23,7 @@ struct CommandLine {
     std::optional<std::vector<MenuBarModule>> modules; ///< absent: those enabled in the settings
     std::optional<SettingsTab> settingsTab;
     std::string exportFolder; ///< of `exportScreenshots`
-    KernelRoots roots;
+    KernelRoots roots;        ///< without trailing slashes
 
     /// False for a host that is watched from inside a container: what this machine's services tell is not of it.
     bool watchesThisMachine() const { return roots == KernelRoots(); }

@@ -1,8 +1,9 @@
 #include "app/doctor.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <functional>
+#include <memory>
 
 #include <sys/ioctl.h>
 #include <unistd.h>
@@ -11,12 +12,15 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QLocale>
 #include <QTimer>
 
+#include "app/standard_output.h"
 #include "doctor/examination.h"
 #include "doctor/system_facts.h"
 #include "platform/desktop_services.h"
+#include "support/finishes_within.h"
 
 namespace vantrix {
 namespace {
@@ -26,6 +30,7 @@ using std::chrono::milliseconds;
 constexpr milliseconds betweenPasses{500}; // loads and rates need two looks at the counters
 constexpr milliseconds servicePatience{1000};
 constexpr milliseconds readPatience{2000};
+constexpr const char* bluetoothElsewhere = "Levels are only asked for on the machine itself, not through another root.";
 
 /// Of the terminal, within what can be read; 80 in a file, so that every report looks the same.
 int columns() {
@@ -34,7 +39,79 @@ int columns() {
     return isTerminal ? std::clamp<int>(size.ws_col, 72, 120) : 80;
 }
 
-std::vector<SourceDiagnosis> askServices() {
+/// A report in the making. What may hang is waited for with patience.
+class Doctor {
+  public:
+    Doctor(const KernelRoots& roots, const char* version) : roots_(roots), version_(version) {}
+
+    DoctorReport examine();
+
+    /// True when something still waits for what hangs.
+    bool leftThreadBehind() const { return leftThreadBehind_; }
+
+  private:
+    std::optional<DoctorInstance> findInstance();
+    std::vector<SourceDiagnosis> askSources(const Findings& findings);
+    std::vector<SourceDiagnosis> askServices();
+
+    /// What `ask` gives; absent when it hangs.
+    template<typename Answer>
+    std::optional<Answer> inTime(std::function<Answer()> ask) {
+        const auto answer = std::make_shared<Answer>();
+        if (finishesWithin(readPatience, [answer, ask = std::move(ask)] { *answer = ask(); }))
+            return std::move(*answer);
+        leftThreadBehind_ = true;
+        return std::nullopt;
+    }
+
+    KernelRoots roots_;
+    const char* version_;
+    bool leftThreadBehind_ = false;
+};
+
+void waitUntil(const QElapsedTimer& start, milliseconds time) {
+    QEventLoop loop;
+    QTimer::singleShot(std::max(time - milliseconds(start.elapsed()), milliseconds(0)), &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+/// A report is shown to others: it names the user's folders by what they are for.
+void hidePrivateFolders(DoctorReport& report) {
+    const QString home = QDir::homePath();
+    for (const QString& path : {home, QFileInfo(home).canonicalFilePath()})
+        renameFolder(report, path.toStdString(), "~");
+    for (const char* variable : {"XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR"})
+        renameFolder(report, qEnvironmentVariable(variable).toStdString(), std::string("$") + variable);
+}
+
+std::optional<DoctorInstance> Doctor::findInstance() {
+    using Statistics = std::optional<ProcessStatistics>;
+    const auto pid = runningInstance();
+    if (!pid)
+        return std::nullopt;
+    if (*pid == 0)
+        return DoctorInstance();
+    // To read of its memory waits for whatever it is changing in its address space.
+    auto statistics = inTime<Statistics>([pid = *pid] { return processStatistics(pid); });
+    return DoctorInstance{*pid, statistics.value_or(std::nullopt)};
+}
+
+/// Where nothing is told of the sources, the readings stand alone.
+std::vector<SourceDiagnosis> Doctor::askSources(const Findings& findings) {
+    using Rows = std::vector<SourceDiagnosis>;
+    if (auto rows = inTime<Rows>([roots = roots_] { return diagnoseSources(roots); }))
+        return std::move(*rows);
+    Rows rows;
+    for (const auto& found : findings)
+        rows.push_back({std::string(found.first),
+                        "unknown",
+                        SourceState::ok,
+                        {},
+                        "Where it comes from could not be found out in time."});
+    return rows;
+}
+
+std::vector<SourceDiagnosis> Doctor::askServices() {
     std::vector<SourceDiagnosis> rows;
     const auto services = diagnoseServices(servicePatience);
     QEventLoop loop;
@@ -43,26 +120,13 @@ std::vector<SourceDiagnosis> askServices() {
         loop.quit();
     };
     loop.exec();
+    leftThreadBehind_ = leftThreadBehind_ || services->leftThreadBehind;
     return rows;
 }
 
-void waitUntil(const QElapsedTimer& start, milliseconds time) {
-    QEventLoop loop;
-    QTimer::singleShot(std::max(time - milliseconds(start.elapsed()), milliseconds(0)), &loop, &QEventLoop::quit);
-    loop.exec();
-}
-
-std::optional<DoctorInstance> findInstance() {
-    const auto pid = runningInstance();
-    if (!pid)
-        return std::nullopt;
-    return DoctorInstance{*pid, *pid > 0 ? processStatistics(*pid) : std::nullopt};
-}
-
-DoctorReport makeReport(const KernelRoots& given, const char* version) {
-    const KernelRoots roots = withoutTrailingSlashes(given);
+DoctorReport Doctor::examine() {
     DoctorReport report;
-    auto sources = makeSamplingSources(roots);
+    auto sources = makeSamplingSources(roots_);
     const auto information = std::move(sources.information);
     report.instance = findInstance(); // before the rest costs the machine anything
     Examination examination(std::move(sources), readPatience);
@@ -71,24 +135,22 @@ DoctorReport makeReport(const KernelRoots& given, const char* version) {
     examination.beginPass();
     auto services = askServices();
     waitUntil(start, betweenPasses);
-    report.readings = joined(diagnoseSources(roots), examination.finish());
+    const auto findings = examination.finish();
+    report.readings = joined(askSources(findings), findings);
+    leftThreadBehind_ = leftThreadBehind_ || examination.leftThreadBehind();
     for (SourceDiagnosis& row : services) {
-        auto& rows = row.name == reading_name::bluetooth ? report.readings : report.services;
-        rows.push_back({std::move(row), {}});
+        const bool isReading = row.name == reading_name::bluetooth;
+        if (isReading && roots_ != KernelRoots())
+            row = {row.name, row.source, SourceState::absent, {}, bluetoothElsewhere};
+        (isReading ? report.readings : report.services).push_back({std::move(row), {}});
     }
-    if (roots != KernelRoots()) {
-        renameFolder(report, roots.proc, "<proc>");
-        renameFolder(report, roots.sys, "<sys>");
+    if (roots_ != KernelRoots()) {
+        renameFolder(report, roots_.proc, "<proc>");
+        renameFolder(report, roots_.sys, "<sys>");
     }
-    report.system = systemFacts(version, *information, roots);
-    renameFolder(report, QDir::homePath().toStdString(), "~");
+    report.system = systemFacts(version_, *information, roots_);
+    hidePrivateFolders(report);
     return report;
-}
-
-bool isAnySilent(const DoctorReport& report) {
-    const auto isSilent = [](const DoctorRow& row) { return row.diagnosis.state == SourceState::silent; };
-    return std::any_of(report.readings.begin(), report.readings.end(), isSilent) ||
-           std::any_of(report.services.begin(), report.services.end(), isSilent);
 }
 
 } // namespace
@@ -97,15 +159,13 @@ int runDoctor(const CommandLine& commandLine, const char* version, int& argc, ch
     ignoreBrokenPipes();
     QCoreApplication application(argc, argv);
     QLocale::setDefault(QLocale::c()); // a report is read by others than its user
-    const DoctorReport report = makeReport(commandLine.roots, version);
+    Doctor doctor(commandLine.roots, version);
+    const DoctorReport report = doctor.examine();
     const bool isJSON = commandLine.format == PrintFormat::json;
-    const std::string text = isJSON ? jsonReport(report) : textReport(report, columns());
-    // A reader that went away is the usual end of a pipe, not a fault to report.
-    std::fwrite(text.data(), 1, text.size(), stdout);
-    std::fflush(stdout);
-    if (isAnySilent(report))
-        std::_Exit(0); // a thread may still wait for what is silent; ending in good order would wait for it
-    return 0;
+    const int status = writeOut(isJSON ? jsonReport(report) : textReport(report, columns())).value_or(0);
+    if (doctor.leftThreadBehind())
+        std::_Exit(status); // ending in good order would take away what that thread still uses
+    return status;
 }
 
 } // namespace vantrix

@@ -42,18 +42,13 @@ QJsonObject toJson(const CPUSample& cpu) {
 }
 
 QJsonObject toJson(const MemorySample& memory) {
-    constexpr const char* pressures[] = {"normal", "warning", "critical"};
-    return {{u"total"_s, bytes(memory.total)},
-            {u"app"_s, bytes(memory.app)},
-            {u"wired"_s, bytes(memory.wired)},
-            {u"compressed"_s, bytes(memory.compressed)},
-            {u"swapUsed"_s, bytes(memory.swapUsed)},
-            {u"pressure"_s, QLatin1StringView(pressures[static_cast<int>(memory.pressure)])}};
+    return {{u"total"_s, bytes(memory.total)},       {u"app"_s, bytes(memory.app)},
+            {u"wired"_s, bytes(memory.wired)},       {u"compressed"_s, bytes(memory.compressed)},
+            {u"swapUsed"_s, bytes(memory.swapUsed)}, {u"pressure"_s, QLatin1StringView(wordOf(memory.pressure))}};
 }
 
 QJsonObject toJson(const NetworkInfo& info) {
-    constexpr const char* kinds[] = {"wifi", "ethernet", "other", "offline"};
-    QJsonObject object{{u"kind"_s, QLatin1StringView(kinds[static_cast<int>(info.kind)])}};
+    QJsonObject object{{u"kind"_s, QLatin1StringView(wordOf(info.kind))}};
     putPresent(object, "interface", info.interface);
     putPresent(object, "displayName", info.displayName);
     putPresent(object, "localIP", info.localIP);

@@ -1,11 +1,10 @@
 #include "app/terminal_output.h"
 
-#include <cstdio>
-
 #include <QCoreApplication>
 #include <QTimer>
 
 #include "app/printed_line.h"
+#include "app/standard_output.h"
 #include "app/translations.h"
 #include "menubar/preferences.h"
 #include "monitor/system_monitor.h"
@@ -30,12 +29,11 @@ class LinePrinter {
     LinePrinter(const CommandLine& commandLine, const SystemMonitor& monitor, const UserDefaults& defaults)
         : commandLine_(commandLine), monitor_(monitor), defaults_(defaults) {}
 
-    /// False when there is nothing more to print.
-    bool print() {
-        const std::string line = nextLine() + '\n';
-        const bool written = std::fwrite(line.data(), 1, line.size(), stdout) == line.size();
-        // A reader that went away is the usual end of a pipe, not a fault to report.
-        return written && std::fflush(stdout) == 0 && ++printed_ != commandLine_.count;
+    /// The exit status once there is nothing more to print.
+    std::optional<int> print() {
+        if (const auto status = writeOut(nextLine() + '\n'))
+            return status;
+        return ++printed_ == commandLine_.count ? std::optional(0) : std::nullopt;
     }
 
   private:
@@ -69,8 +67,8 @@ int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
     monitor.sample();
     QTimer::singleShot(firstLook, &monitor, [&] {
         monitor.onUpdate = [&] {
-            if (!printer.print())
-                QCoreApplication::quit();
+            if (const auto status = printer.print())
+                QCoreApplication::exit(*status);
         };
         monitor.start();
         if (commandLine.interval)

@@ -14,36 +14,22 @@ namespace name = reading_name;
 
 constexpr std::size_t timedReads = 5;
 
-/// What one read gave, by reading.
-using Values = std::vector<std::pair<std::string_view, Finding>>;
+/// What one read gave, in the order of its probe's readings; an empty list when it failed.
+using Values = std::vector<Finding>;
 
 double microsecondsSince(std::chrono::steady_clock::time_point start) {
     return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start).count();
 }
 
 Finding value(std::string text, std::string note = {}) {
-    Finding finding;
-    finding.value = std::move(text);
-    finding.note = std::move(note);
-    return finding;
+    return {std::move(text), std::move(note), std::nullopt, false};
 }
 
-/// The sensors of another source, counted.
-class CountedTemperatures : public HIDTemperatureSampler::Source {
-  public:
-    explicit CountedTemperatures(HIDTemperatureSampler::Source* source) : source_(source) {}
-
-    bool read(std::vector<HIDTemperatureSampler::Service>& services) override {
-        const bool isRead = source_ && source_->read(services);
-        count = isRead ? services.size() : 0;
-        return isRead;
-    }
-
-    std::size_t count = 0;
-
-  private:
-    HIDTemperatureSampler::Source* source_;
-};
+double median(std::vector<double>& numbers) {
+    const auto middle = numbers.begin() + static_cast<std::ptrdiff_t>(numbers.size() / 2);
+    std::nth_element(numbers.begin(), middle, numbers.end());
+    return *middle;
+}
 
 } // namespace
 
@@ -52,10 +38,7 @@ struct Examination::Machine {
     explicit Machine(SamplingSources given)
         : sources(std::move(given)), cpu(*sources.cpu), memory(*sources.memory),
           network(*sources.network, *sources.clock), disk(*sources.disks, *sources.volume, *sources.clock),
-          countedTemperatures(sources.temperatures.get()),
-          temperatures(nullptr, &countedTemperatures, nullptr, *sources.clock),
-          keys(sources.sensorKeys.get(), nullptr, nullptr, *sources.clock),
-          energy(nullptr, nullptr, sources.energy.get(), *sources.clock) {
+          sensors(sources.sensorKeys.get(), sources.temperatures.get(), sources.energy.get(), *sources.clock) {
         if (sources.networkInfo)
             networkInfo.emplace(*sources.networkInfo);
         if (sources.gpu)
@@ -66,55 +49,45 @@ struct Examination::Machine {
 
     Values readCPU() {
         const CPUSample* sample = cpu.sample();
-        return {{name::processor, value(sample && !cpu.isBaseline() ? compactPercent(sample->total) : "")}};
+        return {value(sample && !cpu.isBaseline() ? compactPercent(sample->total) : "")};
     }
     Values readMemory() {
         const auto sample = memory.sample();
         if (!sample)
             return {};
-        return {{name::memory, value(memoryUseText(*sample))}, {name::pressure, value(pressureText(sample->pressure))}};
+        return {value(memoryUseText(*sample)), value(wordOf(sample->pressure))};
     }
     Values readNetwork() {
         const auto sample = network.sample();
-        return {{name::network, value(sample ? networkText(*sample) : "")}};
+        return {value(sample ? networkText(*sample) : "")};
     }
     Values readConnection() {
         if (!networkInfo)
             return {};
         const NetworkInfo& info = networkInfo->sample(true, LocationAccess::authorizedAlways);
         const bool isOverWiFi = info.kind == NetworkInfo::Kind::wifi;
-        return {{name::connection, value(connectionText(info))},
-                {name::wifi, value(signalText(info), isOverWiFi ? "" : "The connection does not go over it.")}};
+        return {value(wordOf(info.kind)),
+                value(signalText(info), isOverWiFi ? "" : "The connection does not go over it.")};
     }
     Values readDisk() {
         const DiskSample sample = disk.sample();
-        return {{name::diskSpace, value(diskSpaceText(sample))}, {name::diskRates, value(diskRatesText(sample))}};
+        return {value(diskSpaceText(sample)), value(diskRatesText(sample))};
     }
     Values readGPU() {
         const auto load = gpu ? gpu->sample() : std::nullopt;
-        return {{name::gpu, value(load ? compactPercent(*load) : "")}};
+        return {value(load ? compactPercent(*load) : "")};
     }
-    Values readTemperatures() {
-        const SensorsSample& sample = temperatures.sample();
-        const std::size_t all = countedTemperatures.count;
-        const std::size_t missing = all - sample.all.size();
-        const std::string note = std::to_string(missing) + " of " + std::to_string(all) + " sensors give no value.";
-        return {{name::temperatures, value(temperaturesText(sample), missing > 0 ? note : "")}};
-    }
-    Values readKeys() {
-        const SensorsSample& sample = keys.sample();
-        return {{name::fans, value(fansText(sample))}, {name::systemPower, value(wattsText(sample.systemPower))}};
-    }
-    Values readEnergy() {
-        const auto components = energy.sample().components;
-        return {{name::chipPower, value(components ? wattsText(components->cpu) : "")}};
+    Values readSensors() {
+        const SensorsSample& sample = sensors.sample();
+        return {value(temperaturesText(sample)), value(fansText(sample)), value(wattsText(sample.systemPower)),
+                value(sample.components ? wattsText(sample.components->cpu) : "")};
     }
     Values readBattery() {
         const auto sample = battery ? battery->sample() : std::nullopt;
-        return {{name::battery, value(sample ? batteryText(*sample) : "")}};
+        return {value(sample ? batteryText(*sample) : "")};
     }
     Values readAccessories() {
-        return {{name::accessories, value(sources.accessories ? accessoriesText(sources.accessories->scan()) : "")}};
+        return {value(sources.accessories ? accessoriesText(sources.accessories->scan()) : "")};
     }
 
     SamplingSources sources;
@@ -124,32 +97,32 @@ struct Examination::Machine {
     std::optional<NetworkInfoSampler> networkInfo;
     DiskSampler disk;
     std::optional<GPUSampler> gpu;
-    CountedTemperatures countedTemperatures;
-    SensorsSampler temperatures;
-    SensorsSampler keys;
-    SensorsSampler energy;
+    SensorsSampler sensors;
     std::optional<BatterySampler> battery;
 };
 
 struct Examination::Probe {
-    std::string_view name; ///< the reading that has the cost
+    std::vector<std::string_view> readings; ///< all that a read gives; the first has the cost
     Values (Machine::*read)();
     bool isOnPass = true; ///< read on every pass, and quickly
 };
 
+struct Examination::Measured {
+    Values values;
+    double microseconds = 0.0;
+};
+
 const std::vector<Examination::Probe>& Examination::probes() {
     static const std::vector<Probe> all{
-        {name::processor, &Machine::readCPU},
-        {name::memory, &Machine::readMemory},
-        {name::network, &Machine::readNetwork},
-        {name::connection, &Machine::readConnection},
-        {name::diskSpace, &Machine::readDisk},
-        {name::gpu, &Machine::readGPU},
-        {name::temperatures, &Machine::readTemperatures},
-        {name::fans, &Machine::readKeys},
-        {name::chipPower, &Machine::readEnergy},
-        {name::battery, &Machine::readBattery},
-        {name::accessories, &Machine::readAccessories, false},
+        {{name::processor}, &Machine::readCPU},
+        {{name::memory, name::pressure}, &Machine::readMemory},
+        {{name::network}, &Machine::readNetwork},
+        {{name::connection, name::wifi}, &Machine::readConnection},
+        {{name::diskSpace, name::diskRates}, &Machine::readDisk},
+        {{name::gpu}, &Machine::readGPU},
+        {{name::temperatures, name::fans, name::systemPower, name::chipPower}, &Machine::readSensors},
+        {{name::battery}, &Machine::readBattery},
+        {{name::accessories}, &Machine::readAccessories, false},
     };
     return all;
 }
@@ -165,36 +138,47 @@ void Examination::beginPass() {
     }
 }
 
-Findings Examination::finish() {
-    struct Timed {
-        Values values;
+/// Absent where it hangs.
+std::optional<Examination::Measured> Examination::measure(std::size_t place) {
+    const Probe& probe = probes()[place];
+    const auto measured = std::make_shared<Measured>();
+    // A slow source is read less often, so that only one that hangs uses up the patience.
+    const double enough = std::chrono::duration<double, std::micro>(patience_).count() / 4.0;
+    const auto read = [measured, enough, machine = machine_, read = probe.read,
+                       most = probe.isOnPass ? timedReads : 1] {
         std::vector<double> costs;
+        for (double spent = 0.0; costs.size() < most && spent < enough; spent += costs.back()) {
+            const auto start = std::chrono::steady_clock::now();
+            Values values = ((*machine).*read)();
+            costs.push_back(microsecondsSince(start));
+            if (costs.size() == 1) // later ones measure rates over no time
+                measured->values = std::move(values);
+        }
+        measured->microseconds = median(costs);
     };
+    hangs_[place] = hangs_[place] || !finishesWithin(patience_, read);
+    return hangs_[place] ? std::nullopt : std::optional(std::move(*measured));
+}
+
+Findings Examination::finish() {
     Findings findings;
     for (std::size_t i = 0; i < probes().size(); ++i) {
-        const Probe& probe = probes()[i];
-        const auto timed = std::make_shared<Timed>();
-        const auto read = [timed, machine = machine_, read = probe.read, count = probe.isOnPass ? timedReads : 1] {
-            while (timed->costs.size() < count) {
-                const auto start = std::chrono::steady_clock::now();
-                Values values = ((*machine).*read)();
-                timed->costs.push_back(microsecondsSince(start));
-                if (timed->costs.size() == 1) // later ones measure rates over no time
-                    timed->values = std::move(values);
-            }
-        };
-        if (hangs_[i] || !finishesWithin(patience_, read)) {
-            findings[std::string(probe.name)].isSilent = true;
-            continue;
+        const auto& readings = probes()[i].readings;
+        auto measured = measure(i);
+        Values values = measured ? std::move(measured->values) : Values();
+        values.resize(readings.size());
+        for (std::size_t j = 0; j < readings.size(); ++j) {
+            values[j].isSilent = !measured;
+            findings[readings[j]] = std::move(values[j]);
         }
-        for (const auto& [reading, finding] : timed->values)
-            findings[std::string(reading)] = finding;
-        std::nth_element(timed->costs.begin(),
-                         timed->costs.begin() + static_cast<std::ptrdiff_t>(timed->costs.size() / 2),
-                         timed->costs.end());
-        findings[std::string(probe.name)].microseconds = timed->costs[timed->costs.size() / 2];
+        if (measured)
+            findings[readings.front()].microseconds = measured->microseconds;
     }
     return findings;
+}
+
+bool Examination::leftThreadBehind() const {
+    return std::find(hangs_.begin(), hangs_.end(), true) != hangs_.end();
 }
 
 } // namespace vantrix

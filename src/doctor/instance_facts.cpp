@@ -11,14 +11,14 @@ std::string decimal(double value, int digits) {
     return QString::number(value, 'f', digits).toStdString();
 }
 
-std::string perTime(double amount, double seconds, double unit) {
-    return seconds > 0.0 ? decimal(amount * unit / seconds, 2) : std::string("–");
+std::string perTime(double amount, double seconds, double unit, int digits) {
+    return seconds > 0.0 ? decimal(amount * unit / seconds, digits) : std::string("–");
 }
 
 std::string cpuText(const ProcessStatistics& statistics) {
     const double all = statistics.userTime + statistics.systemTime;
     return decimal(all, 2) + " s (program " + decimal(statistics.userTime, 2) + ", kernel " +
-           decimal(statistics.systemTime, 2) + "), " + perTime(all, statistics.uptime, 60.0) + " s per minute";
+           decimal(statistics.systemTime, 2) + "), " + perTime(all, statistics.uptime, 60.0, 2) + " s per minute";
 }
 
 std::string memoryTexts(const ProcessStatistics& statistics) {
@@ -32,13 +32,13 @@ std::string wakeUpsText(const ProcessStatistics& statistics) {
     if (!statistics.wakeUps)
         return "may not be read";
     return std::to_string(*statistics.wakeUps) + ", " +
-           perTime(static_cast<double>(*statistics.wakeUps), statistics.uptime, 1.0) + " per second, " +
+           perTime(static_cast<double>(*statistics.wakeUps), statistics.uptime, 1.0, 1) + " per second, " +
            std::to_string(statistics.threads) + (statistics.threads == 1 ? " thread" : " threads");
 }
 
 } // namespace
 
-std::string durationText(double seconds) {
+std::string uptimeText(double seconds) {
     const auto all = static_cast<long long>(seconds);
     const auto joined = [](long long large, const char* largeUnit, long long small, const char* smallUnit) {
         std::string text = std::to_string(large) + largeUnit;
@@ -60,9 +60,9 @@ std::vector<std::pair<std::string, std::string>> instanceFacts(const std::option
         return {{"Process", "Runs, but out of sight: in another container or sandbox."}};
     const std::string pid = std::to_string(instance->pid);
     if (!instance->statistics)
-        return {{"Process", pid + ", whose /proc files may not be read"}};
+        return {{"Process", pid + ", whose /proc files cannot be read"}};
     const ProcessStatistics& statistics = *instance->statistics;
-    return {{"Process", pid + ", for " + durationText(statistics.uptime)},
+    return {{"Process", pid + ", for " + uptimeText(statistics.uptime)},
             {"CPU time", cpuText(statistics)},
             {"Memory", memoryTexts(statistics)},
             {"Wake-ups", wakeUpsText(statistics)}};

@@ -12,6 +12,6 @@ namespace vantrix {
 std::vector<std::pair<std::string, std::string>> instanceFacts(const std::optional<DoctorInstance>& instance);
 
 /// "45 s", "12 min", "3 h 5 min", "2 d 4 h".
-std::string durationText(double seconds);
+std::string uptimeText(double seconds);
 
 } // namespace vantrix

@@ -18,34 +18,8 @@ std::string memoryUseText(const MemorySample& memory) {
     return memoryText(usedMemory(memory)).toStdString() + " of " + memoryText(memory.total).toStdString();
 }
 
-std::string pressureText(MemorySample::Pressure pressure) {
-    switch (pressure) {
-    case MemorySample::Pressure::normal:
-        break;
-    case MemorySample::Pressure::warning:
-        return "warning";
-    case MemorySample::Pressure::critical:
-        return "critical";
-    }
-    return "normal";
-}
-
 std::string networkText(const NetworkSample& network) {
     return "in " + compactRate(network.download) + "/s, out " + compactRate(network.upload) + "/s";
-}
-
-std::string connectionText(const NetworkInfo& info) {
-    switch (info.kind) {
-    case NetworkInfo::Kind::wifi:
-        return "Wi-Fi";
-    case NetworkInfo::Kind::ethernet:
-        return "Ethernet";
-    case NetworkInfo::Kind::other:
-        return "other";
-    case NetworkInfo::Kind::offline:
-        break;
-    }
-    return "offline";
 }
 
 std::string signalText(const NetworkInfo& info) {

@@ -16,9 +16,7 @@ namespace vantrix {
 // where a sample holds no such value.
 
 std::string memoryUseText(const MemorySample& memory);
-std::string pressureText(MemorySample::Pressure pressure);
 std::string networkText(const NetworkSample& network);
-std::string connectionText(const NetworkInfo& info);
 std::string signalText(const NetworkInfo& info);
 std::string diskSpaceText(const DiskSample& disk);
 std::string diskRatesText(const DiskSample& disk);

@@ -65,6 +65,8 @@ class ServiceDiagnoses {
     /// Called once on the main thread, from the event loop: when all answered, or when those that did not within the
     /// patience are known to be silent.
     std::function<void(std::vector<SourceDiagnosis>)> finished;
+    /// True when a bus or a display still keeps a thread waiting.
+    bool leftThreadBehind = false;
 };
 
 /// Starts asking. Starts no service, and changes nothing. May wait for a bus that does not answer, as long as
@@ -78,7 +80,7 @@ struct ProcessStatistics {
     double systemTime = 0.0;                    ///< CPU seconds spent in the kernel for it
     std::optional<std::uint64_t> residentBytes; ///< in memory, shared pages included
     std::optional<std::uint64_t> ownBytes;      ///< what would be free without it
-    std::optional<std::uint64_t> wakeUps;       ///< context switches of the threads that still run
+    std::optional<std::uint64_t> wakeUps;       ///< of the threads that still run
     int threads = 0;
 
     bool operator==(const ProcessStatistics&) const = default;

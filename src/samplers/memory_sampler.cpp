@@ -15,6 +15,11 @@ MemorySample::Pressure pressureOfLevel(std::optional<std::int64_t> level) {
 
 } // namespace
 
+const char* wordOf(MemorySample::Pressure pressure) {
+    constexpr const char* words[] = {"normal", "warning", "critical"};
+    return words[static_cast<int>(pressure)];
+}
+
 std::uint64_t usedMemory(const MemorySample& memory) {
     constexpr auto fault = "the sum of app, wired and compressed memory overflows";
     return checkedAdd(checkedAdd(memory.app, memory.wired, fault), memory.compressed, fault);

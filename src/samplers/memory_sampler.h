@@ -19,6 +19,9 @@ struct MemorySample {
     bool operator==(const MemorySample&) const = default;
 };
 
+/// "normal", "warning" or "critical".
+const char* wordOf(MemorySample::Pressure pressure);
+
 /// app + wired + compressed, bytes. A sum past 64 bits is a fault.
 std::uint64_t usedMemory(const MemorySample& memory);
 

@@ -2,6 +2,11 @@
 
 namespace vantrix {
 
+const char* wordOf(NetworkInfo::Kind kind) {
+    constexpr const char* words[] = {"wifi", "ethernet", "other", "offline"};
+    return words[static_cast<int>(kind)];
+}
+
 std::optional<std::string_view> signalQuality(std::optional<int> rssi) {
     if (!rssi)
         return std::nullopt;

@@ -24,6 +24,9 @@ struct NetworkInfo {
     bool operator==(const NetworkInfo&) const = default;
 };
 
+/// "wifi", "ethernet", "other" or "offline".
+const char* wordOf(NetworkInfo::Kind kind);
+
 /// How good a received signal of `rssi` dBm is, in English; absent when the signal is not known.
 std::optional<std::string_view> signalQuality(std::optional<int> rssi);
 

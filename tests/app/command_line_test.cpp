@@ -39,13 +39,19 @@ TEST(CommandLine, ReadsEveryRequest) {
 
 TEST(CommandLine, ReadsThePrintOptions) {
     const auto parsed = parseCommandLine({"--print", "waybar", "--interval", "0.5", "--count", "3", "--modules",
-                                          "disk,cpu", "--proc-root", "/host/proc", "--sys-root", "/host/sys"});
+                                          "disk,cpu", "--proc-root", "/host/proc/", "--sys-root", "/host/sys//"});
     const auto& line = std::get<CommandLine>(parsed);
     EXPECT_EQ(line.format, PrintFormat::waybar);
     EXPECT_EQ(line.interval, 0.5);
     EXPECT_EQ(line.count, 3);
     EXPECT_EQ(line.modules, (std::vector{MenuBarModule::disk, MenuBarModule::cpu}));
     EXPECT_EQ(line.roots, (KernelRoots{"/host/proc", "/host/sys"}));
+}
+
+TEST(CommandLine, TheUsualRootsAreThisMachinesHoweverTheyAreWritten) {
+    for (const auto& roots : {std::vector<std::string>{"--proc-root", "/proc/"}, {"--sys-root", "/sys"}, {}})
+        EXPECT_TRUE(std::get<CommandLine>(parseCommandLine(roots)).watchesThisMachine());
+    EXPECT_FALSE(std::get<CommandLine>(parseCommandLine({"--proc-root", "/"})).watchesThisMachine());
 }
 
 TEST(CommandLine, SaysInOneLineWhatIsWrong) {

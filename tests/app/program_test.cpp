@@ -7,6 +7,7 @@
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QImage>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -117,6 +118,14 @@ TEST_F(ProgramTest, AClosedStandardOutputEndsPrintingQuietly) {
     EXPECT_EQ(process.readAllStandardError(), QByteArray());
 }
 
+TEST_F(ProgramTest, AFullDiskIsTold) {
+    process.setStandardOutputFile(u"/dev/full"_s);
+    for (const QStringList& arguments : {QStringList{u"--print"_s, u"text"_s}, QStringList{u"--doctor"_s}}) {
+        EXPECT_EQ(run(arguments), 1);
+        EXPECT_EQ(errors, u"vantrix: cannot write: No space left on device\n"_s);
+    }
+}
+
 TEST_F(ProgramTest, ExportsTheSamePicturesEachTime) {
     QTemporaryDir target;
     const QDir pictures(target.filePath(u"not/there/yet"_s));
@@ -171,8 +180,29 @@ TEST_F(ProgramTest, TheDoctorReportsOnAnyMachine) {
         EXPECT_EQ(processor[u"source"], u"<proc>/stat"_s) << machine;
         EXPECT_GT(processor[u"microseconds"].toDouble(), 0.0) << machine;
         EXPECT_FALSE(report.contains(u"instance"_s)) << machine;
+        const auto bluetooth = report[u"readings"].toArray().last();
+        EXPECT_EQ(bluetooth[u"name"], u"Bluetooth"_s) << machine;
+        EXPECT_TRUE(bluetooth[u"reason"].toString().endsWith(u"not through another root."_s)) << machine;
     }
     EXPECT_TRUE(QDir(folder.path()).isEmpty()); // it looked, and left nothing behind
+}
+
+TEST_F(ProgramTest, TheDoctorKeepsTheUsersFoldersToItself) {
+    QTemporaryDir people;
+    const QString home = people.filePath(u"ann"_s);
+    ASSERT_TRUE(QDir(people.path()).mkpath(u"disk2/ann/host"_s));
+    ASSERT_TRUE(QFile::link(people.filePath(u"disk2/ann"_s), home)); // a link, as on large machines
+    auto environment = process.processEnvironment();
+    environment.insert(u"HOME"_s, home);
+    environment.insert(u"XDG_CONFIG_HOME"_s, people.filePath(u"settings/ann"_s));
+    environment.remove(u"XDG_RUNTIME_DIR"_s);
+    environment.insert(u"XDG_STATE_HOME"_s, people.filePath(u"state/ann"_s));
+    process.setProcessEnvironment(environment);
+    EXPECT_EQ(run({u"--doctor"_s, u"--sys-root"_s, people.filePath(u"disk2/ann/host"_s)}), 0);
+    for (const char* shown : {"<sys> ~/host", "$XDG_CONFIG_HOME/vantrix/settings.json", "$XDG_STATE_HOME/vantrix/",
+                              "$XDG_CONFIG_HOME/autostart/"})
+        EXPECT_TRUE(output.contains(QLatin1StringView(shown))) << shown << '\n' << output.toStdString();
+    EXPECT_FALSE(output.contains(people.path())) << output.toStdString();
 }
 
 TEST_F(ProgramTest, TheDoctorTellsWhatTheRunningInstanceCosts) {

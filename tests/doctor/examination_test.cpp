@@ -1,6 +1,7 @@
 #include "doctor/examination.h"
 
 #include <future>
+#include <thread>
 
 #include <gmock/gmock.h>
 
@@ -43,9 +44,9 @@ TEST(Examination, TakesLoadsAndRatesBetweenItsPasses) {
 }
 
 TEST(Examination, ASourceThatHangsIsLeftBehindAlone) {
-    struct Hanging : GPUSampler::Source {
+    struct Hanging : MemorySampler::Source {
         std::shared_future<void> end;
-        std::optional<std::span<const Properties>> read() override {
+        std::optional<MemorySampler::Statistics> read() override {
             end.wait();
             return std::nullopt;
         }
@@ -55,19 +56,46 @@ TEST(Examination, ASourceThatHangsIsLeftBehindAlone) {
     auto sources = machine.makeSources();
     auto hanging = std::make_unique<Hanging>();
     hanging->end = end.get_future().share();
-    sources.gpu = std::move(hanging);
+    sources.memory = std::move(hanging);
     Findings findings;
     {
         Examination examination(std::move(sources), std::chrono::milliseconds(1000));
         examination.beginPass();
         machine.cpu->advance(50, 100);
         findings = examination.finish();
+        EXPECT_TRUE(examination.leftThreadBehind());
     }
-    EXPECT_TRUE(findings["GPU"].isSilent);
     EXPECT_EQ(findings["Processor"].value, "50%");
-    const auto rows = joined({source("GPU")}, findings);
-    EXPECT_EQ(rows.front().diagnosis.state, SourceState::silent);
+    // Both that the read would have given; and whether or not a row tells of it, the thread is there.
+    const auto rows = joined({source("Memory", SourceState::absent), source("Pressure")}, findings);
+    EXPECT_EQ(rows.front().diagnosis.state, SourceState::absent);
+    EXPECT_EQ(rows.back().diagnosis.state, SourceState::silent);
+    EXPECT_THAT(rows.back().diagnosis.reason, HasSubstr("did not end in time"));
     end.set_value(); // the read ends after what it was for
+}
+
+TEST(Examination, AReadThatFailsLeavesNoneOfItsReadingsWithoutWords) {
+    fakes::FakeMachine machine;
+    Examination examination(machine.makeSources(), patience);
+    machine.memory->statistics.reset();
+    const auto rows = joined({source("Memory"), source("Pressure"), source("Wi-Fi")}, examination.finish());
+    for (const DoctorRow& row : rows)
+        EXPECT_EQ(row.diagnosis.state, SourceState::silent) << row.diagnosis.name;
+}
+
+TEST(Examination, ASlowSourceDoesNotHang) {
+    struct Slow : GPUSampler::Source {
+        std::optional<std::span<const Properties>> read() override {
+            std::this_thread::sleep_for(std::chrono::milliseconds(250)); // several reads outlast the patience
+            return std::nullopt;
+        }
+    };
+    fakes::FakeMachine machine;
+    auto sources = machine.makeSources();
+    sources.gpu = std::make_unique<Slow>();
+    Examination examination(std::move(sources), std::chrono::milliseconds(1000));
+    EXPECT_FALSE(examination.finish()["GPU"].isSilent);
+    EXPECT_FALSE(examination.leftThreadBehind());
 }
 
 TEST(JoinedRows, SayWhatSourceAndValueTellTogether) {

@@ -67,7 +67,7 @@ TEST(DoctorText, PutsRowsInColumnsAndTheRestBelow) {
               "  Process   77, for 2 h\n"
               "  CPU time  4.00 s (program 3.00, kernel 1.00), 0.03 s per minute\n"
               "  Memory    48 MB, of which 10 MB its own\n"
-              "  Wake-ups  14400, 2.00 per second, 4 threads\n");
+              "  Wake-ups  14400, 2.0 per second, 4 threads\n");
 }
 
 TEST(DoctorText, KeepsToTheWidth) {
@@ -91,12 +91,12 @@ TEST(DoctorText, WordsOfServicesCannotCommandTheTerminal) {
 TEST(DoctorText, TellsOfInstancesOutOfSight) {
     EXPECT_THAT(textReport({}, 80), HasSubstr("RUNNING INSTANCE\n  None in this session.\n"));
     EXPECT_THAT(instanceFacts(DoctorInstance{0, {}}).front().second, HasSubstr("out of sight"));
-    EXPECT_THAT(instanceFacts(DoctorInstance{5, {}}).front().second, HasSubstr("may not be read"));
+    EXPECT_THAT(instanceFacts(DoctorInstance{5, {}}).front().second, HasSubstr("cannot be read"));
     const auto justStarted = instanceFacts(DoctorInstance{5, ProcessStatistics()});
     EXPECT_THAT(justStarted[1].second, HasSubstr("– s per minute")); // no division by no time
 }
 
-TEST(DoctorText, DurationsAreShort) {
+TEST(DoctorText, UptimesAreShort) {
     const std::pair<double, const char*> rows[] = {{0.4, "0 s"},
                                                    {59.9, "59 s"},
                                                    {3599, "59 min"},
@@ -105,7 +105,7 @@ TEST(DoctorText, DurationsAreShort) {
                                                    {86400, "1 d"},
                                                    {86400 * 9 + 7200, "9 d 2 h"}};
     for (const auto& [seconds, text] : rows)
-        EXPECT_EQ(durationText(seconds), text);
+        EXPECT_EQ(uptimeText(seconds), text);
 }
 
 TEST(DoctorJSON, HoldsWhatTheTextDoes) {

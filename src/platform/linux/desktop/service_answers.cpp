@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QMap>
 
+#include "platform/linux/desktop/bluez_objects.h"
 #include "platform/linux/desktop/desktop_wishes.h"
 
 namespace vantrix {
@@ -16,8 +17,7 @@ using Question = ServiceQuestion;
 
 constexpr const char* noSessionBus = "There is no session bus to ask.";
 
-/// By object, then by interface, the properties of each.
-using ManagedObjects = QMap<QDBusObjectPath, QMap<QString, QVariantMap>>;
+using ManagedObjects = QMap<QDBusObjectPath, BluezObjects::Interfaces>;
 
 SourceState stateOfError(const QDBusMessage& error) {
     switch (QDBusError(error).type()) {
@@ -80,17 +80,33 @@ std::string notifierProcess(const ServiceAnswers& answers) {
     return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed().toStdString() : std::string();
 }
 
+/// The row of a status area with a watcher, which may be one without a panel.
+SourceDiagnosis watchedStatusArea(const ServiceAnswers& answers, SourceDiagnosis row) {
+    const std::string process = notifierProcess(answers);
+    const auto answer = argumentsOf(answers, Question::notifierHost).constFirst().value<QDBusVariant>();
+    // MATE's panel, its own watcher, says that there is no host, and shows items all the same.
+    const bool isMate = process == "notification-ar" || process == "mate-panel";
+    if (answer.variant().toBool() || isMate) {
+        row.value = process;
+        return row;
+    }
+    row.state = SourceState::absent;
+    row.reason = (process.empty() ? "A program" : process) +
+                 " keeps the list of status items, but no panel shows them: add a system tray to one.";
+    return row;
+}
+
 std::string bluetoothValue(const ManagedObjects& objects, SourceDiagnosis& row) {
     int adapters = 0;
     bool isOn = false;
     int batteries = 0;
     for (const auto& interfaces : objects) {
-        const auto adapter = interfaces.find(QStringLiteral("org.bluez.Adapter1"));
+        const auto adapter = interfaces.find(bluez::adapter);
         if (adapter != interfaces.end()) {
             ++adapters;
             isOn = isOn || adapter->value(QStringLiteral("Powered")).toBool();
         }
-        batteries += interfaces.contains(QStringLiteral("org.bluez.Battery1")) ? 1 : 0;
+        batteries += interfaces.contains(bluez::battery) ? 1 : 0;
     }
     if (adapters == 0) {
         row.state = SourceState::absent;
@@ -131,7 +147,7 @@ SourceDiagnosis diagnoseStatusArea(const ServiceAnswers& answers, TrayAnswer tra
     row.state = stateOf(answers, Question::notifierHost, u"v");
     row.reason = usualReason(row.state);
     if (row.state == SourceState::ok)
-        row.value = notifierProcess(answers);
+        return watchedStatusArea(answers, std::move(row));
     if (row.state == SourceState::absent)
         row.reason = tray == TrayAnswer::noServer && !hasWayland
                          ? "There is no display here: the program prints to the terminal instead."

@@ -56,8 +56,11 @@ BusAddresses BusAddresses::standard() {
 }
 
 LinuxServiceDiagnoses::LinuxServiceDiagnoses(const BusAddresses& addresses, std::chrono::milliseconds patience)
-    : patience_(patience), session_(reach("Session bus", addresses.session)),
-      system_(reach("System bus", addresses.system)), tray_(askXServer(patience)) {
+    : patience_(patience), session_(reach("Session bus", addresses.session, true)),
+      system_(reach("System bus", addresses.system, session_.diagnosis.state != SourceState::silent)),
+      tray_(askXServer(patience)) {
+    leftThreadBehind = session_.diagnosis.state == SourceState::silent ||
+                       system_.diagnosis.state == SourceState::silent || tray_ == TrayAnswer::silent;
     const QString notifications = QStringLiteral("org.freedesktop.Notifications");
     const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
     ask(session_, Question::startableServices, callBus(QStringLiteral("ListActivatableNames")));
@@ -78,14 +81,15 @@ LinuxServiceDiagnoses::LinuxServiceDiagnoses(const BusAddresses& addresses, std:
         QTimer::singleShot(0, this, &LinuxServiceDiagnoses::report);
 }
 
-LinuxServiceDiagnoses::Bus LinuxServiceDiagnoses::reach(const char* name, const std::optional<QString>& address) const {
+LinuxServiceDiagnoses::Bus LinuxServiceDiagnoses::reach(const char* name, const std::optional<QString>& address,
+                                                        bool mayConnect) const {
     Bus bus{nullptr, {name, "", SourceState::absent, {}, {}}};
     if (!address) {
         bus.diagnosis.reason = "There is none in this session: alerts, panel items and the desktop's colours need it.";
         return bus;
     }
     bus.diagnosis.source = address->section(u',', 0, 0).toStdString();
-    if (session_.diagnosis.state == SourceState::silent) {
+    if (!mayConnect) {
         bus.diagnosis.state = SourceState::silent;
         bus.diagnosis.reason = "Not asked: the toolkit still waits for the session bus.";
         return bus;

@@ -34,13 +34,13 @@ class LinuxServiceDiagnoses : public QObject, public ServiceDiagnoses {
         SourceDiagnosis diagnosis;
     };
 
-    Bus reach(const char* name, const std::optional<QString>& address) const;
+    Bus reach(const char* name, const std::optional<QString>& address, bool mayConnect) const;
     void ask(Bus& bus, ServiceQuestion question, const QDBusMessage& message);
     void report();
 
     std::chrono::milliseconds patience_;
-    Bus session_; // reached first
-    Bus system_;
+    Bus session_;
+    Bus system_; // not reached for while the toolkit waits for the session bus
     TrayAnswer tray_;
     ServiceAnswers answers_;
     int unanswered_ = 0;

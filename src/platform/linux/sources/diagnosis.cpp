@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include "platform/linux/sources/diagnosis_parts.h"
-#include "platform/linux/sources/kernel_roots.h"
 #include "platform/linux/sources/nvidia_library.h"
 
 namespace vantrix {
@@ -42,7 +41,7 @@ SourceDiagnoses diagnoseSources(const DiagnosisTools& tools) {
 }
 
 std::vector<SourceDiagnosis> diagnoseSources(const KernelRoots& roots) {
-    return diagnoseSources(DiagnosisTools{withoutTrailingSlashes(roots), reachOf, isNvidiaLibraryInstalled});
+    return diagnoseSources(DiagnosisTools{roots, reachOf, isNvidiaLibraryInstalled});
 }
 
 } // namespace vantrix

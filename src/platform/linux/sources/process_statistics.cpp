@@ -75,8 +75,8 @@ std::optional<ProcessStatistics> processStatistics(int pid, const std::string& p
         if (thread.starts_with('.'))
             continue;
         const auto status = readStart(pathBelow(threads, thread) + "/status", longest);
-        const auto switches =
-            status ? sumOf(*status, {"voluntary_ctxt_switches:", "nonvoluntary_ctxt_switches:"}) : std::nullopt;
+        // A thread goes to sleep as often as it wakes up; the other switches are those of a busy machine.
+        const auto switches = status ? sumOf(*status, {"voluntary_ctxt_switches:"}) : std::nullopt;
         if (!switches)
             continue; // it just ended
         statistics.wakeUps = statistics.wakeUps.value_or(0) + *switches;

@@ -1,5 +1,7 @@
 #include "platform/linux/desktop/service_diagnosis.h"
 
+#include <sys/prctl.h>
+
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
@@ -74,6 +76,18 @@ TEST_F(ServiceDiagnosisTest, TellsOfEachServiceThatAnswers) {
     EXPECT_EQ(rows.at("Appearance").value, "dark");
     EXPECT_EQ(rows.at("Status area").state, SourceState::ok);
     EXPECT_EQ(rows.at("Status area").value, "app_tests"); // whose process the watcher is
+}
+
+TEST_F(ServiceDiagnosisTest, AWatcherWithoutAPanelIsNoStatusArea) {
+    const auto watcher = answerer(u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s,
+                                  {QVariant::fromValue(QDBusVariant(false))});
+    auto row = ask().at("Status area");
+    EXPECT_EQ(row.state, SourceState::absent);
+    EXPECT_THAT(row.reason, HasSubstr("app_tests keeps the list"));
+    ::prctl(PR_SET_NAME, "notification-ar"); // MATE's: a panel that denies being one
+    row = ask().at("Status area");
+    ::prctl(PR_SET_NAME, "app_tests");
+    EXPECT_EQ(row.state, SourceState::ok);
 }
 
 TEST_F(ServiceDiagnosisTest, AServiceThatHangsIsSilentAndKeepsNobodyWaiting) {

@@ -164,8 +164,8 @@ TEST(ProcessStatistics, SumsWhatTheProcessCost) {
                  "0-f ---p 0 00:00 0 [rollup]\nRss: 48 kB\nPrivate_Clean: 3 kB\nPrivate_Dirty: 7 kB\n");
     folder.write("7/status", "voluntary_ctxt_switches:\t1000\n"); // of the first thread, which is below task too
     folder.write("7/task/7/status", "voluntary_ctxt_switches:\t10\nnonvoluntary_ctxt_switches:\t2\n");
-    folder.write("7/task/8/status", "voluntary_ctxt_switches:\t5\nnonvoluntary_ctxt_switches:\t0\n");
-    EXPECT_EQ(processStatistics(7, folder.path("")), (ProcessStatistics{100.5, 3.0, 1.0, 48 * 1024, 10 * 1024, 17, 2}));
+    folder.write("7/task/8/status", "voluntary_ctxt_switches:\t5\nnonvoluntary_ctxt_switches:\t900\n");
+    EXPECT_EQ(processStatistics(7, folder.path("")), (ProcessStatistics{100.5, 3.0, 1.0, 48 * 1024, 10 * 1024, 15, 2}));
     folder.remove("7/smaps_rollup");
     EXPECT_EQ(processStatistics(7, folder.path("")).value().residentBytes, std::nullopt);
     folder.write("7/stat", "7 (cut) S 1\n");
