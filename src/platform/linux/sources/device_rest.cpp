@@ -6,13 +6,13 @@
 
 namespace vantrix {
 
-DeviceRest::DeviceRest(const std::string& device, bool isDrive) {
+DeviceRest::DeviceRest(const std::string& device, bool isDrive, double interval) : interval_(interval) {
     // The controller of an NVMe drive has no state of its own: that of the PCI device behind it counts.
     for (const std::string& folder : {device, device + "/device"}) {
         const std::string path = folder + "/power/runtime_status";
         const auto status = readStart(path);
         if (status && status != "unsupported\n")
-            runtimeStatus_.emplace_back(path);
+            powers_.push_back({KernelFile(path), AutosuspendGrid(folder)});
     }
     if (!isDrive)
         return;
@@ -25,16 +25,28 @@ DeviceRest::DeviceRest(const std::string& device, bool isDrive) {
     }
 }
 
-DeviceRest::State DeviceRest::look() {
-    const auto isActive = [](KernelFile& file) { return file.read() == "active\n"; };
-    if (!std::all_of(runtimeStatus_.begin(), runtimeStatus_.end(), isActive))
+DeviceRest::State DeviceRest::look(double now) {
+    if (isAsleep())
         return State::asleep;
-    if (scsiState_ && scsiState_->read() != "running\n")
-        return State::asleep;
-    return isIdle() ? State::idle : State::awake;
+    if (isBetweenLines(now) || now < nextQuestion_ || isIdleDisk())
+        return State::idle;
+    nextQuestion_ = now + interval_;
+    return State::awake;
 }
 
-bool DeviceRest::isIdle() {
+bool DeviceRest::isAsleep() {
+    const auto isActive = [](Power& power) { return power.status.read() == "active\n"; };
+    return !std::all_of(powers_.begin(), powers_.end(), isActive) || (scsiState_ && scsiState_->read() != "running\n");
+}
+
+bool DeviceRest::isBetweenLines(double now) {
+    bool isBetween = false;
+    for (Power& power : powers_)
+        isBetween = power.grid.isBetweenLines(now) || isBetween;
+    return isBetween;
+}
+
+bool DeviceRest::isIdleDisk() {
     if (!statistics_)
         return false;
     const auto text = statistics_->read();

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/linux/sources/autosuspend_grid.h"
 #include "platform/linux/sources/kernel_file.h"
 
 namespace vantrix {
@@ -13,24 +14,37 @@ class DeviceRest {
   public:
     enum class State {
         awake,
-        idle,   ///< a spinning disk that did nothing since the last look: asking it would put off its rest
+        idle,   ///< to be left alone on this pass: the last value counts
         asleep, ///< or gone
     };
 
-    /// `device` is the folder of the device behind a chip, <hwmon>/device.
-    explicit DeviceRest(const std::string& device, bool isDrive = false);
+    /// Seconds that the last value of an idle device counts.
+    static constexpr double longestBridge = 60.0;
 
-    /// Reads power/runtime_status, a drive's SCSI state and a spinning disk's statistics, none of which reach the
-    /// device. Asked once on each pass.
-    State look();
+    /// `device` is the folder of the device behind a chip. One whose questions are commands to it is asked only every
+    /// `interval` seconds. A spinning disk is asked only after it did something, so as not to put off its rest.
+    explicit DeviceRest(const std::string& device, bool isDrive = false, double interval = 0.0);
+
+    /// Reads power states, a drive's SCSI state and a spinning disk's statistics, none of which reach the device.
+    /// Asked once on each pass; `now` in seconds. Whoever is told `awake` asks the device.
+    State look(double now);
 
   private:
-    bool isIdle();
+    struct Power {
+        KernelFile status;
+        AutosuspendGrid grid;
+    };
 
-    std::vector<KernelFile> runtimeStatus_;
+    bool isAsleep();
+    bool isBetweenLines(double now);
+    bool isIdleDisk();
+
+    std::vector<Power> powers_;
     std::optional<KernelFile> scsiState_;
     std::optional<KernelFile> statistics_;
     std::string lastStatistics_;
+    double interval_;
+    double nextQuestion_ = 0.0;
 };
 
 } // namespace vantrix

@@ -4,6 +4,7 @@
 #include "platform/linux/sources/diagnosis_parts.h"
 #include "platform/linux/sources/hwmon_chips.h"
 #include "platform/linux/sources/power_supply_accessories.h"
+#include "platform/linux/sources/thermal_zones.h"
 
 namespace vantrix {
 namespace {
@@ -13,10 +14,12 @@ struct Chips {
     int count = 0;
     std::vector<std::string> asleep;
     std::vector<std::string> resting; ///< spinning disks
+    std::vector<std::string> names;   ///< of all
 
     void add(const HwmonChip& chip) {
         ++count;
-        const auto state = DeviceRest(chip.folder + "/device", chip.name == "drivetemp").look();
+        names.push_back(chip.name);
+        const auto state = DeviceRest(chip.device, chip.name == "drivetemp").look(0.0);
         // The name of a wireless device's chip may hold its address.
         const std::string shown = findAddress(chip.name).empty() ? chip.name : "a wireless device";
         if (state == DeviceRest::State::asleep)
@@ -27,7 +30,7 @@ struct Chips {
 };
 
 bool isAccessory(const HwmonChip& chip) {
-    return readName(chip.folder + "/device/scope") == "Device";
+    return readName(chip.device + "/scope") == "Device";
 }
 
 Chips chipsWith(const std::string& sys, std::string_view prefix) {
@@ -61,12 +64,19 @@ SourceDiagnosis diagnoseChips(std::string_view name, const std::string& folder, 
 
 SourceDiagnosis temperatures(const std::string& sys) {
     const Chips chips = chipsWith(sys, "temp");
-    if (chips.count > 0)
-        return diagnoseChips(reading_name::temperatures, sys + "/class/hwmon", chips);
-    const auto zones = sensorNumbers(sys + "/class/thermal", "thermal_zone", "").size();
+    const auto zones = findThermalZones(sys, chips.names).size();
+    const std::string zoneSource =
+        sys + "/class/thermal (" + std::to_string(zones) + (zones == 1 ? " zone)" : " zones)");
+    if (chips.count > 0) {
+        auto row = diagnoseChips(reading_name::temperatures, sys + "/class/hwmon", chips);
+        if (zones > 0) {
+            row.source += ", " + zoneSource;
+            row.state = SourceState::ok;
+        }
+        return row;
+    }
     if (zones > 0)
-        return {std::string(reading_name::temperatures),
-                sys + "/class/thermal (" + std::to_string(zones) + (zones == 1 ? " zone)" : " zones)")};
+        return {std::string(reading_name::temperatures), zoneSource};
     return {std::string(reading_name::temperatures),
             sys + "/class/hwmon",
             SourceState::absent,

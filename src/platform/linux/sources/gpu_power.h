@@ -1,7 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "platform/linux/sources/autosuspend_grid.h"
 #include "platform/linux/sources/kernel_file.h"
 
 namespace vantrix {
@@ -20,22 +22,34 @@ class GPUPowerFile {
     KernelFile status_;
 };
 
-/// Rest for an idle GPU. Every question put to a GPU starts its autosuspend delay anew, so one that is asked on every
-/// pass never falls asleep: after it was found idle it is left alone until it had the time to.
+/// Rest for an idle GPU: one that has nothing to do is asked only at the lines of its grid.
 class GPURest {
   public:
-    explicit GPURest(const std::string& device);
+    static constexpr double idle = 0.5; ///< percent; below this nothing is done
 
-    /// True while the GPU is to be left alone; `now` in seconds.
-    bool isDue(double now) const { return now < until_; }
-    /// Takes note of the load, in percent, that was just read.
-    void note(double percent, double now);
-    void end() { until_ = 0.0; }
+    explicit GPURest(const std::string& device) : grid_(device, usualDelay) {}
+
+    /// Asked once on each pass that finds the GPU awake. True while it is to be left alone; `now` in seconds.
+    bool isDue(double now) {
+        const bool isBetweenLines = grid_.isBetweenLines(now);
+        return isIdle_ && isBetweenLines;
+    }
+    /// Takes note of the load, in percent, that was just read. A GPU that goes on not telling it has its rest, too.
+    void note(std::optional<double> percent) {
+        isIdle_ = percent ? *percent < idle : isSilent_;
+        isSilent_ = !percent;
+    }
+    void end() { isIdle_ = isSilent_ = false; }
+
+    bool mayFallAsleep() const { return grid_.mayFallAsleep(); }
+    void forgetScreens() { grid_.forgetScreens(); }
 
   private:
-    std::string device_;
-    KernelFile control_;
-    double until_ = 0.0;
+    static constexpr double usualDelay = 5.0; // seconds
+
+    AutosuspendGrid grid_;
+    bool isIdle_ = false;
+    bool isSilent_ = false;
 };
 
 } // namespace vantrix

@@ -13,9 +13,14 @@ std::vector<HwmonChip> findHwmonChips(const std::string& sys) {
     std::vector<HwmonChip> chips;
     for (const std::string& entry : entriesStartingWith(root, "hwmon")) {
         std::string folder = resolvedPath(root + '/' + entry);
+        std::string device = folder + "/device";
         std::string name = readName(folder + "/name");
+        if (name.empty()) { // registered the old way: everything is in the device's own folder
+            name = readName(device + "/name");
+            folder = device = resolvedPath(device);
+        }
         if (!name.empty())
-            chips.push_back({std::move(name), std::move(folder)});
+            chips.push_back({std::move(name), std::move(folder), std::move(device)});
     }
     // A resolved folder ends in the number, but begins with the device, which is what tells chips apart.
     std::sort(chips.begin(), chips.end(), [](const HwmonChip& a, const HwmonChip& b) {

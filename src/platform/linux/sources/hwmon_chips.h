@@ -11,7 +11,8 @@ namespace vantrix {
 /// A chip of <sys>/class/hwmon. Its number there changes from start to start; its name and device do not.
 struct HwmonChip {
     std::string name;   ///< its driver's name for it: "coretemp", "nvme", …
-    std::string folder; ///< resolved
+    std::string folder; ///< that of its sensors, resolved
+    std::string device; ///< that of the device behind it; the same where a driver puts the sensors there
 };
 
 /// All chips, sorted by name and device.

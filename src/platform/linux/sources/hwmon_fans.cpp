@@ -6,14 +6,27 @@
 #include "platform/linux/sources/background_thread.h"
 
 namespace vantrix {
-namespace {
 
-std::optional<double> readOnce(const std::string& path) {
-    KernelFile file(path);
-    return readNumber(file);
-}
+/// The speed of a fan, and, with the first of it, its limits.
+class HwmonFans::Probe : public TimedSensor::Probe {
+  public:
+    Probe(const std::string& path, std::shared_ptr<Limits> limits)
+        : path_(path), speed_(path + "_input", 1.0, path + "_fault"), limits_(std::move(limits)) {}
 
-} // namespace
+    std::optional<double> read() override {
+        if (!std::exchange(hasLimits_, true)) {
+            limits_->minimum.set(FileProbe(path_ + "_min", 1.0).read());
+            limits_->maximum.set(FileProbe(path_ + "_max", 1.0).read());
+        }
+        return speed_.read();
+    }
+
+  private:
+    std::string path_;
+    FileProbe speed_;
+    std::shared_ptr<Limits> limits_;
+    bool hasLimits_ = false;
+};
 
 HwmonFans::HwmonFans(std::string sys, std::shared_ptr<const Clock> clock)
     : sys_(std::move(sys)), clock_(std::move(clock)), schedule_({sys_ + "/class/hwmon"}) {}
@@ -21,20 +34,20 @@ HwmonFans::HwmonFans(std::string sys, std::shared_ptr<const Clock> clock)
 void HwmonFans::beginPass() {
     if (schedule_.isDue())
         search();
+    const double now = clock_->uptime();
     for (Chip& chip : chips_)
-        chip.isAwake = chip.rest.look() == DeviceRest::State::awake;
+        chip.state = chip.rest.look(now);
 }
 
 std::optional<double> HwmonFans::speed(int fan) {
     Fan& sensor = fans_[static_cast<std::size_t>(fan)];
-    if (!chips_[sensor.chip].isAwake) {
+    const auto state = chips_[sensor.chip].state;
+    if (state == DeviceRest::State::asleep) {
         sensor.didAnswer = false;
         return std::nullopt;
     }
-    if (!std::exchange(sensor.hasLimits, true)) {
-        sensor.minimum = readOnce(sensor.path + "_min");
-        sensor.maximum = readOnce(sensor.path + "_max");
-    }
+    if (state == DeviceRest::State::idle)
+        return sensor.sensor.lastValue(DeviceRest::longestBridge);
     bool failed = false;
     double now = clock_->uptime();
     const auto value = sensor.read(now, failed);
@@ -51,8 +64,8 @@ void HwmonFans::search() {
         if (numbers.empty())
             continue;
         const auto background = std::make_shared<BackgroundThread>();
-        chips.push_back({DeviceRest(chip.folder + "/device"), false});
-        const bool isAwake = chips.back().rest.look() == DeviceRest::State::awake;
+        chips.push_back({DeviceRest(chip.device), {}});
+        const bool isAwake = chips.back().rest.look(clock_->uptime()) == DeviceRest::State::awake;
         for (const int number : numbers) {
             const std::string path = chip.folder + "/fan" + std::to_string(number);
             fans.push_back(takeOrMake(fans_, path, chip.name, [&] { return makeFan(path, background, isAwake); }));
@@ -66,9 +79,9 @@ void HwmonFans::search() {
 }
 
 HwmonFans::Fan HwmonFans::makeFan(const std::string& path, std::shared_ptr<Background> background, bool isAwake) const {
-    TimedSensor sensor(std::make_unique<FileProbe>(path + "_input", 1.0, path + "_fault"), std::move(background),
-                       clock_);
-    Fan fan{{path, {}, std::move(sensor)}, 0, {}, {}, false, false};
+    const auto limits = std::make_shared<Limits>();
+    TimedSensor sensor(std::make_unique<Probe>(path, limits), std::move(background), clock_);
+    Fan fan{{path, {}, std::move(sensor)}, 0, limits, false};
     fan.didTurn = isAwake && fan.sensor.value().value_or(0.0) > 0.0;
     return fan;
 }

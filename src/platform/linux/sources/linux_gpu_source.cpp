@@ -17,22 +17,23 @@ std::optional<double> KernelGPU::percent(double now) {
         return 0.0;
     }
     if (rest_.isDue(now))
-        return 0.0;
+        return load_;
     if (!meter_ && now >= nextSearch_) {
         meter_ = findMeter(card_, device_);
         nextSearch_ = now + searchInterval;
     }
-    const auto load = meter_ ? meter_->percent(now) : std::nullopt;
-    if (load)
-        rest_.note(*load, now);
-    return load;
+    load_ = meter_ ? meter_->percent(now) : std::nullopt;
+    rest_.note(load_);
+    return load_;
 }
 
 LinuxGPUSource::LinuxGPUSource(const std::string& sys, std::unique_ptr<Clock> clock,
-                               std::unique_ptr<NvidiaLibrary> library, int listingPeriod)
+                               std::unique_ptr<NvidiaLibrary> library, int listingPeriod,
+                               std::shared_ptr<Background> background)
     : clock_(std::move(clock)), cards_(sys + "/class/drm", listingPeriod),
       frequencies_(sys + "/class/devfreq", listingPeriod),
-      nvidiaDevices_(sys + "/bus/pci/drivers/nvidia", listingPeriod), nvidiaGPUs_(std::move(library)) {}
+      nvidiaDevices_(sys + "/bus/pci/drivers/nvidia", listingPeriod),
+      nvidiaGPUs_(std::move(library), std::move(background)) {}
 
 std::optional<std::span<const Properties>> LinuxGPUSource::read() {
     const bool areCardsNew = cards_.refresh();
@@ -55,19 +56,32 @@ std::optional<std::span<const Properties>> LinuxGPUSource::read() {
 }
 
 void LinuxGPUSource::findGPUs() {
-    gpus_.clear();
+    std::vector<KernelGPU> found;
     for (const std::string& name : cards_.names()) {
         if (isGPUCard(name))
-            gpus_.emplace_back(cards_.path() + '/' + name, cards_.path() + '/' + name + "/device");
+            findKernelGPU(cards_.path() + '/' + name, cards_.path() + '/' + name + "/device", found);
     }
     for (const std::string& name : frequencies_.names()) {
         if (isGPUFrequency(name))
-            gpus_.emplace_back("", frequencies_.path() + '/' + name + "/device");
+            findKernelGPU("", frequencies_.path() + '/' + name + "/device", found);
     }
+    gpus_ = std::move(found);
     std::vector<std::string> addresses;
     std::copy_if(nvidiaDevices_.names().begin(), nvidiaDevices_.names().end(), std::back_inserter(addresses),
                  isPCIAddress);
-    nvidiaGPUs_.set(nvidiaDevices_.path(), addresses);
+    nvidiaGPUs_.set(nvidiaDevices_.path(), std::move(addresses));
+}
+
+/// One that is known already is kept with what was counted of it: most of what comes and goes are its screens.
+void LinuxGPUSource::findKernelGPU(const std::string& card, const std::string& device, std::vector<KernelGPU>& found) {
+    const auto known =
+        std::find_if(gpus_.begin(), gpus_.end(), [&](const KernelGPU& gpu) { return gpu.device() == device; });
+    if (known == gpus_.end()) {
+        found.emplace_back(card, device);
+        return;
+    }
+    found.push_back(std::move(*known));
+    found.back().forgetScreens();
 }
 
 } // namespace vantrix

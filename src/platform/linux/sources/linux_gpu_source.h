@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/linux/sources/background_thread.h"
 #include "platform/linux/sources/gpu_meter.h"
 #include "platform/linux/sources/gpu_power.h"
 #include "platform/linux/sources/kernel_folder.h"
@@ -19,8 +20,12 @@ class KernelGPU {
     /// `card` is its entry in <sys>/class/drm, empty where it has none; `device` the folder of the device itself.
     KernelGPU(std::string card, std::string device);
 
+    const std::string& device() const { return device_; }
+
     /// Load in percent, absent when the driver does not tell; `now` in seconds.
     std::optional<double> percent(double now);
+
+    void forgetScreens() { rest_.forgetScreens(); }
 
   private:
     std::string card_;
@@ -28,6 +33,7 @@ class KernelGPU {
     GPUPowerFile power_;
     GPURest rest_;
     std::unique_ptr<GPUMeter> meter_;
+    std::optional<double> load_; ///< percent, when it was last read
     double nextSearch_ = 0.0;
 };
 
@@ -36,12 +42,17 @@ class KernelGPU {
 class LinuxGPUSource : public GPUSampler::Source {
   public:
     LinuxGPUSource(const std::string& sys, std::unique_ptr<Clock> clock, std::unique_ptr<NvidiaLibrary> library,
-                   int listingPeriod = KernelFolder::usualPeriod);
+                   int listingPeriod = KernelFolder::usualPeriod,
+                   std::shared_ptr<Background> background = std::make_shared<BackgroundThread>());
 
     std::optional<std::span<const Properties>> read() override;
 
+    /// That of NVIDIA's GPUs as of the last reading.
+    std::shared_ptr<const NvidiaTemperature> nvidiaTemperature() const { return nvidiaGPUs_.temperature(); }
+
   private:
     void findGPUs();
+    void findKernelGPU(const std::string& card, const std::string& device, std::vector<KernelGPU>& found);
 
     std::unique_ptr<Clock> clock_;
     KernelFolder cards_;

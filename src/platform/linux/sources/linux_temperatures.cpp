@@ -1,18 +1,23 @@
 #include "platform/linux/sources/linux_temperatures.h"
 
 #include <algorithm>
-#include <tuple>
 
 #include "platform/linux/sources/background_thread.h"
-#include "platform/linux/sources/kernel_tree.h"
+#include "platform/linux/sources/thermal_zones.h"
 
 namespace vantrix {
 namespace {
 
 constexpr double frozenAfter = 3600.0; // seconds
-constexpr double idleAge = 60.0;       // seconds that a resting disk's temperature still counts
-
 constexpr double millidegree = 1e-3;
+
+/// Seconds between questions to a chip: those of drives and wireless devices are commands to them, the others reads.
+double intervalOf(std::string_view chip) {
+    constexpr double ofCommands = 15.0;
+    const auto isPrefix = [&](std::string_view prefix) { return chip.starts_with(prefix); };
+    constexpr std::string_view commanded[] = {"nvme", "drivetemp", "iwlwifi", "mt7", "ath"};
+    return std::any_of(std::begin(commanded), std::end(commanded), isPrefix) ? ofCommands : 0.0;
+}
 
 } // namespace
 
@@ -24,21 +29,26 @@ bool FrozenWatch::isFrozen(double value, double now) {
     return now - since_ > frozenAfter;
 }
 
-LinuxTemperatures::LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock)
-    : sys_(std::move(sys)), clock_(std::move(clock)), schedule_({sys_ + "/class/hwmon", sys_ + "/class/thermal"}) {}
+LinuxTemperatures::LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
+                                     std::shared_ptr<const NvidiaTemperature> nvidia)
+    : sys_(std::move(sys)), clock_(std::move(clock)), nvidia_(std::move(nvidia)),
+      schedule_({sys_ + "/class/hwmon", sys_ + "/class/thermal"}) {}
 
 bool LinuxTemperatures::read(std::vector<HIDTemperatureSampler::Service>& services) {
     if (schedule_.isDue())
         search();
-    for (Chip& chip : chips_)
-        chip.state = chip.rest.look();
-    bool failed = false;
     double now = clock_->uptime();
-    services.resize(sensors_.size());
+    for (Chip& chip : chips_)
+        chip.state = chip.rest.look(now);
+    bool failed = false;
+    const auto ofNvidia = nvidia_ ? nvidia_->value(now) : std::nullopt;
+    services.resize(sensors_.size() + (ofNvidia ? 1 : 0));
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         services[i].product = sensors_[i].name;
         services[i].temperature = readSensor(sensors_[i], now, failed);
     }
+    if (ofNvidia)
+        services.back() = {"GPU NVIDIA", ofNvidia};
     if (failed)
         schedule_.noteFailure();
     return true;
@@ -50,7 +60,7 @@ std::optional<double> LinuxTemperatures::readSensor(Sensor& sensor, double& now,
         sensor.didAnswer = false;
         return std::nullopt;
     case DeviceRest::State::idle:
-        return sensor.sensor.lastValue(idleAge);
+        return sensor.sensor.lastValue(DeviceRest::longestBridge);
     case DeviceRest::State::awake:
         break;
     }
@@ -67,8 +77,7 @@ void LinuxTemperatures::search() {
     Found found;
     for (const HwmonChip& chip : findHwmonChips(sys_))
         findInputs(chip, found);
-    if (found.places.empty())
-        findZones(found);
+    findZones(found);
     const auto names = temperatureNames(found.temperatures);
     std::vector<std::shared_ptr<Background>> backgrounds; // one a chip: a sensor that hangs holds up its chip alone
     for (std::size_t i = 0; i < found.chips.size(); ++i)
@@ -89,36 +98,27 @@ void LinuxTemperatures::search() {
 
 void LinuxTemperatures::findInputs(const HwmonChip& chip, Found& found) const {
     const auto numbers = sensorNumbers(chip.folder, "temp", "_input");
-    const std::string device = chip.folder + "/device";
-    const bool isBattery = readName(device + "/type") == "Battery";
+    const bool isBattery = readName(chip.device + "/type") == "Battery";
     // Mice and headsets have batteries too, which are not this machine's.
-    if (numbers.empty() || (isBattery && readName(device + "/scope") == "Device"))
+    if (numbers.empty() || (isBattery && readName(chip.device + "/scope") == "Device"))
         return;
     const bool isDrive = chip.name == "drivetemp";
-    const std::string model = isDrive || chip.name == "nvme" ? readName(device + "/model") : std::string();
+    const std::string model = isDrive || chip.name == "nvme" ? readName(chip.device + "/model") : std::string();
     for (const int number : numbers) {
         const std::string input = chip.folder + "/temp" + std::to_string(number);
-        found.temperatures.push_back(
-            {chip.name, readName(input + "_label"), model, numbers.size() > 1 ? number : 0, isBattery});
+        found.temperatures.push_back({chip.name, readName(input + "_label"), model, numbers.size() > 1 ? number : 0,
+                                      isBattery, found.chips.size()});
         found.places.push_back({input + "_input", input + "_fault", found.chips.size()});
     }
-    found.chips.push_back({DeviceRest(device, isDrive), {}});
+    found.chips.push_back({DeviceRest(chip.device, isDrive, intervalOf(chip.name)), {}});
+    found.chipNames.push_back(chip.name);
 }
 
 void LinuxTemperatures::findZones(Found& found) const {
-    const std::string root = sys_ + "/class/thermal";
-    std::vector<std::pair<std::string, std::string>> zones;
-    for (const int number : sensorNumbers(root, "thermal_zone", "")) {
-        const std::string folder = resolvedPath(root + "/thermal_zone" + std::to_string(number));
-        zones.emplace_back(readName(folder + "/type"), folder);
-    }
-    std::stable_sort(zones.begin(), zones.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
-    for (const auto& [type, folder] : zones) {
-        if (type.empty())
-            continue;
-        found.temperatures.push_back({type, type, {}, 0, false});
+    for (const auto& [type, folder] : findThermalZones(sys_, found.chipNames)) {
+        found.temperatures.push_back({type, type, {}, 0, false, found.chips.size()});
         found.places.push_back({folder + "/temp", {}, found.chips.size()});
-        found.chips.push_back({DeviceRest(folder + "/device"), {}});
+        found.chips.push_back({DeviceRest(folder + "/device", false, intervalOf(type)), {}});
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include "platform/linux/sources/device_rest.h"
 #include "platform/linux/sources/hwmon_chips.h"
+#include "platform/linux/sources/nvidia_temperature.h"
 #include "platform/linux/sources/rescan_schedule.h"
 #include "platform/linux/sources/temperature_names.h"
 #include "sensors/hid_temperature_sampler.h"
@@ -22,11 +23,12 @@ class FrozenWatch {
     double since_ = 0.0;
 };
 
-/// Temperatures of <sys>/class/hwmon, or of <sys>/class/thermal where no chip has any. Devices that sleep are not
-/// asked, nor are spinning disks that rest.
+/// Temperatures of <sys>/class/hwmon, and of <sys>/class/thermal where no chip is the processor's. Devices that sleep
+/// are not asked, nor are those that are to have their rest. "GPU NVIDIA" ends the list where that is told.
 class LinuxTemperatures : public HIDTemperatureSampler::Source {
   public:
-    LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock);
+    LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
+                      std::shared_ptr<const NvidiaTemperature> nvidia = nullptr);
 
     bool read(std::vector<HIDTemperatureSampler::Service>& services) override;
 
@@ -47,11 +49,12 @@ class LinuxTemperatures : public HIDTemperatureSampler::Source {
         FrozenWatch watch;
     };
 
-    /// What a search finds; the lists go along with each other.
+    /// What a search finds: of each temperature its place, of each chip its name.
     struct Found {
         std::vector<FoundTemperature> temperatures;
         std::vector<Place> places;
         std::vector<Chip> chips;
+        std::vector<std::string> chipNames;
     };
 
     void search();
@@ -61,6 +64,7 @@ class LinuxTemperatures : public HIDTemperatureSampler::Source {
 
     std::string sys_;
     std::shared_ptr<const Clock> clock_;
+    std::shared_ptr<const NvidiaTemperature> nvidia_; // may be null
     RescanSchedule schedule_;
     std::vector<Chip> chips_;
     std::vector<Sensor> sensors_;

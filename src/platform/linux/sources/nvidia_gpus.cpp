@@ -1,82 +1,101 @@
 #include "platform/linux/sources/nvidia_gpus.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/linux/sources/kernel_tree.h"
 
 namespace vantrix {
-namespace {
 
-constexpr double retryDelay = 60.0; // seconds
-
-} // namespace
-
-void NvidiaGPUs::set(const std::string& folder, const std::vector<std::string>& addresses) {
-    stop();
+void NvidiaGPUs::set(const std::string& folder, std::vector<std::string> addresses) {
+    if (addresses == addresses_)
+        return;
+    addresses_ = std::move(addresses);
     gpus_.clear();
-    for (const std::string& address : addresses) {
+    for (const std::string& address : addresses_) {
         const std::string device = pathBelow(folder, address);
-        gpus_.push_back({address, GPUPowerFile(device), GPURest(device)});
+        gpus_.push_back({GPUPowerFile(device), GPURest(device)});
     }
-    nextStart_ = 0.0;
+    areNew_ = true;
 }
 
 void NvidiaGPUs::read(double now, std::vector<std::optional<double>>& loads) {
-    if (!refreshPower(now))
-        stop();
-    else if (!isStarted_)
-        start(now);
-    for (GPU& gpu : gpus_)
-        loads.push_back(loadOf(gpu, now));
+    collect();
+    refreshPower(now);
+    ask(now);
+    collect(); // it may have been quick
+    if (isUnderWay_ && now - askedAt_ > staleAfter)
+        forgetAnswers();
+    for (const GPU& gpu : gpus_)
+        loads.push_back(gpu.isAsleep ? 0.0 : gpu.load);
+    tellTemperature(now);
 }
 
-/// True when a GPU is to be asked.
-bool NvidiaGPUs::refreshPower(double now) {
-    bool isAnyAtWork = false;
+void NvidiaGPUs::tellTemperature(double now) {
+    std::optional<double> hottest;
+    for (const GPU& gpu : gpus_)
+        hottest = std::max(hottest, gpu.temperature); // absence is less than anything
+    temperature_->set(hottest, now);
+}
+
+/// Those of GPUs that are at work; a resting one is as it was.
+void NvidiaGPUs::forgetAnswers() {
     for (GPU& gpu : gpus_) {
-        gpu.power = gpu.powerFile.read();
-        if (gpu.power == GPUPower::asleep)
+        if (!gpu.isResting) {
+            gpu.load.reset();
+            gpu.temperature.reset();
+        }
+    }
+}
+
+void NvidiaGPUs::refreshPower(double now) {
+    for (GPU& gpu : gpus_) {
+        gpu.isAsleep = gpu.powerFile.read() == GPUPower::asleep;
+        gpu.isResting = !gpu.isAsleep && gpu.rest.isDue(now);
+        if (gpu.isAsleep) {
             gpu.rest.end();
-        isAnyAtWork |= gpu.power == GPUPower::awake && !gpu.rest.isDue(now);
+            gpu.load.reset();
+            gpu.temperature.reset();
+        }
     }
-    return isAnyAtWork;
 }
 
-void NvidiaGPUs::start(double now) {
-    const auto isAwake = [](const GPU& gpu) { return gpu.power == GPUPower::awake; };
-    if (now < nextStart_ || !std::all_of(gpus_.begin(), gpus_.end(), isAwake))
+void NvidiaGPUs::ask(double now) {
+    if (isUnderWay_)
         return;
-    nextStart_ = now + retryDelay;
-    if (!library_->start())
+    if (std::exchange(areNew_, false))
+        job_->setAddresses(addresses_);
+    const bool isAnyAtWork = std::any_of(gpus_.begin(), gpus_.end(), [](const GPU& gpu) { return gpu.isAtWork(); });
+    const bool isAnyAsleep = std::any_of(gpus_.begin(), gpus_.end(), [](const GPU& gpu) { return gpu.isAsleep; });
+    job_->mayStart = isAnyAtWork && !isAnyAsleep && now >= job_->nextStart;
+    if (!job_->isStarted && !job_->mayStart) {
+        forgetAnswers();
         return;
-    isStarted_ = true;
-    for (GPU& gpu : gpus_)
-        gpu.device = library_->find(gpu.address);
-}
-
-void NvidiaGPUs::stop() {
-    if (!isStarted_)
-        return;
-    library_->stop();
-    isStarted_ = false;
-    nextStart_ = 0.0;
-    for (GPU& gpu : gpus_)
-        gpu.device.reset();
-}
-
-std::optional<double> NvidiaGPUs::loadOf(GPU& gpu, double now) {
-    if (gpu.power == GPUPower::asleep || gpu.rest.isDue(now))
-        return 0.0;
-    if (gpu.power != GPUPower::awake || !gpu.device)
-        return std::nullopt;
-    const auto percent = library_->utilization(*gpu.device);
-    if (!percent) {
-        stop(); // the driver may have been reloaded or the GPU lost
-        nextStart_ = now + retryDelay;
-        return std::nullopt;
     }
-    gpu.rest.note(*percent, now);
-    return *percent;
+    for (std::size_t i = 0; i < gpus_.size(); ++i) {
+        job_->gpus[i].isAsked = gpus_[i].isAtWork();
+        job_->gpus[i].mayFallAsleep = gpus_[i].rest.mayFallAsleep();
+    }
+    job_->now = now;
+    job_->isDone.store(false, std::memory_order_relaxed);
+    askedAt_ = now;
+    isUnderWay_ = background_->run(job_);
+}
+
+void NvidiaGPUs::collect() {
+    if (!isUnderWay_ || !job_->isDone.load(std::memory_order_acquire))
+        return;
+    isUnderWay_ = false;
+    if (areNew_)
+        return; // the answers are about those of before
+    for (std::size_t i = 0; i < gpus_.size(); ++i) {
+        const NvidiaJob::GPU& answer = job_->gpus[i];
+        if (!answer.isAsked)
+            continue;
+        gpus_[i].load = answer.load;
+        gpus_[i].temperature = answer.temperature;
+        gpus_[i].rest.note(answer.load);
+    }
 }
 
 } // namespace vantrix

@@ -6,41 +6,56 @@
 #include <vector>
 
 #include "platform/linux/sources/gpu_power.h"
-#include "platform/linux/sources/nvidia_library.h"
+#include "platform/linux/sources/nvidia_job.h"
+#include "platform/linux/sources/nvidia_temperature.h"
 
 namespace vantrix {
 
-/// The GPUs that NVIDIA's own driver runs. The library is asked about a GPU only while the kernel calls that awake, and
-/// is started only while all of them are, for it may touch each on its way. It is stopped when none is at work, because
-/// a GPU that some program holds open may not fall asleep.
+/// The GPUs that NVIDIA's own driver runs. The library is asked about a GPU only while the kernel does not call that
+/// asleep, and is started only while none is, for it may touch each on its way. It is stopped when none is at work. All
+/// of that happens in the background: a pass takes the last answer.
 class NvidiaGPUs {
   public:
-    explicit NvidiaGPUs(std::unique_ptr<NvidiaLibrary> library) : library_(std::move(library)) {}
+    static constexpr double staleAfter = 10.0; ///< seconds without an answer
 
-    /// Replaces the GPUs by those at `addresses`, which are entries of `folder`.
-    void set(const std::string& folder, const std::vector<std::string>& addresses);
+    NvidiaGPUs(std::unique_ptr<NvidiaLibrary> library, std::shared_ptr<Background> background)
+        : job_(std::make_shared<NvidiaJob>(std::move(library))), background_(std::move(background)) {}
+
+    /// The GPUs are from now on those at `addresses`, which are entries of `folder`.
+    void set(const std::string& folder, std::vector<std::string> addresses);
 
     /// Appends the load of each GPU in percent, absent where it cannot be told; `now` in seconds.
     void read(double now, std::vector<std::optional<double>>& loads);
 
+    /// That of the last reading.
+    std::shared_ptr<const NvidiaTemperature> temperature() const { return temperature_; }
+
   private:
     struct GPU {
-        std::string address;
         GPUPowerFile powerFile;
         GPURest rest;
-        GPUPower power = GPUPower::unknown;
-        std::optional<NvidiaLibrary::Device> device = {};
+        bool isAsleep = false;
+        bool isResting = false;
+        std::optional<double> load = {};
+        std::optional<double> temperature = {};
+
+        bool isAtWork() const { return !isAsleep && !isResting; }
     };
 
-    bool refreshPower(double now);
-    void start(double now);
-    void stop();
-    std::optional<double> loadOf(GPU& gpu, double now);
+    void refreshPower(double now);
+    void ask(double now);
+    void collect();
+    void forgetAnswers();
+    void tellTemperature(double now);
 
-    std::unique_ptr<NvidiaLibrary> library_;
+    std::shared_ptr<NvidiaJob> job_; // shared with a thread that may outlive this
+    std::shared_ptr<Background> background_;
+    std::shared_ptr<NvidiaTemperature> temperature_ = std::make_shared<NvidiaTemperature>();
+    std::vector<std::string> addresses_;
     std::vector<GPU> gpus_;
-    bool isStarted_ = false;
-    double nextStart_ = 0.0;
+    bool areNew_ = false; // the job does not know of them yet
+    bool isUnderWay_ = false;
+    double askedAt_ = 0.0;
 };
 
 } // namespace vantrix

@@ -5,18 +5,13 @@
 namespace vantrix {
 namespace {
 
-struct Close {
-    void operator()(void* library) const { dlclose(library); }
-};
-
-/// The library, by its documented interface; every function answers 0 for success.
+/// The library, by its documented interface. It stays loaded and, at the end of the program, started: its functions may
+/// hang, and the kernel lets go of every GPU for a process that ends.
 class ManagementLibrary final : public NvidiaLibrary {
   public:
-    ~ManagementLibrary() override { stop(); }
-
     bool start() override {
         if (!isStarted_)
-            isStarted_ = load() && initialize_() == 0;
+            isStarted_ = load() && initialize_() == success;
         return isStarted_;
     }
 
@@ -28,12 +23,22 @@ class ManagementLibrary final : public NvidiaLibrary {
 
     std::optional<Device> find(const std::string& address) override {
         Device device = nullptr;
-        return handleByAddress_(address.c_str(), &device) == 0 ? std::optional(device) : std::nullopt;
+        return handleByAddress_(address.c_str(), &device) == success ? std::optional(device) : std::nullopt;
     }
 
-    std::optional<unsigned> utilization(Device device) override {
+    int utilization(Device device, unsigned& percent) override {
         Utilization utilization{};
-        return utilizationRates_(device, &utilization) == 0 ? std::optional(utilization.gpu) : std::nullopt;
+        const int answer = utilizationRates_(device, &utilization);
+        percent = utilization.gpu;
+        return answer;
+    }
+
+    std::optional<double> temperature(Device device) override {
+        constexpr int ofGPU = 0; // of what sensors a device may have
+        unsigned celsius = 0;
+        if (!temperature_ || temperature_(device, ofGPU, &celsius) != success)
+            return std::nullopt;
+        return celsius;
     }
 
   private:
@@ -45,7 +50,9 @@ class ManagementLibrary final : public NvidiaLibrary {
 
     bool load() {
         if (!library_)
-            library_.reset(dlopen(nvidiaLibraryName, RTLD_NOW | RTLD_LOCAL));
+            library_ = dlopen(nvidiaLibraryName, RTLD_NOW | RTLD_LOCAL);
+        if (library_)
+            resolve(temperature_, "nvmlDeviceGetTemperature"); // newer libraries may drop it
         return library_ && resolve(initialize_, "nvmlInit_v2") && resolve(shutdown_, "nvmlShutdown") &&
                resolve(handleByAddress_, "nvmlDeviceGetHandleByPciBusId_v2") &&
                resolve(utilizationRates_, "nvmlDeviceGetUtilizationRates");
@@ -53,16 +60,17 @@ class ManagementLibrary final : public NvidiaLibrary {
 
     template<typename Function>
     bool resolve(Function*& function, const char* name) {
-        function = reinterpret_cast<Function*>(dlsym(library_.get(), name));
+        function = reinterpret_cast<Function*>(dlsym(library_, name));
         return function != nullptr;
     }
 
-    std::unique_ptr<void, Close> library_;
+    void* library_ = nullptr;
     bool isStarted_ = false;
     int (*initialize_)() = nullptr;
     int (*shutdown_)() = nullptr;
     int (*handleByAddress_)(const char*, Device*) = nullptr;
     int (*utilizationRates_)(Device, Utilization*) = nullptr;
+    int (*temperature_)(Device, int sensor, unsigned*) = nullptr;
 };
 
 } // namespace
@@ -72,7 +80,10 @@ std::unique_ptr<NvidiaLibrary> makeNvidiaLibrary() {
 }
 
 bool isNvidiaLibraryInstalled() {
-    return std::unique_ptr<void, Close>(dlopen(nvidiaLibraryName, RTLD_LAZY | RTLD_LOCAL)) != nullptr;
+    void* const library = dlopen(nvidiaLibraryName, RTLD_LAZY | RTLD_LOCAL);
+    if (library)
+        dlclose(library);
+    return library != nullptr;
 }
 
 } // namespace vantrix

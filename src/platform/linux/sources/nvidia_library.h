@@ -6,10 +6,17 @@
 
 namespace vantrix {
 
-/// What is needed of the NVIDIA driver's management library, which is looked up when the program runs.
+/// What is needed of the NVIDIA driver's management library, which is looked up when the program runs. Any call may
+/// take long, or hang; they are made on one thread at a time.
 class NvidiaLibrary {
   public:
     using Device = void*; ///< the library's own handle
+
+    // Answers to a question.
+    static constexpr int success = 0;
+    static constexpr int notInitialized = 1;
+    static constexpr int isLost = 15; ///< the GPU fell off the bus
+    static constexpr int unknownError = 999;
 
     virtual ~NvidiaLibrary() = default;
     /// False when the library is not installed or finds no driver.
@@ -18,8 +25,10 @@ class NvidiaLibrary {
     virtual void stop() = 0;
     /// The GPU at a PCI address, "0000:01:00.0". The library may touch other GPUs on its way there. Only when started.
     virtual std::optional<Device> find(const std::string& address) = 0;
-    /// Load in percent over the last sampling period of the GPU. Only when started.
-    virtual std::optional<unsigned> utilization(Device device) = 0;
+    /// Load in percent over the last sampling period of the GPU, when the answer is `success`. Only when started.
+    virtual int utilization(Device device, unsigned& percent) = 0;
+    /// °C; absent when the GPU does not tell. Only when started.
+    virtual std::optional<double> temperature(Device device) = 0;
 };
 
 std::unique_ptr<NvidiaLibrary> makeNvidiaLibrary();

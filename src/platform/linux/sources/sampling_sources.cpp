@@ -57,10 +57,11 @@ SamplingSources makeSamplingSources(const KernelRoots& given) {
     sources.networkInfo = makeNetworkInfoSource(roots);
     sources.disks = std::make_unique<DiskStatsSource>(roots.proc, roots.sys);
     sources.volume = std::make_unique<VolumeStatistics>(rootVolume(roots.proc));
-    sources.gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());
+    auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());
     const auto sensorClock = std::make_shared<LinuxClock>();
     sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);
-    sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock);
+    sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperature());
+    sources.gpu = std::move(gpu);
     sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
     sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock);
     sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);

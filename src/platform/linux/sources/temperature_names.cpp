@@ -45,6 +45,22 @@ std::string_view ownWord(const FoundTemperature& sensor) {
     return sensor.isBattery ? "Battery" : wordOf(ownChips, sensor.chip);
 }
 
+/// The hottest spot and the memory of a graphics card are up to 30 °C warmer than what it is known by, its edge; the
+/// single parts of an NVMe drive are, too.
+bool isOfPart(const FoundTemperature& sensor, const std::vector<FoundTemperature>& all) {
+    if (sensor.chip == "nvme")
+        return !sensor.label.empty() && sensor.label != "Composite";
+    if (sensor.chip != "amdgpu" || sensor.label == "edge")
+        return false;
+    const auto isOfSameChip = [&](const FoundTemperature& other) {
+        return other.chip == sensor.chip && other.device == sensor.device;
+    };
+    const auto first = std::find_if(all.begin(), all.end(), isOfSameChip);
+    return &*first != &sensor || std::any_of(all.begin(), all.end(), [&](const FoundTemperature& other) {
+        return isOfSameChip(other) && other.label == "edge";
+    });
+}
+
 std::string labelFor(const FoundTemperature& sensor) {
     if (sensor.label.empty())
         return sensor.number > 0 ? std::to_string(sensor.number) : std::string();
@@ -75,14 +91,20 @@ bool hasOwnSensor(std::string_view word, const std::vector<FoundTemperature>& al
     });
 }
 
+std::string replaced(std::string text, const Replacement& by) {
+    for (auto place = text.find(by.word); place != std::string::npos; place = text.find(by.word, place)) {
+        const auto end = place + by.word.size();
+        // Or part of a word, like "CPUTIN".
+        const bool isWhole = end == text.size() || text[end] == ' ' || text[end] == '_' || text[end] == '-';
+        text.replace(place, by.word.size(), std::string(by.neutral) + (isWhole ? "" : " "));
+    }
+    return text;
+}
+
 std::string withoutTakenWords(std::string text, const std::vector<FoundTemperature>& all) {
-    for (const auto& [word, neutral] : replacements) {
-        const auto place = text.find(word);
-        if (place == std::string::npos || !hasOwnSensor(word, all))
-            continue;
-        const auto rest = text.substr(place + word.size());
-        const bool isWhole = rest.empty() || rest.front() == ' '; // or part of one, like "CPUTIN"
-        text = text.substr(0, place) + std::string(neutral) + (isWhole ? "" : " ") + rest;
+    for (const Replacement& replacement : replacements) {
+        if (hasOwnSensor(replacement.word, all))
+            text = replaced(std::move(text), replacement);
     }
     return text;
 }
@@ -93,7 +115,10 @@ std::string nameOf(const FoundTemperature& sensor, const std::vector<FoundTemper
     const std::string_view own = ownWord(sensor);
     if (!own.empty()) {
         const std::string& kind = sensor.isBattery ? sensor.chip : sensor.model;
-        return joined(joined(std::string(own), kind), labelFor(sensor));
+        if (!isOfPart(sensor, all))
+            return joined(joined(std::string(own), kind), labelFor(sensor));
+        const std::string device = own == "NAND" ? "Drive" : "Graphics";
+        return withoutTakenWords(joined(joined(device, kind), labelFor(sensor)), all);
     }
     const std::string_view other = wordOf(otherChips, sensor.chip);
     const bool isZone = sensor.label == sensor.chip; // a thermal zone has one name for both
@@ -102,6 +127,10 @@ std::string nameOf(const FoundTemperature& sensor, const std::vector<FoundTemper
 }
 
 } // namespace
+
+bool isProcessorChip(std::string_view chip) {
+    return wordOf(ownChips, chip) == "CPU";
+}
 
 std::vector<std::string> temperatureNames(const std::vector<FoundTemperature>& found) {
     std::vector<std::string> names;

@@ -39,12 +39,14 @@ std::optional<double> TimedSensor::value() {
 }
 
 std::optional<double> TimedSensor::value(double& now) {
+    isSlow_ = isSlow_ || (!wasRead_ && background_->isDeviceSlow());
+    wasRead_ = true;
     if (!isSlow_) {
         readDirectly(now);
         return last_;
     }
-    readAside();
-    return lastValue(staleAfter);
+    readAside(now);
+    return now - waitingSince_.value_or(now) > staleAfter ? std::nullopt : last_;
 }
 
 std::optional<double> TimedSensor::lastValue(double age) {
@@ -58,12 +60,17 @@ void TimedSensor::readDirectly(double& now) {
     last_ = reading_->value;
     takenAt_ = now;
     slowReads_ = reading_->duration > slowAfter ? slowReads_ + 1 : 0;
-    isSlow_ = slowReads_ > 1 || reading_->duration > verySlowAfter;
+    const bool isVerySlow = reading_->duration > verySlowAfter;
+    if (isVerySlow)
+        background_->noteSlowDevice();
+    isSlow_ = slowReads_ > 1 || isVerySlow;
     quickReads_ = 0;
 }
 
-void TimedSensor::readAside() {
+void TimedSensor::readAside(double now) {
     collect();
+    if (!waitingSince_)
+        waitingSince_ = now;
     if (isUnderWay_)
         return;
     reading_->isDone.store(false, std::memory_order_relaxed);
@@ -74,6 +81,7 @@ void TimedSensor::collect() {
     if (!isUnderWay_ || !reading_->isDone.load(std::memory_order_acquire))
         return;
     isUnderWay_ = false;
+    waitingSince_.reset();
     last_ = reading_->value;
     takenAt_ = clock_->uptime(); // not when it was read: passes may be further apart than values may be old
     quickReads_ = reading_->duration > slowAfter ? 0 : quickReads_ + 1;

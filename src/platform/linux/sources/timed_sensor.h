@@ -9,8 +9,9 @@
 namespace vantrix {
 
 /// A sensor whose reads are timed. One that took longer than 2 ms twice in a row, or 20 ms once, is read in the
-/// background from then on, so that it never delays a pass again. It returns to the direct way only after many quick
-/// reads in a row: then it was not the sensor that was slow, but the machine that was busy.
+/// background from then on, so that it never delays a pass again; after those 20 ms its device's other sensors, which
+/// have the same background, begin there. It returns to the direct way only after many quick reads in a row: then it
+/// was not the sensor that was slow, but the machine that was busy.
 class TimedSensor {
   public:
     class Probe {
@@ -30,7 +31,7 @@ class TimedSensor {
                 std::shared_ptr<const Clock> clock);
 
     /// The value now, or, of a slow sensor, the one that its last finished read gave. Absent when that read gave none,
-    /// and when a slow sensor's value was taken in more than 10 s ago.
+    /// and when a slow sensor was asked more than 10 s ago and has not answered yet.
     std::optional<double> value();
     /// The same for one sensor after another, at less cost: `now` is the clock's time, and moves on with the reads.
     std::optional<double> value(double& now);
@@ -42,7 +43,7 @@ class TimedSensor {
     struct Reading;
 
     void readDirectly(double& now);
-    void readAside();
+    void readAside(double now);
     void collect();
 
     std::shared_ptr<Reading> reading_;
@@ -50,9 +51,11 @@ class TimedSensor {
     std::shared_ptr<const Clock> clock_;
     std::optional<double> last_;
     double takenAt_ = 0.0;
+    std::optional<double> waitingSince_;
     int slowReads_ = 0;  // directly, in a row
     int quickReads_ = 0; // in the background, in a row
     bool isSlow_ = false;
+    bool wasRead_ = false;
     bool isUnderWay_ = false;
 };
 

@@ -8,7 +8,10 @@
 #include <gtest/gtest.h>
 
 #include "fakes/busy_laptop.h"
+#include "platform/linux/sources/linux_gpu_source.h"
 #include "platform/linux/sources/linux_network_info.h"
+#include "platform/linux/sources/linux_sensor_keys.h"
+#include "platform/linux/sources/linux_temperatures.h"
 #include "platform/sampling_sources.h"
 #include "sensors/sensors_sampler.h"
 #include "temporary_folder.h"
@@ -109,6 +112,67 @@ TEST(SamplingPass, AllocatesNothingOnALaptopThatHasEverything) {
     const std::string laptop = folder.path("laptop");
     fakes::writeBusyLaptop(FIXTURES, laptop);
     EXPECT_EQ(allocationsAfterSecondPass({laptop + "/proc", laptop + "/sys"}), 0);
+}
+
+struct PassingClock : Clock {
+    explicit PassingClock(const double& seconds) : now(seconds) {}
+    double uptime() const override { return now; }
+    const double& now;
+};
+
+struct BusyNvidia : NvidiaLibrary {
+    bool start() override { return true; }
+    void stop() override {}
+    std::optional<Device> find(const std::string&) override { return this; }
+    int utilization(Device, unsigned& percent) override {
+        percent = 50;
+        return success;
+    }
+    std::optional<double> temperature(Device) override { return 60.0; }
+};
+
+struct AtOnce : Background {
+    bool run(const std::shared_ptr<Job>& job) override {
+        job->perform();
+        return true;
+    }
+};
+
+/// Every pass meets a line of the grid, so that all power settings are read.
+TEST(SamplingPass, AllocatesNothingForGPUsThatMayFallAsleep) {
+    const TemporaryFolder folder;
+    const std::string device = "class/drm/card1/device/";
+    folder.write("class/hwmon/hwmon0/name", "amdgpu\n");
+    for (const std::string& place :
+         {device, std::string("class/hwmon/hwmon0/device/"), std::string("bus/pci/drivers/nvidia/0000:01:00.0/")}) {
+        folder.write(place + "power/runtime_status", "active\n");
+        folder.write(place + "power/control", "auto\n");
+        folder.write(place + "power/autosuspend_delay_ms", "5000\n");
+        folder.write(place + "boot_vga", "1\n");
+        folder.write(place + "drm/card1/card1-a-connector-of-a-long-name/dpms", "Off\n");
+    }
+    folder.write(device + "gpu_busy_percent", "0\n");
+    folder.write("class/hwmon/hwmon0/temp1_input", "50000\n");
+    folder.write("class/hwmon/hwmon0/fan1_input", "900\n");
+    double now = 120.0;
+    LinuxGPUSource gpus(folder.path(""), std::make_unique<PassingClock>(now), std::make_unique<BusyNvidia>(), 5,
+                        std::make_shared<AtOnce>());
+    LinuxTemperatures temperatures(folder.path(""), std::make_shared<PassingClock>(now), gpus.nvidiaTemperature());
+    LinuxSensorKeys keys(folder.path(""), std::make_shared<PassingClock>(now));
+    std::vector<HIDTemperatureSampler::Service> services;
+    const auto passes = [&] {
+        for (int i = 0; i < 20; ++i) {
+            now += 12.0;
+            gpus.read();
+            temperatures.read(services);
+            keys.value("FNum");
+            keys.value("F0Ac");
+        }
+    };
+    passes();
+    EXPECT_EQ(allocationsDuring(passes), 0);
+    EXPECT_EQ(services.at(0).temperature, 50.0);
+    EXPECT_EQ(services.back().product, "GPU NVIDIA");
 }
 
 struct RouteOverWiFi : DefaultRoutes {

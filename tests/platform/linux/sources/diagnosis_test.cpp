@@ -146,6 +146,18 @@ TEST(Diagnosis, GPUsAreToldByTheirMeters) {
     EXPECT_THAT(told(tools, reading_name::gpu)[2], HasSubstr("Starting the library could wake"));
 }
 
+TEST(Diagnosis, ZonesThatStandInForTheProcessorsChipAreTold) {
+    TemporaryFolder folder;
+    folder.write("sys/class/hwmon/hwmon0/name", "nvme\n");
+    folder.write("sys/class/hwmon/hwmon0/temp1_input", "30000\n");
+    folder.write("sys/class/hwmon/hwmon0/device/power/runtime_status", "suspended\n");
+    folder.write("sys/class/thermal/thermal_zone0/type", "soc-thermal\n");
+    const DiagnosisTools tools{{folder.path("proc"), folder.path("sys")}, reachOf, {}};
+    EXPECT_THAT(told(tools, reading_name::temperatures),
+                ElementsAre("ok SYS/class/hwmon (1 chip), " + folder.path("sys/class/thermal (1 zone): ") +
+                            "Left asleep: nvme."));
+}
+
 TEST(Diagnosis, NamesOfPeoplesDevicesStayOut) {
     for (const char* machine : {"two-packs-and-accessories", "laptop-many-sensors", "many-interfaces"})
         for (const SourceDiagnosis& row : diagnoseSources(fixture(machine)))

@@ -1,10 +1,15 @@
 #include "platform/linux/sources/linux_gpu_source.h"
 
+#include <atomic>
+#include <chrono>
+#include <cmath>
+#include <future>
 #include <map>
 
 #include <gmock/gmock.h>
 
 #include "opened_files.h"
+#include "platform/linux/sources/linux_temperatures.h"
 #include "samplers/fake_clock.h"
 #include "temporary_folder.h"
 
@@ -31,12 +36,32 @@ struct FakeNvidia : NvidiaLibrary {
         const auto found = state_.loads.find(address);
         return found == state_.loads.end() ? std::nullopt : std::optional<Device>(&found->second);
     }
-    std::optional<unsigned> utilization(Device device) override {
+    int utilization(Device device, unsigned& percent) override {
         const unsigned load = *static_cast<unsigned*>(device);
         state_.calls.push_back("load");
-        return load <= 100 ? std::optional(load) : std::nullopt;
+        percent = load;
+        return load > 100 ? static_cast<int>(load) - 1000 : success;
     }
+    std::optional<double> temperature(Device device) override { return *static_cast<unsigned*>(device) / 2.0; }
     State& state_;
+};
+
+/// A load that makes the library answer with an error.
+constexpr unsigned failing(int answer) {
+    return static_cast<unsigned>(answer + 1000);
+}
+
+/// Performs its jobs at once, or none of them, as if the last one hung.
+struct FakeBackground : Background {
+    bool hangs = false;
+    int jobs = 0;
+
+    bool run(const std::shared_ptr<Job>& job) override {
+        ++jobs;
+        if (!hangs)
+            job->perform();
+        return true;
+    }
 };
 
 struct LinuxGPUSourceTest : ::testing::Test {
@@ -44,7 +69,9 @@ struct LinuxGPUSourceTest : ::testing::Test {
     FakeNvidia::State nvidia;
     std::unique_ptr<FakeClock> ownedClock = std::make_unique<FakeClock>();
     FakeClock& clock = *ownedClock;
-    LinuxGPUSource source{folder.path("sys"), std::move(ownedClock), std::make_unique<FakeNvidia>(nvidia), 1};
+    std::shared_ptr<FakeBackground> background = std::make_shared<FakeBackground>();
+    LinuxGPUSource source{folder.path("sys"), std::move(ownedClock), std::make_unique<FakeNvidia>(nvidia), 1,
+                          background};
 
     void write(const std::string& device, const std::string& file, const std::string& text) {
         folder.write("sys/" + device + '/' + file, text);
@@ -160,24 +187,63 @@ TEST_F(LinuxGPUSourceTest, SleepingGPUIsLeftAsleep) {
 
 /// A GPU that is asked on every pass never reaches the end of its autosuspend delay.
 TEST_F(LinuxGPUSourceTest, IdleGPUIsGivenTheTimeToFallAsleep) {
+    const struct {
+        const char* name;
+        const char* control;
+        const char* delay;
+        const char* isPrimary;
+        const char* screen;
+        double restUntil; // seconds after a line of the grids of 6 and 12 s
+    } rows[] = {
+        {"by itself", "auto", "5000", "0", "On", 6.0},
+        {"without a delay", "auto", "", "0", "On", 6.0},
+        {"late", "auto", "60000", "0", "On", 12.0},
+        {"primary without a screen", "auto", "5000", "1", "Off", 6.0},
+        {"primary with a screen", "auto", "5000", "1", "On", 0.0},
+        {"kept awake", "on", "5000", "0", "On", 0.0},
+        {"never by itself", "auto", "-1", "0", "On", 0.0},
+    };
+    setPower(cardDevice, "active");
+    for (const auto& row : rows) {
+        clock.now += 24.0 - std::fmod(clock.now, 12.0);
+        write(cardDevice, "power/control", row.control + std::string("\n"));
+        write(cardDevice, "power/autosuspend_delay_ms", row.delay + std::string("\n"));
+        write(cardDevice, "boot_vga", row.isPrimary + std::string("\n"));
+        write(cardDevice, "drm/card1/card1-eDP-1/dpms", row.screen + std::string("\n"));
+        write(cardDevice, "gpu_busy_percent", "0\n");
+        EXPECT_EQ(load(0.0), 0.0) << row.name;
+        write(cardDevice, "gpu_busy_percent", "80\n");
+        double rested = 0.0;
+        while (load(row.restUntil > 0.0 ? 2.0 : 0.0) == 0.0 && rested < 60.0)
+            rested += 2.0;
+        EXPECT_EQ(rested + (row.restUntil > 0.0 ? 2.0 : 0.0), row.restUntil) << row.name;
+        EXPECT_EQ(load(), 0.8) << row.name; // a busy one is asked on every pass
+    }
+}
+
+TEST_F(LinuxGPUSourceTest, GPUThatNeverTellsItsLoadHasItsRest) {
     setPower(cardDevice, "active");
     write(cardDevice, "power/control", "auto\n");
-    write(cardDevice, "power/autosuspend_delay_ms", "5000\n");
-    write(cardDevice, "gpu_busy_percent", "0\n");
-    EXPECT_EQ(load(), 0.0);
-    write(cardDevice, "gpu_busy_percent", "80\n");
-    EXPECT_EQ(load(5.5), 0.0); // not asked
-    EXPECT_EQ(load(), 0.8);
-    EXPECT_EQ(load(), 0.8);
-    for (const char* file : {"power/control", "power/autosuspend_delay_ms", "boot_vga"}) {
-        write(cardDevice, file, file == std::string("boot_vga") ? "1\n" : file[6] == 'c' ? "on\n" : "-1\n");
-        write(cardDevice, "gpu_busy_percent", "0\n");
-        EXPECT_EQ(load(), 0.0);
-        write(cardDevice, "gpu_busy_percent", "80\n");
-        EXPECT_EQ(load(), 0.8) << file; // stays awake anyhow
-        write(cardDevice, "power/control", "auto\n");
-        write(cardDevice, "power/autosuspend_delay_ms", "5000\n");
-    }
+    write(cardDevice, "gpu_busy_percent", "");
+    clock.now = 120.0; // a line of every grid
+    load(0.0);
+    load();
+    OpenedFiles opened(folder.path("sys/" + card));
+    EXPECT_EQ(load(), std::nullopt);
+    EXPECT_THAT(opened.take(), ElementsAre("runtime_status"));
+}
+
+TEST_F(LinuxGPUSourceTest, NewScreensLoseNothingOfKnownGPUs) {
+    write(card, "gt/gt0/rc6_residency_ms", "1000\n");
+    nvidia.loads["0000:01:00.0"] = 90;
+    setPower(nvidiaDevice, "active");
+    load();
+    nvidia.calls.clear();
+    write(card + "-DP-5", "status", "connected\n");
+    write(card, "gt/gt0/rc6_residency_ms", "1250\n");
+    nvidia.loads["0000:01:00.0"] = 0;
+    EXPECT_EQ(load(), 0.75);
+    EXPECT_THAT(nvidia.calls, ElementsAre("load"));
 }
 
 TEST_F(LinuxGPUSourceTest, NvidiaLibraryIsAskedOnlyOfGPUsAwake) {
@@ -195,14 +261,76 @@ TEST_F(LinuxGPUSourceTest, NvidiaLibraryIsAskedOnlyOfGPUsAwake) {
     setPower(other, "suspended");
     EXPECT_EQ(load(), 0.3);
     EXPECT_THAT(nvidia.calls, ElementsAre("load"));
-    setPower(nvidiaDevice, "unsupported");
-    EXPECT_EQ(load(), 0.0); // of the sleeping one
-    EXPECT_THAT(nvidia.calls, ElementsAre("load", "stop"));
+    setPower(nvidiaDevice, "unsupported"); // never sleeps
+    EXPECT_EQ(load(), 0.3);
+    setPower(nvidiaDevice, "suspended");
+    EXPECT_EQ(load(), 0.0);
+    EXPECT_THAT(nvidia.calls, ElementsAre("load", "load", "stop"));
+    const int jobs = background->jobs;
+    load();
+    EXPECT_EQ(background->jobs, jobs); // nothing to ask
+}
+
+TEST_F(LinuxGPUSourceTest, NvidiaTellsTheTemperatureOfTheHottestGPUAwake) {
+    const auto service = [&]() -> std::optional<double> {
+        load();
+        LinuxTemperatures temperatures(folder.path("sys"), std::make_shared<FakeClock>(clock),
+                                       source.nvidiaTemperature());
+        std::vector<HIDTemperatureSampler::Service> services;
+        EXPECT_TRUE(temperatures.read(services));
+        if (services.empty())
+            return std::nullopt;
+        EXPECT_EQ(services.back().product, "GPU NVIDIA");
+        return services.back().temperature;
+    };
+    nvidia.loads = {{"0000:01:00.0", 100}, {"0000:02:00.0", 80}};
+    EXPECT_EQ(service(), std::nullopt);
+    setPower(nvidiaDevice, "active");
+    setPower("bus/pci/drivers/nvidia/0000:02:00.0", "active");
+    EXPECT_EQ(service(), 50.0);
+    setPower(nvidiaDevice, "suspended");
+    EXPECT_EQ(service(), 40.0);
+    setPower("bus/pci/drivers/nvidia/0000:02:00.0", "suspended");
+    EXPECT_EQ(service(), std::nullopt);
+    EXPECT_EQ(NvidiaTemperature().value(0.0), std::nullopt);
+    NvidiaTemperature old;
+    old.set(50.0, 100.0);
+    EXPECT_EQ(old.value(161.0), std::nullopt);
+}
+
+TEST_F(LinuxGPUSourceTest, NvidiaLibraryLetsGoOfAnIdleGPUAtOnce) {
+    setPower(nvidiaDevice, "active");
+    write(nvidiaDevice, "power/control", "auto\n");
+    nvidia.loads["0000:01:00.0"] = 0;
+    clock.now = 119.0;
+    EXPECT_EQ(load(), 0.0);
+    EXPECT_EQ(nvidia.calls.back(), "stop");
+    nvidia.loads["0000:01:00.0"] = 80;
+    nvidia.calls.clear();
+    EXPECT_EQ(load(5.0), 0.0);
+    EXPECT_THAT(nvidia.calls, IsEmpty());
+    EXPECT_EQ(load(), 0.8);
+    EXPECT_EQ(nvidia.calls.back(), "load"); // and stays started
+}
+
+TEST_F(LinuxGPUSourceTest, OnlyErrorsOfTheWholeLibraryStopIt) {
+    setPower(nvidiaDevice, "active");
+    setPower("bus/pci/drivers/nvidia/0000:02:00.0", "active");
+    const struct {
+        int answer;
+        bool stops;
+    } rows[] = {{3, false}, {6, false}, {1, true}, {15, true}, {999, true}}; // 3: tells no load
+    for (const auto& row : rows) {
+        nvidia.loads = {{"0000:01:00.0", failing(row.answer)}, {"0000:02:00.0", 60}};
+        load(61.0);
+        EXPECT_EQ(nvidia.calls.back() == "stop", row.stops) << row.answer;
+        EXPECT_EQ(load(), row.stops ? std::nullopt : std::optional(0.6)) << row.answer;
+    }
 }
 
 TEST_F(LinuxGPUSourceTest, NvidiaLibraryThatFailsIsTriedAgainMuchLater) {
     setPower(nvidiaDevice, "active");
-    nvidia.loads["0000:01:00.0"] = 101; // fails
+    nvidia.loads["0000:01:00.0"] = failing(NvidiaLibrary::unknownError);
     EXPECT_EQ(load(), std::nullopt);
     nvidia.loads["0000:01:00.0"] = 10;
     nvidia.isInstalled = false;
@@ -212,6 +340,57 @@ TEST_F(LinuxGPUSourceTest, NvidiaLibraryThatFailsIsTriedAgainMuchLater) {
     EXPECT_EQ(nvidia.calls.back(), "start");
     nvidia.isInstalled = true;
     EXPECT_EQ(load(61.0), 0.1);
+}
+
+TEST_F(LinuxGPUSourceTest, NvidiaAnswersThatStayOutCountForTenSeconds) {
+    setPower(nvidiaDevice, "active");
+    nvidia.loads["0000:01:00.0"] = 70;
+    EXPECT_EQ(load(), 0.7);
+    background->hangs = true;
+    EXPECT_EQ(load(), 0.7);
+    EXPECT_EQ(load(10.0), 0.7);
+    EXPECT_EQ(load(), std::nullopt);
+    EXPECT_EQ(background->jobs, 2); // one question at a time
+    write(nvidiaDevice + "/../0000:02:00.0", "power/runtime_status", "active\n");
+    EXPECT_EQ(load(), std::nullopt); // of the new one, too
+}
+
+/// Hangs in its start until the gate opens. Its test may be over by then.
+struct HangingNvidia : NvidiaLibrary {
+    std::shared_future<void> gate;
+    std::shared_ptr<std::atomic<bool>> hasBegun;
+    std::promise<void> end;
+
+    bool start() override {
+        *hasBegun = true;
+        gate.wait();
+        return false;
+    }
+    void stop() override {}
+    std::optional<Device> find(const std::string&) override { return std::nullopt; }
+    int utilization(Device, unsigned&) override { return notInitialized; }
+    std::optional<double> temperature(Device) override { return std::nullopt; }
+    ~HangingNvidia() override { end.set_value(); }
+};
+
+TEST(NvidiaLibrary, ThatHangsHoldsUpNeitherPassesNorTheEnd) {
+    const TemporaryFolder folder;
+    folder.write("bus/pci/drivers/nvidia/0000:01:00.0/power/runtime_status", "active\n");
+    std::promise<void> gate;
+    auto library = std::make_unique<HangingNvidia>();
+    library->gate = gate.get_future().share();
+    const auto hasBegun = library->hasBegun = std::make_shared<std::atomic<bool>>(false);
+    const auto end = library->end.get_future();
+    {
+        LinuxGPUSource source(folder.path(""), std::make_unique<FakeClock>(), std::move(library));
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        while (!*hasBegun && std::chrono::steady_clock::now() < deadline)
+            EXPECT_EQ(GPUSampler(source).sample(), std::nullopt);
+        EXPECT_EQ(GPUSampler(source).sample(), std::nullopt);
+    }
+    EXPECT_EQ(end.wait_for(std::chrono::seconds(0)), std::future_status::timeout); // it hangs still
+    gate.set_value();
+    EXPECT_EQ(end.wait_for(std::chrono::seconds(10)), std::future_status::ready);
 }
 
 } // namespace

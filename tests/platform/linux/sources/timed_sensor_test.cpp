@@ -99,10 +99,30 @@ TEST_F(TimedSensorTest, SlowSensorsNeverDelayAPassAgain) {
 
 TEST_F(TimedSensorTest, AHangingSensorIsAbsentUntilItAnswers) {
     becomeSlow();
+    EXPECT_EQ(valueAfter(60.0), 1.0); // however far apart the passes are
     EXPECT_EQ(valueAfter(9.9), 1.0);
     EXPECT_EQ(valueAfter(0.2), std::nullopt);
     background->performAll();
-    EXPECT_EQ(valueAfter(60.0), 1.0); // however far apart the passes are
+    EXPECT_EQ(valueAfter(60.0), 1.0);
+    background->canRun = false;
+    background->performAll();
+    valueAfter(1.0);
+    EXPECT_EQ(valueAfter(10.1), std::nullopt);
+}
+
+TEST_F(TimedSensorTest, OtherSensorsOfAVerySlowDeviceBeginInTheBackground) {
+    auto* const known = new FakeProbe(*clock);
+    TimedSensor wellKnown(std::unique_ptr<TimedSensor::Probe>(known), background, clock);
+    wellKnown.value();
+    becomeSlow();
+    auto* const sibling = new FakeProbe(*clock);
+    TimedSensor other(std::unique_ptr<TimedSensor::Probe>(sibling), background, clock);
+    EXPECT_EQ(other.value(), std::nullopt);
+    EXPECT_EQ(sibling->reads, 0);
+    background->performAll();
+    EXPECT_EQ(other.value(), 1.0);
+    wellKnown.value();
+    EXPECT_EQ(known->reads, 2); // showed that it is quick
 }
 
 TEST_F(TimedSensorTest, IsReadDirectlyAgainOnceItWasTheMachineThatWasSlow) {
