@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check bench format clean
+.PHONY: run build test test-asan check check-quick bench format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -23,9 +23,14 @@ test-asan:
 	cmake --build --preset asan -j $(JOBS)
 	ctest --preset asan -j $(JOBS)
 
-check:
-	scripts/setup.sh build test check
-	scripts/check.sh
+check: check-quick
+	scripts/setup.sh build test
+	scripts/static_analysis.sh
+
+check-quick:
+	scripts/setup.sh check
+	scripts/check_format.sh
+	scripts/check_layering.sh
 
 bench:
 	scripts/setup.sh build test bench

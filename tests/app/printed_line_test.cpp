@@ -69,7 +69,8 @@ TEST(JsonLine, LeavesOutWhatIsAbsent) {
     EXPECT_EQ(object.keys(), (QStringList{u"disk"_s, u"interval"_s, u"networkInfo"_s}));
     EXPECT_EQ(object["networkInfo"_L1].toObject(), (QJsonObject{{u"kind"_s, u"offline"_s}}));
     EXPECT_EQ(object["disk"_L1].toObject().keys(), (QStringList{u"available"_s, u"total"_s}));
-    EXPECT_EQ(parsed(jsonLine(demoReadings(), std::vector{MenuBarModule::gpu})).keys(), (QStringList{u"gpu"_s, u"interval"_s}));
+    EXPECT_EQ(parsed(jsonLine(demoReadings(), std::vector{MenuBarModule::gpu})).keys(),
+              (QStringList{u"gpu"_s, u"interval"_s}));
 }
 
 } // namespace

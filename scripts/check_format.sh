@@ -1,0 +1,5 @@
+#!/usr/bin/env bash
+# Every file as `make format` would leave it.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run --Werror
