@@ -34,14 +34,14 @@ void showTemperature(StatRow* row, const std::optional<double>& temperature) {
 }
 
 QString cpuText(const SensorsSample& sensors) {
-    const QString mean = temperatureText(*sensors.cpu);
+    QString mean = temperatureText(*sensors.cpu);
     if (!sensors.cpuHottest)
         return mean;
     return mean + QStringLiteral(" · ") + localizedText("max %@", temperatureText(*sensors.cpuHottest));
 }
 
 QString fanText(const FanReading& fan) {
-    const QString speed = localizedText("%@ rpm", QString::fromStdString(roundedInteger(fan.rpm)));
+    QString speed = localizedText("%@ rpm", QString::fromStdString(roundedInteger(fan.rpm)));
     if (!fan.maxRPM)
         return speed;
     return speed + QStringLiteral(" · ") + localizedText("max %@", QString::fromStdString(roundedInteger(*fan.maxRPM)));
