@@ -38,6 +38,13 @@ void* operator new(std::size_t size) {
 void* operator new[](std::size_t size) {
     return allocate(size);
 }
+// The library's own of these would be freed by the wrong counterpart.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return allocate(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+    return allocate(size);
+}
 void operator delete(void* memory) noexcept {
     std::free(memory);
 }
