@@ -18,8 +18,10 @@ DeviceRest::DeviceRest(const std::string& device, bool isDrive, double interval)
         return;
     if (pathExists(device + "/state"))
         scsiState_.emplace(device + "/state");
-    for (const std::string& disk : entriesStartingWith(device + "/block", "sd")) {
-        const std::string folder = device + "/block/" + disk;
+    const std::string disks = device + "/block/";
+    for (const std::string& disk : entriesStartingWith(disks, "sd")) {
+        std::string folder = disks;
+        folder += disk;
         if (readStart(folder + "/queue/rotational") == "1\n")
             statistics_.emplace(folder + "/stat");
     }
