@@ -9,10 +9,10 @@
 namespace vantrix {
 
 std::vector<HwmonChip> findHwmonChips(const std::string& sys) {
-    const std::string root = sys + "/class/hwmon";
+    const std::string root = sys + "/class/hwmon/";
     std::vector<HwmonChip> chips;
     for (const std::string& entry : entriesStartingWith(root, "hwmon")) {
-        std::string folder = resolvedPath(root + '/' + entry);
+        std::string folder = resolvedPath(root + entry);
         std::string device = folder + "/device";
         std::string name = readName(folder + "/name");
         if (name.empty()) { // registered the old way: everything is in the device's own folder

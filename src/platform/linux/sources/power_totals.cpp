@@ -112,11 +112,11 @@ void PowerTotals::findMeters(std::vector<KeptSensor>& system, std::vector<KeptSe
 }
 
 void PowerTotals::findSupplies(std::vector<KeptSensor>& adapter, std::vector<KeptSensor>& batteries) {
-    const std::string root = sys_ + "/class/power_supply";
+    const std::string root = sys_ + "/class/power_supply/";
     auto entries = entriesStartingWith(root, "");
     std::sort(entries.begin(), entries.end());
     for (const std::string& entry : entries) {
-        const std::string folder = resolvedPath(root + '/' + entry);
+        const std::string folder = resolvedPath(root + entry);
         const std::string type = readName(folder + "/type");
         const bool isBattery = type == "Battery" && readName(folder + "/scope") != "Device";
         // USB ports tell what was agreed upon, not what flows, unless they measure power itself.

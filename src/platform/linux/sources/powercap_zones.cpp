@@ -39,13 +39,13 @@ std::optional<std::uint64_t> EnergyZone::read() {
 }
 
 std::vector<EnergyZone> findEnergyZones(const std::string& sys, const std::shared_ptr<const Clock>& clock) {
-    const std::string root = sys + "/class/powercap";
+    const std::string root = sys + "/class/powercap/";
     // With the colon: "intel-rapl" is no zone, and "intel-rapl-mmio:0" counts the package a second time.
     auto entries = entriesStartingWith(root, "intel-rapl:");
     std::sort(entries.begin(), entries.end());
     std::vector<EnergyZone> zones;
     for (const std::string& entry : entries) {
-        const std::string folder = root + '/' + entry;
+        const std::string folder = root + entry;
         zones.emplace_back(folder, readName(folder + "/name"), clock);
     }
     return zones;

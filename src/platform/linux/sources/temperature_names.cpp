@@ -134,6 +134,7 @@ bool isProcessorChip(std::string_view chip) {
 
 std::vector<std::string> temperatureNames(const std::vector<FoundTemperature>& found) {
     std::vector<std::string> names;
+    names.reserve(found.size());
     for (const FoundTemperature& sensor : found)
         names.push_back(nameOf(sensor, found));
     return names;

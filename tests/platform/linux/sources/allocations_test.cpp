@@ -99,7 +99,7 @@ int allocationsAfterSecondPass(const KernelRoots& roots) {
     // On a busy machine a sensor may seem slow, which gets it a thread, once. What allocates on every pass shows
     // anyway.
     int least = allocationsDuring(hundredPasses);
-    for (int i = 0; i < 3 && least > 0; ++i)
+    for (int i = 0; i < 40 && least > 0; ++i)
         least = std::min(least, allocationsDuring(hundredPasses));
     return least;
 }
