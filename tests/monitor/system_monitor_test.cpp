@@ -1,17 +1,13 @@
 #include "monitor/system_monitor.h"
 
-#include <atomic>
-#include <thread>
-
 #include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QThread>
 
 #include <gmock/gmock.h>
 
 #include "fakes/fake_bluetooth.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
+#include "fakes/optional_sources.h"
 
 namespace vantrix {
 namespace {
@@ -175,78 +171,8 @@ TEST_F(SystemMonitorTest, OneListenerCallPerPassAfterEverythingIsStored) {
     EXPECT_EQ(calls, 2);
 }
 
-/// The sources that a machine may lack, which write down in which order they were asked.
-struct Extras {
-    std::vector<std::string> asked;
-    Properties gpu{{"Device Utilization %", std::int64_t{40}}};
-    Properties powerSource{{"Type", "InternalBattery"}, {"Current Capacity", std::int64_t{50}}};
-    std::optional<double> temperature = 52.0;
-    std::optional<double> power = 9.5;
-    std::optional<std::string_view> route = "en0";
-
-    void addTo(SamplingSources& sources) {
-        sources.networkInfo = std::make_unique<Connection>(*this);
-        sources.gpu = std::make_unique<GPU>(*this);
-        sources.temperatures = std::make_unique<Temperatures>(*this);
-        sources.sensorKeys = std::make_unique<Keys>(*this);
-        sources.battery = std::make_unique<Battery>(*this);
-    }
-
-  private:
-    struct Connection : NetworkInfoSampler::Source {
-        explicit Connection(Extras& e) : extras(e) {}
-        bool refresh() override {
-            extras.asked.emplace_back("connection");
-            return true;
-        }
-        std::optional<std::string_view> primaryInterface(NetworkInfoSampler::AddressFamily) override {
-            return extras.route;
-        }
-        std::optional<std::string_view> ipv4Address(std::string_view) override { return "192.0.2.1"; }
-        std::optional<NetworkInfoSampler::Interface> describe(std::string_view) override {
-            return NetworkInfoSampler::Interface{NetworkInfoSampler::InterfaceType::ethernet, "Ethernet"};
-        }
-        std::optional<NetworkInfoSampler::WiFi> wifi(std::string_view) override { return std::nullopt; }
-        bool hidesNetworkNames() const override { return false; }
-        Extras& extras;
-    };
-    struct GPU : GPUSampler::Source {
-        explicit GPU(Extras& e) : extras(e) {}
-        std::optional<std::span<const Properties>> read() override {
-            extras.asked.emplace_back("gpu");
-            return std::span(&extras.gpu, 1);
-        }
-        Extras& extras;
-    };
-    struct Temperatures : HIDTemperatureSampler::Source {
-        explicit Temperatures(Extras& e) : extras(e) {}
-        bool read(std::vector<HIDTemperatureSampler::Service>& services) override {
-            extras.asked.emplace_back("sensors");
-            services = {{"CPU", extras.temperature}};
-            return true;
-        }
-        Extras& extras;
-    };
-    struct Keys : SensorKeys {
-        explicit Keys(Extras& e) : extras(e) {}
-        std::optional<double> value(std::string_view key) override {
-            return key == "PSTR" ? extras.power : std::nullopt;
-        }
-        Extras& extras;
-    };
-    struct Battery : BatterySampler::Source {
-        explicit Battery(Extras& e) : extras(e) {}
-        std::optional<std::span<const Properties>> powerSources() override {
-            extras.asked.emplace_back("battery");
-            return std::span(&extras.powerSource, 1);
-        }
-        const Properties* smartBattery() override { return nullptr; }
-        Extras& extras;
-    };
-};
-
 TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
-    Extras extras;
+    fakes::OptionalSources extras;
     auto sources = machine.makeSources();
     extras.addTo(sources);
     SystemMonitor full(std::move(sources), defaults, std::make_unique<ManualTimer>(),
@@ -425,74 +351,6 @@ TEST_F(SystemMonitorTest, DemoReadingsStayFixedWhileAScanEnds) {
     finishTask();
     EXPECT_EQ(readings().accessories.size(), 3u);
     EXPECT_EQ(changes.size(), static_cast<std::size_t>(readingCount) - 1); // all but the interval
-}
-
-TEST(DemoReadings, FollowTheirFormula) {
-    const Readings demo = demoReadings();
-    struct Case {
-        const char* name;
-        const History& history;
-        double first; // computed by hand from the sine formula at i = 0
-    };
-    const Case cases[] = {
-        {"cpu", demo.cpuHistory, (0.6 * 0.3894183423086505 + 0.4 * 0.7173560908995228) * 0.2 + 0.32},
-        {"upload", demo.uploadHistory, (0.6 * 0.7833269096274834 + 0.4 * 0.9738476308781951) * 140000 + 200000},
-        {"power", demo.systemPowerHistory, (0.6 * 0.9974949866040544 + 0.4 * 0.1411200080598672) * 7 + 16},
-    };
-    for (const Case& c : cases) {
-        EXPECT_EQ(c.history.size(), historyLength) << c.name;
-        EXPECT_NEAR(c.history.front(), c.first, 1e-9 * c.first) << c.name;
-    }
-    EXPECT_GE(*std::min_element(demo.downloadHistory.begin(), demo.downloadHistory.end()), 0.0);
-    EXPECT_LE(*std::max_element(demo.memoryHistory.begin(), demo.memoryHistory.end()), 1.0);
-}
-
-TEST(ThreadTaskRunner, WorksElsewhereAndReportsOnTheMainThread) {
-    ThreadTaskRunner runner;
-    QThread* worker = nullptr;
-    QThread* reporter = nullptr;
-    runner.run([&] { worker = QThread::currentThread(); }, [&] { reporter = QThread::currentThread(); });
-    const QDeadlineTimer deadline(10000);
-    while (!reporter && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
-    EXPECT_EQ(reporter, QThread::currentThread());
-    EXPECT_NE(worker, nullptr);
-    EXPECT_NE(worker, reporter);
-}
-
-TEST(ThreadTaskRunner, LeavesWorkBehindThatHangs) {
-    struct State {
-        std::atomic<bool> hangs = true;
-        std::atomic<bool> ended = false;
-    };
-    const auto state = std::make_shared<State>();
-    const auto work = [state] {
-        while (state->hangs)
-            std::this_thread::yield();
-        state->ended = true;
-    };
-    bool reported = false;
-    {
-        ThreadTaskRunner().run(work, [&] { reported = true; });
-    }
-    EXPECT_FALSE(state->ended);
-    state->hangs = false;
-    const QDeadlineTimer deadline(10000);
-    while (!state->ended && !deadline.hasExpired())
-        std::this_thread::yield();
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(state->ended);
-    EXPECT_FALSE(reported);
-}
-
-TEST(ThreadTaskRunner, DropsTheReportWhenItIsGone) {
-    bool reported = false;
-    {
-        ThreadTaskRunner runner;
-        runner.run([] {}, [&] { reported = true; });
-    }
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(reported);
 }
 
 } // namespace

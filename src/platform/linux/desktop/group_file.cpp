@@ -11,32 +11,16 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/linux/desktop/file_writing.h"
+
 namespace vantrix {
 namespace {
-
-bool writeAll(int file, std::string_view bytes) {
-    while (!bytes.empty()) {
-        const ssize_t count = ::write(file, bytes.data(), bytes.size());
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(count));
-    }
-    return true;
-}
 
 /// The folder itself is made private; folders above it are made as usual.
 bool makeFolder(const std::filesystem::path& folder) {
     std::error_code error;
     std::filesystem::create_directories(folder.parent_path(), error);
     return ::mkdir(folder.c_str(), 0700) == 0;
-}
-
-/// A name like `path` that no listing shows.
-std::string hiddenPattern(const std::string& path) {
-    const auto base = path.rfind('/') + 1;
-    return path.substr(0, base) + '.' + path.substr(base) + ".XXXXXX";
 }
 
 /// Puts the new file where the old one is. Exchanging the two and removing the old one afterwards is as atomic as

@@ -12,26 +12,12 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 
+#include "platform/linux/desktop/file_writing.h"
+#include "platform/linux/sources/file_descriptor.h"
+
 namespace vantrix {
 
 namespace {
-
-class FileDescriptor {
-  public:
-    explicit FileDescriptor(int number) : number_(number) {}
-    ~FileDescriptor() {
-        if (number_ >= 0)
-            ::close(number_);
-    }
-    FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-
-    int number() const { return number_; }
-    explicit operator bool() const { return number_ >= 0; }
-
-  private:
-    int number_;
-};
 
 std::int64_t nanoseconds(const timespec& time) {
     return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
@@ -46,7 +32,7 @@ std::optional<QByteArray> readUpTo(qsizetype limit, const FileDescriptor& file) 
     QByteArray bytes(limit, Qt::Uninitialized);
     qsizetype filled = 0;
     while (filled < limit) {
-        const ssize_t count = ::read(file.number(), bytes.data() + filled, static_cast<std::size_t>(limit - filled));
+        const ssize_t count = ::read(file.get(), bytes.data() + filled, static_cast<std::size_t>(limit - filled));
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
@@ -57,20 +43,6 @@ std::optional<QByteArray> readUpTo(qsizetype limit, const FileDescriptor& file) 
     }
     bytes.resize(filled);
     return bytes;
-}
-
-bool writeAll(const FileDescriptor& file, const QByteArray& bytes) {
-    qsizetype written = 0;
-    while (written < bytes.size()) {
-        const ssize_t count =
-            ::write(file.number(), bytes.constData() + written, static_cast<std::size_t>(bytes.size() - written));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return false;
-        written += count;
-    }
-    return true;
 }
 
 SettingsFile failed(SettingsFile file, SettingsFile::State state, const char* problem) {
@@ -126,9 +98,10 @@ bool replaceable(const QByteArray& path) {
 /// Puts the complete new file where the old one is.
 bool install(const FileDescriptor& file, const QByteArray& temporary, const QByteArray& path,
              const QByteArray& contents, const Replacement& how) {
-    if (::fchmod(file.number(), how.mode) != 0 || !writeAll(file, contents))
+    if (::fchmod(file.get(), how.mode) != 0 ||
+        !writeAll(file.get(), std::string_view(contents.constData(), static_cast<std::size_t>(contents.size()))))
         return false;
-    if (how.synced && ::fsync(file.number()) != 0)
+    if (how.synced && ::fsync(file.get()) != 0)
         return false;
     if (!replaceable(path))
         return false;
@@ -166,7 +139,7 @@ SettingsFile readSettingsFile(const QString& path) {
     const FileDescriptor file(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (!file)
         return failed(std::move(result), State::damaged, "cannot be read");
-    if (::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
+    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
         return failed(std::move(result), State::blocked, "is not a regular file");
     // Of the file that is open, taken before reading: an edit while reading is then seen as a change.
     result.stamp = stampOf(status);
@@ -183,8 +156,7 @@ QString linkTarget(const QString& path) {
 
 Replaced replaceFile(const QString& path, const QByteArray& contents, const Replacement& how) {
     const QByteArray name = QFile::encodeName(path);
-    const qsizetype base = name.lastIndexOf('/') + 1;
-    QByteArray temporary = name.left(base) + '.' + name.mid(base) + ".XXXXXX";
+    QByteArray temporary = QByteArray::fromStdString(hiddenPattern(name.toStdString()));
     const FileDescriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
     if (!file)
         return {std::nullopt, errno};
@@ -194,7 +166,7 @@ Replaced replaceFile(const QString& path, const QByteArray& contents, const Repl
         return {std::nullopt, error};
     }
     struct stat status {};
-    if (::fstat(file.number(), &status) != 0)
+    if (::fstat(file.get(), &status) != 0)
         return {FileStamp(), 0};
     return {stampOf(status), 0};
 }

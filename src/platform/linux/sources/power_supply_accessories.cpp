@@ -22,15 +22,8 @@ std::string readWord(const std::string& path) {
     return begin == std::string::npos ? "" : line.substr(begin, line.find_last_not_of(' ') - begin + 1);
 }
 
-/// The value of a line "KEY=value" of the file uevent; empty when there is none.
 std::string readEventValue(const std::string& device, std::string_view key) {
-    const auto text = readStart(device + "/uevent");
-    std::string_view rest = text ? *text : std::string_view();
-    while (const auto line = takeLine(rest)) {
-        if (line->size() > key.size() && line->starts_with(key) && (*line)[key.size()] == '=')
-            return std::string(line->substr(key.size() + 1));
-    }
-    return {};
+    return std::string(ueventValue(readStart(device + "/uevent").value_or(""), key));
 }
 
 std::string nameOf(const std::string& supply, const std::string& entry) {

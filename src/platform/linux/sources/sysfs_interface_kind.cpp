@@ -1,12 +1,12 @@
 #include "platform/linux/sources/sysfs_interface_kind.h"
 
-#include <algorithm>
 #include <array>
 
 #include <net/if_arp.h>
 #include <unistd.h>
 
 #include "platform/linux/sources/kernel_tree.h"
+#include "platform/linux/sources/text_scan.h"
 
 namespace vantrix {
 namespace {
@@ -24,18 +24,6 @@ constexpr Sort sorts[] = {
     {"bridge", {Type::other, "Bridge"}},  {"bond", {Type::other, "Bond"}},
     {"vlan", {Type::other, "VLAN"}},      {"ppp", {Type::other, "PPP"}},
 };
-
-/// The value of a line "DEVTYPE=…" in a uevent file; empty without one.
-std::string_view deviceType(std::string_view uevent) {
-    constexpr std::string_view key = "DEVTYPE=";
-    while (!uevent.empty()) {
-        const auto line = uevent.substr(0, uevent.find('\n'));
-        if (line.starts_with(key))
-            return line.substr(key.size());
-        uevent.remove_prefix(std::min(line.size() + 1, uevent.size()));
-    }
-    return {};
-}
 
 bool isOnUSB(const std::string& folder) {
     std::array<char, 512> target;
@@ -63,8 +51,9 @@ std::optional<InterfaceKind> readInterfaceKind(const std::string& sys, std::stri
     if (pathExists(folder + "wireless") || pathExists(folder + "phy80211"))
         return InterfaceKind{Type::ieee80211, "Wi-Fi"};
     const auto uevent = readStart(folder + "uevent").value_or("");
+    const auto deviceType = ueventValue(uevent, "DEVTYPE");
     for (const Sort& sort : sorts) {
-        if (sort.deviceType == deviceType(uevent))
+        if (sort.deviceType == deviceType)
             return sort.kind;
     }
     return kindOfPort(folder);

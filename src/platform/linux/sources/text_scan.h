@@ -19,6 +19,17 @@ inline std::optional<std::string_view> takeLine(std::string_view& text) {
     return line;
 }
 
+/// The value of a line "KEY=value" of a uevent file, whose last line may lack its end; empty without one.
+inline std::string_view ueventValue(std::string_view text, std::string_view key) {
+    while (!text.empty()) {
+        const auto line = text.substr(0, text.find('\n'));
+        if (line.size() > key.size() && line.starts_with(key) && line[key.size()] == '=')
+            return line.substr(key.size() + 1);
+        text.remove_prefix(line.size() < text.size() ? line.size() + 1 : line.size());
+    }
+    return {};
+}
+
 /// Walks the fields of one line, which blanks and tabs separate.
 class Fields {
   public:

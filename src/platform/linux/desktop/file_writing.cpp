@@ -1,0 +1,25 @@
+#include "platform/linux/desktop/file_writing.h"
+
+#include <cerrno>
+#include <unistd.h>
+
+namespace vantrix {
+
+bool writeAll(int file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const ssize_t count = ::write(file, bytes.data(), bytes.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(count));
+    }
+    return true;
+}
+
+std::string hiddenPattern(std::string_view path) {
+    const auto base = path.rfind('/') + 1;
+    return std::string(path.substr(0, base)).append(".").append(path.substr(base)).append(".XXXXXX");
+}
+
+} // namespace vantrix
