@@ -34,7 +34,7 @@ std::string nameOf(const std::string& supply, const std::string& entry) {
 }
 
 std::string addressOf(const std::string& supply, const std::string& entry) {
-    if (const std::string address = findAddress(entry); !address.empty())
+    if (std::string address = findAddress(entry); !address.empty())
         return address;
     std::string address = findAddress(readEventValue(supply + "/device", "HID_UNIQ"));
     return address.empty() ? entry : address; // two mice of one kind are two

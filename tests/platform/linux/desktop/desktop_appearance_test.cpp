@@ -2,6 +2,7 @@
 
 #include <limits>
 
+#include <QDBusConnectionInterface>
 #include <QGuiApplication>
 #include <QPalette>
 
@@ -40,12 +41,19 @@ class DesktopAppearanceTest : public testing::Test {
         QObject::connect(source.get(), &AppearanceSource::changed, source.get(), [this] { ++changes; });
     }
 
+    /// Returns when nothing that portals sent so far can reach another source.
+    void stop() {
+        source.reset();
+        connection.bus().interface()->isServiceRegistered(u"org.freedesktop.portal.Desktop"_s);
+    }
+
     bool becomes(const Appearance& wanted) {
         return spinUntil([&] { return source->appearance() == wanted; });
     }
 
     /// Waits until everything that the portal sent before has arrived: its signals are told in order.
     void settle(FakePortal& portal) {
+        ASSERT_TRUE(spinUntil([&] { return !portal.asked.empty(); })); // it asks as soon as it listens
         const bool reduces = source->appearance().reducesMotion;
         portal.change(common, u"reduced-motion"_s, reduces ? 0U : 1U);
         ASSERT_TRUE(spinUntil([&] { return source->appearance().reducesMotion != reduces; }));
@@ -119,6 +127,8 @@ TEST_F(DesktopAppearanceTest, UnderstandsWhatDesktopsTell) {
         start();
         EXPECT_TRUE(becomes(row.expected));
         EXPECT_EQ(portal.asked.size(), 1u);
+        portal.leave();
+        stop();
     }
 }
 
@@ -172,6 +182,8 @@ TEST_F(DesktopAppearanceTest, SurvivesWrongAnswers) {
         settle(portal);
         EXPECT_EQ(source->appearance(), (Appearance{.reducesMotion = true}));
         EXPECT_EQ(changes, 1);
+        portal.leave();
+        stop();
     }
 }
 

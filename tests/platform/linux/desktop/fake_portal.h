@@ -52,6 +52,9 @@ class FakePortal : public QDBusVirtualObject {
         connection_.bus().interface()->registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
     }
 
+    /// Gives its name back; by the end the bus has told everybody.
+    void leave() { connection_.bus().interface()->unregisterService(QStringLiteral("org.freedesktop.portal.Desktop")); }
+
     /// Changes one setting while the programs run.
     void change(const QString& group, const QString& key, const QVariant& value) {
         settings[group][key] = value;
