@@ -45,4 +45,10 @@ while IFS= read -r file; do
   complain "$file asks for the operating system outside src/platform"
 done < <(grep -rlE '#\s*(if|ifdef|elif).*(__APPLE__|__linux__|Q_OS_)' src | grep -v '^src/platform/' || true)
 
+# What the standard library of the oldest Mac lacks, and no compiler here tells of.
+while IFS= read -r place; do
+  complain "$place needs a newer Mac"
+done < <(grep -rnE '\b(to_chars|jthread|stop_token|memory_resource|osyncstream|zoned_time)\b|<(format|print)>' src |
+  grep -v '^src/platform/linux/\|: *//' || true)
+
 exit $failed

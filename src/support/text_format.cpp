@@ -1,18 +1,15 @@
 #include "support/text_format.h"
 
-#include <charconv>
 #include <cmath>
 
 #include "support/checked.h"
+#include "support/decimal_text.h"
 
 namespace vantrix {
 namespace {
 
-/// Not printf: its decimal point follows the process's locale.
 std::string scaled(double value, int decimals, char unit) {
-    char text[400]; // the longest: a double just below infinity
-    const auto end = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, decimals).ptr;
-    return std::string(text, end) + unit;
+    return fixedDecimal(value, decimals) + unit;
 }
 
 } // namespace

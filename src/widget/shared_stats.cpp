@@ -1,10 +1,10 @@
 #include "widget/shared_stats.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <string_view>
 
+#include "support/decimal_text.h"
 #include "support/utf8.h"
 
 namespace vantrix {
@@ -39,11 +39,11 @@ class ObjectWriter {
     void put(std::string_view key, double value) {
         putKey(key);
         isFinite_ = isFinite_ && std::isfinite(value);
-        appendNumber(value);
+        json_ += roundTripDecimal(value);
     }
     void put(std::string_view key, int value) {
         putKey(key);
-        appendNumber(value);
+        json_ += std::to_string(value);
     }
     void put(std::string_view key, bool value) {
         putKey(key);
@@ -81,12 +81,6 @@ class ObjectWriter {
     }
 
   private:
-    template<typename Number>
-    void appendNumber(Number value) {
-        char text[32]; // the longest: -2.2250738585072014e-308
-        json_.append(text, std::to_chars(text, text + sizeof text, value).ptr);
-    }
-
     std::string& json_;
     bool isFirst_ = true;
     bool isFinite_ = true;
