@@ -11,6 +11,9 @@ class BluetoothUUID {
   public:
     explicit BluetoothUUID(std::string_view text);
 
+    /// In small letters; an assigned number in its short form.
+    std::string shortest() const;
+
     bool operator==(const BluetoothUUID&) const = default;
 
   private:

@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "accessories/bluetooth_report.h"
+#include "accessories/reported_devices.h"
 #include "platform/linux/sources/battery_packs.h"
 #include "platform/linux/sources/cpu_topology.h"
 #include "platform/linux/sources/gpu_meter.h"
@@ -122,7 +122,7 @@ void parseWithEverything(const std::string& text) {
     EXPECT_NE(parseModelName(text), "");
     parseLoad(text);
     findAddress(text);
-    parseBluetoothReport(text);
+    ReportedDevices().addBluetoothDevice("", {{"device_batteryLevelMain", text}});
     if (const auto pack = parseSupply(text))
         combinePacks({&*pack, 1}, std::nullopt);
     std::string_view datagram = text;

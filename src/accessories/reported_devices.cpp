@@ -1,0 +1,68 @@
+#include "accessories/reported_devices.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "accessories/accessory_levels.h"
+#include "accessories/accessory_symbol.h"
+
+namespace vantrix {
+namespace {
+
+/// "57%", "57 %" or "57".
+std::optional<int> parsePercent(std::optional<std::string_view> text) {
+    if (!text)
+        return std::nullopt;
+    const char* const last = text->data() + text->size();
+    int percent = 0;
+    const auto [end, error] = std::from_chars(text->data(), last, percent);
+    std::string_view rest(end, static_cast<std::size_t>(last - end));
+    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
+    const bool isPercent = error == std::errc() && percent >= 0 && (rest.empty() || rest == "%");
+    return isPercent ? std::optional(percent) : std::nullopt;
+}
+
+std::optional<int> percentOf(std::optional<std::int64_t> number) {
+    return number ? std::optional(static_cast<int>(std::clamp<std::int64_t>(*number, 0, 100))) : std::nullopt;
+}
+
+void add(ReportedDevices& devices, const std::string& name, std::string_view kind, std::string_view address,
+         const AccessoryLevels& levels) {
+    // The words of the name come first: they know AirPods from other headphones.
+    const std::string symbol = symbolForAccessory(name + ' ' + std::string(kind));
+    const std::size_t before = devices.accessories.size();
+    appendAccessory(devices.accessories, {name, 0, false, symbol, std::string(address)}, levels);
+    if (devices.accessories.size() == before)
+        devices.others.push_back(name);
+}
+
+} // namespace
+
+void ReportedDevices::addBluetoothDevice(const std::string& name, const Properties& values) {
+    AccessoryLevels levels;
+    levels.single = parsePercent(values.text("device_batteryLevelMain"));
+    levels.left = parsePercent(values.text("device_batteryLevelLeft"));
+    levels.right = parsePercent(values.text("device_batteryLevelRight"));
+    levels.box = parsePercent(values.text("device_batteryLevelCase"));
+    add(*this, name, values.text("device_minorType").value_or(""), values.text("device_address").value_or(""), levels);
+}
+
+void ReportedDevices::addInputDevice(const Properties& values) {
+    const auto name = values.text("Product");
+    if (!name)
+        return;
+    AccessoryLevels levels;
+    levels.single = percentOf(values.integer("BatteryPercent"));
+    add(*this, std::string(*name), "", values.text("DeviceAddress").value_or(""), levels);
+}
+
+AccessoriesSampler::Scan scanOf(const std::optional<ReportedDevices>& report, const ReportedDevices& inputDevices) {
+    const std::string origin = "system_profiler";
+    std::string diagnostics =
+        report ? accessoriesDiagnostics(origin, report->accessories, report->others) : origin + ": no report";
+    diagnostics += " | " + accessoriesDiagnostics("registry", inputDevices.accessories, inputDevices.others);
+    return {combineAccessories(report.value_or(ReportedDevices()).accessories, inputDevices.accessories),
+            std::move(diagnostics)};
+}
+
+} // namespace vantrix
