@@ -15,7 +15,7 @@ support:support
 samplers:samplers|support
 sensors:sensors|support
 accessories:accessories|support
-monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|platform/bluetooth.h|menubar/preferences.h
+monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|platform/bluetooth.h|platform/thread_priority.h|menubar/preferences.h
 menubar:menubar|monitor|support|samplers/memory_sampler.h
 views:views|menubar|support|platform/appearance.h|platform/status_item.h|platform/desktop_services.h
 popover:popover|views|monitor|menubar|support|samplers|sensors|accessories|platform/status_item.h|platform/desktop_services.h
@@ -23,7 +23,7 @@ settings:settings|views|monitor|menubar|support|platform/login_item.h
 alerts:alerts|monitor|menubar|support|samplers|accessories|platform/notification_center.h
 widget:widget|monitor|menubar|support|samplers|accessories|platform/widget_center.h
 doctor:doctor|support|samplers|sensors|accessories|platform/diagnosis.h|platform/sampling_sources.h
-platform/linux/sources:platform/linux/sources|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
+platform/linux/sources:platform/linux/sources|platform/thread_priority.h|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
 "
 for line in $allowed; do
   folder=${line%%:*}

@@ -8,6 +8,8 @@
 
 #include <QObject>
 
+#include "platform/thread_priority.h"
+
 namespace vantrix {
 namespace {
 
@@ -37,6 +39,7 @@ ThreadTaskRunner::~ThreadTaskRunner() {
 
 void ThreadTaskRunner::run(std::function<void()> work, std::function<void()> done) {
     const auto perform = [shared = shared_, work = std::move(work), done] {
+        lowerThreadPriority();
         work();
         const std::lock_guard lock(shared->mutex);
         shared->post(done);

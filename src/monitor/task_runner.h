@@ -14,7 +14,8 @@ class TaskRunner {
     virtual void run(std::function<void()> work, std::function<void()> done) = 0;
 };
 
-/// A thread for each task. Work that hangs is left behind when the runner goes, so it owns, or shares, what it touches.
+/// A thread of low priority for each task. Work that hangs is left behind when the runner goes, so it owns, or shares,
+/// what it touches.
 class ThreadTaskRunner final : public TaskRunner {
   public:
     /// Made on the main thread.
