@@ -57,6 +57,10 @@
     <message><source>Download</source><translation>Download</translation></message>
     <message><source>Upload</source><translation>Upload</translation></message>
     <message><source>Network name unavailable</source><translation>Netzwerkname nicht verfügbar</translation></message>
+    <message>
+        <source>Allow location access to show the network name</source>
+        <translation>Ortungszugriff erlauben, damit der Netzwerkname erscheint</translation>
+    </message>
     <message><source>Signal</source><translation>Signal</translation></message>
     <message><source>Signal-to-noise</source><translation>Signal-Rausch-Abstand</translation></message>
     <message><source>Link speed</source><translation>Verbindungsrate</translation></message>

@@ -60,6 +60,10 @@
     <message><source>Download</source><translation>Bajada</translation></message>
     <message><source>Upload</source><translation>Subida</translation></message>
     <message><source>Network name unavailable</source><translation>Nombre de red no disponible</translation></message>
+    <message>
+        <source>Allow location access to show the network name</source>
+        <translation>Permitir el acceso a la ubicación para mostrar el nombre de la red</translation>
+    </message>
     <message><source>Signal</source><translation>Señal</translation></message>
     <message><source>Signal-to-noise</source><translation>Señal/ruido</translation></message>
     <message><source>Link speed</source><translation>Velocidad de enlace</translation></message>

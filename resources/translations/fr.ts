@@ -57,6 +57,10 @@
     <message><source>Download</source><translation>Réception</translation></message>
     <message><source>Upload</source><translation>Envoi</translation></message>
     <message><source>Network name unavailable</source><translation>Nom du réseau indisponible</translation></message>
+    <message>
+        <source>Allow location access to show the network name</source>
+        <translation>Autoriser l’accès à la position pour afficher le nom du réseau</translation>
+    </message>
     <message><source>Signal</source><translation>Signal</translation></message>
     <message><source>Signal-to-noise</source><translation>Signal/bruit</translation></message>
     <message><source>Link speed</source><translation>Débit de liaison</translation></message>

@@ -60,6 +60,10 @@
         <source>Network name unavailable</source>
         <translation>Nome della rete non disponibile</translation>
     </message>
+    <message>
+        <source>Allow location access to show the network name</source>
+        <translation>Consenti l’accesso alla posizione per mostrare il nome della rete</translation>
+    </message>
     <message><source>Signal</source><translation>Segnale</translation></message>
     <message><source>Signal-to-noise</source><translation>Segnale/rumore</translation></message>
     <message><source>Link speed</source><translation>Velocità di connessione</translation></message>

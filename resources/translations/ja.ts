@@ -57,6 +57,10 @@
     <message><source>Download</source><translation>ダウンロード</translation></message>
     <message><source>Upload</source><translation>アップロード</translation></message>
     <message><source>Network name unavailable</source><translation>ネットワーク名を取得できません</translation></message>
+    <message>
+        <source>Allow location access to show the network name</source>
+        <translation>位置情報へのアクセスを許可するとネットワーク名が表示されます</translation>
+    </message>
     <message><source>Signal</source><translation>信号</translation></message>
     <message><source>Signal-to-noise</source><translation>SN比</translation></message>
     <message><source>Link speed</source><translation>リンク速度</translation></message>

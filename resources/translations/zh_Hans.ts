@@ -57,6 +57,10 @@
     <message><source>Download</source><translation>下载</translation></message>
     <message><source>Upload</source><translation>上传</translation></message>
     <message><source>Network name unavailable</source><translation>网络名称不可用</translation></message>
+    <message>
+        <source>Allow location access to show the network name</source>
+        <translation>允许访问位置信息以显示网络名称</translation>
+    </message>
     <message><source>Signal</source><translation>信号</translation></message>
     <message><source>Signal-to-noise</source><translation>信噪比</translation></message>
     <message><source>Link speed</source><translation>连接速率</translation></message>

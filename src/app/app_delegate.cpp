@@ -37,11 +37,12 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
       monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
                std::make_unique<ThreadTaskRunner>(), std::move(parts.bluetooth)),
       theme_(parts.appearance),
-      popover_(theme_,
-               [this] {
-                   return std::make_unique<PopoverView>(monitor_, CardContext{theme_, defaults_, processor_},
-                                                        [this] { return menuEntries(); });
-               }),
+      popover_(
+          theme_,
+          [this] {
+              const CardContext context{theme_, defaults_, processor_, [this] { monitor_.requestLocationAccess(); }};
+              return std::make_unique<PopoverView>(monitor_, context, [this] { return menuEntries(); });
+          }),
       settings_({theme_, defaults_, monitor_, *loginItem_, [this](auto done) { alerts_.sendTest(std::move(done)); }}) {}
 
 AppDelegate::~AppDelegate() = default;

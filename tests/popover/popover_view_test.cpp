@@ -209,13 +209,38 @@ TEST_F(CardsTest, TheNetworkCardLeavesOutWhatIsNotKnown) {
     withheld.kind = NetworkInfo::Kind::wifi;
     withheld.rssi = -71;
     withheld.ssidHiddenByPrivacy = true;
-    EXPECT_THAT(details(withheld), ElementsAre("Network name unavailable", "Signal: -71 dBm · Weak"));
+    EXPECT_THAT(details(withheld), ElementsAre("Signal: -71 dBm · Weak"));
     NetworkInfo ethernet;
     ethernet.kind = NetworkInfo::Kind::ethernet;
     ethernet.interface = "enp3s0";
     ethernet.ssidHiddenByPrivacy = true;
     EXPECT_THAT(details(ethernet), ElementsAre("Interface: enp3s0"));
     EXPECT_THAT(details({}), ElementsAre());
+}
+
+TEST_F(CardsTest, AWithheldNetworkNameIsAskedFor) {
+    const struct {
+        const char* name;
+        NetworkInfo::Kind kind;
+        const char* ssid;
+        bool isOffered;
+    } cases[] = {{"withheld", NetworkInfo::Kind::wifi, nullptr, true},
+                 {"told", NetworkInfo::Kind::wifi, "Home", false},
+                 {"a wire", NetworkInfo::Kind::ethernet, nullptr, false}};
+    int asked = 0;
+    context.requestLocationAccess = [&] { ++asked; };
+    for (const auto& row : cases) {
+        readings.networkInfo = {.kind = row.kind, .ssidHiddenByPrivacy = row.ssid == nullptr};
+        if (row.ssid)
+            readings.networkInfo.ssid = row.ssid;
+        const auto card = shown<NetworkCard>();
+        auto* link = card->findChild<QAbstractButton*>();
+        EXPECT_EQ(link->isVisibleTo(card.get()), row.isOffered) << row.name;
+        EXPECT_EQ(link->text(), u"Network name unavailable"_s);
+        asked = 0;
+        link->click();
+        EXPECT_EQ(asked, 1);
+    }
 }
 
 TEST_F(CardsTest, TheDiskCardShowsAbsentRatesAsZeroAndSurvivesAnEmptyVolume) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "popover/charts/metric_card.h"
 
 namespace vantrix {
@@ -13,6 +15,8 @@ struct CardContext {
     const Theme& theme;
     const UserDefaults& defaults;
     const ProcessorDescription& processor;
+    /// Asks for what shows the name of a Wi-Fi network that the system withholds.
+    std::function<void()> requestLocationAccess = [] {};
 };
 
 /// A card of the popover: shows the latest readings each time it is told.

@@ -10,7 +10,7 @@
 #include "popover/reading_text.h"
 #include "support/localization.h"
 #include "support/text_format.h"
-#include "views/text_label.h"
+#include "views/link_button.h"
 
 namespace vantrix {
 namespace {
@@ -86,8 +86,8 @@ NetworkCard::NetworkCard(const CardContext& context)
       upload_(column(context.theme, {localizedText("Upload"), localizedText("Upload history"), "arrow.up",
                                      &ThemeColors::green, leastScale})),
       connection_(new QWidget), name_(detail(context.theme, localizedText("Network"))),
-      nameWithheld_(new TextLabel(context.theme, {.points = 11.0, .color = &ThemeColors::secondary, .wraps = true},
-                                  localizedText("Network name unavailable"))),
+      nameWithheld_(new LinkButton(context.theme, localizedText("Network name unavailable"),
+                                   localizedText("Allow location access to show the network name"))),
       signal_(detail(context.theme, localizedText("Signal"))),
       signalToNoise_(detail(context.theme, localizedText("Signal-to-noise"))),
       linkSpeed_(detail(context.theme, localizedText("Link speed"))),
@@ -100,6 +100,7 @@ NetworkCard::NetworkCard(const CardContext& context)
     for (QWidget* row : std::initializer_list<QWidget*>{name_, nameWithheld_, signal_, signalToNoise_, linkSpeed_,
                                                         interface_, address_})
         rows->addWidget(row);
+    connect(nameWithheld_, &QPushButton::clicked, this, context.requestLocationAccess);
     content().addLayout(sideBySide(download_, upload_));
     content().addWidget(connection_);
 }

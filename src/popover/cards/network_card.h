@@ -4,9 +4,9 @@
 
 namespace vantrix {
 
+class LinkButton;
 class RateColumn;
 class StatRow;
-class TextLabel;
 struct NetworkInfo;
 
 /// Traffic in both directions, and what is known of the connection.
@@ -22,7 +22,7 @@ class NetworkCard : public Card {
     RateColumn* upload_;
     QWidget* connection_;
     StatRow* name_;
-    TextLabel* nameWithheld_;
+    LinkButton* nameWithheld_;
     StatRow* signal_;
     StatRow* signalToNoise_;
     StatRow* linkSpeed_;

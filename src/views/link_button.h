@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QPushButton>
+
+namespace vantrix {
+
+class FocusRing;
+class Theme;
+
+/// A line of text that does something when it is clicked.
+class LinkButton : public QPushButton {
+    Q_OBJECT
+  public:
+    /// `description` says what it does, in the tool tip and to assistive programs.
+    LinkButton(const Theme& theme, const QString& text, const QString& description);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    const Theme& theme_;
+    FocusRing& ring_;
+};
+
+} // namespace vantrix
