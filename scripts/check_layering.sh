@@ -23,7 +23,8 @@ settings:settings|views|monitor|menubar|support|platform/login_item.h
 alerts:alerts|monitor|menubar|support|samplers|accessories|platform/notification_center.h
 widget:widget|monitor|menubar|support|samplers|accessories|platform/widget_center.h
 doctor:doctor|support|samplers|sensors|accessories|platform/diagnosis.h|platform/sampling_sources.h
-platform/linux/sources:platform/linux/sources|platform/thread_priority.h|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
+platform/linux/sources:platform/linux/sources|platform/posix/file_descriptor.h|platform/thread_priority.h|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
+platform/posix:platform/posix|platform/desktop_services.h
 "
 for line in $allowed; do
   folder=${line%%:*}

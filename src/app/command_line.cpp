@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <locale>
 #include <sstream>
 
 namespace vantrix {
@@ -11,13 +12,29 @@ constexpr std::string_view exportFlag = "-exportScreenshots";
 constexpr double leastInterval = 0.5;
 constexpr double mostInterval = 3600.0;
 
-template<typename Number>
-std::optional<Number> parsed(const std::string& text) {
-    Number number{};
+std::optional<long> wholeNumber(const std::string& text) {
+    long number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error != std::errc{} || end != text.data() + text.size())
         return std::nullopt;
     return number;
+}
+
+/// Not from_chars: not every standard library reads fractions with it.
+std::optional<double> fraction(const std::string& text) {
+    std::istringstream stream(text);
+    stream.imbue(std::locale::classic());
+    double number = 0.0;
+    if (!(stream >> std::noskipws >> number) || stream.peek() != std::istringstream::traits_type::eof())
+        return std::nullopt;
+    return number;
+}
+
+/// "/host/proc/" as "/host/proc".
+std::string withoutTrailingSlashes(std::string path) {
+    while (path.size() > 1 && path.ends_with('/'))
+        path.pop_back();
+    return path;
 }
 
 /// Walks over the arguments; the first thing wrong ends the walk.
@@ -39,7 +56,6 @@ class Parser {
             checkCombination();
         if (!error_.empty())
             return error_;
-        result_.roots = withoutTrailingSlashes(std::move(result_.roots));
         return result_;
     }
 
@@ -77,9 +93,9 @@ class Parser {
         else if (option == "--modules")
             parseModules(option);
         else if (option == "--proc-root")
-            result_.roots.proc = value(option);
+            result_.roots.proc = withoutTrailingSlashes(value(option));
         else if (option == "--sys-root")
-            result_.roots.sys = value(option);
+            result_.roots.sys = withoutTrailingSlashes(value(option));
         else
             error_ = "unknown option " + option + " (see vantrix --help)";
     }
@@ -112,7 +128,7 @@ class Parser {
     }
 
     void parseInterval(const std::string& option) {
-        const auto seconds = parsed<double>(value(option));
+        const auto seconds = fraction(value(option));
         if (error_.empty() && !(seconds && *seconds >= leastInterval && *seconds <= mostInterval))
             error_ = "--interval takes seconds from 0.5 to 3600";
         result_.interval = seconds;
@@ -120,7 +136,7 @@ class Parser {
     }
 
     void parseCount(const std::string& option) {
-        const auto count = parsed<long>(value(option));
+        const auto count = wholeNumber(value(option));
         if (error_.empty() && !(count && *count >= 1))
             error_ = "--count takes a whole number from 1";
         result_.count = count;

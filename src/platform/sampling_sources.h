@@ -23,14 +23,12 @@ namespace vantrix {
 /// Where the kernel's file trees are mounted. Other roots serve a host watched from inside a container, and the
 /// recorded machines of the tests. Only Linux has such trees.
 struct KernelRoots {
+    // Without a slash at the end.
     std::string proc = "/proc";
     std::string sys = "/sys";
 
     bool operator==(const KernelRoots&) const = default;
 };
-
-/// The roots as they were given, "/host/proc/" as "/host/proc".
-KernelRoots withoutTrailingSlashes(KernelRoots roots);
 
 /// Everything the samplers read from. What a system lacks is null: `gpu`, the three sources of sensors, `battery` and
 /// `accessories` without such devices' interfaces, `networkInfo` where nothing tells of the connection, `location`

@@ -11,7 +11,7 @@
 #include <sys/un.h>
 #include <unistd.h>
 
-#include "platform/linux/sources/file_descriptor.h"
+#include "platform/posix/file_descriptor.h"
 
 namespace vantrix {
 namespace {

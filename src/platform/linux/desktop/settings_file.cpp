@@ -13,7 +13,7 @@
 #include <QJsonDocument>
 
 #include "platform/linux/desktop/file_writing.h"
-#include "platform/linux/sources/file_descriptor.h"
+#include "platform/posix/file_descriptor.h"
 
 namespace vantrix {
 

@@ -6,7 +6,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 
-#include "platform/linux/sources/file_descriptor.h"
+#include "platform/posix/file_descriptor.h"
 
 namespace vantrix {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/linux/sources/file_descriptor.h"
+#include "platform/posix/file_descriptor.h"
 
 namespace vantrix {
 

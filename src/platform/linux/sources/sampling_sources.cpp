@@ -46,8 +46,7 @@ std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRo
 
 } // namespace
 
-SamplingSources makeSamplingSources(const KernelRoots& given) {
-    const KernelRoots roots = withoutTrailingSlashes(given);
+SamplingSources makeSamplingSources(const KernelRoots& roots) {
     SamplingSources sources;
     sources.clock = std::make_unique<LinuxClock>();
     sources.information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys);

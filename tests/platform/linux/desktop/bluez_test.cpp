@@ -4,10 +4,10 @@
 
 #include "accessories/bluetooth_battery_reader.h"
 #include "fakes/fake_bluetooth.h"
-#include "monitor/soak.h"
 #include "platform/linux/desktop/bluez_central.h"
 #include "platform/linux/desktop/fake_bluez.h"
 #include "platform/linux/desktop/private_bus.h"
+#include "platform/linux/desktop/soak.h"
 
 namespace vantrix {
 namespace {

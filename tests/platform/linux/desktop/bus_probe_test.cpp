@@ -10,7 +10,7 @@
 
 #include "platform/linux/desktop/bluez_watch.h"
 #include "platform/linux/desktop/private_bus.h"
-#include "platform/linux/sources/file_descriptor.h"
+#include "platform/posix/file_descriptor.h"
 
 namespace vantrix {
 namespace {

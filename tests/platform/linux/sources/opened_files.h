@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/linux/sources/file_descriptor.h"
+#include "platform/posix/file_descriptor.h"
 
 namespace vantrix {
 

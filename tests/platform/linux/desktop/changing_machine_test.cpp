@@ -10,8 +10,8 @@
 #include "fakes/busy_laptop.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
-#include "monitor/soak.h"
 #include "monitor/system_monitor.h"
+#include "platform/linux/desktop/soak.h"
 #include "platform/linux/sources/temporary_folder.h"
 
 namespace vantrix {

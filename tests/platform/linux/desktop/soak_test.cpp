@@ -7,8 +7,8 @@
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
 #include "menubar/menu_bar_renderer.h"
-#include "monitor/soak.h"
 #include "monitor/system_monitor.h"
+#include "platform/linux/desktop/soak.h"
 
 namespace vantrix {
 namespace {
