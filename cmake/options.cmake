@@ -1,8 +1,14 @@
 # Flags that every target of the project shares; linked as an interface so that nothing leaks into imported targets.
 add_library(vantrix_options INTERFACE)
 # Leaving fields out of a designated initializer is how a record says "the rest is absent".
-target_compile_options(vantrix_options INTERFACE -Wall -Wextra -Wconversion -Wshadow=local -Werror
-                                                 -Wno-missing-field-initializers)
+set(flags -Wall -Wextra -Wconversion -Wno-missing-field-initializers)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  list(APPEND flags -Wshadow=local -Werror)
+else()
+  list(APPEND flags -Wno-sign-conversion) # part of -Wconversion there alone; what else such a compiler finds is no error
+  list(APPEND flags -ffp-contract=off) # a product and a sum rounded at once would give other last digits than elsewhere
+endif()
+target_compile_options(vantrix_options INTERFACE ${flags})
 target_include_directories(vantrix_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
 if(VANTRIX_SANITIZE)

@@ -8,6 +8,7 @@
 #include <QToolTip>
 
 #include "menubar/preferences.h"
+#include "platform/desktop_services.h"
 #include "popover/popover_place.h"
 #include "popover/popover_view.h"
 #include "support/localization.h"
@@ -37,12 +38,12 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
       monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
                std::make_unique<ThreadTaskRunner>(), std::move(parts.bluetooth)),
       theme_(parts.appearance),
-      popover_(
+      popover_(parts.makePopover(
           theme_,
           [this] {
               const CardContext context{theme_, defaults_, processor_, [this] { monitor_.requestLocationAccess(); }};
               return std::make_unique<PopoverView>(monitor_, context, [this] { return menuEntries(); });
-          }),
+          })),
       settings_({theme_, defaults_, monitor_, *loginItem_, [this](auto done) { alerts_.sendTest(std::move(done)); }}) {}
 
 AppDelegate::~AppDelegate() = default;
@@ -65,7 +66,7 @@ void AppDelegate::createStatusItem() {
     statusItem_ = makeStatusItem_({
         .clicked = [this](const StatusClick& click) { statusItemClicked(click); },
         .menu = [this] { return menuEntries(); },
-        .menuWillOpen = [this] { popover_.close(); },
+        .menuWillOpen = [this] { popover_->close(); },
     });
 }
 
@@ -112,20 +113,23 @@ std::vector<StatusMenuEntry> AppDelegate::menuEntries() {
 void AppDelegate::showMenu() {
     if (!statusItem_)
         return;
-    popover_.close();
-    menu_ = makeMenu(menuEntries());
+    popover_->close();
+    const std::vector<StatusMenuEntry> entries = menuEntries();
+    if (statusItem_->popUpMenu(entries))
+        return;
+    menu_ = makeMenu(entries);
     menu_->setPalette(theme_.palette());
     menu_->popup(menuPlace(menu_->sizeHint(), statusItem_->anchor()));
 }
 
 void AppDelegate::togglePopover() {
     if (statusItem_)
-        popover_.toggle(statusItem_->anchor());
+        popover_->toggle(*statusItem_);
 }
 
 void AppDelegate::showPopover() {
-    if (statusItem_ && !popover_.isShown())
-        popover_.show(statusItem_->anchor());
+    if (statusItem_ && !popover_->isShown())
+        popover_->show(*statusItem_);
 }
 
 void AppDelegate::openSettings() {
@@ -137,7 +141,8 @@ void AppDelegate::showSettings(std::string_view tab) {
     const auto named = tab.starts_with(' ') ? choiceNamed(settingsTabs, tab.substr(1)) : std::nullopt;
     if (!named && !tab.empty())
         return;
-    popover_.close();
+    popover_->close();
+    activateProgram();
     if (named)
         settings_.show(*named);
     else

@@ -10,9 +10,9 @@
 #include "monitor/system_monitor.h"
 #include "platform/login_item.h"
 #include "platform/notification_center.h"
+#include "platform/popover_window.h"
 #include "platform/status_item.h"
 #include "platform/widget_center.h"
-#include "popover/popover_host.h"
 #include "samplers/processor_description.h"
 #include "settings/settings_window_controller.h"
 #include "views/theme.h"
@@ -37,6 +37,8 @@ class AppDelegate : public QObject {
         std::unique_ptr<NotificationCenter> notifications;
         std::unique_ptr<WidgetCenter> widgets; ///< may be null
         Bluetooth bluetooth = {};              ///< may be empty
+        std::function<std::unique_ptr<PopoverWindow>(const Theme&, PopoverWindow::MakeView)> makePopover =
+            makePopoverWindow;
     };
 
     /// `defaults` outlives the delegate.
@@ -77,7 +79,7 @@ class AppDelegate : public QObject {
     ProcessorDescription processor_;
     SystemMonitor monitor_;
     Theme theme_;
-    PopoverHost popover_;
+    std::unique_ptr<PopoverWindow> popover_;
     SettingsWindowController settings_;
     std::unique_ptr<StatusItem> statusItem_; // none until launch has finished
     std::unique_ptr<QMenu> menu_;            // the one that was shown last

@@ -157,6 +157,7 @@ DoctorReport Doctor::examine() {
 
 int runDoctor(const CommandLine& commandLine, const char* version, int& argc, char** argv) {
     ignoreBrokenPipes();
+    prepareTerminal();
     QCoreApplication application(argc, argv);
     QLocale::setDefault(QLocale::c()); // a report is read by others than its user
     Doctor doctor(commandLine.roots, version);

@@ -1,7 +1,5 @@
 #include <cstdio>
-#include <filesystem>
 #include <string>
-#include <unistd.h>
 
 #include <QApplication>
 
@@ -29,15 +27,6 @@ constexpr int usageError = 2;
 int fail(const std::string& message, int status) {
     std::fprintf(stderr, "vantrix: %s\n", message.c_str());
     return status;
-}
-
-/// The first root that cannot be read, if any.
-std::optional<std::string> unreadableRoot(const KernelRoots& roots) {
-    std::error_code error;
-    for (const std::string& root : {roots.proc, roots.sys})
-        if (!std::filesystem::is_directory(root, error) || ::access(root.c_str(), R_OK | X_OK) != 0)
-            return root;
-    return std::nullopt;
 }
 
 int request(const std::string& message) {

@@ -56,6 +56,7 @@ class LinePrinter {
 
 int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
     ignoreBrokenPipes();
+    prepareTerminal();
     QCoreApplication application(argc, argv);
     installTranslations();
     UserDefaults defaults(makeStandardDefaultsStore());

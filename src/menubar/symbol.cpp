@@ -8,8 +8,9 @@
 #include <QSvgRenderer>
 #include <QTransform>
 
-namespace vantrix {
+#include "platform/system_symbols.h"
 
+namespace vantrix {
 namespace {
 
 /// Empty where no symbol has that name.
@@ -20,6 +21,17 @@ QByteArray source(std::string_view name) {
 }
 
 } // namespace
+
+QImage ownSymbol(std::string_view name, int side) {
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    const auto data = source(name);
+    if (data.isEmpty())
+        return image;
+    QPainter painter(&image);
+    QSvgRenderer(data).render(&painter, image.rect());
+    return image;
+}
 
 void paintSymbol(QPainter& painter, std::string_view name, const QRectF& rect, const QColor& color) {
     const auto toDevice = painter.deviceTransform();
@@ -38,18 +50,25 @@ void paintSymbol(QPainter& painter, std::string_view name, const QRectF& rect, c
     painter.restore();
 }
 
+double symbolTextSize(double side) {
+    return 0.8 * side; // round symbols then nearly fill the square
+}
+
+QRectF symbolPlace(const QSizeF& natural, double side) {
+    const bool fits = natural.width() <= side && natural.height() <= side;
+    QRectF place(QPointF(), fits ? natural : natural.scaled(side, side, Qt::KeepAspectRatio));
+    place.moveCenter(QPointF(side, side) / 2.0);
+    return place;
+}
+
 QImage symbolImage(std::string_view name, const QColor& color, int side) {
     if (side < 1)
         return {};
-    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
-    image.fill(Qt::transparent);
-    const auto data = source(name);
-    if (data.isEmpty())
-        return image;
-
+    QImage image = systemSymbol(name, side);
+    if (image.isNull())
+        image = ownSymbol(name, side);
+    // Symbols are drawn in black; only their coverage counts.
     QPainter painter(&image);
-    QSvgRenderer(data).render(&painter, image.rect());
-    // The files are drawn in black; only their coverage counts.
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), color);
     return image;

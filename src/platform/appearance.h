@@ -8,11 +8,22 @@
 
 namespace vantrix {
 
+/// Colours for shapes that a system names for all programs.
+struct SystemColors {
+    QColor orange;
+    QColor red;
+    QColor green;
+    QColor purple;
+
+    bool operator==(const SystemColors&) const = default;
+};
+
 /// How the desktop wishes programs to look.
 struct Appearance {
     bool dark = false;
-    std::optional<QColor> accent; ///< the user's highlight colour; absent: the program's own
-    bool reducesMotion = false;   ///< the user wants no animations
+    std::optional<QColor> accent;            ///< the user's highlight colour; absent: the program's own
+    bool reducesMotion = false;              ///< the user wants no animations
+    std::optional<SystemColors> colors = {}; ///< of this appearance; absent: the program's own
 
     bool operator==(const Appearance&) const = default;
 };

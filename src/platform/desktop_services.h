@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/sampling_sources.h"
 #include "support/user_defaults.h"
 
 class QSocketNotifier;
@@ -14,13 +15,22 @@ namespace vantrix {
 /// The settings of this user.
 std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();
 
-/// Chooses the windowing system to draw on, unless the user chose one. Null when there is no display at all. Call
-/// before the application object exists, and keep what is returned until it does: an X server that loses its only
-/// client starts over, and would refuse the next one meanwhile.
+/// The first of the roots that this user cannot read, if any. A system without such trees misses none.
+std::optional<std::string> unreadableRoot(const KernelRoots& roots);
+
+/// Chooses the windowing system to draw on, unless there are several and the user chose one. Null when there is no
+/// display at all. Call before the application object exists, and keep what is returned until it does: an X server
+/// that loses its only client starts over, and would refuse the next one meanwhile.
 std::shared_ptr<void> prepareDisplay(int argc, char** argv);
 
 /// Draws without any display from now on. Call before the application object exists.
 void drawOffscreen();
+
+/// Lets what the system tells a program reach one without windows, too. Call before its application object exists.
+void prepareTerminal();
+
+/// Puts the program before all others, where its windows would else open behind theirs.
+void activateProgram();
 
 /// True when the display blends windows that have an alpha channel with what is behind them. May change at any time.
 bool windowsAreBlended();

@@ -8,6 +8,7 @@
 #include <QKeySequence>
 #include <QRect>
 #include <QString>
+#include <qwindowdefs.h>
 
 #include "menubar/menu_bar_item.h"
 
@@ -57,6 +58,13 @@ class StatusItem {
     /// Where the popover and the menu belong: the item's rectangle on the screen, or the best guess at it, in
     /// device-independent pixels. Never null once something was shown.
     virtual QRect anchor() const = 0;
+
+    /// Shows a menu of `entries` as the system's own items do, and returns when it has closed. False where the system
+    /// leaves its menus to the program.
+    virtual bool popUpMenu(const std::vector<StatusMenuEntry>& /*entries*/) { return false; }
+
+    /// The item's own view, for the system's popover to point at (an NSView on a Mac); 0 where there is none.
+    virtual WId nativeView() const { return 0; }
 };
 
 /// The status item of this system. `defaults` keeps what a user arranged by hand, such as the place of a floating

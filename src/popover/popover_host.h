@@ -7,30 +7,29 @@
 #include <QVariantAnimation>
 
 #include "platform/desktop_services.h"
+#include "platform/popover_window.h"
+#include "platform/status_item.h"
 #include "popover/popover_frame.h"
 
 namespace vantrix {
 
 class Theme;
 
-/// Shows the popover beside the status item. Its window and its view are made when it is shown first, and are kept.
-class PopoverHost {
+/// The popover in a window of the toolkit's. The window, too, is made when it is shown first, and is kept.
+class PopoverHost : public PopoverWindow {
   public:
-    using MakeView = std::function<std::unique_ptr<QWidget>()>;
-
     /// `theme` outlives the host. `canFade` says whether windows of this display can be faded in.
     PopoverHost(const Theme& theme, MakeView makeView, std::function<bool()> canFade = windowsCanFade);
-    ~PopoverHost();
+    ~PopoverHost() override;
 
-    bool isShown() const { return frame_ && frame_->isVisible(); }
+    bool isShown() const override { return frame_ && frame_->isVisible(); }
     bool isFading() const { return fade_.state() == QAbstractAnimation::Running; }
     /// `anchor` is the status item's rectangle, in device-independent pixels.
     void show(const QRect& anchor);
-    void close();
-
-    /// Closes a popover that is shown, and opens one that is not: unless the very click that asks for it has just
-    /// closed it by landing outside.
+    void show(const StatusItem& item) override { show(item.anchor()); }
+    void close() override;
     void toggle(const QRect& anchor);
+    void toggle(const StatusItem& item) override { toggle(item.anchor()); }
 
   private:
     void makeFrame();

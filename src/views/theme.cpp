@@ -20,6 +20,17 @@ double desktopTextScale() {
     return scale < leastEnlargement ? 1.0 : std::min(scale, mostTextScale);
 }
 
+ThemeColors colorsOf(const Appearance& appearance) {
+    ThemeColors colors = ThemeColors::of(appearance.dark, appearance.accent);
+    if (!appearance.colors)
+        return colors;
+    colors.orange = appearance.colors->orange;
+    colors.red = appearance.colors->red;
+    colors.green = appearance.colors->green;
+    colors.purple = appearance.colors->purple;
+    return colors;
+}
+
 } // namespace
 
 Theme::Theme(const AppearanceSource& source) : source_(source) {
@@ -69,7 +80,7 @@ void Theme::refresh() {
     if (family == family_ && textScale == textScale_ && appearance == appearance_)
         return;
     appearance_ = appearance;
-    colors_ = ThemeColors::of(appearance.dark, appearance.accent);
+    colors_ = colorsOf(appearance);
     family_ = family;
     textScale_ = textScale;
     digits_.clear();

@@ -13,6 +13,7 @@
 #include "fakes/fake_notification_center.h"
 #include "fakes/fake_sources.h"
 #include "fakes/fake_widget_center.h"
+#include "popover/popover_host.h"
 #include "settings/controls/push_button.h"
 #include "settings/settings_view.h"
 
@@ -28,8 +29,15 @@ class FakeStatusItem : public StatusItem {
             onShow();
     }
     QRect anchor() const override { return {100, 0, 60, 22}; }
+    bool popUpMenu(const std::vector<StatusMenuEntry>& entries) override {
+        if (drawsMenus)
+            menus.push_back(entries);
+        return drawsMenus;
+    }
 
     Handlers handlers;
+    bool drawsMenus = false;
+    std::vector<std::vector<StatusMenuEntry>> menus;
     std::vector<StatusContent> shown;
     std::function<void()> onShow;
 };
@@ -47,7 +55,11 @@ class AppDelegateTest : public ::testing::Test {
                         },
                     .loginItem = std::make_unique<fakes::FakeLoginItem>(),
                     .notifications = std::unique_ptr<NotificationCenter>(notifications),
-                    .widgets = std::unique_ptr<WidgetCenter>(widgets)},
+                    .widgets = std::unique_ptr<WidgetCenter>(widgets),
+                    .makePopover =
+                        [](const Theme& theme, PopoverWindow::MakeView makeView) {
+                            return std::make_unique<PopoverHost>(theme, std::move(makeView));
+                        }},
                    defaults) {
         delegate.applicationDidFinishLaunching();
     }
@@ -104,6 +116,15 @@ TEST_F(AppDelegateTest, OpeningTheMenuClosesThePopoverFirst) {
     EXPECT_TRUE(menuIsOpen());
     QApplication::activePopupWidget()->close();
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(AppDelegateTest, LeavesItsMenuToASystemThatDrawsMenus) {
+    item->drawsMenus = true;
+    click(Button::left);
+    click(Button::left, true);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr); // neither the popover nor a menu of the toolkit's
+    ASSERT_EQ(item->menus.size(), 1u);
+    EXPECT_EQ(item->menus[0].size(), 3u);
 }
 
 TEST_F(AppDelegateTest, TheMenuHasItsEntriesAndObeysTheirShortcuts) {

@@ -37,10 +37,10 @@ std::string rowName(const testing::TestParamInfo<Shape>& info) {
 
 class Symbol : public testing::TestWithParam<Shape> {};
 
-TEST_P(Symbol, IsDrawnInTheAskedColourInsideAMargin) {
+TEST_P(Symbol, IsDrawnInBlackInsideAMargin) {
     constexpr int side = 96;
     constexpr int margin = side / 24;
-    const auto image = symbolImage(GetParam().name, ink, side);
+    const auto image = ownSymbol(GetParam().name, side);
     ASSERT_EQ(image.size(), QSize(side, side));
 
     int solid = 0;
@@ -51,7 +51,7 @@ TEST_P(Symbol, IsDrawnInTheAskedColourInsideAMargin) {
             ASSERT_TRUE(inside || qAlpha(pixel) == 0) << x << ' ' << y;
             if (qAlpha(pixel) < 255)
                 continue;
-            ASSERT_EQ(QColor(pixel), ink) << x << ' ' << y;
+            ASSERT_EQ(QColor(pixel), QColor(Qt::black)) << x << ' ' << y;
             ++solid;
         }
     }
@@ -61,7 +61,7 @@ TEST_P(Symbol, IsDrawnInTheAskedColourInsideAMargin) {
 TEST_P(Symbol, MirrorsItselfWhereMeant) {
     if (!GetParam().symmetric)
         return;
-    const auto image = symbolImage(GetParam().name, ink, 96);
+    const auto image = ownSymbol(GetParam().name, 96);
     const auto mirrored = image.mirrored(true, false);
     double difference = 0.0;
     for (int y = 0; y < image.height(); ++y)
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(Symbols, EveryChoiceWithASymbolHasADrawing) {
     const auto check = [](const auto& choices) {
         for (const auto& choice : choices)
-            EXPECT_GT(coverage(symbolImage(choice.symbolName, ink, 16)), 10.0) << choice.symbolName;
+            EXPECT_GT(coverage(ownSymbol(choice.symbolName, 16)), 10.0) << choice.symbolName;
     };
     check(menuBarModules);
     check(popoverCards);
@@ -110,6 +110,14 @@ TEST(Symbols, UnknownNameDrawsNothing) {
     }
 }
 
+TEST(Symbols, TakeTheAskedColour) {
+    const auto image = symbolImage("bolt.fill", ink, 48);
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ASSERT_TRUE(qAlpha(image.pixel(x, y)) < 255 || QColor(image.pixel(x, y)) == ink) << x << ' ' << y;
+    EXPECT_EQ(QColor(image.pixel(24, 24)), ink);
+}
+
 TEST(Symbols, TranslucentColourKeepsItsOpacity) {
     QColor faint = ink;
     faint.setAlpha(102);
@@ -119,7 +127,7 @@ TEST(Symbols, TranslucentColourKeepsItsOpacity) {
 }
 
 TEST(Symbols, BatteryFillsInEqualSteps) {
-    const auto filled = [](const char* name) { return coverage(symbolImage(name, ink, 96)); };
+    const auto filled = [](const char* name) { return coverage(ownSymbol(name, 96)); };
     const double empty = filled("battery.0percent");
     const double full = filled("battery.100percent") - empty;
     ASSERT_GT(full, 0.0);
@@ -127,6 +135,26 @@ TEST(Symbols, BatteryFillsInEqualSteps) {
     EXPECT_NEAR((filled("battery.50percent") - empty) / full, 0.50, 0.03);
     EXPECT_NEAR((filled("battery.75percent") - empty) / full, 0.75, 0.03);
 }
+
+struct NaturalSize {
+    const char* name;
+    QSizeF natural;
+    QRectF place; ///< in a square of 20
+};
+
+class SystemSymbolPlace : public testing::TestWithParam<NaturalSize> {};
+
+TEST_P(SystemSymbolPlace, IsCentredAndOnlyEverShrunk) {
+    EXPECT_EQ(symbolPlace(GetParam().natural, 20.0), GetParam().place);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, SystemSymbolPlace,
+                         testing::Values(NaturalSize{"SmallStaysSmall", {12, 6}, {4, 7, 12, 6}},
+                                         NaturalSize{"AsLargeAsTheSquare", {20, 20}, {0, 0, 20, 20}},
+                                         NaturalSize{"TooWide", {40, 10}, {0, 7.5, 20, 5}},
+                                         NaturalSize{"TooTall", {10, 25}, {6, 0, 8, 20}},
+                                         NaturalSize{"Nothing", {0, 0}, {10, 10, 0, 0}}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 struct Placement {
     const char* name;

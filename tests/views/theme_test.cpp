@@ -61,6 +61,20 @@ class ThemeTest : public ::testing::Test {
     int changes = 0;
 };
 
+TEST_F(ThemeTest, TakesTheSystemsColoursWhereItNamesThem) {
+    const ThemeColors own = theme.colors();
+    const SystemColors named{
+        .orange = QColor(1, 0, 0), .red = QColor(2, 0, 0), .green = QColor(3, 0, 0), .purple = QColor(4, 0, 0)};
+    appearance.set({.colors = named});
+    EXPECT_EQ(theme.colors().orange, named.orange);
+    EXPECT_EQ(theme.colors().red, named.red);
+    EXPECT_EQ(theme.colors().green, named.green);
+    EXPECT_EQ(theme.colors().purple, named.purple);
+    EXPECT_EQ(theme.colors().accent, own.accent);
+    appearance.set({});
+    EXPECT_EQ(theme.colors(), own);
+}
+
 TEST_F(ThemeTest, FollowsTheDesktop) {
     appearance.set({.dark = true, .accent = QColor(Qt::magenta), .reducesMotion = true});
     EXPECT_TRUE(theme.isDark());

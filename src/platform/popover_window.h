@@ -1,0 +1,33 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+class QWidget;
+
+namespace vantrix {
+
+class StatusItem;
+class Theme;
+
+/// Shows the popover beside the status item. Its view is made when it is shown first, and is kept; closing only hides
+/// it. Main thread only.
+class PopoverWindow {
+  public:
+    using MakeView = std::function<std::unique_ptr<QWidget>()>;
+
+    virtual ~PopoverWindow() = default;
+
+    virtual bool isShown() const = 0;
+    virtual void show(const StatusItem& item) = 0;
+    virtual void close() = 0;
+
+    /// Closes a popover that is shown, and opens one that is not: unless the very click that asks for it has just
+    /// closed it by landing outside.
+    virtual void toggle(const StatusItem& item) = 0;
+};
+
+/// The popover of this system. `theme` outlives it.
+std::unique_ptr<PopoverWindow> makePopoverWindow(const Theme& theme, PopoverWindow::MakeView makeView);
+
+} // namespace vantrix
