@@ -24,6 +24,7 @@ alerts:alerts|monitor|menubar|support|samplers|accessories|platform/notification
 widget:widget|monitor|menubar|support|samplers|accessories|platform/widget_center.h
 doctor:doctor|support|samplers|sensors|accessories|platform/diagnosis.h|platform/sampling_sources.h
 platform/linux/sources:platform/linux/sources|platform/posix/file_descriptor.h|platform/thread_priority.h|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
+platform/macos/sources:platform/macos/sources|platform/posix/file_descriptor.h|platform/thread_priority.h|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
 platform/posix:platform/posix|platform/desktop_services.h
 "
 for line in $allowed; do
@@ -35,7 +36,7 @@ for line in $allowed; do
 done
 
 # The core and the kernel sources use no Qt.
-for folder in support samplers sensors accessories platform/linux/sources; do
+for folder in support samplers sensors accessories platform/linux/sources platform/macos/sources; do
   while IFS= read -r file; do
     complain "$file uses Qt"
   done < <(grep -rlE '#include <Q' "src/$folder" | grep -vE 'support/(user_defaults|size_text)' || true)

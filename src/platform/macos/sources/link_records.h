@@ -1,0 +1,13 @@
+#pragma once
+
+#include "samplers/network_sampler.h"
+
+namespace vantrix {
+
+/// getifaddrs; the link-level entries carry the counters.
+class LinkRecords : public NetworkSampler::Source {
+  public:
+    bool read(std::vector<NetworkSampler::Link>& links) override;
+};
+
+} // namespace vantrix

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <cstdint>
+
+#include "support/clock.h"
+
+namespace vantrix {
+
+/// Seconds of a span in the unit of mach_absolute_time().
+double secondsOfMachTime(std::uint64_t span);
+
+/// mach_absolute_time(), which stands still while the machine sleeps.
+class MachClock : public Clock {
+  public:
+    double uptime() const override;
+};
+
+} // namespace vantrix

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <memory>
+
+#include "sensors/sensor_keys.h"
+
+namespace vantrix {
+
+/// The keys of the service AppleSMC, over a user client of its own; null when the service is missing or refuses.
+std::unique_ptr<SensorKeys> makeSensorKeys();
+
+} // namespace vantrix

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <sys/socket.h>
+
+extern "C" {
+
+struct ifaddrs {
+    struct ifaddrs* ifa_next;
+    char* ifa_name;
+    unsigned int ifa_flags;
+    struct sockaddr* ifa_addr;
+    struct sockaddr* ifa_netmask;
+    struct sockaddr* ifa_dstaddr;
+    void* ifa_data;
+};
+
+int getifaddrs(struct ifaddrs** list) __asm__("simulated_getifaddrs");
+void freeifaddrs(struct ifaddrs* list) __asm__("simulated_freeifaddrs");
+
+} // extern "C"
