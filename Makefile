@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick bench format clean
+.PHONY: run build test test-asan check check-quick check-darwin bench format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -24,13 +24,18 @@ test-asan:
 	ctest --preset asan -j $(JOBS)
 
 check: check-quick
-	scripts/setup.sh build test
+	scripts/setup.sh test
 	scripts/static_analysis.sh
 
 check-quick:
-	scripts/setup.sh check
+	scripts/setup.sh build check
 	scripts/check_format.sh
 	scripts/check_layering.sh
+	scripts/check_macos_types.sh
+
+# Optional: fetches a cross compiler.
+check-darwin:
+	scripts/check_darwin.sh
 
 bench:
 	scripts/setup.sh build test bench
@@ -40,7 +45,7 @@ bench:
 
 format:
 	scripts/setup.sh check
-	git ls-files '*.h' '*.cpp' | xargs clang-format -i
+	git ls-files '*.h' '*.cpp' '*.mm' | xargs clang-format -i
 
 clean:
 	rm -rf build

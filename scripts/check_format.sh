@@ -2,4 +2,4 @@
 # Every file as `make format` would leave it.
 set -euo pipefail
 cd "$(dirname "$0")/.."
-git ls-files '*.h' '*.cpp' | xargs clang-format --dry-run --Werror
+git ls-files '*.h' '*.cpp' '*.mm' | xargs clang-format --dry-run --Werror

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <CoreGraphics/CGContext.h>
+#include <CoreGraphics/CGGeometry.h>
+#include <CoreGraphics/CGImage.h>
+#include <CoreGraphics/CGSession.h>

@@ -1,0 +1,4 @@
+#pragma once
+
+#import <CoreLocation/CLLocationManager.h>
+#import <CoreLocation/CLLocationManagerDelegate.h>

@@ -1,0 +1,4 @@
+#pragma once
+
+#import <CoreWLAN/CWInterface.h>
+#import <CoreWLAN/CWWiFiClient.h>

@@ -1,0 +1,3 @@
+#pragma once
+
+typedef unsigned int UInt32;
