@@ -130,7 +130,7 @@ TEST_P(TranslationTables, ExistForEveryLanguage) {
     EXPECT_EQ(languagesIn(folder), languages);
 }
 
-INSTANTIATE_TEST_SUITE_P(Folders, TranslationTables, ::testing::Values("", "linux"),
+INSTANTIATE_TEST_SUITE_P(Folders, TranslationTables, ::testing::Values("", "linux", "macos"),
                          [](const auto& tested) { return *tested.param ? tested.param : "common"; });
 
 /// A text that the program asks for, and where.

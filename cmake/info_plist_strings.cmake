@@ -1,0 +1,37 @@
+# Writes the texts of Info.plist that people read in every language that has a table: OUTPUT/LANGUAGE.lproj/
+# InfoPlist.strings from TABLES/LANGUAGE.ts, and the English ones from PLIST itself. A text that a table lacks is an
+# error.
+cmake_minimum_required(VERSION 3.25)
+
+file(READ ${PLIST} plist)
+string(REGEX MATCHALL "<key>NS[A-Za-z]+UsageDescription</key>[^<]*<string>[^<]+</string>" descriptions "${plist}")
+
+function(write_strings language table)
+  set(lines "")
+  foreach(description IN LISTS descriptions)
+    string(REGEX REPLACE "<key>([^<]+)</key>[^<]*<string>([^<]+)</string>" "\\1" key "${description}")
+    string(REGEX REPLACE "<key>([^<]+)</key>[^<]*<string>([^<]+)</string>" "\\2" text "${description}")
+    if(table)
+      file(READ ${table} messages)
+      string(FIND "${messages}" "<source>${text}</source>" start)
+      if(start EQUAL -1)
+        message(FATAL_ERROR "${table} lacks: ${text}")
+      endif()
+      string(SUBSTRING "${messages}" ${start} -1 messages)
+      string(REGEX MATCH "<translation>([^<]+)</translation>" found "${messages}")
+      set(text "${CMAKE_MATCH_1}")
+    endif()
+    string(APPEND lines "\"${key}\" = \"${text}\";\n")
+  endforeach()
+  string(REPLACE "_" "-" folder ${language})
+  file(WRITE ${OUTPUT}/${folder}.lproj/InfoPlist.strings "${lines}")
+endfunction()
+
+write_strings(en "")
+file(GLOB tables ${TABLES}/*.ts)
+foreach(table IN LISTS tables)
+  cmake_path(GET table STEM language)
+  if(NOT language STREQUAL "en")
+    write_strings(${language} ${table})
+  endif()
+endforeach()
