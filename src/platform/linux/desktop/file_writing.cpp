@@ -19,7 +19,9 @@ bool writeAll(int file, std::string_view bytes) {
 
 std::string hiddenPattern(std::string_view path) {
     const auto base = path.rfind('/') + 1;
-    return std::string(path.substr(0, base)).append(".").append(path.substr(base)).append(".XXXXXX");
+    std::string pattern(path.substr(0, base));
+    pattern.append(".").append(path.substr(base)).append(".");
+    return pattern.append(6, 'X'); // the letters that mkstemp replaces
 }
 
 } // namespace vantrix

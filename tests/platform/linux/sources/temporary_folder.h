@@ -11,7 +11,8 @@ namespace vantrix {
 class TemporaryFolder {
   public:
     explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
-        std::string name = parent / "vantrix-XXXXXX";
+        std::string name = parent / "vantrix-";
+        name.append(6, 'X'); // the letters that mkdtemp replaces
         path_ = mkdtemp(name.data());
     }
     ~TemporaryFolder() { std::filesystem::remove_all(path_); }
