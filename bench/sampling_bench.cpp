@@ -8,7 +8,7 @@
 #include "bare_reading.h"
 #include "fakes/busy_laptop.h"
 #include "library_readings.h"
-#include "platform/linux/sources/temporary_folder.h"
+#include "linux/temporary_folder.h"
 #include "platform/sampling_sources.h"
 #include "sensors/sensors_sampler.h"
 

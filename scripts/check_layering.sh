@@ -9,24 +9,37 @@ complain() {
   failed=1
 }
 
+rules="samplers|sensors|accessories|support"
+interfaces="platform/diagnosis.h|platform/sampling_sources.h|platform/thread_priority.h|posix/file_descriptor.h"
+middle="processor|memory|network|disks|graphics|sensors" # side by side: none knows another
+
 # folder : what the folder may include from the project's own folders
 allowed="
 support:support
 samplers:samplers|support
 sensors:sensors|support
 accessories:accessories|support
-monitor:monitor|samplers|sensors|accessories|support|platform/sampling_sources.h|platform/bluetooth.h|platform/thread_priority.h|menubar/preferences.h
+monitor:monitor|$rules|platform/sampling_sources.h|platform/bluetooth.h|platform/thread_priority.h|menubar/preferences.h
 menubar:menubar|monitor|support|samplers/memory_sampler.h|platform/system_symbols.h
 views:views|menubar|support|platform/appearance.h|platform/status_item.h|platform/desktop_services.h
-popover:popover|views|monitor|menubar|support|samplers|sensors|accessories|platform/status_item.h|platform/popover_window.h|platform/desktop_services.h
+popover:popover|views|monitor|menubar|$rules|platform/status_item.h|platform/popover_window.h|platform/desktop_services.h
 settings:settings|views|monitor|menubar|support|platform/login_item.h
 alerts:alerts|monitor|menubar|support|samplers|accessories|platform/notification_center.h
 widget:widget|monitor|menubar|support|samplers|accessories|platform/widget_center.h
-doctor:doctor|support|samplers|sensors|accessories|platform/diagnosis.h|platform/sampling_sources.h
-platform/linux/sources:platform/linux/sources|platform/posix/file_descriptor.h|platform/thread_priority.h|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
-platform/macos/sources:platform/macos/sources|platform/posix/file_descriptor.h|platform/thread_priority.h|platform/sampling_sources.h|platform/diagnosis.h|samplers|sensors|accessories|support
-platform/posix:platform/posix|platform/desktop_services.h
+doctor:doctor|$rules|platform/diagnosis.h|platform/sampling_sources.h
+posix:posix|platform/desktop_services.h
+linux/power_supply:linux/(power_supply|$middle|kernel)|$rules
+linux/diagnosis:linux/(diagnosis|power_supply|$middle|kernel)|platform/diagnosis.h|$rules
 "
+for wing in linux macos; do
+  allowed+="
+$wing/kernel:$wing/kernel|$interfaces|$rules"
+  for room in ${middle//|/ }; do
+    [ ! -d "src/$wing/$room" ] || allowed+="
+$wing/$room:$wing/($room|kernel)|$interfaces|$rules"
+  done
+done
+
 for line in $allowed; do
   folder=${line%%:*}
   pattern=${line#*:}
@@ -35,22 +48,42 @@ for line in $allowed; do
   done < <(grep -rnoE '#include "[^"]+"' "src/$folder" | sed -E 's/#include "([^"]+)"/\1/' | grep -vE ":($pattern)(/|$)" || true)
 done
 
+# What no room holds puts the rooms of the sources together.
+while IFS= read -r place; do
+  complain "$place: no part of the sources"
+done < <(grep -HnE '#include "(views|popover|menubar|monitor|settings|app|[a-z]+/(status_area|bluetooth|settings|services))/' \
+  src/{linux,macos}/*.{h,cpp} 2>/dev/null || true)
+
+# A wing is entered through the interfaces; what both systems share knows neither.
+while IFS= read -r place; do
+  complain "$place enters a wing"
+done < <(grep -rnE '#include "(linux|macos|posix)/' src | grep -vE '^src/(linux|macos|posix)/' || true)
+while IFS= read -r place; do
+  complain "$place enters the other wing"
+done < <(grep -rnE '#include "macos/' src/linux; grep -rnE '#include "linux/' src/macos || true)
+
+# No two files share a name, whatever the room.
+while IFS= read -r name; do
+  complain "more than one file is named $name"
+done < <(git ls-files src | grep -E '\.(h|cpp|mm)$' | sed -E 's/\.[a-z]+$//' | sort -u | sed 's,.*/,,' | sort | uniq -d)
+
 # The core and the kernel sources use no Qt.
-for folder in support samplers sensors accessories platform/linux/sources platform/macos/sources; do
+for folder in support samplers sensors accessories {linux,macos}/{kernel,processor,memory,network,disks,graphics,sensors,power_supply,diagnosis} \
+  {linux,macos}/*.{h,cpp}; do
   while IFS= read -r file; do
     complain "$file uses Qt"
-  done < <(grep -rlE '#include <Q' "src/$folder" | grep -vE 'support/(user_defaults|size_text)' || true)
+  done < <(grep -rlE '#include <Q' src/$folder 2>/dev/null | grep -vE 'support/(user_defaults|size_text)' || true)
 done
 
 # The operating system is chosen by folder, never by the preprocessor.
 while IFS= read -r file; do
-  complain "$file asks for the operating system outside src/platform"
-done < <(grep -rlE '#\s*(if|ifdef|elif).*(__APPLE__|__linux__|Q_OS_)' src | grep -v '^src/platform/' || true)
+  complain "$file asks for the operating system outside the wings"
+done < <(grep -rlE '#\s*(if|ifdef|elif).*(__APPLE__|__linux__|Q_OS_)' src | grep -vE '^src/(linux|macos|posix)/' || true)
 
 # What the standard library of the oldest Mac lacks, and no compiler here tells of.
 while IFS= read -r place; do
   complain "$place needs a newer Mac"
 done < <(grep -rnE '\b(to_chars|jthread|stop_token|memory_resource|osyncstream|zoned_time)\b|<(format|print)>' src |
-  grep -v '^src/platform/linux/\|: *//' || true)
+  grep -v '^src/linux/\|: *//' || true)
 
 exit $failed

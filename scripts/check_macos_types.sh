@@ -32,7 +32,7 @@ check() {
 }
 
 if [ $# -eq 0 ]; then
-  find src/platform/macos/desktop src/platform/posix src/platform/macos/sources/*.mm -name '*.mm' -o -name '*.cpp' | xargs -P "$(nproc)" -n 4 scripts/check_macos_types.sh
+  { find src/macos -name '*.mm'; find src/macos/services src/posix -name '*.cpp'; } | xargs -P "$(nproc)" -n 4 scripts/check_macos_types.sh
   exit
 fi
 

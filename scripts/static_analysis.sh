@@ -13,6 +13,6 @@ if [ $# -gt 0 ]; then
 else
   files=$(git ls-files 'src/*.cpp')
 fi
-files=$(grep -v '/macos/desktop/' <<<"$files" || true)
+files=$(grep -vE '^src/macos/(services|status_area|bluetooth)/' <<<"$files" || true)
 [ -z "$files" ] || xargs -P "$(nproc)" -n 4 clang-tidy -p build/dev --quiet 2>/dev/null <<<"$files"
 echo "static analysis: clean"

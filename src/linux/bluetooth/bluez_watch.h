@@ -1,0 +1,75 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+
+#include <QDBusMessage>
+#include <QObject>
+#include <QSet>
+
+#include "accessories/bluetooth_central.h"
+#include "linux/bluetooth/bluez_objects.h"
+#include "linux/services/session_bus.h"
+#include "monitor/task_runner.h"
+
+namespace vantrix {
+
+/// Follows org.bluez on a bus: who owns the name, and its objects, kept current by its signals alone. Never waits,
+/// not even for the bus, and never starts the service.
+class BluezWatch : public QObject {
+    Q_OBJECT
+  public:
+    /// How long after a failed question for the objects the next one is.
+    static constexpr std::chrono::milliseconds usualRetry = std::chrono::minutes(1);
+
+    /// Connects to the bus at `address` away from the main thread.
+    explicit BluezWatch(const QString& address, std::chrono::milliseconds retry = usualRetry);
+
+    /// `unknown` until the service, or its absence, is known. On when any adapter is.
+    BluetoothState state() const;
+    const BluezObjects& objects() const { return objects_; }
+
+    /// Asks for a characteristic's value; `take` gets nothing on failure.
+    void readCharacteristic(const QString& path, std::function<void(std::optional<QByteArray>)> take);
+    /// Lets changes of a characteristic's value show in `objects`, while the service has it.
+    void followCharacteristic(const QString& path);
+
+  Q_SIGNALS:
+    /// `state` is another, or the service is.
+    void stateChanged();
+    /// What is kept of the object at `path` changed.
+    void objectChanged(const QString& path);
+
+  private Q_SLOTS:
+    void ownerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
+    void disconnected();
+    void interfacesAdded(const QDBusMessage& signal);
+    void interfacesRemoved(const QDBusMessage& signal);
+    void propertiesChanged(const QDBusMessage& signal);
+
+  private:
+    enum class Phase { starting, absent, loading, denied, loaded };
+
+    void takeBus();
+    void follow(const QString& owner);
+    void forgetOwner();
+    void load();
+    void takeObjects(const QDBusMessage& reply);
+    void tryAgainLater();
+    void settle(Phase phase);
+    void announceState();
+    void unfollowCharacteristic(const QString& path);
+    void call(QDBusMessage message, int timeout, std::function<void(const QDBusMessage&)> take);
+
+    std::chrono::milliseconds retry_;
+    std::unique_ptr<BusConnection> connection_; ///< null while the bus does not answer
+    QString owner_;                             ///< unique name; empty while there is none
+    Phase phase_ = Phase::starting;
+    BluetoothState announced_ = BluetoothState::unknown;
+    BluezObjects objects_;
+    QSet<QString> followed_;
+    ThreadTaskRunner runner_; // last: it uses what stands above
+};
+
+} // namespace vantrix

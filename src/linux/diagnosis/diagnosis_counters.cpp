@@ -1,0 +1,56 @@
+#include <algorithm>
+
+#include "linux/diagnosis/diagnosis_parts.h"
+#include "linux/disks/proc_diskstats.h"
+#include "linux/disks/volume.h"
+#include "linux/kernel/kernel_tree.h"
+#include "linux/memory/proc_pressure.h"
+
+namespace vantrix {
+namespace {
+
+constexpr std::string_view noProc = "Without this file there is no such reading: is /proc mounted?";
+
+SourceDiagnosis pressure(const DiagnosisTools& tools) {
+    auto row = diagnosisOfFile(tools, reading_name::pressure, tools.roots.proc + "/pressure/memory",
+                               "This kernel does not measure stalls (PSI). The level follows free memory alone.");
+    // Switched off at start, the file is still there and readable, but cannot be opened.
+    const bool isOff = row.state == SourceState::ok && !parsePressure(readStart(row.source).value_or(""));
+    if (isOff) {
+        row.state = SourceState::absent;
+        row.reason = "Measuring stalls (PSI) is switched off; the kernel parameter psi=1 turns it on. The level "
+                     "follows free memory alone.";
+    }
+    return row;
+}
+
+bool hasPhysicalDisk(const KernelRoots& roots) {
+    std::vector<DiskSampler::Counters> disks;
+    return DiskStatsSource(roots.proc, roots.sys).read(disks) && !disks.empty();
+}
+
+} // namespace
+
+void diagnoseCounters(const DiagnosisTools& tools, SourceDiagnoses& rows) {
+    const std::string& proc = tools.roots.proc;
+    rows.push_back(diagnosisOfFile(tools, reading_name::processor, proc + "/stat", noProc));
+    rows.push_back(diagnosisOfFile(tools, reading_name::memory, proc + "/meminfo", noProc));
+    const auto disks = entriesStartingWith(tools.roots.sys + "/block", "zram");
+    if (!disks.empty())
+        rows.back().source += ", zram";
+    rows.push_back(pressure(tools));
+}
+
+void diagnoseDisks(const DiagnosisTools& tools, SourceDiagnoses& rows) {
+    rows.push_back({std::string(reading_name::diskSpace), "statvfs of " + rootVolume(tools.roots.proc)});
+    auto rates = diagnosisOfFile(tools, reading_name::diskRates, tools.roots.proc + "/diskstats",
+                                 "The kernel was built without statistics of block devices.");
+    if (rates.state == SourceState::ok && !hasPhysicalDisk(tools.roots)) {
+        rates.state = SourceState::absent;
+        rates.reason = "No disk of this machine's own is in the list: only partitions, or disks made of other disks, "
+                       "files or memory, which are not counted twice.";
+    }
+    rows.push_back(std::move(rates));
+}
+
+} // namespace vantrix

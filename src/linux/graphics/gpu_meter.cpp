@@ -1,0 +1,111 @@
+#include "linux/graphics/gpu_meter.h"
+
+#include <algorithm>
+
+#include "linux/kernel/kernel_number.h"
+#include "linux/kernel/kernel_tree.h"
+
+namespace vantrix {
+namespace {
+
+/// A GPU that may not sleep by pieces never counts idle time; it would look busy for ever.
+bool mayIdle(const std::string& enableFile) {
+    return readStart(enableFile, 8) != "0\n";
+}
+
+std::vector<std::string> idleFilesOfI915(const std::string& card) {
+    std::vector<std::string> files;
+    const std::string parts = card + "/gt";
+    for (const std::string& gt : entriesStartingWith(parts, "gt")) {
+        const std::string folder = pathBelow(parts, gt);
+        if (pathExists(folder + "/rc6_residency_ms") && mayIdle(folder + "/rc6_enable"))
+            files.push_back(folder + "/rc6_residency_ms");
+    }
+    const std::string old = card + "/power/rc6_residency_ms";
+    if (files.empty() && pathExists(old) && mayIdle(card + "/power/rc6_enable"))
+        files.push_back(old);
+    return files;
+}
+
+std::vector<std::string> idleFilesOfXe(const std::string& device) {
+    std::vector<std::string> files;
+    for (const std::string& tile : entriesStartingWith(device, "tile")) {
+        const std::string parts = pathBelow(device, tile);
+        for (const std::string& gt : entriesStartingWith(parts, "gt")) {
+            std::string file = pathBelow(parts, gt) + "/gtidle/idle_residency_ms";
+            if (pathExists(file))
+                files.push_back(std::move(file));
+        }
+    }
+    return files;
+}
+
+} // namespace
+
+std::optional<double> parseLoad(std::string_view text) {
+    const auto percent = takeNumber(text);
+    if (!percent || !(text.empty() || text.front() == '\n' || text.front() == '@'))
+        return std::nullopt;
+    return static_cast<double>(*percent);
+}
+
+std::optional<double> LoadFile::percent(double) {
+    const auto text = file_.read();
+    return text ? parseLoad(*text) : std::nullopt;
+}
+
+IdleResidency::IdleResidency(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths)
+        parts_.push_back({KernelFile(path), std::nullopt});
+}
+
+std::optional<double> IdleResidency::percent(double now) {
+    const double elapsed = (now - lastTime_) * 1000.0;
+    if (elapsed <= 0.0)
+        return std::nullopt;
+    lastTime_ = now;
+    std::optional<double> busiest;
+    for (Part& part : parts_) {
+        const auto text = part.file.read();
+        const auto idle = text ? parseNumber(*text) : std::nullopt;
+        if (idle && part.idle && *idle >= *part.idle) {
+            const double share = (static_cast<double>(*idle) - static_cast<double>(*part.idle)) / elapsed;
+            busiest = std::max(busiest.value_or(0.0), 100.0 * (1.0 - share));
+        }
+        part.idle = idle;
+    }
+    return busiest;
+}
+
+void IdleResidency::forget() {
+    for (Part& part : parts_)
+        part.idle.reset();
+}
+
+MeterFiles findMeterFiles(const std::string& card, const std::string& device) {
+    if (pathExists(device + "/gpu_busy_percent"))
+        return {{device + "/gpu_busy_percent"}, false};
+    auto idleFiles = card.empty() ? std::vector<std::string>() : idleFilesOfI915(card);
+    if (idleFiles.empty())
+        idleFiles = idleFilesOfXe(device);
+    if (!idleFiles.empty())
+        return {std::move(idleFiles), true};
+    const std::string frequencies = device + "/devfreq";
+    for (const std::string& name : entriesStartingWith(frequencies, "")) {
+        std::string load = pathBelow(frequencies, name) + "/load";
+        if (!name.starts_with('.') && pathExists(load))
+            return {{std::move(load)}, false};
+    }
+    return {};
+}
+
+std::unique_ptr<GPUMeter> findMeter(const std::string& card, const std::string& device) {
+    const MeterFiles files = findMeterFiles(card, device);
+    if (files.paths.empty())
+        return nullptr;
+    if (files.tellIdleTime)
+        return std::make_unique<IdleResidency>(files.paths);
+    return std::make_unique<LoadFile>(files.paths.front());
+}
+
+} // namespace vantrix

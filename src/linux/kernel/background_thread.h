@@ -1,0 +1,22 @@
+#pragma once
+
+#include "linux/kernel/background.h"
+
+namespace vantrix {
+
+/// A thread that exists only once there was something to do.
+class BackgroundThread : public Background {
+  public:
+    /// Never waits for a job: a driver that hangs must not keep the program from ending. Jobs that have not begun are
+    /// dropped.
+    ~BackgroundThread() override;
+
+    bool run(const std::shared_ptr<Job>& job) override;
+
+  private:
+    struct Queue;
+
+    std::shared_ptr<Queue> queue_; // shared with the thread, which may outlive this
+};
+
+} // namespace vantrix

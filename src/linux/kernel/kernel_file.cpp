@@ -1,0 +1,61 @@
+#include "linux/kernel/kernel_file.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+
+namespace vantrix {
+namespace {
+
+constexpr std::size_t pageSize = 4096;
+constexpr std::size_t sizeLimit = 4 << 20;
+
+ssize_t readAt(int file, char* to, std::size_t room, std::size_t offset) {
+    ssize_t length = 0;
+    do
+        length = pread(file, to, room, static_cast<off_t>(offset));
+    while (length < 0 && errno == EINTR);
+    return length;
+}
+
+} // namespace
+
+KernelFile::KernelFile(std::string path, Kind kind)
+    : path_(std::move(path)), kind_(kind), buffer_(kind == Kind::records ? 4 * pageSize : 512) {}
+
+std::optional<std::string_view> KernelFile::read() {
+    if (!file_ && !open())
+        return std::nullopt;
+    if (!fill()) {
+        file_.close();
+        return std::nullopt;
+    }
+    return std::string_view(buffer_.data(), size_);
+}
+
+bool KernelFile::open() {
+    // Not blocking: a foreign root may hold anything, even a pipe that nobody writes to.
+    file_ = FileDescriptor(::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    return static_cast<bool>(file_);
+}
+
+bool KernelFile::fill() {
+    // Records are never split between reads as long as a page of room is offered.
+    const std::size_t leastRoom = kind_ == Kind::records ? pageSize : 1;
+    size_ = 0;
+    for (;;) {
+        if (buffer_.size() - size_ < leastRoom)
+            buffer_.resize(buffer_.size() * 2);
+        const std::size_t room = buffer_.size() - size_;
+        const ssize_t length = readAt(file_.get(), buffer_.data() + size_, room, size_);
+        if (length < 0)
+            return false;
+        size_ += static_cast<std::size_t>(length);
+        if (size_ > sizeLimit)
+            return false;
+        if (length == 0 || (kind_ == Kind::whole && static_cast<std::size_t>(length) < room))
+            return true;
+    }
+}
+
+} // namespace vantrix

@@ -1,0 +1,40 @@
+#include "linux/kernel/kernel_folder.h"
+
+namespace vantrix {
+
+bool KernelFolder::refresh() {
+    if (passesToListing_-- > 0)
+        return false;
+    passesToListing_ = period_ - 1;
+    return list();
+}
+
+bool KernelFolder::list() {
+    if (stream_)
+        rewinddir(stream_.get());
+    else
+        stream_.reset(opendir(path_.c_str()));
+    bool isChanged = false;
+    std::size_t count = 0;
+    while (const dirent* entry = stream_ ? readdir(stream_.get()) : nullptr) {
+        const std::string_view name = entry->d_name;
+        if (name != "." && name != "..")
+            isChanged |= note(count++, name);
+    }
+    if (count == 0)
+        stream_.reset(); // the folder itself may have gone with its driver, and come back
+    isChanged |= count != names_.size();
+    names_.resize(count);
+    return isChanged;
+}
+
+bool KernelFolder::note(std::size_t place, std::string_view name) {
+    if (place >= names_.size())
+        names_.resize(place + 1);
+    if (names_[place] == name)
+        return false;
+    names_[place] = name;
+    return true;
+}
+
+} // namespace vantrix

@@ -1,0 +1,61 @@
+#include "linux/kernel/kernel_tree.h"
+
+#include <cerrno>
+#include <memory>
+
+#include <dirent.h>
+#include <fcntl.h>
+
+#include "posix/file_descriptor.h"
+
+namespace vantrix {
+
+std::optional<std::string> readStart(const std::string& path, std::size_t limit) {
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    if (!file)
+        return std::nullopt;
+    std::string text(limit, '\0');
+    std::size_t size = 0;
+    while (size < limit) {
+        const ssize_t length = pread(file.get(), text.data() + size, limit - size, static_cast<off_t>(size));
+        if (length < 0 && errno == EINTR)
+            continue;
+        if (length < 0)
+            return std::nullopt;
+        if (length == 0)
+            break;
+        size += static_cast<std::size_t>(length);
+    }
+    text.resize(size);
+    return text;
+}
+
+std::string pathBelow(const std::string& folder, std::string_view entry) {
+    std::string path = folder;
+    path += '/';
+    path += entry;
+    return path;
+}
+
+bool pathExists(const std::string& path) {
+    return access(path.c_str(), F_OK) == 0;
+}
+
+bool isEntryName(std::string_view name) {
+    return !name.empty() && name.size() < 256 && name != "." && name != ".." &&
+           name.find('/') == std::string_view::npos && name.find('\0') == std::string_view::npos;
+}
+
+std::vector<std::string> entriesStartingWith(const std::string& folder, std::string_view prefix) {
+    std::vector<std::string> names;
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
+    if (!stream)
+        return names;
+    while (const dirent* entry = readdir(stream.get())) {
+        if (std::string_view(entry->d_name).starts_with(prefix))
+            names.emplace_back(entry->d_name);
+    }
+    return names;
+}
+
+} // namespace vantrix

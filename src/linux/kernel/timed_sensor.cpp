@@ -1,0 +1,92 @@
+#include "linux/kernel/timed_sensor.h"
+
+#include <atomic>
+
+namespace vantrix {
+
+/// What a background read works on. It belongs to the reading thread until `isDone`.
+struct TimedSensor::Reading : Background::Job {
+    Reading(std::unique_ptr<Probe> sensor, std::shared_ptr<const Clock> watch)
+        : probe(std::move(sensor)), clock(std::move(watch)) {}
+
+    void perform() override {
+        read(clock->uptime());
+        isDone.store(true, std::memory_order_release);
+    }
+
+    void read(double begin) {
+        value = probe->read();
+        finishedAt = clock->uptime();
+        duration = finishedAt - begin;
+    }
+
+    std::unique_ptr<Probe> probe;
+    std::shared_ptr<const Clock> clock;
+    std::optional<double> value;
+    double finishedAt = 0.0;
+    double duration = 0.0; // seconds
+    std::atomic<bool> isDone{false};
+};
+
+TimedSensor::TimedSensor(std::unique_ptr<Probe> probe, std::shared_ptr<Background> background,
+                         std::shared_ptr<const Clock> clock)
+    : reading_(std::make_shared<Reading>(std::move(probe), clock)), background_(std::move(background)),
+      clock_(std::move(clock)) {}
+
+std::optional<double> TimedSensor::value() {
+    double now = clock_->uptime();
+    return value(now);
+}
+
+std::optional<double> TimedSensor::value(double& now) {
+    isSlow_ = isSlow_ || (!wasRead_ && background_->isDeviceSlow());
+    wasRead_ = true;
+    if (!isSlow_) {
+        readDirectly(now);
+        return last_;
+    }
+    readAside(now);
+    return now - waitingSince_.value_or(now) > staleAfter ? std::nullopt : last_;
+}
+
+std::optional<double> TimedSensor::lastValue(double age) {
+    collect();
+    return clock_->uptime() - takenAt_ > age ? std::nullopt : last_;
+}
+
+void TimedSensor::readDirectly(double& now) {
+    reading_->read(now);
+    now = reading_->finishedAt;
+    last_ = reading_->value;
+    takenAt_ = now;
+    slowReads_ = reading_->duration > slowAfter ? slowReads_ + 1 : 0;
+    const bool isVerySlow = reading_->duration > verySlowAfter;
+    if (isVerySlow)
+        background_->noteSlowDevice();
+    isSlow_ = slowReads_ > 1 || isVerySlow;
+    quickReads_ = 0;
+}
+
+void TimedSensor::readAside(double now) {
+    collect();
+    if (!waitingSince_)
+        waitingSince_ = now;
+    if (isUnderWay_)
+        return;
+    reading_->isDone.store(false, std::memory_order_relaxed);
+    isUnderWay_ = background_->run(reading_);
+}
+
+void TimedSensor::collect() {
+    if (!isUnderWay_ || !reading_->isDone.load(std::memory_order_acquire))
+        return;
+    isUnderWay_ = false;
+    waitingSince_.reset();
+    last_ = reading_->value;
+    takenAt_ = clock_->uptime(); // not when it was read: passes may be further apart than values may be old
+    quickReads_ = reading_->duration > slowAfter ? 0 : quickReads_ + 1;
+    isSlow_ = quickReads_ < quickReadsToReturn;
+    slowReads_ = 0;
+}
+
+} // namespace vantrix

@@ -1,0 +1,70 @@
+#include "platform/sampling_sources.h"
+
+#include <linux/netlink.h>
+
+#include "linux/disks/proc_diskstats.h"
+#include "linux/disks/volume.h"
+#include "linux/graphics/linux_gpu_source.h"
+#include "linux/graphics/nvidia_library.h"
+#include "linux/kernel/kernel_roots.h"
+#include "linux/kernel/linux_clock.h"
+#include "linux/memory/linux_memory_source.h"
+#include "linux/network/linux_network_info.h"
+#include "linux/network/nl80211_reader.h"
+#include "linux/network/proc_net_dev.h"
+#include "linux/network/proc_net_route.h"
+#include "linux/network/rtnetlink_links.h"
+#include "linux/network/rtnetlink_routes.h"
+#include "linux/network/sysfs_links.h"
+#include "linux/power_supply/linux_battery_source.h"
+#include "linux/power_supply/power_supply_accessories.h"
+#include "linux/processor/linux_system_information.h"
+#include "linux/processor/proc_stat.h"
+#include "linux/sensors/linux_sensor_keys.h"
+#include "linux/sensors/linux_temperatures.h"
+#include "linux/sensors/powercap_energy.h"
+
+namespace vantrix {
+namespace {
+
+std::unique_ptr<NetworkSampler::Source> makeNetworkSource(const KernelRoots& roots) {
+    auto sysfs = std::make_unique<SysfsLinks>(roots.sys);
+    if (roots != KernelRoots())
+        return std::make_unique<NetDevSource>(netFolder(roots) + "/dev", std::move(sysfs), nullptr);
+    return std::make_unique<NetDevSource>(roots.proc + "/net/dev", std::make_unique<RtnetlinkLinks>(roots.sys),
+                                          std::move(sysfs));
+}
+
+std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRoots& roots) {
+    if (roots != KernelRoots())
+        return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<ProcNetRoutes>(netFolder(roots)), nullptr,
+                                                  nullptr);
+    auto wifi = std::make_unique<Nl80211Reader>(std::make_unique<NetlinkSocket>(NETLINK_GENERIC));
+    return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<RtnetlinkRoutes>(),
+                                              std::make_unique<ProcNetRoutes>(roots.proc + "/net"), std::move(wifi));
+}
+
+} // namespace
+
+SamplingSources makeSamplingSources(const KernelRoots& roots) {
+    SamplingSources sources;
+    sources.clock = std::make_unique<LinuxClock>();
+    sources.information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys);
+    sources.cpu = std::make_unique<ProcStatSource>(roots.proc);
+    sources.memory = std::make_unique<LinuxMemorySource>(roots.proc, roots.sys);
+    sources.network = makeNetworkSource(roots);
+    sources.networkInfo = makeNetworkInfoSource(roots);
+    sources.disks = std::make_unique<DiskStatsSource>(roots.proc, roots.sys);
+    sources.volume = std::make_unique<VolumeStatistics>(rootVolume(roots.proc));
+    auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());
+    const auto sensorClock = std::make_shared<LinuxClock>();
+    sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);
+    sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperature());
+    sources.gpu = std::move(gpu);
+    sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
+    sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock);
+    sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
+    return sources;
+}
+
+} // namespace vantrix

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <thread>
+
+#include "linux/network/wifi_reader.h"
+
+namespace vantrix {
+
+/// Reads Wi-Fi details on a thread of its own, as a driver may have to wait for its device. The thread starts with the
+/// first question: machines without Wi-Fi have none.
+class BackgroundWiFi {
+  public:
+    /// How long the first question about a link waits for its answer. Others take the last one.
+    static constexpr std::chrono::milliseconds patience{2};
+    /// An answer this many questions old is no longer given.
+    static constexpr int questionsUntilStale = 5;
+
+    explicit BackgroundWiFi(std::unique_ptr<WiFiReader> reader);
+    ~BackgroundWiFi();
+    BackgroundWiFi(const BackgroundWiFi&) = delete;
+    BackgroundWiFi& operator=(const BackgroundWiFi&) = delete;
+
+    /// The latest reading of a link, whose next one is asked for by this; holds until the next call. One caller at a
+    /// time.
+    const WiFiReading& read(int link);
+
+    /// The next question is a first one: what was read before belongs to another time.
+    void forget() { link_ = 0; }
+
+  private:
+    struct Shared;
+
+    static void answerQuestions(Shared& shared);
+    bool start();
+
+    std::shared_ptr<Shared> shared_; // outlives this while a driver hangs
+    std::thread thread_;
+    WiFiReading current_;
+    int link_ = 0;
+    int unanswered_ = 0;
+};
+
+} // namespace vantrix

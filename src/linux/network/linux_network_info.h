@@ -1,0 +1,47 @@
+#pragma once
+
+#include <memory>
+
+#include "linux/network/background_wifi.h"
+#include "linux/network/default_routes.h"
+#include "samplers/network_info_sampler.h"
+
+namespace vantrix {
+
+/// The connection as the routes, <sys>/class/net and nl80211 tell of it.
+class LinuxNetworkInfo : public NetworkInfoSampler::Source {
+  public:
+    /// Without `wifi`, as for another machine's trees, no Wi-Fi details are asked for. `fallback` takes over for good
+    /// when `routes` does not work from the start; either may be all there is.
+    LinuxNetworkInfo(std::string sys, std::unique_ptr<DefaultRoutes> routes, std::unique_ptr<DefaultRoutes> fallback,
+                     std::unique_ptr<WiFiReader> wifi);
+
+    bool refresh() override;
+    std::optional<std::string_view> primaryInterface(NetworkInfoSampler::AddressFamily family) override;
+    std::optional<std::string_view> ipv4Address(std::string_view interface) override;
+    std::optional<NetworkInfoSampler::Interface> describe(std::string_view interface) override;
+    std::optional<NetworkInfoSampler::WiFi> wifi(std::string_view interface) override;
+    std::string_view missingWiFiReason() const override { return reason_; }
+    bool hidesNetworkNames() const override { return false; }
+
+  private:
+    const DefaultRoute* routeOver(std::string_view interface) const;
+    void lookUp(std::string_view interface);
+
+    std::string sys_;
+    std::unique_ptr<DefaultRoutes> routes_;
+    std::unique_ptr<DefaultRoutes> fallback_;
+    std::unique_ptr<BackgroundWiFi> wifi_;
+    std::string_view reason_;
+
+    // What the interface described last is; looked up anew after each change of routes or links, and now and then
+    // while there is no such link.
+    std::string described_;
+    int describedIndex_ = 0;
+    std::uint64_t describedAt_ = 0;
+    std::optional<NetworkInfoSampler::InterfaceType> type_; // absent: no such link
+    int passesWithoutType_ = 0;
+    std::string displayName_;
+};
+
+} // namespace vantrix

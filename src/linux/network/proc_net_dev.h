@@ -1,0 +1,41 @@
+#pragma once
+
+#include <memory>
+#include <string_view>
+#include <vector>
+
+#include "linux/kernel/kernel_file.h"
+#include "linux/network/link_states.h"
+#include "samplers/network_sampler.h"
+
+namespace vantrix {
+
+/// One interface of /proc/net/dev.
+struct NetDevLine {
+    std::string_view name; ///< part of the text that was parsed
+    std::optional<NetworkSampler::Counters> counters;
+};
+
+/// Replaces `lines` by the interfaces of /proc/net/dev. False when the text is cut short.
+bool parseNetDev(std::string_view text, std::vector<NetDevLine>& lines);
+
+/// Replaces `shown` by the name under which the sampler finds exactly the hardware ports, by their prefix "en": they
+/// get it where they lack it, and whatever else has it by chance is marked.
+void nameLink(std::string_view name, bool isHardware, std::string& shown);
+
+/// Counters from /proc/net/dev, joined with the state of each link.
+class NetDevSource : public NetworkSampler::Source {
+  public:
+    /// `fallback` takes over for good once `states` does not work.
+    NetDevSource(const std::string& path, std::unique_ptr<LinkStates> states, std::unique_ptr<LinkStates> fallback);
+
+    bool read(std::vector<NetworkSampler::Link>& links) override;
+
+  private:
+    KernelFile file_;
+    std::unique_ptr<LinkStates> states_;
+    std::unique_ptr<LinkStates> fallback_;
+    std::vector<NetDevLine> lines_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <vector>
+
+#include "linux/kernel/netlink_socket.h"
+#include "linux/network/default_routes.h"
+#include "linux/network/route_messages.h"
+
+namespace vantrix {
+
+/// The best default routes and the addresses among listed rtnetlink messages.
+class RouteList {
+  public:
+    void clear();
+    void add(const RouteMessage& message);
+    /// The link of the best route; 0 without any.
+    int bestLink(int family) const;
+    /// The first address listed for a link; null without any.
+    const in_addr* addressOf(int index) const;
+
+  private:
+    struct Best {
+        int index = 0;
+        std::uint32_t metric = 0;
+    };
+    struct Address {
+        int index = 0;
+        in_addr address{};
+    };
+
+    Best ipv4_;
+    Best ipv6_;
+    std::vector<Address> addresses_;
+};
+
+/// Default routes from a subscription to the kernel's news: on a pass without news nothing is asked. After news about
+/// default routes, addresses or links the short lists are read anew, as the kernel drops routes without a word when
+/// their link goes down.
+class RtnetlinkRoutes : public DefaultRoutes {
+  public:
+    RtnetlinkRoutes();
+
+    bool refresh() override;
+    std::uint64_t generation() const override { return generation_; }
+    const DefaultRoute* primary(Family family) const override;
+
+  private:
+    bool takeNews();
+    void startOver();
+    void noteNews(std::string_view datagram);
+    bool readLists();
+    bool readList(std::uint16_t type, unsigned char family);
+    void applyList(std::string_view datagram, bool& isComplete);
+    std::optional<DefaultRoute> routeOver(int index) const;
+
+    NetlinkSocket socket_;
+    RouteList list_;
+    std::optional<DefaultRoute> ipv4_;
+    std::optional<DefaultRoute> ipv6_;
+    std::uint64_t generation_ = 0;
+    std::uint32_t sequence_ = 0;
+    bool areListsDue_ = true;
+};
+
+} // namespace vantrix

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "linux/kernel/kernel_folder.h"
+#include "linux/power_supply/battery_packs.h"
+#include "linux/power_supply/supply_reading.h"
+#include "samplers/battery_sampler.h"
+
+namespace vantrix {
+
+/// The machine's battery from /sys/class/power_supply, as one power source. Packs and adapters that come are noticed
+/// within `listingPeriod` passes, those that go at once.
+class LinuxBatterySource : public BatterySampler::Source {
+  public:
+    LinuxBatterySource(const std::string& sys, std::shared_ptr<const Clock> clock,
+                       int listingPeriod = KernelFolder::usualPeriod)
+        : clock_(std::move(clock)), folder_(sys + "/class/power_supply", listingPeriod) {}
+
+    std::optional<std::span<const Properties>> powerSources() override;
+    const Properties* smartBattery() override;
+
+  private:
+    void findSupplies();
+
+    std::shared_ptr<const Clock> clock_;
+    KernelFolder folder_;
+    std::shared_ptr<SharedSupplyReading> shared_;
+    std::optional<TimedSensor> sensor_; // absent on a machine without packs
+    SupplyReading reading_;
+    std::optional<BatteryPacks> combined_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,75 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "linux/kernel/kernel_file.h"
+
+namespace vantrix {
+
+/// What an entry of /sys/class/power_supply is.
+enum class SupplyKind {
+    battery,   ///< a pack of the machine
+    external,  ///< the mains, or a port that takes power
+    accessory, ///< the battery of a keyboard, mouse, …
+    other,
+};
+
+/// From the entry's files type and scope, which do not change while a battery lives.
+SupplyKind supplyKind(const std::string& folder);
+
+/// The present state of one entry. Units are the kernel's: µWh, µAh, µV, µA, µW, tenths of a degree Celsius, seconds.
+/// A value is absent when the driver does not tell it, or tells one that nothing this side of a power station reaches.
+struct SupplyState {
+    enum Number {
+        present,
+        online,
+        capacity, ///< percent
+        energyNow,
+        energyFull,
+        energyFullDesign,
+        chargeNow,
+        chargeFull,
+        chargeFullDesign,
+        voltageNow,
+        voltageMinDesign,
+        powerNow,
+        currentNow,
+        cycleCount,
+        temperature,
+        timeToEmpty,
+        timeToFull,
+        numberCount,
+    };
+    enum class Status { unknown, charging, discharging, notCharging, full };
+
+    std::optional<std::int64_t> operator[](Number number) const { return numbers[number]; }
+
+    std::array<std::optional<std::int64_t>, numberCount> numbers;
+    Status status = Status::unknown;
+};
+
+/// The state as the file uevent of an entry tells it. Absent when it is no such text.
+std::optional<SupplyState> parseSupply(std::string_view uevent);
+
+/// Reads an entry on every pass: all its values with one read. Where the driver fails at a single one and so spoils
+/// that read, value by value.
+class PowerSupply {
+  public:
+    explicit PowerSupply(std::string folder);
+
+    std::optional<SupplyState> read();
+
+  private:
+    std::optional<SupplyState> readSingly();
+
+    std::string folder_;
+    KernelFile all_;
+    std::vector<KernelFile> single_; ///< empty until they are needed; one for each number, then the status
+};
+
+} // namespace vantrix

@@ -1,0 +1,108 @@
+#include "linux/power_supply/power_supply_accessories.h"
+
+#include <algorithm>
+
+#include "accessories/accessory_symbol.h"
+#include "linux/kernel/kernel_number.h"
+#include "linux/kernel/kernel_tree.h"
+#include "linux/kernel/text_scan.h"
+#include "linux/power_supply/power_supply.h"
+#include "support/utf8.h"
+
+namespace vantrix {
+namespace {
+
+/// The first line of a file without the blanks around it; empty when it cannot be read.
+std::string readWord(const std::string& path) {
+    const auto text = readStart(path, 256);
+    if (!text)
+        return {};
+    const std::string line = text->substr(0, text->find('\n'));
+    const auto begin = line.find_first_not_of(' ');
+    return begin == std::string::npos ? "" : line.substr(begin, line.find_last_not_of(' ') - begin + 1);
+}
+
+std::string readEventValue(const std::string& device, std::string_view key) {
+    return std::string(ueventValue(readStart(device + "/uevent").value_or(""), key));
+}
+
+std::string nameOf(const std::string& supply, const std::string& entry) {
+    std::string name = readWord(supply + "/model_name");
+    if (name.empty())
+        name = readEventValue(supply + "/device", "HID_NAME");
+    return repairedUTF8(name.empty() ? entry : name);
+}
+
+std::string addressOf(const std::string& supply, const std::string& entry) {
+    if (std::string address = findAddress(entry); !address.empty())
+        return address;
+    std::string address = findAddress(readEventValue(supply + "/device", "HID_UNIQ"));
+    return address.empty() ? entry : address; // two mice of one kind are two
+}
+
+std::optional<int> levelOf(const std::string& supply) {
+    if (const auto percent = parseNumber(readWord(supply + "/capacity")))
+        return static_cast<int>(std::clamp<std::int64_t>(*percent, 0, 100));
+    return percentOfLevel(readWord(supply + "/capacity_level"));
+}
+
+/// A wireless device keeps its entry while it is switched off, or out of reach of its receiver.
+bool isThere(const std::string& supply) {
+    return readWord(supply + "/online") != "0" && readWord(supply + "/present") != "0";
+}
+
+bool isAddressAt(std::string_view text) {
+    constexpr std::string_view pattern = "xx:xx:xx:xx:xx:xx";
+    constexpr std::string_view hex = "0123456789abcdefABCDEF";
+    return text.size() >= pattern.size() &&
+           std::equal(pattern.begin(), pattern.end(), text.begin(), [&](char expected, char c) {
+               return expected == ':' ? c == ':' : hex.find(c) != std::string_view::npos;
+           });
+}
+
+} // namespace
+
+std::string findAddress(std::string_view text) {
+    constexpr std::size_t length = 17;
+    while (text.size() >= length && !isAddressAt(text))
+        text.remove_prefix(1);
+    std::string address(text.size() >= length ? text.substr(0, length) : std::string_view());
+    std::transform(address.begin(), address.end(), address.begin(),
+                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
+    return address;
+}
+
+std::optional<int> percentOfLevel(std::string_view word) {
+    constexpr std::pair<std::string_view, int> levels[] = {
+        {"Critical", 5}, {"Low", 15}, {"Normal", 50}, {"High", 75}, {"Full", 100}};
+    for (const auto& [name, percent] : levels) {
+        if (word == name)
+            return percent;
+    }
+    return std::nullopt;
+}
+
+AccessoriesSampler::Scan PowerSupplyAccessories::scan() {
+    Scan scan;
+    std::vector<std::string> others;
+    auto entries = entriesStartingWith(folder_, "");
+    std::sort(entries.begin(), entries.end()); // the same order in every scan
+    for (const std::string& entry : entries) {
+        const std::string supply = folder_ + '/' + entry;
+        if (entry.starts_with('.') || supplyKind(supply) != SupplyKind::accessory || !isThere(supply))
+            continue;
+        std::string name = nameOf(supply, entry);
+        const auto level = levelOf(supply);
+        if (!level) {
+            others.push_back(std::move(name));
+            continue;
+        }
+        const std::string symbol = symbolForAccessory(name);
+        scan.accessories.push_back(
+            {std::move(name), *level, readWord(supply + "/status") == "Charging", symbol, addressOf(supply, entry)});
+    }
+    scan.diagnostics = accessoriesDiagnostics("power_supply", scan.accessories, others);
+    return scan;
+}
+
+} // namespace vantrix

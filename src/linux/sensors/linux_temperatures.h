@@ -1,0 +1,73 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "linux/graphics/nvidia_temperature.h"
+#include "linux/kernel/device_rest.h"
+#include "linux/kernel/rescan_schedule.h"
+#include "linux/sensors/hwmon_chips.h"
+#include "linux/sensors/temperature_names.h"
+#include "sensors/hid_temperature_sampler.h"
+
+namespace vantrix {
+
+/// Notices a processor's sensor whose value stands still: a processor's temperature never keeps it for an hour.
+class FrozenWatch {
+  public:
+    bool isFrozen(double value, double now);
+
+  private:
+    double value_ = 0.0;
+    double since_ = 0.0;
+};
+
+/// Temperatures of <sys>/class/hwmon, and of <sys>/class/thermal where no chip is the processor's. Devices that sleep
+/// are not asked, nor are those that are to have their rest. "GPU NVIDIA" ends the list where that is told.
+class LinuxTemperatures : public HIDTemperatureSampler::Source {
+  public:
+    LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
+                      std::shared_ptr<const NvidiaTemperature> nvidia = nullptr);
+
+    bool read(std::vector<HIDTemperatureSampler::Service>& services) override;
+
+  private:
+    struct Chip {
+        DeviceRest rest;
+        DeviceRest::State state = DeviceRest::State::awake;
+    };
+
+    struct Place {
+        std::string path;
+        std::string faultPath;
+        std::size_t chip = 0;
+    };
+
+    struct Sensor : KeptSensor {
+        std::size_t chip = 0;
+        FrozenWatch watch;
+    };
+
+    /// What a search finds: of each temperature its place, of each chip its name.
+    struct Found {
+        std::vector<FoundTemperature> temperatures;
+        std::vector<Place> places;
+        std::vector<Chip> chips;
+        std::vector<std::string> chipNames;
+    };
+
+    void search();
+    void findInputs(const HwmonChip& chip, Found& found) const;
+    void findZones(Found& found) const;
+    std::optional<double> readSensor(Sensor& sensor, double& now, bool& failed);
+
+    std::string sys_;
+    std::shared_ptr<const Clock> clock_;
+    std::shared_ptr<const NvidiaTemperature> nvidia_; // may be null
+    RescanSchedule schedule_;
+    std::vector<Chip> chips_;
+    std::vector<Sensor> sensors_;
+};
+
+} // namespace vantrix

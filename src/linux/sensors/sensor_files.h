@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "linux/kernel/kernel_file.h"
+#include "linux/kernel/timed_sensor.h"
+
+namespace vantrix {
+
+/// The number of a file that holds one, "-4500\n".
+std::optional<std::int64_t> parseSensorValue(std::string_view text);
+
+/// The first line of a file that names something, read once: valid UTF-8 without control characters and blanks at its
+/// ends, at most 64 bytes. Empty when there is none.
+std::string readName(const std::string& path);
+
+/// `folder` without links. Devices are opened by their own place in the tree, so that a file that is opened anew is
+/// never that of another device which was given the same number.
+std::string resolvedPath(const std::string& folder);
+
+/// The value of one file times `scale`, unless another says that the sensor has a fault.
+class FileProbe : public TimedSensor::Probe {
+  public:
+    FileProbe(const std::string& path, double scale, const std::string& faultPath = {});
+    std::optional<double> read() override;
+
+  private:
+    KernelFile file_;
+    double scale_;
+    std::optional<KernelFile> fault_;
+};
+
+std::optional<double> readNumber(KernelFile& file);
+
+} // namespace vantrix

@@ -1,0 +1,109 @@
+#include "linux/services/desktop_appearance.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPalette>
+
+#include "linux/services/session_bus.h"
+
+namespace vantrix {
+
+namespace {
+
+const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
+
+Appearance appearanceAfter(const DesktopWishes& wishes) {
+    const QColor window = QGuiApplication::palette().color(QPalette::Window);
+    // Only a highlight that a desktop's theme has set: the toolkit's own says nothing about the user.
+    const QPalette palette = QGuiApplication::palette();
+    const bool themed = palette.isBrushSet(QPalette::Active, QPalette::Highlight);
+    const auto highlight = themed ? std::optional(palette.color(QPalette::Highlight)) : std::nullopt;
+    return {.dark = wishes.dark().value_or(window.lightness() < 128),
+            .accent = wishes.accent() ? wishes.accent() : highlight,
+            .reducesMotion = wishes.reducesMotion()};
+}
+
+} // namespace
+
+DesktopAppearance::DesktopAppearance(const std::optional<QDBusConnection>& bus)
+    : bus_(bus), appearance_(appearanceAfter(wishes_)) {
+    qGuiApp->installEventFilter(this);
+    if (!bus_)
+        return;
+    bus_->connect(QString(), portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
+                  SLOT(settingChanged(QDBusMessage)));
+    // The portal often starts later than a program of the session.
+    bus_->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+                  QStringLiteral("NameOwnerChanged"), {portalName}, QString(), this,
+                  SLOT(portalOwnerChanged(QString, QString, QString)));
+    readSettings();
+}
+
+bool DesktopAppearance::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == qGuiApp && event->type() == QEvent::ApplicationPaletteChange)
+        QMetaObject::invokeMethod(this, &DesktopAppearance::announce, Qt::QueuedConnection);
+    return false;
+}
+
+void DesktopAppearance::portalOwnerChanged(const QString&, const QString&, const QString& newOwner) {
+    if (!newOwner.isEmpty())
+        return readSettings();
+    wishes_ = {};
+    announce();
+}
+
+void DesktopAppearance::settingChanged(const QDBusMessage& signal) {
+    if (signal.signature() != u"ssv")
+        return;
+    const QVariantList arguments = signal.arguments();
+    wishes_.take(arguments[0].toString(), arguments[1].toString(), arguments[2]);
+    announce();
+}
+
+void DesktopAppearance::readSettings() {
+    auto message = QDBusMessage::createMethodCall(portalName, portalPath, settingsInterface, QStringLiteral("ReadAll"));
+    message << DesktopWishes::groups();
+    // Where no portal runs the palette does; starting one costs far more than it tells.
+    message.setAutoStartService(false);
+    auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(message), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
+        done->deleteLater();
+        takeSettings(done->reply());
+    });
+}
+
+void DesktopAppearance::takeSettings(const QDBusMessage& reply) {
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != u"a{sa{sv}}")
+        return;
+    const auto groups = qdbus_cast<QMap<QString, QVariantMap>>(reply.arguments().constFirst());
+    wishes_ = {};
+    for (auto group = groups.begin(); group != groups.end(); ++group)
+        for (auto setting = group->begin(); setting != group->end(); ++setting)
+            wishes_.take(group.key(), setting.key(), setting.value());
+    announce();
+}
+
+void DesktopAppearance::announce() {
+    const Appearance now = appearanceAfter(wishes_);
+    if (now == appearance_)
+        return;
+    appearance_ = now;
+    Q_EMIT changed();
+}
+
+std::unique_ptr<AppearanceSource> makeAppearanceSource() {
+    if (!sessionBusAddress())
+        return std::make_unique<DesktopAppearance>(std::nullopt);
+    // The toolkit has this connection open anyway.
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    return std::make_unique<DesktopAppearance>(bus.isConnected() ? std::optional(bus) : std::nullopt);
+}
+
+} // namespace vantrix

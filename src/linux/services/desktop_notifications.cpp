@@ -1,0 +1,120 @@
+#include "linux/services/desktop_notifications.h"
+
+#include <utility>
+
+#include <QDBusPendingCallWatcher>
+#include <QTimer>
+
+#include "linux/services/session_bus.h"
+
+namespace vantrix {
+namespace {
+
+const QString serviceName = QStringLiteral("org.freedesktop.Notifications");
+const QString servicePath = QStringLiteral("/org/freedesktop/Notifications");
+const QString busName = QStringLiteral("org.freedesktop.DBus");
+const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+
+QVariantMap hints() {
+    constexpr uchar normalUrgency = 1;
+    return {
+        {QStringLiteral("urgency"), QVariant::fromValue(normalUrgency)},
+        {QStringLiteral("sound-name"), QStringLiteral("message-new-instant")},
+        {QStringLiteral("desktop-entry"), QStringLiteral("vantrix")},
+    };
+}
+
+/// The one argument of a reply that has the form asked for.
+template<typename T>
+std::optional<T> answerOf(const QDBusMessage& reply, QStringView signature) {
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != signature)
+        return std::nullopt;
+    return reply.arguments().constFirst().value<T>();
+}
+
+} // namespace
+
+DesktopNotifications::DesktopNotifications(const std::optional<QDBusConnection>& bus) : bus_(bus) {
+    // Given the service's name as the sender, the toolkit would wait for the bus to tell who owns it.
+    if (bus_)
+        bus_->connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName}, QString(), this,
+                      SLOT(serviceOwnerChanged(QString, QString, QString)));
+}
+
+void DesktopNotifications::post(const QString& identifier, const QString& title, const QString& body) {
+    if (!bus_)
+        return;
+    Posted& posted = posted_[identifier];
+    if (posted.isUnanswered)
+        posted.next = Texts{title, body};
+    else
+        notify(identifier, {title, body});
+}
+
+void DesktopNotifications::notify(const QString& identifier, const Texts& texts) {
+    Posted& posted = posted_[identifier];
+    posted.isUnanswered = true;
+    auto message = QDBusMessage::createMethodCall(serviceName, servicePath, serviceName, QStringLiteral("Notify"));
+    constexpr int serviceDecidesHowLong = -1;
+    message << QStringLiteral("Vantrix") << posted.id << QStringLiteral("vantrix") << texts.title
+            << texts.body.toHtmlEscaped() // the body, unlike the title, is markup
+            << QStringList() << hints() << serviceDecidesHowLong;
+    call(message, [this, identifier](const QDBusMessage& reply) { takeAnswer(identifier, reply); });
+}
+
+void DesktopNotifications::takeAnswer(const QString& identifier, const QDBusMessage& reply) {
+    Posted& posted = posted_[identifier];
+    posted.isUnanswered = false;
+    const auto id = answerOf<uint>(reply, u"u");
+    // One that was replaced as the service meanwhile numbers notifications that its successor knows nothing of.
+    if (id && (owner_.isEmpty() || owner_ == reply.service()))
+        posted.id = *id;
+    if (const auto next = std::exchange(posted.next, std::nullopt))
+        notify(identifier, *next);
+}
+
+void DesktopNotifications::serviceOwnerChanged(const QString&, const QString&, const QString& newOwner) {
+    owner_ = newOwner;
+    for (Posted& posted : posted_)
+        posted.id = 0;
+}
+
+void DesktopNotifications::requestAuthorization(std::function<void(bool)> answer) {
+    if (!bus_) {
+        QTimer::singleShot(0, this, [answer = std::move(answer)] { answer(false); });
+        return;
+    }
+    askBus(QStringLiteral("NameHasOwner"), {serviceName},
+           [this, answer = std::move(answer)](const QDBusMessage& reply) {
+               if (answerOf<bool>(reply, u"b").value_or(false))
+                   return answer(true);
+               askBus(QStringLiteral("ListActivatableNames"), {}, [answer](const QDBusMessage& names) {
+                   answer(answerOf<QStringList>(names, u"as").value_or(QStringList()).contains(serviceName));
+               });
+           });
+}
+
+void DesktopNotifications::askBus(const QString& method, const QVariantList& arguments,
+                                  std::function<void(const QDBusMessage&)> take) {
+    auto message = QDBusMessage::createMethodCall(busName, busPath, busName, method);
+    message.setArguments(arguments);
+    call(message, std::move(take));
+}
+
+void DesktopNotifications::call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> take) {
+    auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(message), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [take = std::move(take)](QDBusPendingCallWatcher* done) {
+        done->deleteLater();
+        take(done->reply());
+    });
+}
+
+std::unique_ptr<NotificationCenter> makeNotificationCenter() {
+    if (!sessionBusAddress())
+        return std::make_unique<DesktopNotifications>(std::nullopt);
+    // The toolkit has this connection open anyway.
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    return std::make_unique<DesktopNotifications>(bus.isConnected() ? std::optional(bus) : std::nullopt);
+}
+
+} // namespace vantrix

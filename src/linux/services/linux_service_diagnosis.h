@@ -1,0 +1,49 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QObject>
+
+#include "linux/services/service_answers.h"
+#include "linux/services/session_bus.h"
+
+namespace vantrix {
+
+/// Where the buses are; absent where there is none.
+struct BusAddresses {
+    std::optional<QString> session;
+    std::optional<QString> system;
+
+    /// Those of this user and this machine.
+    static BusAddresses standard();
+};
+
+/// The files behind settings, widgets and the login item.
+std::vector<SourceDiagnosis> diagnoseOwnFiles();
+
+/// Puts the questions to all services at once. Each has the patience to answer.
+class LinuxServiceDiagnoses : public QObject, public ServiceDiagnoses {
+    Q_OBJECT
+  public:
+    LinuxServiceDiagnoses(const BusAddresses& addresses, std::chrono::milliseconds patience);
+
+  private:
+    struct Bus {
+        std::shared_ptr<BusConnection> connection; ///< null when it cannot be reached
+        SourceDiagnosis diagnosis;
+    };
+
+    Bus reach(const char* name, const std::optional<QString>& address, bool mayConnect) const;
+    void ask(Bus& bus, ServiceQuestion question, const QDBusMessage& message);
+    void report();
+
+    std::chrono::milliseconds patience_;
+    Bus session_;
+    Bus system_; // not reached for while the toolkit waits for the session bus
+    TrayAnswer tray_;
+    ServiceAnswers answers_;
+    int unanswered_ = 0;
+};
+
+} // namespace vantrix

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <optional>
+
+#include <QDBusConnection>
+
+#include "linux/settings/group_file.h"
+#include "platform/widget_center.h"
+
+namespace vantrix {
+
+/// The group's store as a file, and its announcements as a signal on the session bus.
+class LinuxWidgetCenter final : public WidgetCenter {
+  public:
+    /// Without a bus nothing is announced.
+    LinuxWidgetCenter(const QString& path, const std::optional<QDBusConnection>& bus);
+
+    void store(std::string_view key, std::string_view json) override;
+    void reloadAllTimelines() override;
+
+  private:
+    GroupFile file_;
+    std::optional<QDBusConnection> bus_;
+};
+
+} // namespace vantrix

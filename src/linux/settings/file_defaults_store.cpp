@@ -1,0 +1,219 @@
+#include "linux/settings/file_defaults_store.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+namespace vantrix {
+
+namespace {
+
+using namespace std::chrono_literals;
+using State = SettingsFile::State;
+
+/// The user's moves of one slider become one write.
+constexpr auto writeDelay = 200ms;
+/// Editors write in several steps; the file is read after the last of them.
+constexpr auto rereadDelay = 50ms;
+
+/// The variable's folder; `fallback` below the home folder where it is unset or, against the rules, relative.
+QString baseFolder(const char* variable, QLatin1StringView fallback) {
+    const QString value = qEnvironmentVariable(variable);
+    return QDir::isAbsolutePath(value) ? value : QDir::homePath() + fallback;
+}
+
+/// The folder itself is made private; folders above it are made as usual.
+void makeFolder(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.exists() && QDir().mkpath(info.path()))
+        ::mkdir(QFile::encodeName(folder).constData(), 0700);
+}
+
+QString nearestFolder(const QString& file) {
+    QFileInfo folder(QFileInfo(file).path());
+    while (!folder.isDir() && !folder.isRoot() && folder.path() != folder.filePath())
+        folder.setFile(folder.path());
+    return folder.filePath();
+}
+
+bool allowed(const QString& path, int kind) {
+    return ::faccessat(AT_FDCWD, QFile::encodeName(path).constData(), kind, AT_EACCESS) == 0;
+}
+
+} // namespace
+
+FileDefaultsStore::FileDefaultsStore(const QString& path, Use use) : path_(path), use_(use), target_(linkTarget(path)) {
+    writeTimer_.setSingleShot(true);
+    writeTimer_.setInterval(writeDelay);
+    QObject::connect(&writeTimer_, &QTimer::timeout, &writeTimer_, [this] { flush(); });
+    rereadTimer_.setSingleShot(true);
+    rereadTimer_.setInterval(rereadDelay);
+    QObject::connect(&rereadTimer_, &QTimer::timeout, &rereadTimer_, [this] { reread(); });
+    if (use_ == Use::settings) {
+        watcher_ = std::make_unique<QFileSystemWatcher>();
+        const auto readSoon = [this] {
+            if (!rereadTimer_.isActive())
+                rereadTimer_.start();
+        };
+        QObject::connect(watcher_.get(), &QFileSystemWatcher::fileChanged, &rereadTimer_, readSoon);
+        QObject::connect(watcher_.get(), &QFileSystemWatcher::directoryChanged, &rereadTimer_, readSoon);
+    }
+    watch();
+    load();
+}
+
+FileDefaultsStore::~FileDefaultsStore() {
+    // The owner is going too, and must not be called any more.
+    changedOutside = nullptr;
+    flush();
+}
+
+QString FileDefaultsStore::settingsPath() {
+    return baseFolder("XDG_CONFIG_HOME", QLatin1StringView("/.config")) + QStringLiteral("/vantrix/settings.json");
+}
+
+QString FileDefaultsStore::suitePath(const QString& suite) {
+    QString base = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!QDir::isAbsolutePath(base) || !QFileInfo(base).isDir())
+        base = baseFolder("XDG_STATE_HOME", QLatin1StringView("/.local/state"));
+    return base + u'/' + suite + QStringLiteral("/defaults.json");
+}
+
+QVariant FileDefaultsStore::value(const QString& key) const {
+    const auto pending = pending_.find(key);
+    const QJsonValue value = pending != pending_.end() ? *pending : file_.values.value(key);
+    if (value.isBool() || value.isDouble() || value.isString())
+        return value.isDouble() ? QVariant(value.toDouble()) : value.toVariant();
+    return {};
+}
+
+void FileDefaultsStore::setValue(const QString& key, const QVariant& value) {
+    pending_.insert(key, value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue::Undefined);
+    if (!writeTimer_.isActive())
+        writeTimer_.start();
+}
+
+void FileDefaultsStore::flush() {
+    writeTimer_.stop();
+    if (pending_.isEmpty())
+        return;
+    const bool edited = reloadIfChanged();
+    write();
+    if (edited && changedOutside)
+        changedOutside();
+}
+
+QJsonObject FileDefaultsStore::entries() const {
+    QJsonObject entries = file_.values;
+    for (auto entry = pending_.begin(); entry != pending_.end(); ++entry) {
+        if (entry->isUndefined())
+            entries.remove(entry.key());
+        else
+            entries.insert(entry.key(), *entry);
+    }
+    return entries;
+}
+
+void FileDefaultsStore::load() {
+    QJsonObject lastGood = std::move(file_.values);
+    file_ = readSettingsFile(target_);
+    if (file_.state == State::good || file_.state == State::missing) {
+        complainedOfReading_ = false;
+        return;
+    }
+    complainOnce(complainedOfReading_, file_.problem,
+                 file_.state == State::blocked ? "settings are kept in memory only"
+                 : lastGood.isEmpty()          ? "going on with the default settings"
+                                               : "going on with the settings read before");
+    file_.values = std::move(lastGood);
+}
+
+bool FileDefaultsStore::reloadIfChanged() {
+    target_ = linkTarget(path_);
+    if (stampOf(path_) == file_.stamp)
+        return false;
+    const QJsonObject before = entries();
+    load();
+    return entries() != before;
+}
+
+void FileDefaultsStore::reread() {
+    // First, so that no change falls between reading and watching.
+    watch();
+    if (reloadIfChanged() && changedOutside)
+        changedOutside();
+}
+
+void FileDefaultsStore::write() {
+    const QJsonObject wanted = entries();
+    const bool sound = file_.state == State::good || file_.state == State::missing;
+    if (sound && wanted == file_.values) {
+        pending_.clear();
+        return;
+    }
+    if (!mayWrite())
+        return;
+    const QByteArray contents = QJsonDocument(wanted).toJson();
+    if (contents.size() > SettingsFile::sizeLimit)
+        return complainOnce(complainedOfWriting_, "would become too large", "changes are kept in memory only");
+
+    const bool worthKeeping = file_.state == State::damaged && file_.stamp && file_.stamp->size > 0;
+    const Replaced replaced = replaceFile(target_, contents, {file_.mode, use_ == Use::settings, worthKeeping});
+    if (!replaced.stamp)
+        return complainOnce(complainedOfWriting_, "cannot be written: " + QByteArray(std::strerror(replaced.error)),
+                            "changes are kept in memory until it can be written");
+    file_.state = State::good;
+    file_.stamp = replaced.stamp;
+    file_.values = wanted;
+    pending_.clear();
+    complainedOfReading_ = complainedOfWriting_ = false;
+}
+
+bool FileDefaultsStore::mayWrite() {
+    if (file_.state == State::blocked)
+        return false;
+    if (file_.state == State::missing && target_ == path_)
+        makeFolder(QFileInfo(path_).path());
+    // Replacing needs leave for the folder only, but a file made read-only is meant to stay as it is.
+    if (file_.state == State::good && !allowed(target_, W_OK)) {
+        complainOnce(complainedOfWriting_, "is read-only", "changes are kept in memory only");
+        return false;
+    }
+    return true;
+}
+
+void FileDefaultsStore::watch() {
+    if (!watcher_)
+        return;
+    // Watches hold to a file, not to its name: after each replacement they are on the wrong one.
+    const QStringList stale = watcher_->files() + watcher_->directories();
+    if (!stale.isEmpty())
+        watcher_->removePaths(stale);
+    QStringList paths{nearestFolder(path_)};
+    const QString target = linkTarget(path_);
+    if (target != path_)
+        paths.append(nearestFolder(target));
+    if (QFileInfo(target).isFile())
+        paths.append(target);
+    paths.removeDuplicates();
+    // What cannot be watched would be polled every second instead.
+    paths.removeIf([](const QString& each) { return !allowed(each, R_OK); });
+    if (!paths.isEmpty())
+        watcher_->addPaths(paths);
+}
+
+void FileDefaultsStore::complainOnce(bool& complained, const QByteArray& problem, const char* consequence) const {
+    if (!std::exchange(complained, true))
+        std::fprintf(stderr, "vantrix: %s %s; %s\n", qPrintable(path_), problem.constData(), consequence);
+}
+
+} // namespace vantrix

@@ -1,0 +1,66 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include <QFileSystemWatcher>
+#include <QHash>
+#include <QJsonObject>
+#include <QTimer>
+
+#include "linux/settings/settings_file.h"
+#include "support/user_defaults.h"
+
+namespace vantrix {
+
+/// Settings in one file: a flat JSON object that a person may edit at any time, with the program running or not.
+///
+/// Writes are gathered for a moment and laid over what the file holds by then, so that neither an edit by hand nor
+/// an entry this program does not know is lost. A damaged file is set aside before it is replaced. Whatever cannot
+/// be written stays in memory, and is tried again with the next write.
+class FileDefaultsStore final : public DefaultsStore {
+  public:
+    enum class Use {
+        settings, ///< the user's own: watched for edits, and kept safe from power cuts
+        suite,    ///< data for other programs, rewritten often: neither
+    };
+
+    /// Reads the file at once; it need not exist. New files are for the user's eyes only (0600).
+    explicit FileDefaultsStore(const QString& path, Use use = Use::settings);
+    ~FileDefaultsStore() override;
+
+    /// $XDG_CONFIG_HOME/vantrix/settings.json
+    static QString settingsPath();
+    /// The file of a suite under $XDG_RUNTIME_DIR, else under $XDG_STATE_HOME.
+    static QString suitePath(const QString& suite);
+
+    QVariant value(const QString& key) const override;
+    void setValue(const QString& key, const QVariant& value) override;
+
+    void flush() override;
+
+  private:
+    /// The stored entries as they shall be once everything is written.
+    QJsonObject entries() const;
+    void load();
+    /// True when the file had changed and entries differ from before.
+    bool reloadIfChanged();
+    void reread();
+    void write();
+    bool mayWrite();
+    void watch();
+    void complainOnce(bool& complained, const QByteArray& problem, const char* consequence) const;
+
+    const QString path_;
+    const Use use_;
+    QString target_; ///< where `path_` leads
+    SettingsFile file_;
+    QHash<QString, QJsonValue> pending_; ///< undefined: to be removed
+    QTimer writeTimer_;
+    QTimer rereadTimer_;
+    std::unique_ptr<QFileSystemWatcher> watcher_; ///< none for a suite
+    bool complainedOfReading_ = false;
+    bool complainedOfWriting_ = false;
+};
+
+} // namespace vantrix

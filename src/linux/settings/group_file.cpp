@@ -1,0 +1,66 @@
+#include "linux/settings/group_file.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "linux/settings/file_writing.h"
+
+namespace vantrix {
+namespace {
+
+/// The folder itself is made private; folders above it are made as usual.
+bool makeFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder.parent_path(), error);
+    return ::mkdir(folder.c_str(), 0700) == 0;
+}
+
+/// Puts the new file where the old one is. Exchanging the two and removing the old one afterwards is as atomic as
+/// replacing it, but replacing makes common file systems write the new one to the disk at once.
+bool install(const std::string& temporary, const std::string& path) {
+    const auto exchange = [&] {
+        return ::renameat2(AT_FDCWD, temporary.c_str(), AT_FDCWD, path.c_str(), RENAME_EXCHANGE) == 0;
+    };
+    if (!exchange())
+        return ::rename(temporary.c_str(), path.c_str()) == 0;
+    if (::unlink(temporary.c_str()) == 0)
+        return true;
+    exchange(); // it was no file
+    return false;
+}
+
+} // namespace
+
+GroupFile::GroupFile(std::string path) : path_(std::move(path)), pattern_(hiddenPattern(path_)) {}
+
+bool GroupFile::write(std::string_view key, std::string_view json) {
+    contents_.clear();
+    contents_.append("{\"").append(key).append("\":").append(json).append("}\n");
+    if (replace())
+        return true;
+    return errno == ENOENT && makeFolder(std::filesystem::path(path_).parent_path()) && replace();
+}
+
+bool GroupFile::replace() {
+    temporary_ = pattern_;
+    const int file = ::mkostemp(temporary_.data(), O_CLOEXEC); // 0600
+    if (file < 0)
+        return false;
+    const bool isComplete = writeAll(file, contents_);
+    if (::close(file) == 0 && isComplete && install(temporary_, path_))
+        return true;
+    const int error = errno;
+    ::unlink(temporary_.c_str());
+    errno = error;
+    return false;
+}
+
+} // namespace vantrix

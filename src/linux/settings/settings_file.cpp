@@ -1,0 +1,174 @@
+#include "linux/settings/settings_file.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include "linux/settings/file_writing.h"
+#include "posix/file_descriptor.h"
+
+namespace vantrix {
+
+namespace {
+
+std::int64_t nanoseconds(const timespec& time) {
+    return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+FileStamp stampOf(const struct stat& status) {
+    return {status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
+}
+
+/// At most `limit` bytes; absent when reading fails.
+std::optional<QByteArray> readUpTo(qsizetype limit, const FileDescriptor& file) {
+    QByteArray bytes(limit, Qt::Uninitialized);
+    qsizetype filled = 0;
+    while (filled < limit) {
+        const ssize_t count = ::read(file.get(), bytes.data() + filled, static_cast<std::size_t>(limit - filled));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0)
+            return std::nullopt;
+        if (count == 0)
+            break;
+        filled += count;
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+SettingsFile failed(SettingsFile file, SettingsFile::State state, const char* problem) {
+    file.state = state;
+    file.problem = problem;
+    return file;
+}
+
+/// Fills in what the bytes of a regular file say.
+SettingsFile parsed(SettingsFile file, const std::optional<QByteArray>& bytes) {
+    using State = SettingsFile::State;
+    if (!bytes)
+        return failed(std::move(file), State::damaged, "cannot be read");
+    if (bytes->size() > SettingsFile::sizeLimit)
+        return failed(std::move(file), State::damaged, "is too large for a settings file");
+    QJsonParseError error{};
+    const QJsonDocument document = QJsonDocument::fromJson(*bytes, &error);
+    if (error.error != QJsonParseError::NoError)
+        return failed(std::move(file), State::damaged, "is not valid JSON");
+    if (!document.isObject())
+        return failed(std::move(file), State::damaged, "is not a JSON object");
+    file.state = State::good;
+    file.values = document.object();
+    return file;
+}
+
+/// Renames the file to the first free "<name>.damaged", "<name>.damaged-2", and so on.
+bool setAside(const QByteArray& path) {
+    constexpr int attempts = 1000;
+    for (int number = 1; number <= attempts; ++number) {
+        QByteArray copy = path + ".damaged";
+        if (number > 1)
+            copy += '-' + QByteArray::number(number);
+        struct stat status {};
+        // Some file systems cannot rename without replacing, so the name's being free is looked up.
+        if (::lstat(copy.constData(), &status) == 0)
+            continue;
+        return errno == ENOENT && ::rename(path.constData(), copy.constData()) == 0;
+    }
+    errno = EEXIST;
+    return false;
+}
+
+/// False for a device, a folder and all else that a settings file must never take the place of.
+bool replaceable(const QByteArray& path) {
+    struct stat status {};
+    if (::lstat(path.constData(), &status) != 0)
+        return errno == ENOENT;
+    errno = EEXIST;
+    return S_ISREG(status.st_mode);
+}
+
+/// Puts the complete new file where the old one is.
+bool install(const FileDescriptor& file, const QByteArray& temporary, const QByteArray& path,
+             const QByteArray& contents, const Replacement& how) {
+    if (::fchmod(file.get(), how.mode) != 0 ||
+        !writeAll(file.get(), std::string_view(contents.constData(), static_cast<std::size_t>(contents.size()))))
+        return false;
+    if (how.synced && ::fsync(file.get()) != 0)
+        return false;
+    if (!replaceable(path))
+        return false;
+    // Last, so that a full disk leaves the old file where it is.
+    if (how.keepsOld && !setAside(path))
+        return false;
+    return ::rename(temporary.constData(), path.constData()) == 0;
+}
+
+} // namespace
+
+std::optional<FileStamp> stampOf(const QString& path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return std::nullopt;
+    return stampOf(status);
+}
+
+SettingsFile readSettingsFile(const QString& path) {
+    using State = SettingsFile::State;
+    const QByteArray name = QFile::encodeName(path);
+    SettingsFile result;
+    struct stat status {};
+    if (::stat(name.constData(), &status) != 0) {
+        if (errno == ENOENT || errno == ENOTDIR)
+            return result;
+        return failed(std::move(result), State::blocked, "cannot be reached");
+    }
+    result.stamp = stampOf(status);
+    // Looked at before opening: merely opening a device may act on it, and opening a pipe may wait.
+    if (!S_ISREG(status.st_mode))
+        return failed(std::move(result), State::blocked, "is not a regular file");
+    result.mode = (status.st_mode & 0777) | 0600;
+
+    const FileDescriptor file(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file)
+        return failed(std::move(result), State::damaged, "cannot be read");
+    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
+        return failed(std::move(result), State::blocked, "is not a regular file");
+    // Of the file that is open, taken before reading: an edit while reading is then seen as a change.
+    result.stamp = stampOf(status);
+    return parsed(std::move(result), readUpTo(SettingsFile::sizeLimit + 1, file));
+}
+
+QString linkTarget(const QString& path) {
+    constexpr int longestChain = 40;
+    QFileInfo file(path);
+    for (int links = 0; links < longestChain && file.isSymLink(); ++links)
+        file.setFile(file.symLinkTarget());
+    return file.filePath();
+}
+
+Replaced replaceFile(const QString& path, const QByteArray& contents, const Replacement& how) {
+    const QByteArray name = QFile::encodeName(path);
+    QByteArray temporary = QByteArray::fromStdString(hiddenPattern(name.toStdString()));
+    const FileDescriptor file(::mkostemp(temporary.data(), O_CLOEXEC));
+    if (!file)
+        return {std::nullopt, errno};
+    if (!install(file, temporary, name, contents, how)) {
+        const int error = errno;
+        ::unlink(temporary.constData());
+        return {std::nullopt, error};
+    }
+    struct stat status {};
+    if (::fstat(file.get(), &status) != 0)
+        return {FileStamp(), 0};
+    return {stampOf(status), 0};
+}
+
+} // namespace vantrix

@@ -1,0 +1,204 @@
+#include "linux/status_area/floating_strip.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include "linux/status_area/click_anchor.h"
+#include "linux/status_area/xcb_support.h"
+#include "platform/appearance.h"
+#include "support/user_defaults.h"
+#include "views/rounded_window.h"
+
+namespace vantrix {
+
+namespace {
+
+constexpr int sidePadding = 10;
+constexpr int topPadding = 4;
+constexpr int margin = 8; // to the screen's edges, where nobody has moved the strip
+constexpr double cornerRadius = 9.0;
+
+const QString placeX = QStringLiteral("statusStripX");
+const QString placeY = QStringLiteral("statusStripY");
+const QString placeScreen = QStringLiteral("statusStripScreen");
+
+Qt::WindowFlags stripFlags() {
+    Qt::WindowFlags flags =
+        Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus;
+    // Wayland compositors put managed X11 windows where they like, and leave the others where they are.
+    if (!qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        flags |= Qt::X11BypassWindowManagerHint;
+    return flags;
+}
+
+std::optional<QPoint> keptPlace(const UserDefaults& defaults) {
+    if (!defaults.string(placeX) || !defaults.string(placeY))
+        return std::nullopt;
+    // Far beyond any screen, yet far from where adding to it would overflow.
+    const auto coordinate = [&](const QString& key) {
+        return static_cast<int>(std::lround(std::clamp(defaults.number(key), -1e5, 1e5)));
+    };
+    return QPoint(coordinate(placeX), coordinate(placeY));
+}
+
+QScreen* keptScreen(const UserDefaults& defaults) {
+    const QString name = defaults.string(placeScreen).value_or(QString());
+    for (QScreen* screen : QGuiApplication::screens())
+        if (screen->name() == name)
+            return screen;
+    return QGuiApplication::primaryScreen();
+}
+
+} // namespace
+
+QRect stripPlace(QSize size, const QRect& area, std::optional<QPoint> kept) {
+    const QPoint offset = kept.value_or(QPoint(-margin, margin));
+    const int right = area.right() + 1 + offset.x();
+    const int x = std::clamp(right - size.width(), area.left(), std::max(area.left(), area.right() + 1 - size.width()));
+    const int y =
+        std::clamp(area.top() + offset.y(), area.top(), std::max(area.top(), area.bottom() + 1 - size.height()));
+    return {QPoint(x, y), size};
+}
+
+FloatingStrip::FloatingStrip(std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
+                             UserDefaults& defaults)
+    : QWidget(nullptr, stripFlags()), clicked_(std::move(clicked)), appearance_(appearance), defaults_(defaults) {
+    setAttribute(Qt::WA_TranslucentBackground);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_AlwaysShowToolTips);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    setWindowTitle(QStringLiteral("Vantrix"));
+    watchScreens();
+}
+
+void FloatingStrip::watchScreens() {
+    const auto follow = [this](QScreen* screen) {
+        connect(screen, &QScreen::availableGeometryChanged, this, &FloatingStrip::place);
+    };
+    for (QScreen* screen : QGuiApplication::screens())
+        follow(screen);
+    connect(qApp, &QGuiApplication::screenAdded, this, [this, follow](QScreen* screen) {
+        follow(screen);
+        place();
+    });
+    connect(qApp, &QGuiApplication::screenRemoved, this, &FloatingStrip::place, Qt::QueuedConnection);
+}
+
+void FloatingStrip::show(const StatusRow& row) {
+    const QSize before = row_.size();
+    row_ = row;
+    if (toolTip() != row_.text()) {
+        setToolTip(row_.text());
+        setAccessibleName(row_.text());
+    }
+    if (!isVisible() || before != row_.size())
+        place();
+    if (!isVisible()) {
+        if (xcbConnection() != nullptr)
+            xcbMakeDock(xcbConnection(), static_cast<xcb_window_t>(winId()));
+        QWidget::show();
+    }
+    update();
+}
+
+void FloatingStrip::place() {
+    if (dragging_)
+        return;
+    const QSize size = row_.size() + QSize(2 * sidePadding, 2 * topPadding);
+    const QScreen* screen = keptScreen(defaults_);
+    setFixedSize(size);
+    if (screen != nullptr)
+        setGeometry(stripPlace(size, screen->availableGeometry(), keptPlace(defaults_)));
+}
+
+void FloatingStrip::remember() {
+    const QRect here = anchor();
+    // Dropped half beyond an edge it belongs to the screen that it left last.
+    const QScreen* under = QGuiApplication::screenAt(here.center());
+    const QScreen* dropped = under != nullptr ? under : screen();
+    const QRect area = dropped->availableGeometry();
+    const QRect inside = stripPlace(size(), area, here.topRight() - area.topRight());
+    defaults_.set(placeScreen, dropped->name());
+    defaults_.set(placeX, static_cast<double>(inside.right() - area.right()));
+    defaults_.set(placeY, static_cast<double>(inside.top() - area.top()));
+    place();
+}
+
+void FloatingStrip::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    roundWindow(*this, cornerRadius);
+}
+
+void FloatingStrip::paintEvent(QPaintEvent*) {
+    const bool dark = appearance_.appearance().dark;
+    QPainter painter(this);
+    // Nothing blends the soft corners there: the mask alone cuts them, and what it leaves must not shine through black.
+    if (!mask().isEmpty())
+        painter.fillRect(rect(), dark ? QColor(32, 33, 36) : QColor(250, 250, 250));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(dark ? QColor(255, 255, 255, 38) : QColor(0, 0, 0, 38));
+    painter.setBrush(dark ? QColor(32, 33, 36, 235) : QColor(250, 250, 250, 240));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+    const QSize spare = (size() - row_.size()) / 2; // whole points keep the row sharp
+    painter.translate(spare.width(), spare.height());
+    row_.paint(painter, dark ? MenuBarPalette::onDark() : MenuBarPalette::onLight());
+}
+
+void FloatingStrip::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton)
+        grabbed_ = event->position().toPoint();
+}
+
+void FloatingStrip::mouseMoveEvent(QMouseEvent* event) {
+    if (!grabbed_)
+        return;
+    const QPoint distance = event->position().toPoint() - *grabbed_;
+    if (!dragging_ && distance.manhattanLength() < QApplication::startDragDistance())
+        return;
+    dragging_ = true;
+    // A Wayland compositor alone may move windows; the place is then its own to keep.
+    if (xcbConnection() == nullptr && windowHandle()->startSystemMove()) {
+        grabbed_.reset();
+        dragging_ = false;
+        return;
+    }
+    move(event->globalPosition().toPoint() - *grabbed_);
+}
+
+void FloatingStrip::mouseReleaseEvent(QMouseEvent* event) {
+    const bool dropped = event->button() == Qt::LeftButton && dragging_;
+    if (event->button() == Qt::LeftButton) {
+        grabbed_.reset();
+        dragging_ = false;
+    }
+    if (dropped)
+        return remember();
+    if (!rect().contains(event->position().toPoint()))
+        return;
+    StatusClick click;
+    if (event->button() == Qt::RightButton)
+        click.button = StatusClick::Button::right;
+    else if (event->button() == Qt::MiddleButton)
+        click.button = StatusClick::Button::middle;
+    click.control = event->modifiers().testFlag(Qt::ControlModifier);
+    clicked_(click);
+}
+
+QRect FloatingStrip::anchor() const {
+    if (!isVisible())
+        return panelCorner(row_.size().width());
+    xcb_connection_t* connection = xcbConnection();
+    if (connection == nullptr)
+        return geometry();
+    // Not every window manager tells a dock where it stands.
+    const QRect place = xcbRootRect(connection, static_cast<xcb_window_t>(winId()));
+    return place.isEmpty() ? geometry() : fromNativeRect(place);
+}
+
+} // namespace vantrix

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <optional>
+
+#include <QObject>
+#include <QTimer>
+
+#include "linux/services/session_bus.h"
+#include "linux/status_area/notifier_watch.h"
+#include "linux/status_area/status_row.h"
+#include "platform/status_item.h"
+
+namespace vantrix {
+
+class AppearanceSource;
+class StatusBackend;
+class TrayWindow;
+class X11Tray;
+
+/// What the status item finds around it; tests arrange their own.
+struct StatusSurroundings {
+    std::optional<QString> busAddress = sessionBusAddress();
+    /// How long a desktop may take to bring up its status area before the strip steps in.
+    std::chrono::milliseconds stripDelay{4000};
+    NotifierWatch::HostOfProcess hostOfProcess = notifierHostOfProcess;
+};
+
+/// Shows the row in the best place there is at any time: the X11 tray where it grants the row's width, else a
+/// StatusNotifier host, else a strip of its own.
+class LinuxStatusItem : public QObject, public StatusItem {
+    Q_OBJECT
+  public:
+    enum class Kind { none, tray, notifier, strip };
+
+    LinuxStatusItem(Handlers handlers, UserDefaults& defaults, const AppearanceSource& appearance,
+                    const StatusSurroundings& surroundings = {});
+    ~LinuxStatusItem() override;
+
+    void show(const StatusContent& content) override;
+    QRect anchor() const override;
+
+    Kind kind() const { return kind_; }
+
+  private:
+    void choose();
+    void redraw();
+    void tryTray();
+    void traySettled(bool readable);
+    void use(Kind kind, std::unique_ptr<StatusBackend> backend);
+    void hide();
+    void trayChanged();
+
+    Handlers handlers_;
+    UserDefaults& defaults_;
+    const AppearanceSource& appearance_;
+    StatusSurroundings surroundings_;
+    std::unique_ptr<BusConnection> bus_;
+    std::unique_ptr<NotifierWatch> watch_;
+    std::unique_ptr<X11Tray> tray_;
+
+    std::unique_ptr<TrayWindow> candidate_; ///< in the tray, but its room is not known yet
+    std::unique_ptr<StatusBackend> backend_;
+    Kind kind_ = Kind::none;
+    std::uint32_t rejectedTray_ = 0; ///< owner of a tray that has no room for the row
+    QTimer stripTimer_;
+    std::optional<StatusRow> row_;
+};
+
+} // namespace vantrix

@@ -1,0 +1,48 @@
+#include "linux/status_area/notifier_host.h"
+
+#include <array>
+
+namespace vantrix {
+
+namespace {
+
+using std::chrono::milliseconds;
+
+struct KnownHost {
+    std::string_view processName;
+    NotifierHost host;
+    bool isPrefix = false;
+};
+
+// Panels of gnome-shell, waybar and swaybar are dark unless a user restyles them by hand, which nothing tells us.
+// plasmashell and lxqt-panel lose memory with every signal: they hear less often. Plasma's watcher lives in kded.
+// waybar fetches everything on any signal, but takes over only what the signal names.
+constexpr NotifierHost waybar{.layout = NotifierLayout::wide, .darkPanel = true, .tellsClickPoint = false};
+constexpr NotifierHost mate{.layout = NotifierLayout::wide, .fetchesAll = true, .tellsClickPoint = false};
+constexpr NotifierHost gnomeShell{.layout = NotifierLayout::labelled, .darkPanel = true, .clickOpensMenu = true};
+constexpr NotifierHost xfce{.fetchesAll = true, .newestFirst = true}; // its plugins call themselves panel-6-systray
+constexpr NotifierHost plasma{.pace = milliseconds(4000), .fetchesAll = true};
+constexpr std::array<KnownHost, 11> knownHosts{{
+    {"waybar", waybar},
+    {"notification-ar", mate},
+    {"mate-panel", mate},
+    {"gnome-shell", gnomeShell},
+    {"plasmashell", plasma},
+    {"kded5", plasma},
+    {"kded6", plasma},
+    {"lxqt-panel", {.pace = milliseconds(4000)}},
+    {"panel-", xfce, true},
+    {"xfce4-panel", xfce},
+    {"swaybar", {.darkPanel = true, .newestFirst = true, .tellsClickPoint = false}},
+}};
+
+} // namespace
+
+NotifierHost notifierHostNamed(std::string_view processName) {
+    for (const auto& known : knownHosts)
+        if (known.isPrefix ? processName.starts_with(known.processName) : known.processName == processName)
+            return known.host;
+    return {};
+}
+
+} // namespace vantrix

@@ -1,0 +1,80 @@
+#include "linux/status_area/notifier_watch.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QFile>
+
+namespace vantrix {
+
+namespace {
+
+const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
+const QString busName = QStringLiteral("org.freedesktop.DBus");
+const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+
+QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const QString& argument) {
+    auto message = QDBusMessage::createMethodCall(busName, busPath, busName, method);
+    message << argument;
+    return bus.asyncCall(message);
+}
+
+} // namespace
+
+NotifierHost notifierHostOfProcess(uint pid) {
+    QFile file(QStringLiteral("/proc/%1/comm").arg(pid));
+    const QByteArray name = file.open(QIODevice::ReadOnly) ? file.read(64).trimmed() : QByteArray();
+    return notifierHostNamed({name.constData(), static_cast<std::size_t>(name.size())});
+}
+
+NotifierWatch::NotifierWatch(const QDBusConnection& bus, HostOfProcess hostOfProcess)
+    : bus_(bus), hostOfProcess_(std::move(hostOfProcess)) {
+    bus_.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {watcherName}, QString(), this,
+                 SLOT(ownerChanged(QString, QString, QString)));
+    bus_.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
+                 QStringLiteral("Disconnected"), this, SLOT(disconnected()));
+    auto* watcher = new QDBusPendingCallWatcher(askBus(bus_, QStringLiteral("GetNameOwner"), watcherName), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
+        done->deleteLater();
+        const QDBusPendingReply<QString> reply = *done;
+        if (reply.isValid() && owner_.isEmpty())
+            follow(reply.value());
+    });
+}
+
+void NotifierWatch::ownerChanged(const QString&, const QString&, const QString& newOwner) {
+    if (newOwner != owner_)
+        follow(newOwner);
+}
+
+void NotifierWatch::disconnected() {
+    follow({});
+}
+
+void NotifierWatch::follow(const QString& owner) {
+    owner_ = owner;
+    settle(std::nullopt);
+    if (!owner_.isEmpty())
+        askProcess();
+}
+
+void NotifierWatch::askProcess() {
+    auto* watcher =
+        new QDBusPendingCallWatcher(askBus(bus_, QStringLiteral("GetConnectionUnixProcessID"), owner_), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, owner = owner_](QDBusPendingCallWatcher* done) {
+        done->deleteLater();
+        const QDBusPendingReply<uint> reply = *done;
+        if (owner != owner_)
+            return;
+        settle(reply.isValid() ? hostOfProcess_(reply.value()) : NotifierHost());
+    });
+}
+
+void NotifierWatch::settle(std::optional<NotifierHost> host) {
+    if (!host && !host_)
+        return;
+    host_ = host;
+    Q_EMIT changed();
+}
+
+} // namespace vantrix

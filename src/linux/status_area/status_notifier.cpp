@@ -1,0 +1,236 @@
+#include "linux/status_area/status_notifier.h"
+
+#include <QCursor>
+#include <QDBusMessage>
+#include <QGuiApplication>
+
+#include "linux/status_area/click_anchor.h"
+#include "linux/status_area/panel_palette.h"
+#include "platform/appearance.h"
+#include "support/localization.h"
+
+namespace vantrix {
+
+namespace {
+
+const QString firstItemPath = QStringLiteral("/StatusNotifierItem");
+const QString menuPath = QStringLiteral("/StatusNotifierItem/Menu");
+
+// A tooltip is looked at now and then; hosts that fetch it apart from the icon need not do so with every pass.
+constexpr int toolTipPaceFactor = 3;
+
+constexpr auto registrationPatience = std::chrono::milliseconds(300);
+
+QString nextServiceName() {
+    static int count = 0;
+    return QStringLiteral("org.kde.StatusNotifierItem-%1-%2").arg(QCoreApplication::applicationPid()).arg(++count);
+}
+
+void registerWithWatcher(const QDBusConnection& bus, const QString& service) {
+    auto message = QDBusMessage::createMethodCall(
+        QStringLiteral("org.kde.StatusNotifierWatcher"), QStringLiteral("/StatusNotifierWatcher"),
+        QStringLiteral("org.kde.StatusNotifierWatcher"), QStringLiteral("RegisterStatusNotifierItem"));
+    message << service;
+    message.setAutoStartService(false);
+    bus.send(message);
+}
+
+bool onX11() {
+    return QGuiApplication::platformName() == QStringLiteral("xcb");
+}
+
+} // namespace
+
+StatusNotifier::StatusNotifier(QString busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
+                               const AppearanceSource& appearance, PanelText panelText)
+    : busAddress_(std::move(busAddress)), host_(host), handlers_(handlers), appearance_(appearance),
+      panelText_(std::move(panelText)), paced_(host.pace, [this] { publish(); }),
+      pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }) {
+    registration_.setSingleShot(true);
+    connect(&registration_, &QTimer::timeout, this, &StatusNotifier::registerNext);
+}
+
+void StatusNotifier::show(const StatusRow& row) {
+    row_ = row;
+    if (ids_ == wantedIds())
+        return paced_.request();
+    ids_ = wantedIds();
+    connectItems();
+    paced_.runNow();
+    registerFirst();
+}
+
+/// The identifiers of the items; hosts remember by them what a user hid or moved.
+QStringList StatusNotifier::wantedIds() const {
+    if (single())
+        return {QStringLiteral("vantrix")};
+    QStringList ids;
+    for (std::size_t i = 0; i < row_.tileCount(); ++i)
+        ids << QStringLiteral("vantrix-") + row_.tileName(i);
+    return ids;
+}
+
+/// Hosts let go of an item only when its connection ends: another set of items takes another connection.
+void StatusNotifier::connectItems() {
+    staleToolTips_.clear();
+    published_.reset();
+    objects_.clear();
+    menu_.reset();
+    connection_ = std::make_unique<BusConnection>(busAddress_);
+    const auto count = static_cast<std::size_t>(ids_.size());
+    menu_ = std::make_unique<DBusMenu>(
+        connection_->bus(), menuPath,
+        DBusMenu::Source{[this] { return menuEntries(); }, [this] { handlers_.menuWillOpen(); }});
+    for (std::size_t i = 0; i < count; ++i) {
+        QString path = firstItemPath;
+        if (!objects_.empty())
+            path += QLatin1Char('/') + QString::number(objects_.size() + 1);
+        objects_.push_back(std::make_unique<NotifierObject>(
+            connection_->bus(), path, ids_[static_cast<qsizetype>(tileOf(i))], menuPath,
+            [this](const StatusClick& click, QPoint point) { clicked(click, point); }));
+        connect(objects_.back().get(), &NotifierObject::asked, this, [this, number = objects_.size()] {
+            if (number == registered_)
+                registerNext();
+        });
+    }
+}
+
+/// The first item goes by a bus name, as the protocol has it; a name has one item, so the others go by their path.
+/// The bus keeps messages in order: when the watcher hears of the name, it is ours.
+void StatusNotifier::registerFirst() {
+    const QString service = nextServiceName();
+    auto request =
+        QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+                                       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
+    request << service << 4U; // fail rather than queue
+    connection_->bus().send(request);
+    registerWithWatcher(connection_->bus(), service);
+    registered_ = 1;
+    registration_.start(registrationPatience);
+}
+
+/// Hosts line items up in the order in which they finish reading them: each one waits until the one before was read.
+void StatusNotifier::registerNext() {
+    if (registered_ >= objects_.size())
+        return registration_.stop();
+    registerWithWatcher(connection_->bus(), objects_[registered_]->path());
+    ++registered_;
+    registration_.start(registrationPatience);
+}
+
+/// The row's tile that object `index` shows; objects stand in the order in which they register.
+std::size_t StatusNotifier::tileOf(std::size_t index) const {
+    const auto count = static_cast<std::size_t>(ids_.size());
+    return host_.newestFirst ? count - 1 - index : index;
+}
+
+void StatusNotifier::publish() {
+    const MenuBarPalette colors = palette();
+    for (std::size_t i = 0; i < objects_.size(); ++i)
+        update(i, colors);
+    published_ = row_;
+    publishedPalette_ = colors;
+}
+
+MenuBarPalette StatusNotifier::palette() const {
+    if (const std::optional<QColor> text = panelText_())
+        return paletteForText(*text);
+    return paletteForPanel(host_.darkPanel || appearance_.appearance().dark);
+}
+
+void StatusNotifier::update(std::size_t index, const MenuBarPalette& palette) {
+    NotifierObject& object = *objects_[index];
+    const NotifierContent before = object.content();
+    const NotifierContent content = contentOf(index, palette);
+    if (content == before)
+        return;
+    object.set(content);
+    if (!published_)
+        return; // not registered yet: nobody listens
+    const bool newIcon = content.icon != before.icon;
+    if (newIcon)
+        object.announce(QStringLiteral("NewIcon"));
+    if (content.label != before.label)
+        object.announce(QStringLiteral("XAyatanaNewLabel"), {*content.label, content.labelGuide});
+    // A host that shows a label shows no tooltip; one that fetches everything has it already.
+    if (content.toolTip == before.toolTip || content.label || (newIcon && host_.fetchesAll))
+        return;
+    staleToolTips_.insert(&object);
+    pacedToolTips_.request();
+}
+
+NotifierContent StatusNotifier::contentOf(std::size_t index, const MenuBarPalette& palette) const {
+    const std::size_t tile = tileOf(index);
+    NotifierContent content;
+    content.icon = samePixmaps(tile, palette) ? objects_[index]->content().icon : pixmapsOf(tile, palette);
+    // The first tile speaks for the row; the other squares for themselves, or every one of them would have to be sent
+    // whenever any changes.
+    content.title = tile == 0 ? row_.text() : row_.tileText(tile);
+    content.toolTip = content.title;
+    if (host_.layout == NotifierLayout::labelled) {
+        content.label = row_.label();
+        content.labelGuide = row_.labelGuide();
+    }
+    return content;
+}
+
+NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const {
+    NotifierPixmaps pixmaps;
+    for (const int scale : {1, 2}) {
+        const int side = 22 * scale;
+        if (host_.layout == NotifierLayout::wide)
+            pixmaps << toNotifierPixmap(row_.image(palette, scale));
+        else if (host_.layout == NotifierLayout::labelled)
+            pixmaps << toNotifierPixmap(gaugeTile(palette, side)); // the label says the rest
+        else
+            pixmaps << toNotifierPixmap(row_.tile(tile, palette, side));
+    }
+    return pixmaps;
+}
+
+/// True when the pictures that the host has need not be drawn anew.
+bool StatusNotifier::samePixmaps(std::size_t tile, const MenuBarPalette& palette) const {
+    if (!published_ || publishedPalette_ != palette)
+        return false;
+    switch (host_.layout) {
+    case NotifierLayout::wide:
+        return published_->looksLike(row_);
+    case NotifierLayout::labelled:
+        return true;
+    case NotifierLayout::tiles:
+        return published_->sameTile(row_, tile);
+    }
+    return false;
+}
+
+void StatusNotifier::announceToolTips() {
+    for (NotifierObject* object : std::exchange(staleToolTips_, {}))
+        object->announce(QStringLiteral("NewToolTip"));
+}
+
+void StatusNotifier::clicked(const StatusClick& click, QPoint point) {
+    clickRect_.reset();
+    if (onX11())
+        point = fromNativePoint(point);
+    if (host_.tellsClickPoint && isOnScreenEdge(point))
+        clickRect_ = panelRectAt(point);
+    // In a Wayland session the pointer is unknown while it is over a panel.
+    else if (onX11() && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && isOnScreenEdge(QCursor::pos()))
+        clickRect_ = panelRectAt(QCursor::pos());
+    handlers_.clicked(click);
+}
+
+QRect StatusNotifier::anchor() const {
+    return clickRect_.value_or(panelCorner(single() ? row_.size().width() : 22));
+}
+
+std::vector<StatusMenuEntry> StatusNotifier::menuEntries() const {
+    auto entries = handlers_.menu();
+    if (!host_.clickOpensMenu)
+        return entries;
+    const auto open = [this] { handlers_.clicked({}); };
+    entries.insert(entries.begin(), {{QString::fromStdString(localized("Open Vantrix")), {}, open}, {{}, {}, {}}});
+    return entries;
+}
+
+} // namespace vantrix

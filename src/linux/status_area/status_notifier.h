@@ -1,0 +1,75 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <set>
+#include <vector>
+
+#include <QObject>
+
+#include "linux/services/session_bus.h"
+#include "linux/status_area/dbus_menu.h"
+#include "linux/status_area/notifier_host.h"
+#include "linux/status_area/notifier_object.h"
+#include "linux/status_area/paced_update.h"
+#include "linux/status_area/status_backend.h"
+#include "linux/status_area/status_row.h"
+
+namespace vantrix {
+
+class AppearanceSource;
+
+/// The row as one or several StatusNotifierItems, laid out for the host at hand. Lives as long as that host does.
+/// Nothing here waits for an answer.
+class StatusNotifier : public QObject, public StatusBackend {
+    Q_OBJECT
+  public:
+    /// The colour of the panel's texts, where something tells it.
+    using PanelText = std::function<std::optional<QColor>()>;
+
+    StatusNotifier(QString busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
+                   const AppearanceSource& appearance, PanelText panelText);
+
+    void show(const StatusRow& row) override;
+    QRect anchor() const override;
+
+  private:
+    bool single() const { return host_.layout != NotifierLayout::tiles; }
+    QStringList wantedIds() const;
+    void connectItems();
+    void registerFirst();
+    void registerNext();
+    MenuBarPalette palette() const;
+    std::size_t tileOf(std::size_t index) const;
+    void publish();
+    void update(std::size_t index, const MenuBarPalette& palette);
+    NotifierContent contentOf(std::size_t index, const MenuBarPalette& palette) const;
+    NotifierPixmaps pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const;
+    bool samePixmaps(std::size_t tile, const MenuBarPalette& palette) const;
+    void announceToolTips();
+    void clicked(const StatusClick& click, QPoint point);
+    std::vector<StatusMenuEntry> menuEntries() const;
+
+    QString busAddress_;
+    NotifierHost host_;
+    StatusItem::Handlers handlers_;
+    const AppearanceSource& appearance_;
+    PanelText panelText_;
+
+    std::unique_ptr<BusConnection> connection_;
+    std::unique_ptr<DBusMenu> menu_;
+    std::vector<std::unique_ptr<NotifierObject>> objects_;
+    std::size_t registered_ = 0;
+    QTimer registration_;
+    std::set<NotifierObject*> staleToolTips_; ///< changed, but not told to the host
+
+    QStringList ids_;
+    StatusRow row_;                      ///< what is to be shown
+    std::optional<StatusRow> published_; ///< what the host was told
+    MenuBarPalette publishedPalette_;
+    PacedUpdate paced_;
+    PacedUpdate pacedToolTips_;
+    std::optional<QRect> clickRect_;
+};
+
+} // namespace vantrix

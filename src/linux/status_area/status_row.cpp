@@ -1,0 +1,112 @@
+#include "linux/status_area/status_row.h"
+
+#include <QPainter>
+
+#include "menubar/symbol.h"
+
+namespace vantrix {
+
+namespace {
+
+constexpr std::string_view gaugeSymbol = "gauge.with.dots.needle.33percent";
+constexpr double gaugeSide = 18.0; // the symbol within its square of 22 points
+
+QString joined(const MenuBarItem& item, const std::vector<std::string>& lines) {
+    QString text = QString::fromStdString(item.label);
+    for (const auto& line : lines)
+        text += QLatin1Char(' ') + QString::fromStdString(line);
+    return text;
+}
+
+} // namespace
+
+QImage gaugeTile(const MenuBarPalette& palette, int side) {
+    QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    const double inner = side * gaugeSide / MenuBarRenderer::height;
+    const double margin = (side - inner) / 2.0;
+    paintSymbol(painter, gaugeSymbol, QRectF(margin, margin, inner, inner), palette.label);
+    return image;
+}
+
+StatusRow::StatusRow(StatusContent content) : content_(std::move(content)) {
+    if (!content_.accessibilityLabel.empty())
+        text_ = QString::fromStdString(content_.accessibilityLabel);
+}
+
+QSize StatusRow::size() const {
+    constexpr int height = static_cast<int>(MenuBarRenderer::height);
+    if (content_.items.empty())
+        return {height, height};
+    return {static_cast<int>(MenuBarRenderer::size(content_.items, content_.style).width()), height};
+}
+
+void StatusRow::paint(QPainter& painter, const MenuBarPalette& palette) const {
+    if (!content_.items.empty()) {
+        MenuBarRenderer::paint(painter, content_.items, content_.style, content_.colorize, palette);
+        return;
+    }
+    constexpr double margin = (MenuBarRenderer::height - gaugeSide) / 2.0;
+    paintSymbol(painter, gaugeSymbol, QRectF(margin, margin, gaugeSide, gaugeSide), palette.label);
+}
+
+QImage StatusRow::image(const MenuBarPalette& palette, int scale) const {
+    if (content_.items.empty())
+        return gaugeTile(palette, static_cast<int>(MenuBarRenderer::height) * scale);
+    QImage image;
+    MenuBarRenderer::render(image, content_.items, content_.style, content_.colorize, palette, scale);
+    return image;
+}
+
+std::size_t StatusRow::tileCount() const {
+    return std::max<std::size_t>(content_.items.size(), 1);
+}
+
+QImage StatusRow::tile(std::size_t index, const MenuBarPalette& palette, int side) const {
+    if (content_.items.empty())
+        return gaugeTile(palette, side);
+    return MenuBarRenderer::tile(content_.items[index], content_.colorize, palette, side);
+}
+
+QString StatusRow::tileName(std::size_t index) const {
+    if (content_.items.empty())
+        return QStringLiteral("gauge");
+    const std::string_view name = choiceOf(menuBarModules, content_.items[index].module).rawValue;
+    return QString::fromUtf8(name);
+}
+
+QString StatusRow::tileText(std::size_t index) const {
+    if (content_.items.empty())
+        return text_;
+    return joined(content_.items[index], content_.items[index].lines);
+}
+
+bool StatusRow::sameTile(const StatusRow& other, std::size_t index) const {
+    if (content_.items.empty() || other.content_.items.empty())
+        return content_.items.empty() == other.content_.items.empty();
+    return index < content_.items.size() && index < other.content_.items.size() &&
+           content_.colorize == other.content_.colorize &&
+           samePicture({content_.items[index]}, {other.content_.items[index]}, MenuBarStyle::stacked);
+}
+
+QString StatusRow::label() const {
+    QStringList parts;
+    for (const auto& item : content_.items)
+        parts << joined(item, item.lines);
+    return parts.join(QStringLiteral("  "));
+}
+
+QString StatusRow::labelGuide() const {
+    QStringList parts;
+    for (const auto& item : content_.items)
+        parts << joined(item, std::vector<std::string>(item.lines.size(), item.reference));
+    return parts.join(QStringLiteral("  "));
+}
+
+bool StatusRow::looksLike(const StatusRow& other) const {
+    return content_.style == other.content_.style && content_.colorize == other.content_.colorize &&
+           text_ == other.text_ && samePicture(content_.items, other.content_.items, content_.style);
+}
+
+} // namespace vantrix

@@ -1,0 +1,180 @@
+#include "linux/status_area/tray_window.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include "linux/status_area/click_anchor.h"
+#include "linux/status_area/panel_palette.h"
+#include "linux/status_area/x11_tray.h"
+#include "linux/status_area/xcb_support.h"
+#include "platform/appearance.h"
+
+namespace vantrix {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto embeddingPatience = 3s;
+// Trays take a window in at its own size and cut it in a later pass of their layout.
+constexpr auto layoutPatience = 500ms;
+constexpr auto backgroundDelay = 60ms;
+constexpr double leastShare = 0.9; // of the row's width
+constexpr double leastContrast = 0.35;
+
+/// Share of the row's size at which it fits a tray that is lower than the row.
+double scaleFor(int height) {
+    return std::min(1.0, height / MenuBarRenderer::height);
+}
+
+StatusClick clickOf(const QMouseEvent& event) {
+    StatusClick click;
+    if (event.button() == Qt::RightButton)
+        click.button = StatusClick::Button::right;
+    else if (event.button() == Qt::MiddleButton)
+        click.button = StatusClick::Button::middle;
+    click.control = event.modifiers().testFlag(Qt::ControlModifier);
+    return click;
+}
+
+} // namespace
+
+TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked,
+                       const AppearanceSource& appearance)
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint), tray_(tray),
+      clicked_(std::move(clicked)), appearance_(appearance), alpha_(tray.wantsAlpha()) {
+    setAttribute(Qt::WA_TranslucentBackground, alpha_);
+    setAttribute(Qt::WA_OpaquePaintEvent, !alpha_);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_AlwaysShowToolTips);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    verdict_.setSingleShot(true);
+    backgroundTimer_.setSingleShot(true);
+    connect(&verdict_, &QTimer::timeout, this, &TrayWindow::judge);
+    connect(&backgroundTimer_, &QTimer::timeout, this, &TrayWindow::takeBackground);
+    connect(&tray_, &X11Tray::reparented, this, &TrayWindow::reparented);
+    connect(&tray_, &X11Tray::looksChanged, this, [this] {
+        backgroundTimer_.start(backgroundDelay);
+        update();
+    });
+}
+
+void TrayWindow::show(const StatusRow& row) {
+    row_ = row;
+    if (toolTip() != row_.text()) {
+        setToolTip(row_.text());
+        setAccessibleName(row_.text());
+    }
+    if (!docked_)
+        dock();
+    else
+        askForRoom();
+    update();
+}
+
+void TrayWindow::dock() {
+    docked_ = true;
+    resize(row_.size());
+    const auto window = static_cast<xcb_window_t>(winId());
+    setMinimumSize(row_.size()); // now that there is a window to carry the hint, which trays read when they take it
+    if (!alpha_) {
+        const std::uint32_t parentRelative = XCB_BACK_PIXMAP_PARENT_RELATIVE;
+        xcb_change_window_attributes(xcbConnection(), window, XCB_CW_BACK_PIXMAP, &parentRelative);
+    }
+    tray_.dock(window);
+    verdict_.start(embeddingPatience);
+}
+
+void TrayWindow::reparented(std::uint32_t window, std::uint32_t parent) {
+    if (!docked_ || window != winId())
+        return;
+    embedded_ = parent != 0;
+    // Not before: mapped on its way in, it would flash in a corner of the screen, and GTK's trays would take it for
+    // withdrawn. Thrown out, nobody wants to see it loose on the screen either.
+    setVisible(embedded_);
+    backgroundTimer_.start(backgroundDelay);
+    verdict_.start(layoutPatience);
+}
+
+/// Trays take the wish for room from the window's size hints, or from its size.
+void TrayWindow::askForRoom() {
+    const int width = static_cast<int>(std::ceil(row_.size().width() * scaleFor(height())));
+    if (minimumWidth() == width)
+        return;
+    setMinimumWidth(width);
+    resize(width, height());
+    verdict_.start(layoutPatience);
+}
+
+bool TrayWindow::fits() const {
+    return embedded_ && width() >= row_.size().width() * scaleFor(height()) * leastShare;
+}
+
+void TrayWindow::judge() {
+    Q_EMIT settled(fits());
+}
+
+void TrayWindow::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (!embedded_)
+        return;
+    askForRoom();
+    backgroundTimer_.start(backgroundDelay);
+    verdict_.start(layoutPatience);
+}
+
+void TrayWindow::takeBackground() {
+    if (alpha_ || !embedded_)
+        return;
+    const QSize size = (QSizeF(this->size()) * devicePixelRatioF()).toSize();
+    background_ = xcbParentBackground(xcbConnection(), static_cast<xcb_window_t>(winId()), size);
+    background_.setDevicePixelRatio(devicePixelRatioF());
+    update();
+}
+
+/// The tray's own text colour, unless it could not be read on the panel's background.
+MenuBarPalette TrayWindow::rowPalette() const {
+    std::optional<double> ground;
+    if (!background_.isNull())
+        ground = perceivedLightness(
+            background_.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0));
+    const std::optional<QColor> text = tray_.foreground();
+    if (text && (!ground || std::abs(perceivedLightness(*text) - *ground) > leastContrast))
+        return paletteForText(*text);
+    return paletteForPanel(ground ? *ground < 0.5 : appearance_.appearance().dark);
+}
+
+void TrayWindow::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    if (!alpha_ && background_.isNull())
+        painter.fillRect(rect(), palette().window());
+    else if (!alpha_)
+        painter.drawImage(QPoint(0, 0), background_);
+    const QSize row = row_.size();
+    const double scale = std::min(scaleFor(height()), width() / static_cast<double>(row.width()));
+    // Whole points keep the row sharp.
+    painter.translate(std::floor((width() - row.width() * scale) / 2.0),
+                      std::floor((height() - row.height() * scale) / 2.0));
+    painter.scale(scale, scale);
+    row_.paint(painter, rowPalette());
+}
+
+void TrayWindow::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+}
+
+void TrayWindow::mouseReleaseEvent(QMouseEvent* event) {
+    if (rect().contains(event->position().toPoint()))
+        clicked_(clickOf(*event));
+}
+
+QRect TrayWindow::anchor() const {
+    const QRect rect = embedded_ ? xcbRootRect(xcbConnection(), static_cast<xcb_window_t>(winId())) : QRect();
+    return rect.isEmpty() ? panelCorner(row_.size().width()) : fromNativeRect(rect);
+}
+
+} // namespace vantrix

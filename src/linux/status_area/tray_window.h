@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QImage>
+#include <QTimer>
+#include <QWidget>
+
+#include "linux/status_area/status_backend.h"
+#include "linux/status_area/status_row.h"
+
+namespace vantrix {
+
+class AppearanceSource;
+class X11Tray;
+
+/// The row as a window of its own inside the X11 system tray. Trays differ in how much room they grant, and tell it
+/// by resizing the window: `settled` says whether the row can be read there.
+class TrayWindow : public QWidget, public StatusBackend {
+    Q_OBJECT
+  public:
+    TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance);
+
+    void show(const StatusRow& row) override;
+    QRect anchor() const override;
+
+  Q_SIGNALS:
+    /// `readable` false: the tray does not take the window in, cut it, or threw it out.
+    void settled(bool readable);
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+  private:
+    void dock();
+    void reparented(std::uint32_t window, std::uint32_t parent);
+    void askForRoom();
+    bool fits() const;
+    void judge();
+    void takeBackground();
+    MenuBarPalette rowPalette() const;
+
+    X11Tray& tray_;
+    std::function<void(const StatusClick&)> clicked_;
+    const AppearanceSource& appearance_;
+    StatusRow row_;
+    QImage background_; ///< the panel's, where the tray has no alpha channel
+    QTimer verdict_;
+    QTimer backgroundTimer_;
+    bool alpha_ = false;
+    bool docked_ = false;
+    bool embedded_ = false;
+};
+
+} // namespace vantrix

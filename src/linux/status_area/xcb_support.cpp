@@ -1,0 +1,80 @@
+#include "linux/status_area/xcb_support.h"
+
+#include <QGuiApplication>
+
+namespace vantrix {
+
+xcb_connection_t* xcbConnection() {
+    const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return native != nullptr ? native->connection() : nullptr;
+}
+
+xcb_screen_t* xcbScreen(xcb_connection_t* connection) {
+    return xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
+}
+
+xcb_atom_t xcbAtom(xcb_connection_t* connection, const QByteArray& name) {
+    const auto cookie = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.constData());
+    const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
+    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+}
+
+std::vector<std::uint32_t> xcbValues(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property) {
+    constexpr std::uint32_t most = 64;
+    const auto cookie = xcb_get_property(connection, 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, most);
+    xcb_generic_error_t* error = nullptr;
+    const XcbReply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection, cookie, &error));
+    const XcbReply<xcb_generic_error_t> ownedError(error);
+    if (!reply || reply->format != 32)
+        return {};
+    const auto* values = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+    return {values, values + xcb_get_property_value_length(reply.get()) / 4};
+}
+
+QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window) {
+    const auto root = xcbScreen(connection)->root;
+    const auto geometryCookie = xcb_get_geometry(connection, window);
+    const auto placeCookie = xcb_translate_coordinates(connection, window, root, 0, 0);
+    xcb_generic_error_t* error = nullptr;
+    const XcbReply<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(connection, geometryCookie, &error));
+    const XcbReply<xcb_generic_error_t> geometryError(std::exchange(error, nullptr));
+    const XcbReply<xcb_translate_coordinates_reply_t> place(
+        xcb_translate_coordinates_reply(connection, placeCookie, &error));
+    const XcbReply<xcb_generic_error_t> placeError(error);
+    if (!geometry || !place)
+        return {};
+    return {place->dst_x, place->dst_y, geometry->width, geometry->height};
+}
+
+QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size) {
+    xcb_clear_area(connection, 0, window, 0, 0, 0, 0);
+    const auto cookie =
+        xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0, static_cast<std::uint16_t>(size.width()),
+                      static_cast<std::uint16_t>(size.height()), ~0U);
+    xcb_generic_error_t* error = nullptr;
+    const XcbReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(connection, cookie, &error));
+    const XcbReply<xcb_generic_error_t> ownedError(error);
+    const auto wanted = qsizetype{size.width()} * size.height() * 4;
+    if (!reply || reply->depth < 24 || xcb_get_image_data_length(reply.get()) < wanted)
+        return {};
+    return QImage(xcb_get_image_data(reply.get()), size.width(), size.height(), QImage::Format_RGB32).copy();
+}
+
+void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window) {
+    const auto set = [&](const QByteArray& property, const std::vector<xcb_atom_t>& values) {
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, xcbAtom(connection, property), XCB_ATOM_ATOM, 32,
+                            static_cast<std::uint32_t>(values.size()), values.data());
+    };
+    const auto atom = [&](const QByteArray& name) { return xcbAtom(connection, name); };
+    set("_NET_WM_WINDOW_TYPE", {atom("_NET_WM_WINDOW_TYPE_DOCK")});
+    set("_NET_WM_STATE", {atom("_NET_WM_STATE_ABOVE"), atom("_NET_WM_STATE_STICKY"), atom("_NET_WM_STATE_SKIP_TASKBAR"),
+                          atom("_NET_WM_STATE_SKIP_PAGER")});
+}
+
+bool xcbComposited(xcb_connection_t* connection) {
+    const auto cookie = xcb_get_selection_owner(connection, xcbAtom(connection, "_NET_WM_CM_S0"));
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(connection, cookie, nullptr));
+    return reply && reply->owner != XCB_NONE;
+}
+
+} // namespace vantrix

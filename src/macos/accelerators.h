@@ -1,0 +1,17 @@
+#pragma once
+
+#include "macos/kernel/cf_values.h"
+#include "samplers/gpu_sampler.h"
+
+namespace vantrix {
+
+/// Every IOAccelerator's dictionary "PerformanceStatistics".
+class Accelerators : public GPUSampler::Source {
+  public:
+    std::optional<std::span<const Properties>> read() override;
+
+  private:
+    PropertyTable statistics_{"Device Utilization %", "GPU Activity(%)"};
+};
+
+} // namespace vantrix

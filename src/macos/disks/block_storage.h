@@ -1,0 +1,17 @@
+#pragma once
+
+#include "macos/kernel/cf_values.h"
+#include "samplers/disk_sampler.h"
+
+namespace vantrix {
+
+/// Counters of every IOBlockStorageDriver: its dictionary "Statistics".
+class BlockStorage : public DiskSampler::CounterSource {
+  public:
+    bool read(std::vector<DiskSampler::Counters>& disks) override;
+
+  private:
+    PropertyTable statistics_{"Bytes (Read)", "Bytes (Write)"};
+};
+
+} // namespace vantrix

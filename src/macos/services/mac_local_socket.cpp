@@ -1,0 +1,58 @@
+#include "posix/local_socket.h"
+
+#include <climits>
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+namespace vantrix {
+namespace {
+
+FileDescriptor prepared(int socket) {
+    FileDescriptor descriptor(socket);
+    if (!descriptor)
+        return descriptor;
+    const int on = 1;
+    ::setsockopt(socket, SOL_SOCKET, SO_NOSIGPIPE, &on, sizeof on);
+    ::fcntl(socket, F_SETFD, FD_CLOEXEC);
+    return descriptor;
+}
+
+} // namespace
+
+FileDescriptor makeLocalSocket() {
+    // A stream: this system has no packets that keep their order between processes.
+    return prepared(::socket(AF_UNIX, SOCK_STREAM, 0));
+}
+
+FileDescriptor makeListeningSocket() {
+    FileDescriptor descriptor = makeLocalSocket();
+    if (descriptor)
+        ::fcntl(descriptor.get(), F_SETFL, O_NONBLOCK);
+    return descriptor;
+}
+
+FileDescriptor acceptConnection(int listener) {
+    return prepared(::accept(listener, nullptr, nullptr));
+}
+
+bool sendQuietly(int socket, std::string_view text, int flags) {
+    return ::send(socket, text.data(), text.size(), flags) >= 0;
+}
+
+std::optional<int> peerProcess(int socket) {
+    pid_t peer = 0;
+    socklen_t size = sizeof peer;
+    if (::getsockopt(socket, SOL_LOCAL, LOCAL_PEERPID, &peer, &size) != 0)
+        return std::nullopt;
+    return peer;
+}
+
+std::string instancePrefix() {
+    // The folder of temporary files is the user's own.
+    char folder[PATH_MAX];
+    const std::size_t size = ::confstr(_CS_DARWIN_USER_TEMP_DIR, folder, sizeof folder);
+    return size > 0 && size <= sizeof folder ? std::string(folder) + "vantrix" : std::string();
+}
+
+} // namespace vantrix

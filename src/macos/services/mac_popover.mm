@@ -1,0 +1,157 @@
+#import <AppKit/AppKit.h>
+
+#include <optional>
+#include <utility>
+
+#include "macos/services/popover_content.h"
+#include "platform/popover_window.h"
+#include "platform/status_item.h"
+#include "views/theme.h"
+
+NS_ASSUME_NONNULL_BEGIN
+
+/// Tells when the popover closes, and when it has closed, whoever closes it.
+@interface VantrixPopoverDelegate : NSObject <NSPopoverDelegate>
+- (instancetype)initWithClosing:(std::function<void()>)closing closed:(std::function<void()>)closed;
+@end
+
+NS_ASSUME_NONNULL_END
+
+@implementation VantrixPopoverDelegate {
+    std::function<void()> _closing;
+    std::function<void()> _closed;
+}
+
+- (instancetype)initWithClosing:(std::function<void()>)closing closed:(std::function<void()>)closed {
+    self = [super init];
+    if (self) {
+        _closing = std::move(closing);
+        _closed = std::move(closed);
+    }
+    return self;
+}
+
+- (void)popoverWillClose:(NSNotification*)notification {
+    _closing();
+}
+
+- (void)popoverDidClose:(NSNotification*)notification {
+    _closed();
+}
+
+@end
+
+namespace vantrix {
+namespace {
+
+/// The number that a press in the window and its release have in common; absent when the event now handled is not of
+/// that type, or happened elsewhere.
+std::optional<NSInteger> clickNumber(NSEventType type, NSWindow* window) {
+    NSEvent* event = NSApp.currentEvent;
+    const bool isMeant = event && window && event.type == type && event.window == window;
+    return isMeant ? std::optional<NSInteger>(event.eventNumber) : std::nullopt;
+}
+
+/// The system's popover (NSPopover) around the toolkit's view. It closes when the user turns elsewhere.
+class MacPopover final : public PopoverWindow {
+  public:
+    MacPopover(const Theme& theme, MakeView makeView) : theme_(theme), makeView_(std::move(makeView)) {
+        delegate_ = [[VantrixPopoverDelegate alloc] initWithClosing:[this] { closing(); } closed:[this] { closed(); }];
+        popover_ = [[NSPopover alloc] init];
+        popover_.behavior = NSPopoverBehaviorTransient;
+        popover_.delegate = delegate_;
+    }
+
+    ~MacPopover() override {
+        popover_.delegate = nil;
+        [popover_ close];
+        popover_.contentViewController = nil; // the toolkit's view goes first
+    }
+
+    bool isShown() const override { return popover_.shown; }
+
+    void show(const StatusItem& item) override {
+        @autoreleasepool {
+            NSView* button = (__bridge NSView*)reinterpret_cast<void*>(item.nativeView());
+            if (!button.window)
+                return; // to point at nothing is an error
+            itemWindow_ = button.window;
+            if (!content_)
+                makeContent();
+            NSScreen* screen = button.window.screen ? button.window.screen : NSScreen.mainScreen;
+            resize(popoverContentSize(screen ? screen.visibleFrame.size.height : 0.0));
+            popover_.animates = !theme_.reducesMotion();
+            popover_.appearance = NSApp.effectiveAppearance; // not the menu bar's, which goes by the desktop's picture
+            content_->show();
+            [popover_ showRelativeToRect:button.bounds ofView:button preferredEdge:NSRectEdgeMinY];
+            [view().window makeKeyWindow];
+            [view().window makeFirstResponder:view()];
+        }
+    }
+
+    void close() override {
+        @autoreleasepool {
+            [popover_ close];
+        }
+        closingClick_.reset(); // the next click is a new wish
+    }
+
+    /// The press of a click on the item may have closed the popover already; its release must not open it again.
+    void toggle(const StatusItem& item) override {
+        const auto closing = std::exchange(closingClick_, std::nullopt);
+        if (isShown())
+            close();
+        else if (!closing || closing != clickNumber(NSEventTypeLeftMouseUp, itemWindow_))
+            show(item);
+    }
+
+  private:
+    void closing() { closingClick_ = clickNumber(NSEventTypeLeftMouseDown, itemWindow_); }
+
+    void closed() {
+        if (!isShown()) // it may be open again
+            content_->hide();
+    }
+
+    NSView* view() const { return (__bridge NSView*)reinterpret_cast<void*>(content_->winId()); }
+
+    /// Popover, ground and view at once: the view follows the ground by as much as that grows, not to its edges.
+    void resize(QSize size) {
+        popover_.contentSize = size.toCGSize();
+        [ground_ setFrameSize:size.toCGSize()];
+        content_->setGeometry(QRect(QPoint(), size));
+        view().frame = ground_.bounds;
+    }
+
+    /// Within a view of the system's, so that the toolkit makes no window for it.
+    void makeContent() {
+        content_ = std::make_unique<PopoverContent>(theme_, makeView_(), [this] { close(); });
+        ground_ = [[NSView alloc] initWithFrame:NSMakeRect(0.0, 0.0, content_->width(), content_->height())];
+        NSView* inner = view();
+        inner.frame = ground_.bounds;
+        inner.autoresizingMask = NSViewWidthSizable | NSViewHeightSizable;
+        [ground_ addSubview:inner];
+        NSViewController* controller = [[NSViewController alloc] initWithNibName:nil bundle:nil];
+        controller.view = ground_;
+        popover_.contentViewController = controller;
+        QObject::connect(&theme_, &Theme::changed, content_.get(),
+                         [this] { popover_.appearance = NSApp.effectiveAppearance; });
+    }
+
+    const Theme& theme_;
+    MakeView makeView_;
+    std::unique_ptr<PopoverContent> content_;
+    VantrixPopoverDelegate* delegate_;
+    NSPopover* popover_;
+    NSView* ground_ = nil; ///< what the popover holds; the toolkit's view fills it
+    __weak NSWindow* itemWindow_ = nil;
+    std::optional<NSInteger> closingClick_; ///< the one on the item whose press closed the popover
+};
+
+} // namespace
+
+std::unique_ptr<PopoverWindow> makePopoverWindow(const Theme& theme, PopoverWindow::MakeView makeView) {
+    return std::make_unique<MacPopover>(theme, std::move(makeView));
+}
+
+} // namespace vantrix

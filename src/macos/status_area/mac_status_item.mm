@@ -1,0 +1,123 @@
+#import <AppKit/AppKit.h>
+
+#include "macos/kernel/objc_text.h"
+#include "macos/status_area/native_menu.h"
+#include "macos/status_area/status_image.h"
+#include "menubar/menu_bar_renderer.h"
+#include "platform/status_item.h"
+
+NS_ASSUME_NONNULL_BEGIN
+
+/// Hands the clicks on the status item's button on.
+@interface VantrixClickTarget : NSObject
+- (instancetype)initWithClicked:(std::function<void(const vantrix::StatusClick&)>)clicked;
+- (void)statusItemClicked:(NSView*)button;
+@end
+
+NS_ASSUME_NONNULL_END
+
+@implementation VantrixClickTarget {
+    std::function<void(const vantrix::StatusClick&)> _clicked;
+}
+
+- (instancetype)initWithClicked:(std::function<void(const vantrix::StatusClick&)>)clicked {
+    self = [super init];
+    if (self)
+        _clicked = std::move(clicked);
+    return self;
+}
+
+- (void)statusItemClicked:(NSView*)button {
+    using Button = vantrix::StatusClick::Button;
+    // The last event of all. When an assistive program presses the button, it is another one, and the click a plain
+    // one.
+    NSEvent* event = NSApp.currentEvent;
+    const bool right = event && event.type == NSEventTypeRightMouseUp;
+    const bool left = event && event.type == NSEventTypeLeftMouseUp;
+    const bool onButton = (left || right) && event.window == button.window;
+    const bool control = onButton && (event.modifierFlags & NSEventModifierFlagControl) != 0;
+    _clicked({.button = onButton && right ? Button::right : Button::left, .control = control});
+}
+
+@end
+
+namespace vantrix {
+namespace {
+
+bool looksTheSame(const StatusContent& a, const StatusContent& b) {
+    return a.style == b.style && a.colorize == b.colorize && a.accessibilityLabel == b.accessibilityLabel &&
+           samePicture(a.items, b.items, a.style);
+}
+
+/// From the system's screens, whose first one has its lower left corner at the origin, to the toolkit's, which count
+/// downwards from that one's top.
+QRect fromScreen(NSRect rect) {
+    const CGFloat height = NSScreen.screens.firstObject.frame.size.height;
+    return QRectF(rect.origin.x, height - rect.origin.y - rect.size.height, rect.size.width, rect.size.height)
+        .toAlignedRect();
+}
+
+/// The program's item in the menu bar (NSStatusItem).
+class MacStatusItem final : public StatusItem {
+  public:
+    explicit MacStatusItem(Handlers handlers) {
+        // Neither a place in the dock nor a menu bar of its own.
+        [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
+        item_ = [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
+        target_ = [[VantrixClickTarget alloc] initWithClicked:std::move(handlers.clicked)];
+        NSStatusBarButton* button = item_.button;
+        button.target = target_;
+        button.action = @selector(statusItemClicked:);
+        [button sendActionOn:NSEventMaskLeftMouseUp | NSEventMaskRightMouseUp];
+        button.imagePosition = NSImageOnly;
+    }
+
+    ~MacStatusItem() override { [NSStatusBar.systemStatusBar removeStatusItem:item_]; }
+
+    void show(const StatusContent& content) override {
+        @autoreleasepool {
+            NSStatusBarButton* button = item_.button;
+            if (!button || (shown_ && looksTheSame(*shown_, content)))
+                return;
+            shown_ = content;
+            button.image = statusImage(content, button);
+            button.accessibilityLabel = nativeText(content.accessibilityLabel);
+        }
+    }
+
+    QRect anchor() const override {
+        @autoreleasepool {
+            NSStatusBarButton* button = item_.button;
+            NSRect inWindow = [button convertRect:button.bounds toView:nil];
+            return button.window ? fromScreen([button.window convertRectToScreen:inWindow]) : QRect(0, 0, 1, 1);
+        }
+    }
+
+    bool popUpMenu(const std::vector<StatusMenuEntry>& entries) override {
+        @autoreleasepool {
+            menu_ = makeNativeMenu(entries);
+            // Only while it is open: with a menu attached, clicks no longer reach the target.
+            item_.menu = menu_;
+            [item_.button performClick:nil];
+            item_.menu = nil;
+        }
+        return true;
+    }
+
+    WId nativeView() const override { return reinterpret_cast<WId>((__bridge void*)item_.button); }
+
+  private:
+    NSStatusItem* item_;
+    VantrixClickTarget* target_;
+    NSMenu* menu_ = nil; ///< the one that was shown last: what was chosen in it may be done after it has closed
+    std::optional<StatusContent> shown_;
+};
+
+} // namespace
+
+std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& /*defaults*/,
+                                           const AppearanceSource& /*appearance*/) {
+    return std::make_unique<MacStatusItem>(std::move(handlers));
+}
+
+} // namespace vantrix

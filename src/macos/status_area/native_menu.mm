@@ -1,0 +1,63 @@
+#include "macos/status_area/native_menu.h"
+
+#import <AppKit/AppKit.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+/// What one entry of a menu does.
+@interface VantrixMenuAction : NSObject
+- (instancetype)initWithAction:(std::function<void()>)action;
+- (void)runAction:(id)sender;
+@end
+
+NS_ASSUME_NONNULL_END
+
+@implementation VantrixMenuAction {
+    std::function<void()> _action;
+}
+
+- (instancetype)initWithAction:(std::function<void()>)action {
+    self = [super init];
+    if (self)
+        _action = std::move(action);
+    return self;
+}
+
+- (void)runAction:(id)sender {
+    _action();
+}
+
+@end
+
+namespace vantrix {
+namespace {
+
+/// The key alone: the system adds the Command key, which Qt calls Control, by itself.
+NSString* keyEquivalent(const QKeySequence& shortcut) {
+    if (shortcut.isEmpty())
+        return @"";
+    return QString(QChar(shortcut[0].key())).toLower().toNSString();
+}
+
+NSMenuItem* makeItem(const StatusMenuEntry& entry) {
+    if (entry.title.isEmpty())
+        return [NSMenuItem separatorItem];
+    NSMenuItem* item = [[NSMenuItem alloc] initWithTitle:entry.title.toNSString()
+                                                  action:@selector(runAction:)
+                                           keyEquivalent:keyEquivalent(entry.shortcut)];
+    VantrixMenuAction* action = [[VantrixMenuAction alloc] initWithAction:entry.action];
+    item.target = action;
+    item.representedObject = action; // a target alone is not kept alive
+    return item;
+}
+
+} // namespace
+
+NSMenu* makeNativeMenu(const std::vector<StatusMenuEntry>& entries) {
+    NSMenu* menu = [[NSMenu alloc] initWithTitle:@""];
+    for (const StatusMenuEntry& entry : entries)
+        [menu addItem:makeItem(entry)];
+    return menu;
+}
+
+} // namespace vantrix

@@ -1,0 +1,127 @@
+#include "platform/desktop_services.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+#include <QSocketNotifier>
+
+#include "posix/local_socket.h"
+
+namespace vantrix {
+namespace {
+
+constexpr int answerTimeout = 2; // seconds
+constexpr int patience = 100;    // milliseconds
+
+std::string pathWith(const char* ending) {
+    const std::string prefix = instancePrefix();
+    return prefix.empty() ? prefix : prefix + ending;
+}
+
+std::optional<sockaddr_un> socketAddress() {
+    const std::string path = pathWith(".socket");
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    if (path.empty() || path.size() >= sizeof address.sun_path)
+        return std::nullopt;
+    std::memcpy(address.sun_path, path.c_str(), path.size() + 1);
+    return address;
+}
+
+const sockaddr* generic(const sockaddr_un& address) {
+    return reinterpret_cast<const sockaddr*>(&address);
+}
+
+void limitWaiting(int socket) {
+    const timeval limit{answerTimeout, 0};
+    ::setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+    ::setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof limit);
+}
+
+class SocketChannel final : public InstanceChannel {
+  public:
+    SocketChannel(FileDescriptor lock, FileDescriptor listener)
+        : lock_(std::move(lock)), listener_(std::move(listener)) {
+        if (!listener_)
+            return;
+        notifier_ = std::make_unique<QSocketNotifier>(listener_.get(), QSocketNotifier::Read);
+        QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { answer(); });
+    }
+
+    ~SocketChannel() override {
+        // The lock file stays: removing it would let two instances lock two files of one name.
+        if (const auto address = socketAddress(); address && listener_)
+            ::unlink(address->sun_path);
+    }
+
+  private:
+    void answer() {
+        const FileDescriptor peer = acceptConnection(listener_.get());
+        if (!peer)
+            return;
+        // A request follows its connection at once; whoever dawdles is not served, for this is the main thread.
+        pollfd readable{peer.get(), POLLIN, 0};
+        ::poll(&readable, 1, patience);
+        char request[256];
+        const ssize_t length = ::recv(peer.get(), request, sizeof request, MSG_DONTWAIT);
+        if (length <= 0)
+            return;
+        sendQuietly(peer.get(), "ok", MSG_DONTWAIT);
+        if (received)
+            received(std::string(request, static_cast<std::size_t>(length)));
+    }
+
+    FileDescriptor lock_;
+    FileDescriptor listener_;
+    std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+FileDescriptor listenAt(const sockaddr_un& address) {
+    FileDescriptor listener = makeListeningSocket();
+    ::unlink(address.sun_path); // left behind by an instance that was killed; the lock says that none runs
+    if (!listener || ::bind(listener.get(), generic(address), sizeof address) != 0 || ::listen(listener.get(), 4) != 0)
+        return FileDescriptor();
+    return listener;
+}
+
+FileDescriptor connectToInstance() {
+    const auto address = socketAddress();
+    FileDescriptor socket = makeLocalSocket();
+    if (!address || !socket)
+        return FileDescriptor();
+    limitWaiting(socket.get());
+    const bool isConnected = ::connect(socket.get(), generic(*address), sizeof *address) == 0;
+    return isConnected ? std::move(socket) : FileDescriptor();
+}
+
+} // namespace
+
+std::unique_ptr<InstanceChannel> claimInstance() {
+    const std::string lockPath = pathWith(".lock");
+    FileDescriptor lock(::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
+    if (lock && ::flock(lock.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+        return nullptr;
+    const auto address = socketAddress();
+    // Without a place for the socket the program still runs; only others cannot talk to it.
+    FileDescriptor listener = lock && address ? listenAt(*address) : FileDescriptor();
+    return std::make_unique<SocketChannel>(std::move(lock), std::move(listener));
+}
+
+bool sendToRunningInstance(const std::string& request) {
+    const FileDescriptor socket = connectToInstance();
+    char answer[8];
+    return socket && sendQuietly(socket.get(), request) && ::recv(socket.get(), answer, sizeof answer, 0) > 0;
+}
+
+std::optional<int> runningInstance() {
+    const FileDescriptor socket = connectToInstance();
+    // The kernel remembers who listens; one that hangs can be found too.
+    return socket ? peerProcess(socket.get()) : std::nullopt;
+}
+
+} // namespace vantrix

@@ -1,0 +1,231 @@
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <cstdlib>
+#include <new>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "fakes/busy_laptop.h"
+#include "linux/graphics/linux_gpu_source.h"
+#include "linux/network/linux_network_info.h"
+#include "linux/sensors/linux_sensor_keys.h"
+#include "linux/sensors/linux_temperatures.h"
+#include "linux/temporary_folder.h"
+#include "platform/sampling_sources.h"
+#include "sensors/sensors_sampler.h"
+
+namespace {
+
+// Counted on the test's own thread alone, and only while asked for.
+thread_local bool isCounting = false;
+thread_local int allocations = 0;
+
+void* allocate(std::size_t size) {
+    if (isCounting)
+        ++allocations;
+    if (void* memory = std::malloc(size > 0 ? size : 1))
+        return memory;
+    throw std::bad_alloc();
+}
+
+} // namespace
+
+void* operator new(std::size_t size) {
+    return allocate(size);
+}
+void* operator new[](std::size_t size) {
+    return allocate(size);
+}
+// The library's own of these would be freed by the wrong counterpart.
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+    return allocate(size);
+}
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+    return allocate(size);
+}
+void operator delete(void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory) noexcept {
+    std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+namespace vantrix {
+namespace {
+
+template<typename Work>
+int allocationsDuring(Work work) {
+    allocations = 0;
+    isCounting = true;
+    work();
+    isCounting = false;
+    return allocations;
+}
+
+int allocationsAfterSecondPass(const KernelRoots& roots) {
+    const auto sources = makeSamplingSources(roots);
+    CPUSampler cpu(*sources.cpu);
+    MemorySampler memory(*sources.memory);
+    NetworkSampler network(*sources.network, *sources.clock);
+    DiskSampler disk(*sources.disks, *sources.volume, *sources.clock);
+    NetworkInfoSampler networkInfo(*sources.networkInfo);
+    GPUSampler gpu(*sources.gpu);
+    SensorsSampler sensors(sources.sensorKeys.get(), sources.temperatures.get(), sources.energy.get(), *sources.clock);
+    BatterySampler battery(*sources.battery);
+    const auto pass = [&] {
+        networkInfo.sample(true, 3);
+        cpu.sample();
+        memory.sample();
+        network.sample();
+        disk.sample();
+        gpu.sample();
+        sensors.sample();
+        battery.sample();
+    };
+    EXPECT_GT(allocationsDuring(pass), 0); // else nothing is counted at all
+    pass();
+    const auto hundredPasses = [&] {
+        for (int i = 0; i < 100; ++i)
+            pass();
+    };
+    // On a busy machine a sensor may seem slow, which gets it a thread, once. What allocates on every pass shows
+    // anyway.
+    int least = allocationsDuring(hundredPasses);
+    for (int i = 0; i < 40 && least > 0; ++i)
+        least = std::min(least, allocationsDuring(hundredPasses));
+    return least;
+}
+
+TEST(SamplingPass, AllocatesNothingAfterTheSecond) {
+    EXPECT_EQ(allocationsAfterSecondPass({}), 0);
+    for (const char* machine : {"many-interfaces", "zram-in-use", "laptop-hybrid-cores", "no-psi",
+                                "two-packs-and-accessories", "gpu-asleep-beside-another", "laptop-many-sensors",
+                                "desktop-resting-disk-sleeping-gpu", "board-with-thermal-zones-alone"}) {
+        const std::string folder = std::string(FIXTURES) + '/' + machine;
+        EXPECT_EQ(allocationsAfterSecondPass({folder + "/proc", folder + "/sys"}), 0) << machine;
+    }
+}
+
+TEST(SamplingPass, AllocatesNothingOnALaptopThatHasEverything) {
+    const TemporaryFolder folder;
+    const std::string laptop = folder.path("laptop");
+    fakes::writeBusyLaptop(FIXTURES, laptop);
+    EXPECT_EQ(allocationsAfterSecondPass({laptop + "/proc", laptop + "/sys"}), 0);
+}
+
+struct PassingClock : Clock {
+    explicit PassingClock(const double& seconds) : now(seconds) {}
+    double uptime() const override { return now; }
+    const double& now;
+};
+
+struct BusyNvidia : NvidiaLibrary {
+    bool start() override { return true; }
+    void stop() override {}
+    std::optional<Device> find(const std::string&) override { return this; }
+    int utilization(Device, unsigned& percent) override {
+        percent = 50;
+        return success;
+    }
+    std::optional<double> temperature(Device) override { return 60.0; }
+};
+
+struct AtOnce : Background {
+    bool run(const std::shared_ptr<Job>& job) override {
+        job->perform();
+        return true;
+    }
+};
+
+/// Every pass meets a line of the grid, so that all power settings are read.
+TEST(SamplingPass, AllocatesNothingForGPUsThatMayFallAsleep) {
+    const TemporaryFolder folder;
+    const std::string device = "class/drm/card1/device/";
+    folder.write("class/hwmon/hwmon0/name", "amdgpu\n");
+    for (const std::string& place :
+         {device, std::string("class/hwmon/hwmon0/device/"), std::string("bus/pci/drivers/nvidia/0000:01:00.0/")}) {
+        folder.write(place + "power/runtime_status", "active\n");
+        folder.write(place + "power/control", "auto\n");
+        folder.write(place + "power/autosuspend_delay_ms", "5000\n");
+        folder.write(place + "boot_vga", "1\n");
+        folder.write(place + "drm/card1/card1-a-connector-of-a-long-name/dpms", "Off\n");
+    }
+    folder.write(device + "gpu_busy_percent", "0\n");
+    folder.write("class/hwmon/hwmon0/temp1_input", "50000\n");
+    folder.write("class/hwmon/hwmon0/fan1_input", "900\n");
+    double now = 120.0;
+    LinuxGPUSource gpus(folder.path(""), std::make_unique<PassingClock>(now), std::make_unique<BusyNvidia>(), 5,
+                        std::make_shared<AtOnce>());
+    LinuxTemperatures temperatures(folder.path(""), std::make_shared<PassingClock>(now), gpus.nvidiaTemperature());
+    LinuxSensorKeys keys(folder.path(""), std::make_shared<PassingClock>(now));
+    std::vector<HIDTemperatureSampler::Service> services;
+    const auto passes = [&] {
+        for (int i = 0; i < 20; ++i) {
+            now += 12.0;
+            gpus.read();
+            temperatures.read(services);
+            keys.value("FNum");
+            keys.value("F0Ac");
+        }
+    };
+    passes();
+    EXPECT_EQ(allocationsDuring(passes), 0);
+    EXPECT_EQ(services.at(0).temperature, 50.0);
+    EXPECT_EQ(services.back().product, "GPU NVIDIA");
+}
+
+struct RouteOverWiFi : DefaultRoutes {
+    DefaultRoute route{3, "wlan0", "192.168.100.200"};
+
+    bool refresh() override { return true; }
+    std::uint64_t generation() const override { return 1; }
+    const DefaultRoute* primary(Family) const override { return &route; }
+};
+
+struct LongNamed : WiFiReader {
+    std::string problem;
+    std::shared_ptr<std::atomic<int>> reads;
+
+    LongNamed(const char* text, std::shared_ptr<std::atomic<int>> count) : problem(text), reads(std::move(count)) {}
+    void read(int, WiFiReading& reading) override {
+        reading.signal = -52;
+        reading.ssid = "a name of all the 32 letters....";
+        reading.problem = problem;
+        ++*reads;
+    }
+};
+
+TEST(SamplingPass, AllocatesNothingOnWiFi) {
+    const TemporaryFolder folder;
+    folder.write("class/net/wlan0/phy80211/index", "0\n");
+    for (const char* problem : {"", "a problem too long for a short string"}) {
+        const auto reads = std::make_shared<std::atomic<int>>(0);
+        LinuxNetworkInfo source(folder.path(""), std::make_unique<RouteOverWiFi>(), nullptr,
+                                std::make_unique<LongNamed>(problem, reads));
+        NetworkInfoSampler sampler(source);
+        int counted = 0;
+        for (int pass = 0; pass < 100; ++pass) {
+            const int before = *reads;
+            const int fresh = allocationsDuring([&] { sampler.sample(true, 3); });
+            counted += pass < 5 ? 0 : fresh;
+            const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+            while (*reads == before && std::chrono::steady_clock::now() < deadline)
+                std::this_thread::yield(); // passes are far apart
+        }
+        EXPECT_EQ(counted, 0) << problem;
+        const NetworkInfo& info = sampler.sample(true, 3);
+        EXPECT_EQ(info.ssid.has_value(), *problem == '\0');
+        EXPECT_EQ(info.debug.has_value(), *problem != 0);
+    }
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,387 @@
+// The battery reader over BlueZ's objects, on a bus of the tests' own.
+
+#include <gmock/gmock.h>
+
+#include "accessories/bluetooth_battery_reader.h"
+#include "fakes/fake_bluetooth.h"
+#include "linux/bluetooth/bluez_central.h"
+#include "linux/bluetooth/fake_bluez.h"
+#include "linux/program/soak.h"
+#include "linux/services/private_bus.h"
+
+namespace vantrix {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+const QString adapterPath = u"/org/bluez/hci0"_s;
+const QString mousePath = u"/org/bluez/hci0/dev_AA_BB_CC_DD_EE_01"_s;
+const QString headsetPath = u"/org/bluez/hci0/dev_AA_BB_CC_DD_EE_02"_s;
+const QString batteryUUID = u"0000180f-0000-1000-8000-00805f9b34fb"_s;
+constexpr uint headsetClass = 0x240404;
+
+QVariant percent(int value) {
+    return QVariant::fromValue(static_cast<uchar>(value));
+}
+
+QVariantMap powered(bool on) {
+    return {{u"Powered"_s, on}};
+}
+
+QVariantMap mouse(bool isConnected = true) {
+    return {{u"Connected"_s, isConnected},
+            {u"Alias"_s, u"Desk Mouse"_s},
+            {u"Name"_s, u"BLE-M1"_s},
+            {u"Address"_s, u"AA:BB:CC:DD:EE:01"_s},
+            {u"UUIDs"_s, QStringList{batteryUUID}},
+            {u"ServicesResolved"_s, true},
+            {u"RSSI"_s, QVariant::fromValue(qint16{-60})}};
+}
+
+QVariantMap headset() {
+    return {{u"Connected"_s, true},
+            {u"Alias"_s, u"AA-BB-CC-DD-EE-02"_s}, // it has no name
+            {u"Address"_s, u"AA:BB:CC:DD:EE:02"_s},
+            {u"Class"_s, headsetClass}};
+}
+
+class BluezTest : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon"; }
+
+    /// Starts reading, with a timer that the test fires.
+    void read(std::chrono::milliseconds retry = BluezWatch::usualRetry) {
+        auto watch = std::make_shared<BluezWatch>(bus.address(), retry);
+        auto ownTimer = std::make_unique<fakes::FakeTimer>();
+        timer = ownTimer.get();
+        reader = std::make_unique<BluetoothBatteryReader>(
+            std::make_unique<BluezCentral>(watch), std::make_unique<BluezClassicDevices>(watch), std::move(ownTimer));
+    }
+
+    /// The match rules of everybody on the bus.
+    int matchRules() {
+        static const QString stats = u"org.freedesktop.DBus.Debug.Stats"_s;
+        BusConnection asker(bus.address());
+        const auto message =
+            QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s, stats, u"GetStats"_s);
+        const auto reply = asker.bus().call(message).arguments();
+        return reply.isEmpty() ? -1 : qdbus_cast<QVariantMap>(reply[0]).value(u"MatchRules"_s, -1).toInt();
+    }
+
+    bool saysSoon(const char* text) {
+        return spinUntil([&] { return reader->diagnostics() == text; }) ||
+               (ADD_FAILURE() << reader->diagnostics(), false);
+    }
+
+    /// Whatever the service has sent so far has arrived once this did.
+    bool levelGets(int level) {
+        bluez.change(mousePath, bluez::battery, {{u"Percentage"_s, percent(level)}});
+        return spinUntil([&] { return !reader->readings().empty() && reader->readings()[0].percent == level; });
+    }
+
+    void addAdapterAndMouse() {
+        bluez.put(adapterPath, bluez::adapter, powered(true));
+        bluez.put(mousePath, bluez::device, mouse());
+        bluez.put(mousePath, bluez::battery, {{u"Percentage"_s, percent(64)}});
+    }
+
+    PrivateBus bus;
+    FakeBluez bluez{bus.address()};
+    std::unique_ptr<BluetoothBatteryReader> reader;
+    fakes::FakeTimer* timer = nullptr;
+};
+
+TEST_F(BluezTest, ReadsLevelsThatTheServicePublishes) {
+    addAdapterAndMouse();
+    bluez.put(headsetPath, bluez::device, headset());
+    bluez.put(headsetPath, bluez::battery, {{u"Percentage"_s, percent(80)}});
+    ASSERT_TRUE(bluez.appear());
+    read();
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 64% | classic: AA:BB:CC:DD:EE:02 80%"));
+    EXPECT_THAT(reader->all(), ElementsAre(AccessoryBattery{"Desk Mouse", 64, false, "computermouse"},
+                                           AccessoryBattery{"AA:BB:CC:DD:EE:02", 80, false, "headphones"}));
+    EXPECT_EQ(reader->all()[0].address, "AA:BB:CC:DD:EE:01");
+    EXPECT_TRUE(levelGets(63));
+    bluez.change(mousePath, bluez::battery, {{u"Percentage"_s, percent(255)}});
+    EXPECT_TRUE(spinUntil([&] { return reader->readings()[0].percent == 100; }));
+    EXPECT_EQ(bluez.asked.size(), 1u) << "the objects are asked for once, and no device ever";
+}
+
+TEST_F(BluezTest, SaysWhyThereIsNothing) {
+    read();
+    ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: ")) << "nobody is there";
+    ASSERT_TRUE(bluez.appear());
+    spinUntil([&] { return bluez.count(u"GetManagedObjects") == 1; });
+    bluez.put(adapterPath, bluez::adapter, powered(false));
+    ASSERT_TRUE(saysSoon("Bluetooth off, 0 with battery service | classic: "));
+    bluez.put(u"/org/bluez/hci1"_s, bluez::adapter, powered(true));
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: ")) << "one of two adapters is enough";
+    bluez.change(u"/org/bluez/hci1"_s, bluez::adapter, powered(false));
+    ASSERT_TRUE(saysSoon("Bluetooth off, 0 with battery service | classic: "));
+    bluez.remove(adapterPath);
+    bluez.remove(u"/org/bluez/hci1"_s);
+    ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
+    bluez.resign();
+    bluez.error = QDBusError::AccessDenied;
+    ASSERT_TRUE(bluez.appear());
+    ASSERT_TRUE(saysSoon("permission denied (System Settings > Privacy > Bluetooth), 0 with battery service | "
+                         "classic: "));
+    bus.kill();
+    ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
+}
+
+TEST_F(BluezTest, LivesWithoutABus) {
+    bus.kill();
+    read();
+    ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
+}
+
+TEST_F(BluezTest, FollowsTheServiceThroughRestarts) {
+    addAdapterAndMouse();
+    read();
+    ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
+    const int rules = matchRules();
+    EXPECT_NE(rules, 0);
+    for (int restart = 0; restart < 3; ++restart) {
+        ASSERT_TRUE(bluez.appear());
+        ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 64% | classic: "));
+        ASSERT_TRUE(levelGets(50 + restart));
+        bluez.resign();
+        const std::string level = std::to_string(50 + restart);
+        ASSERT_TRUE(saysSoon(("unavailable, 1 with battery service: Desk Mouse " + level + "% | classic: ").c_str()));
+        EXPECT_EQ(reader->readings()[0].address, "AA:BB:CC:DD:EE:01");
+        EXPECT_TRUE(spinUntil([&] { return matchRules() == rules; })) << "its signals are no longer asked for";
+        bluez.change(mousePath, bluez::battery, {{u"Percentage"_s, percent(64)}});
+    }
+    FakeBluez successor(bus.address());
+    successor.put(adapterPath, bluez::adapter, powered(true));
+    ASSERT_TRUE(successor.appear());
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: ")) << "it knows of no mouse";
+    addAdapterAndMouse(); // by one that has resigned
+    timer->fire();
+    successor.change(adapterPath, bluez::adapter, powered(false));
+    ASSERT_TRUE(saysSoon("Bluetooth off, 0 with battery service | classic: "));
+}
+
+TEST_F(BluezTest, DevicesComeAndGo) {
+    bluez.put(adapterPath, bluez::adapter, powered(true));
+    ASSERT_TRUE(bluez.appear());
+    read();
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
+    bluez.put(mousePath, bluez::device, mouse(false));
+    bluez.change(mousePath, bluez::device, {{u"Connected"_s, true}});
+    ASSERT_TRUE(saysSoon("on, 1 with battery service | classic: "));
+    bluez.put(mousePath, bluez::battery, {{u"Percentage"_s, percent(9)}}); // some seconds later
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 9% | classic: "));
+    bluez.change(mousePath, bluez::device, {{u"Alias"_s, u"Renamed"_s}});
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Renamed 9% | classic: "));
+    bluez.change(mousePath, bluez::device, {{u"Connected"_s, false}});
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
+    bluez.put(headsetPath, bluez::device, headset());
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: AA:BB:CC:DD:EE:02 [no value] class 4"));
+    bluez.put(headsetPath, bluez::battery, {{u"Percentage"_s, percent(70)}});
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: AA:BB:CC:DD:EE:02 70%"));
+    bluez.change(headsetPath, bluez::battery, {{u"Percentage"_s, percent(60)}});
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: AA:BB:CC:DD:EE:02 60%"));
+    bluez.remove(headsetPath);
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
+    bluez.put(mousePath, bluez::device, mouse());
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 9% | classic: "));
+    bluez.remove(adapterPath); // its devices are not always taken back
+    bluez.put(u"/org/bluez/hci1"_s, bluez::adapter, powered(true));
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
+}
+
+TEST_F(BluezTest, TellsPeripheralsFromClassicDevices) {
+    bluez.put(adapterPath, bluez::adapter, powered(true));
+    ASSERT_TRUE(bluez.appear());
+    read();
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
+    struct Case {
+        const char* name;
+        QStringList services;
+        std::optional<uint> deviceClass;
+        bool tellsLevel;
+        const char* text;
+    };
+    const Case cases[] = {
+        {"LE", {batteryUUID}, {}, true, "on, 1 with battery service: X 5% | classic: "},
+        {"of both kinds", {batteryUUID}, headsetClass, true, "on, 1 with battery service: X 5% | classic: "},
+        {"LE, its services untold", {}, {}, true, "on, 1 with battery service: X 5% | classic: "},
+        {"LE without a battery",
+         {u"0000180a-0000-1000-8000-00805f9b34fb"_s},
+         {},
+         false,
+         "on, 0 with battery service | classic: "},
+        {"classic", {}, 0x2580, true, "on, 0 with battery service | classic: X 5%"},
+        {"classic without a battery", {}, 0x2580, false, "on, 0 with battery service | classic: X [no value] class 5"},
+    };
+    for (const Case& c : cases) {
+        QVariantMap device{{u"Connected"_s, true}, {u"Name"_s, u"X"_s}, {u"UUIDs"_s, c.services}};
+        if (c.deviceClass)
+            device.insert(u"Class"_s, *c.deviceClass);
+        bluez.put(mousePath, bluez::device, device);
+        if (c.tellsLevel)
+            bluez.put(mousePath, bluez::battery, {{u"Percentage"_s, percent(5)}});
+        EXPECT_TRUE(spinUntil([&] {
+            timer->fire();
+            return reader->diagnostics() == c.text;
+        })) << c.name
+            << ": " << reader->diagnostics();
+        bluez.remove(mousePath);
+        EXPECT_TRUE(spinUntil([&] {
+            timer->fire();
+            return reader->diagnostics() == "on, 0 with battery service | classic: ";
+        })) << c.name;
+    }
+}
+
+TEST_F(BluezTest, ReadsTheCharacteristicWhereTheServiceExportsIt) {
+    const QString service = mousePath + u"/service0010"_s;
+    const QString characteristic = service + u"/char0011"_s;
+    bluez.put(adapterPath, bluez::adapter, powered(true));
+    bluez.put(mousePath, bluez::device, mouse());
+    bluez.put(service, bluez::gattService,
+              {{u"UUID"_s, batteryUUID}, {u"Device"_s, QVariant::fromValue(QDBusObjectPath(mousePath))}});
+    bluez.put(characteristic, bluez::gattCharacteristic,
+              {{u"UUID"_s, u"00002a19-0000-1000-8000-00805f9b34fb"_s},
+               {u"Service"_s, QVariant::fromValue(QDBusObjectPath(service))}});
+    bluez.value = QByteArray(1, 33);
+    ASSERT_TRUE(bluez.appear());
+    read();
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 33% | classic: "));
+    bluez.change(characteristic, bluez::gattCharacteristic, {{u"Value"_s, QByteArray(1, 32)}});
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 32% | classic: "));
+    bluez.change(characteristic, bluez::gattCharacteristic, {{u"Value"_s, QByteArray()}});
+    bluez.value = QByteArray("\xff more", 6);
+    timer->fire();
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 100% | classic: "));
+    EXPECT_EQ(bluez.count(u"ReadValue"), 2);
+    EXPECT_EQ(bluez.count(u"StartNotify"), 1);
+    bluez.hangs = true;
+    for (int refresh = 0; refresh < 10; ++refresh)
+        timer->fire();
+    bluez.change(characteristic, bluez::gattCharacteristic, {{u"Value"_s, QByteArray(1, 31)}});
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 31% | classic: "));
+    EXPECT_EQ(bluez.count(u"ReadValue"), 3) << "one at a time";
+    bluez.remove(characteristic);
+    bluez.resign();
+    ASSERT_TRUE(spinUntil([&] { return reader->diagnostics().starts_with("unavailable"); }));
+    reader.reset(); // with a read still unanswered
+}
+
+TEST_F(BluezTest, SlowAnswersAreTakenWhenTheyCome) {
+    addAdapterAndMouse();
+    bluez.hangs = true;
+    ASSERT_TRUE(bluez.appear());
+    read();
+    ASSERT_TRUE(spinUntil([&] { return bluez.count(u"GetManagedObjects") == 1; }));
+    EXPECT_EQ(reader->diagnostics(), "starting, 0 with battery service | classic: ");
+    bluez.change(mousePath, bluez::battery, {{u"Percentage"_s, percent(63)}}); // will come with the objects
+    const QDBusMessage held = bluez.asked.back();
+    bluez.answer(held);
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 63% | classic: "));
+
+    bluez.resign();
+    ASSERT_TRUE(bluez.appear());
+    ASSERT_TRUE(spinUntil([&] { return bluez.count(u"GetManagedObjects") == 2; }));
+    bluez.resign(); // it has gone before it answers
+    FakeBluez successor(bus.address());
+    successor.put(adapterPath, bluez::adapter, powered(false));
+    ASSERT_TRUE(successor.appear());
+    ASSERT_TRUE(spinUntil([&] { return reader->diagnostics().starts_with("Bluetooth off"); }));
+    bluez.answer(bluez.asked.back());
+    successor.change(adapterPath, bluez::adapter, powered(true));
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
+}
+
+TEST_F(BluezTest, IsFreeToGoAtAnyTime) {
+    bluez.hangs = true;
+    ASSERT_TRUE(bluez.appear());
+    read();
+    reader.reset(); // before there is a connection
+    read();
+    ASSERT_TRUE(spinUntil([&] { return !bluez.asked.empty(); }));
+    reader.reset(); // while the service keeps it waiting
+    bluez.answer(bluez.asked.back());
+}
+
+TEST_F(BluezTest, SurvivesWhatMakesNoSense) {
+    addAdapterAndMouse();
+    ASSERT_TRUE(bluez.appear());
+    read();
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 64% | classic: "));
+    const QString properties = u"org.freedesktop.DBus.Properties"_s;
+    const QVariant path = QVariant::fromValue(QDBusObjectPath(mousePath));
+    for (const QVariantList& arguments : {QVariantList{},
+                                          {1},
+                                          {u"org.bluez.Device1"_s},
+                                          {bluez::battery, 5, QStringList()},
+                                          {path, path, path},
+                                          {bluez::battery, QVariantMap(), 1}}) {
+        bluez.emitSignal(mousePath, properties, u"PropertiesChanged"_s, arguments);
+        for (const auto& member : {u"InterfacesAdded"_s, u"InterfacesRemoved"_s})
+            bluez.emitSignal(u"/"_s, u"org.freedesktop.DBus.ObjectManager"_s, member, arguments);
+    }
+    // What is no level leaves the last one.
+    for (const QVariant& wrong : {QVariant(5), QVariant(u"5"_s), path, QVariant(QStringList{u"5"_s}), QVariant(5.0)})
+        bluez.change(mousePath, bluez::battery, {{u"Percentage"_s, wrong}});
+    for (const char* name : {"Connected", "Name", "Alias", "Address", "Class", "UUIDs", "ServicesResolved"})
+        bluez.put(headsetPath, bluez::device, {{QString::fromLatin1(name), path}, {u"Connected"_s, 1}});
+    bluez.change(u"/unheard/of"_s, bluez::device, {{u"Connected"_s, true}});
+    bluez.emitSignal(
+        mousePath, properties, u"PropertiesChanged"_s,
+        {bluez::device, QVariantMap{{u"Alias"_s, 7}, {u"Name"_s, QByteArray("x")}}, QStringList{u"Name"_s}});
+    ASSERT_TRUE(levelGets(30));
+    timer->fire();
+    EXPECT_EQ(reader->diagnostics(), "on, 1 with battery service: Bluetooth device 30% | classic: ");
+
+    for (const QVariantList& answer : {QVariantList{}, {1}, {QVariantMap()}, {u"objects"_s, u"more"_s}}) {
+        bluez.resign();
+        bluez.nonsense = answer;
+        bluez.asked.clear();
+        ASSERT_TRUE(bluez.appear());
+        ASSERT_TRUE(spinUntil([&] { return !bluez.asked.empty(); }));
+        ASSERT_TRUE(spinUntil([&] { return reader->diagnostics().starts_with("unavailable"); }));
+    }
+}
+
+TEST_F(BluezTest, AsksAgainWhenTheFirstAnswerWasNone) {
+    addAdapterAndMouse();
+    bluez.error = QDBusError::NoMemory;
+    ASSERT_TRUE(bluez.appear());
+    read(std::chrono::milliseconds(1));
+    ASSERT_TRUE(spinUntil([&] { return bluez.asked.size() > 2; }));
+    EXPECT_TRUE(reader->diagnostics().starts_with("unavailable"));
+    bluez.error = QDBusError::NoError;
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 64% | classic: "));
+}
+
+TEST_F(BluezTest, TenThousandChangesGrowNothing) {
+    addAdapterAndMouse();
+    ASSERT_TRUE(bluez.appear());
+    read();
+    ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 64% | classic: "));
+    constexpr int rounds = 1000;
+    constexpr int warmUp = 100;
+    std::size_t before = 0;
+    for (int round = 0; round < rounds; ++round) {
+        if (round == warmUp)
+            before = soak::allocatedBytes();
+        for (int i = 0; i < 3; ++i) {
+            bluez.change(mousePath, bluez::battery, {{u"Percentage"_s, percent(i)}});
+            bluez.put(headsetPath, bluez::device, headset());
+            bluez.change(headsetPath, bluez::device, {{u"RSSI"_s, i}, {u"Connected"_s, i % 2 == 0}});
+            bluez.remove(headsetPath);
+        }
+        ASSERT_TRUE(levelGets(40 + round % 2));
+        timer->fire();
+    }
+    constexpr std::size_t slack = 128 * 1024; // less than 12 bytes a change: queues grow to their longest
+    EXPECT_LT(soak::allocatedBytes(), before + slack);
+}
+
+} // namespace
+} // namespace vantrix

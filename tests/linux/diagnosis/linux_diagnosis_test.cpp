@@ -1,0 +1,188 @@
+#include "linux/diagnosis/diagnosis_parts.h"
+
+#include <gmock/gmock.h>
+
+#include "linux/opened_files.h"
+#include "linux/temporary_folder.h"
+
+namespace vantrix {
+namespace {
+
+using ::testing::Each;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+/// "state source", or "state source: reason" of each row of a reading.
+std::vector<std::string> told(const DiagnosisTools& tools, std::string_view name) {
+    constexpr const char* states[] = {"ok", "absent", "asleep", "denied", "silent", "damaged"};
+    std::vector<std::string> rows;
+    for (SourceDiagnosis& row : diagnoseSources(tools)) {
+        if (row.name != name)
+            continue;
+        if (row.source.starts_with(tools.roots.sys))
+            row.source.replace(0, tools.roots.sys.size(), "SYS");
+        rows.push_back(states[static_cast<int>(row.state)] + (' ' + row.source) +
+                       (row.reason.empty() ? "" : ": " + row.reason));
+    }
+    return rows;
+}
+
+DiagnosisTools fixture(const std::string& machine) {
+    const std::string root = FIXTURES "/" + machine;
+    return {{root + "/proc", root + "/sys"}, reachOf, [] { return false; }};
+}
+
+TEST(Diagnosis, SaysWhatEachMachineLacks) {
+    const struct {
+        const char* machine;
+        std::string_view reading;
+        const char* beginning;
+        const char* words;
+    } rows[] = {
+        {"arm-big-little", reading_name::pressure, "ok ", ""},
+        {"no-psi", reading_name::pressure, "absent ", "does not measure stalls"},
+        {"container", reading_name::network, "ok ", "/proc/1/net/dev"},
+        {"no-psi", reading_name::wifi, "absent nl80211", "no Wi-Fi device"},
+        {"board-with-thermal-zones-alone", reading_name::temperatures, "ok SYS/class/thermal (5 zones)", ""},
+        {"board-with-thermal-zones-alone", reading_name::processor, "absent ", "is /proc mounted"},
+        {"no-psi", reading_name::temperatures, "absent SYS/class/hwmon", "lm-sensors"},
+        {"desktop-resting-disk-sleeping-gpu", reading_name::temperatures, "ok SYS/class/hwmon (5 chips)",
+         "Left asleep: amdgpu. Not asked while idle, so that it may spin down: drivetemp."},
+        {"desktop-resting-disk-sleeping-gpu", reading_name::systemPower, "ok SYS/class/hwmon (power_meter)", ""},
+        {"laptop-many-sensors", reading_name::chipPower, "ok SYS/class/powercap/intel-rapl:0/energy_uj", ""},
+        {"laptop-many-sensors", reading_name::systemPower, "ok SYS/class/powercap/intel-rapl:1/energy_uj", ""},
+        {"laptop-many-sensors", reading_name::battery, "ok SYS/class/power_supply/BAT0, BAT1", ""},
+        {"two-packs-and-accessories", reading_name::systemPower, "ok SYS/class/power_supply/BAT0, BAT1", "drained"},
+        {"two-packs-and-accessories", reading_name::accessories, "ok SYS/class/power_supply", ""},
+        {"container", reading_name::battery, "absent SYS/class/power_supply", "no battery"},
+        {"container", reading_name::gpu, "absent SYS/class/drm", "no GPU"},
+    };
+    for (const auto& row : rows) {
+        const auto text = told(fixture(row.machine), row.reading);
+        ASSERT_EQ(text.size(), 1u) << row.machine << ' ' << row.reading;
+        EXPECT_THAT(text.front(), ::testing::StartsWith(row.beginning)) << row.machine;
+        EXPECT_THAT(text.front(), HasSubstr(row.words)) << row.machine;
+    }
+}
+
+TEST(Diagnosis, SaysHowToGetAtWhatIsDenied) {
+    auto tools = fixture("laptop-many-sensors");
+    tools.reach = [](const std::string& path) {
+        return path.ends_with("energy_uj") ? Reach::denied : path.ends_with("stat") ? Reach::denied : reachOf(path);
+    };
+    const auto chip = told(tools, reading_name::chipPower);
+    EXPECT_THAT(chip, ElementsAre(HasSubstr("/class/powercap/intel-rapl:*/energy_uj 0440 root GROUP -")));
+    EXPECT_THAT(chip.front(), HasSubstr("The price: "));
+    EXPECT_THAT(told(tools, reading_name::systemPower), ElementsAre(HasSubstr("ok SYS/class/power_supply/BAT0")));
+    EXPECT_THAT(told(tools, reading_name::processor), ElementsAre(HasSubstr("denied ")));
+}
+
+TEST(Diagnosis, PermissionsAreToldWithoutOpening) {
+    TemporaryFolder folder;
+    folder.write("device/file", "1\n");
+    OpenedFiles opened(folder.path("device"));
+    EXPECT_EQ(reachOf(folder.path("device/file")), Reach::readable);
+    EXPECT_EQ(reachOf(folder.path("device/none")), Reach::missing);
+    EXPECT_THAT(opened.take(), IsEmpty());
+    if (geteuid() != 0) { // who may do anything is denied nothing
+        std::filesystem::permissions(folder.path("device/file"), std::filesystem::perms::none);
+        EXPECT_EQ(reachOf(folder.path("device/file")), Reach::denied);
+    }
+}
+
+TEST(Diagnosis, PressureSwitchedOffAtStartIsTold) {
+    TemporaryFolder folder;
+    folder.write("proc/pressure/memory", ""); // the kernel's file cannot be opened then
+    const DiagnosisTools tools{{folder.path("proc"), folder.path("sys")}, reachOf, {}};
+    EXPECT_THAT(told(tools, reading_name::pressure), ElementsAre(HasSubstr("psi=1")));
+}
+
+TEST(Diagnosis, SleepingGPUsAreLeftAsleep) {
+    TemporaryFolder folder;
+    const std::string card = "sys/class/drm/card1/";
+    const std::string nvidia = "sys/bus/pci/drivers/nvidia/0000:01:00.0/";
+    folder.write(card + "device/power/runtime_status", "suspended\n");
+    folder.write(card + "device/gpu_busy_percent", "1\n");
+    folder.write(card + "gt/gt0/rc6_residency_ms", "1\n");
+    folder.write(nvidia + "power/runtime_status", "suspended\n");
+    folder.write(nvidia + "boot_vga", "0\n");
+    OpenedFiles ofCard(folder.path(card));
+    OpenedFiles ofNvidia(folder.path(nvidia));
+    const DiagnosisTools tools{{folder.path("proc"), folder.path("sys")}, reachOf, [] {
+                                   ADD_FAILURE() << "the library is of no use to a sleeping GPU";
+                                   return true;
+                               }};
+    EXPECT_THAT(told(tools, reading_name::gpu), ElementsAre(HasSubstr("asleep SYS/class/drm/card1/device: "),
+                                                            HasSubstr("asleep SYS/bus/pci/drivers/nvidia/0000:01")));
+    EXPECT_THAT(ofCard.take(), ElementsAre("runtime_status"));
+    EXPECT_THAT(ofNvidia.take(), ElementsAre("runtime_status"));
+}
+
+TEST(Diagnosis, GPUsAreToldByTheirMeters) {
+    TemporaryFolder folder;
+    const auto makeLink = [&](const std::string& target, const std::string& link) {
+        std::filesystem::create_directories(std::filesystem::path(folder.path(link)).parent_path());
+        std::filesystem::create_directories(folder.path(target));
+        std::filesystem::create_directory_symlink(folder.path(target), folder.path(link));
+    };
+    bool hasLibrary = false;
+    const DiagnosisTools tools{{folder.path("proc"), folder.path("sys")}, reachOf, [&] { return hasLibrary; }};
+    folder.write("sys/class/drm/card0/gt/gt0/rc6_residency_ms", "1\n");
+    folder.write("sys/class/drm/card0/gt/gt1/rc6_residency_ms", "1\n");
+    folder.write("sys/class/drm/card0-HDMI-A-1/status", "connected\n");
+    makeLink("sys/bus/pci/drivers/nouveau", "sys/class/drm/card1/device/driver");
+    makeLink("sys/devices/0000:01:00.0", "sys/bus/pci/drivers/nvidia/0000:01:00.0");
+    makeLink("sys/devices/0000:01:00.0", "sys/class/drm/card2/device"); // the same once more
+    folder.write("sys/devices/0000:01:00.0/power/runtime_status", "active\n");
+    EXPECT_THAT(told(tools, reading_name::gpu),
+                ElementsAre(HasSubstr("/rc6_residency_ms and 1 more"),
+                            HasSubstr("absent SYS/class/drm/card1/device: Its driver, nouveau, tells no load"),
+                            HasSubstr("absent libnvidia-ml.so.1, 0000:01:00.0: The driver's management library")));
+    hasLibrary = true;
+    EXPECT_EQ(told(tools, reading_name::gpu).back(), "ok libnvidia-ml.so.1, 0000:01:00.0");
+    folder.write("sys/bus/pci/drivers/nvidia/0000:02:00.0/power/runtime_status", "suspended\n");
+    EXPECT_THAT(told(tools, reading_name::gpu)[2], HasSubstr("Starting the library could wake"));
+}
+
+TEST(Diagnosis, ZonesThatStandInForTheProcessorsChipAreTold) {
+    TemporaryFolder folder;
+    folder.write("sys/class/hwmon/hwmon0/name", "nvme\n");
+    folder.write("sys/class/hwmon/hwmon0/temp1_input", "30000\n");
+    folder.write("sys/class/hwmon/hwmon0/device/power/runtime_status", "suspended\n");
+    folder.write("sys/class/thermal/thermal_zone0/type", "soc-thermal\n");
+    const DiagnosisTools tools{{folder.path("proc"), folder.path("sys")}, reachOf, {}};
+    EXPECT_THAT(told(tools, reading_name::temperatures),
+                ElementsAre("ok SYS/class/hwmon (1 chip), " + folder.path("sys/class/thermal (1 zone): ") +
+                            "Left asleep: nvme."));
+}
+
+TEST(Diagnosis, NamesOfPeoplesDevicesStayOut) {
+    for (const char* machine : {"two-packs-and-accessories", "laptop-many-sensors", "many-interfaces"})
+        for (const SourceDiagnosis& row : diagnoseSources(fixture(machine)))
+            for (const char* secret : {"hid-", "hidpp", "wacom", "aa:bb", "eno1", "wlp"})
+                EXPECT_EQ((row.source + row.reason).find(secret), std::string::npos) << machine << ' ' << secret;
+}
+
+TEST(ProcessStatistics, SumsWhatTheProcessCost) {
+    TemporaryFolder folder;
+    const auto ticks = sysconf(_SC_CLK_TCK);
+    folder.write("uptime", "1000.50 12.00\n");
+    EXPECT_EQ(processStatistics(7, folder.path("")), std::nullopt);
+    folder.write("7/stat", "7 (a ) S (b) S 1 7 7 0 -1 0 0 0 0 0 " + std::to_string(3 * ticks) + ' ' +
+                               std::to_string(ticks) + " 0 0 20 0 2 0 " + std::to_string(900 * ticks) + " 0 0\n");
+    folder.write("7/smaps_rollup",
+                 "0-f ---p 0 00:00 0 [rollup]\nRss: 48 kB\nPrivate_Clean: 3 kB\nPrivate_Dirty: 7 kB\n");
+    folder.write("7/status", "voluntary_ctxt_switches:\t1000\n"); // of the first thread, which is below task too
+    folder.write("7/task/7/status", "voluntary_ctxt_switches:\t10\nnonvoluntary_ctxt_switches:\t2\n");
+    folder.write("7/task/8/status", "voluntary_ctxt_switches:\t5\nnonvoluntary_ctxt_switches:\t900\n");
+    EXPECT_EQ(processStatistics(7, folder.path("")), (ProcessStatistics{100.5, 3.0, 1.0, 48 * 1024, 10 * 1024, 15, 2}));
+    folder.remove("7/smaps_rollup");
+    EXPECT_EQ(processStatistics(7, folder.path("")).value().residentBytes, std::nullopt);
+    folder.write("7/stat", "7 (cut) S 1\n");
+    EXPECT_EQ(processStatistics(7, folder.path("")), std::nullopt);
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,176 @@
+#include "linux/network/linux_network_info.h"
+
+#include <atomic>
+#include <chrono>
+#include <filesystem>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "linux/network/proc_net_route.h"
+#include "linux/network/sysfs_interface_kind.h"
+#include "linux/temporary_folder.h"
+#include "platform/sampling_sources.h"
+
+namespace vantrix {
+namespace {
+
+using Type = NetworkInfoSampler::InterfaceType;
+
+TEST(ReadInterfaceKind, TellsInterfacesApartAsPeopleDo) {
+    struct Row {
+        const char* name;
+        std::vector<std::pair<const char*, const char*>> files;
+        Type type;
+        std::string_view shown;
+    };
+    const std::pair<const char*, const char*> ethernet{"type", "1\n"};
+    const std::pair<const char*, const char*> device{"device/vendor", "0x8086\n"};
+    const Row rows[] = {
+        {"Wi-Fi of a driver with its phy", {ethernet, device, {"phy80211/index", "0\n"}}, Type::ieee80211, "Wi-Fi"},
+        {"Wi-Fi of an old driver", {ethernet, device, {"wireless/status", "0\n"}}, Type::ieee80211, "Wi-Fi"},
+        {"Wi-Fi by its uevent alone",
+         {ethernet, device, {"uevent", "DEVTYPE=wlan\nINTERFACE=w\n"}},
+         Type::ieee80211,
+         "Wi-Fi"},
+        {"a port", {ethernet, device, {"uevent", "INTERFACE=x\nIFINDEX=2\n"}}, Type::ethernet, "Ethernet"},
+        {"modem", {ethernet, device, {"uevent", "DEVTYPE=wwan\n"}}, Type::other, "Mobile broadband"},
+        {"modem, raw",
+         {{"type", "519\n"}, device, {"uevent", "INTERFACE=x\nDEVTYPE=wwan"}},
+         Type::other,
+         "Mobile broadband"},
+        {"tunnel", {{"type", "65534\n"}, {"tun_flags", "0x1001\n"}}, Type::other, "VPN"},
+        {"tap", {ethernet, {"tun_flags", "0x1002\n"}}, Type::other, "VPN"},
+        {"WireGuard", {{"type", "65534\n"}, {"uevent", "DEVTYPE=wireguard\n"}}, Type::other, "VPN"},
+        {"dialled", {{"type", "512\n"}}, Type::other, "PPP"},
+        {"bridge", {ethernet, {"uevent", "DEVTYPE=bridge\n"}}, Type::other, "Bridge"},
+        {"a container's end of a pair", {ethernet, {"uevent", "INTERFACE=x\n"}}, Type::other, ""},
+        {"nothing told", {{"mtu", "1500\n"}}, Type::other, ""},
+    };
+    for (const Row& row : rows) {
+        const TemporaryFolder folder;
+        for (const auto& [file, text] : row.files)
+            folder.write("class/net/x/" + std::string(file), text);
+        const auto kind = readInterfaceKind(folder.path(""), "x");
+        ASSERT_TRUE(kind) << row.name;
+        EXPECT_EQ(kind->type, row.type) << row.name;
+        EXPECT_EQ(kind->name, row.shown) << row.name;
+        EXPECT_FALSE(readInterfaceKind(folder.path(""), "y"));
+        EXPECT_FALSE(readInterfaceKind(folder.path(""), "../net/x"));
+    }
+}
+
+TEST(ReadInterfaceKind, KnowsPortsOnUSB) {
+    const TemporaryFolder folder;
+    folder.write("class/net/x/type", "1\n");
+    folder.write("class/net/x/device/vendor", "1\n");
+    std::filesystem::create_symlink("../../../../bus/usb", folder.path("class/net/x/device/subsystem"));
+    EXPECT_EQ(readInterfaceKind(folder.path(""), "x")->name, "USB Ethernet");
+}
+
+const std::string heading = "Iface\tDestination\tGateway \tFlags\tRefCnt\tUse\tMetric\tMask\t\tMTU\tWindow\tIRTT\n";
+
+std::string route(const char* name, const char* destination, const char* flags, const char* metric) {
+    return std::string(name) + '\t' + destination + "\t010200C0\t" + flags + "\t0\t0\t" + metric + "\t" + destination +
+           "\t0\t0\t0    \n";
+}
+
+TEST(ParseDefaultRoute, TakesTheLowestMetricThatLeadsSomewhere) {
+    EXPECT_EQ(parseDefaultRoute(heading + route("eth1", "000200C0", "0001", "0") +
+                                route("wlan0", "00000000", "0003", "600") + route("eth0", "00000000", "0003", "100") +
+                                route("*", "00000000", "0201", "50")),
+              "eth0");
+    EXPECT_EQ(parseDefaultRoute(heading + route("eth0", "00000000", "0002", "0")), "");
+    EXPECT_EQ(parseDefaultRoute(heading + "eth0\t00000000\t0102"), "");
+    EXPECT_EQ(parseDefaultRoute(""), "");
+    const std::string none(32, '0');
+    const std::string line6 = none + " 00 " + none + " 00 fe800000000000000000000000000001 ";
+    EXPECT_EQ(parseDefaultIPv6Route(line6 + "00000400 00000001 00000000 00000003 eth0\n" + line6 +
+                                    "00000258 00000001 00000000 00000003 wlan0\n" + line6 +
+                                    "00000000 00000001 00000000 00200200 lo\n"),
+              "wlan0");
+}
+
+TEST(LinuxNetworkInfo, FollowsTheTreesOfAnotherMachine) {
+    const TemporaryFolder folder;
+    folder.write("proc/net/route", heading + route("wlan0", "00000000", "0003", "600"));
+    folder.write("sys/class/net/wlan0/phy80211/index", "0\n");
+    folder.write("sys/class/net/eth0/type", "1\n");
+    folder.write("sys/class/net/eth0/device/vendor", "1\n");
+    const auto sources = makeSamplingSources({folder.path("proc"), folder.path("sys")});
+    NetworkInfoSampler sampler(*sources.networkInfo);
+    NetworkInfo expected{NetworkInfo::Kind::wifi, "wlan0", "Wi-Fi"};
+    expected.debug = "no CoreWLAN interface for wlan0: Wi-Fi details are only asked for on the machine itself";
+    EXPECT_EQ(sampler.sample(true, 3), expected);
+    folder.write("proc/net/route", heading + route("eth0", "00000000", "0003", "100"));
+    EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::ethernet, "eth0", "Ethernet"}));
+    folder.write("proc/net/route", heading + route("usb0", "00000000", "0003", "100"));
+    EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::other, "usb0"})); // its folder is late
+    folder.write("sys/class/net/usb0/device/vendor", "1\n");
+    folder.write("sys/class/net/usb0/type", "1\n");
+    for (int pass = 0; pass < 5; ++pass)
+        sampler.sample(true, 3);
+    EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::ethernet, "usb0", "Ethernet"}));
+    folder.remove("proc/net/route");
+    const auto gone = makeSamplingSources({folder.path("proc"), folder.path("sys")});
+    EXPECT_EQ(NetworkInfoSampler(*gone.networkInfo).sample(true, 3), NetworkInfo());
+}
+
+struct RouteOverWiFi : DefaultRoutes {
+    explicit RouteOverWiFi(std::shared_ptr<std::uint64_t> count) : news(std::move(count)) {}
+    std::shared_ptr<std::uint64_t> news;
+    DefaultRoute route{3, "wlan0", "192.0.2.1"};
+
+    bool refresh() override { return true; }
+    std::uint64_t generation() const override { return *news; }
+    const DefaultRoute* primary(Family) const override { return &route; }
+};
+
+struct HangingReader : WiFiReader {
+    explicit HangingReader(std::shared_ptr<std::atomic<bool>> gate) : hangs(std::move(gate)) {}
+    std::shared_ptr<std::atomic<bool>> hangs;
+
+    void read(int, WiFiReading& reading) override {
+        while (*hangs)
+            std::this_thread::yield();
+        reading = WiFiReading();
+        reading.signal = -50;
+        reading.ssid = "Home";
+    }
+};
+
+TEST(LinuxNetworkInfo, NewsOfOtherLinksKeepWhatWiFiTold) {
+    const TemporaryFolder folder;
+    folder.write("class/net/wlan0/phy80211/index", "0\n");
+    const auto news = std::make_shared<std::uint64_t>(1);
+    const auto hangs = std::make_shared<std::atomic<bool>>(false);
+    LinuxNetworkInfo source(folder.path(""), std::make_unique<RouteOverWiFi>(news), nullptr,
+                            std::make_unique<HangingReader>(hangs));
+    NetworkInfoSampler sampler(source);
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (sampler.sample(true, 3).ssid != "Home" && std::chrono::steady_clock::now() < deadline)
+        std::this_thread::yield();
+    *hangs = true;
+    ++*news;
+    EXPECT_EQ(sampler.sample(true, 3).ssid, "Home");
+    *hangs = false;
+}
+
+/// Routes that work, or worked once.
+struct FailingRoutes : RouteOverWiFi {
+    explicit FailingRoutes(std::uint64_t generation) : RouteOverWiFi(std::make_shared<std::uint64_t>(generation)) {}
+    bool refresh() override { return false; }
+};
+
+TEST(LinuxNetworkInfo, FallsBackForGoodOnlyWhereTheRoutesNeverWorked) {
+    const TemporaryFolder folder;
+    folder.write("net/route", heading + route("eth0", "00000000", "0003", "100"));
+    for (const std::uint64_t generation : {0, 1}) {
+        LinuxNetworkInfo source(folder.path(""), std::make_unique<FailingRoutes>(generation),
+                                std::make_unique<ProcNetRoutes>(folder.path("net")), nullptr);
+        EXPECT_EQ(NetworkInfoSampler(source).sample(true, 3).interface.has_value(), generation == 0);
+    }
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,186 @@
+#include "linux/power_supply/linux_battery_source.h"
+
+#include <atomic>
+#include <chrono>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+#include "linux/temporary_folder.h"
+#include "samplers/fake_clock.h"
+
+namespace vantrix {
+namespace {
+
+struct LinuxBatterySourceTest : ::testing::Test {
+    TemporaryFolder folder;
+    LinuxBatterySource source{folder.path("sys"), std::make_shared<FakeClock>(), 1};
+
+    void write(const std::string& entry, const std::string& file, const std::string& text) {
+        folder.write("sys/class/power_supply/" + entry + '/' + file, text);
+    }
+    /// A pack; `values` are "STATUS=Full CAPACITY=50 …", "_" standing for a blank inside a value.
+    void setPack(const std::string& entry, std::string values) {
+        write(entry, "type", "Battery\n");
+        std::string text = "DEVTYPE=power_supply\n";
+        for (std::string& pair : split(values)) {
+            const auto value = pair.find('=');
+            if (pair.starts_with("STATUS"))
+                std::replace(pair.begin() + static_cast<std::ptrdiff_t>(value), pair.end(), '_', ' ');
+            text += "POWER_SUPPLY_" + pair + '\n';
+        }
+        write(entry, "uevent", text);
+    }
+    void setAdapter(const std::string& entry, const char* type, const char* online) {
+        write(entry, "type", std::string(type) + '\n');
+        write(entry, "online", std::string(online) + '\n');
+    }
+    std::optional<BatterySample> sample() { return BatterySampler(source).sample(); }
+
+    static std::vector<std::string> split(const std::string& text) {
+        std::istringstream stream(text);
+        return {std::istream_iterator<std::string>(stream), {}};
+    }
+};
+
+TEST_F(LinuxBatterySourceTest, UnderstandsEveryKindOfDriver) {
+    const struct {
+        const char* name;
+        std::vector<std::string> packs;
+        const char* adapter; // "online", empty for none
+        BatterySample sample;
+    } rows[] = {
+        {"energy, discharging",
+         {"STATUS=Discharging CAPACITY=49 ENERGY_NOW=25000000 ENERGY_FULL=45000000 ENERGY_FULL_DESIGN=50000000 "
+          "POWER_NOW=10000000 CYCLE_COUNT=211 TEMP=315"},
+         "0",
+         {49, false, false, 150, 211, 90, 31.5, 10.0}},
+        {"charge and negative current, charging",
+         {"STATUS=Charging CHARGE_NOW=2000000 CHARGE_FULL=4000000 CHARGE_FULL_DESIGN=5000000 VOLTAGE_NOW=12000000 "
+          "VOLTAGE_MIN_DESIGN=11000000 CURRENT_NOW=-1000000 CYCLE_COUNT=0"},
+         "1",
+         {50, true, true, 110, {}, 80, {}, 12.0}},
+        {"charge without a rated voltage, discharging",
+         {"STATUS=Discharging CHARGE_NOW=1000000 CHARGE_FULL=4000000 VOLTAGE_NOW=10000000 CURRENT_NOW=-2000000"},
+         "0",
+         {25, false, false, 30, {}, {}, {}, 20.0}},
+        {"capacity alone", {"STATUS=Unknown CAPACITY=77"}, "", {77}},
+        {"held at a limit", {"STATUS=Not_charging CAPACITY=80 POWER_NOW=0"}, "1", {80, false, true}},
+        {"full, with nothing to tell of the mains", {"STATUS=Full CAPACITY=100"}, "", {100, false, true}},
+        {"full, unplugged", {"STATUS=Full CAPACITY=100"}, "0", {100}},
+        {"charging over a port that says nothing", {"STATUS=Charging CAPACITY=5"}, "0", {5, true, true}},
+        {"driver's own time",
+         {"STATUS=Discharging CAPACITY=50 TIME_TO_EMPTY_NOW=5400 TIME_TO_FULL_NOW=60"},
+         "0",
+         {50, false, false, 90}},
+        {"drained on a weak adapter",
+         {"STATUS=Discharging CAPACITY=50 ENERGY_NOW=10000000 ENERGY_FULL=20000000 POWER_NOW=5000000"},
+         "1",
+         {50, false, true, 120, {}, {}, {}, 5.0}},
+        {"no power yet", {"STATUS=Discharging ENERGY_NOW=1 ENERGY_FULL=2 POWER_NOW=0"}, "0", {50}},
+        {"hardly any power", {"STATUS=Discharging ENERGY_NOW=50000000 ENERGY_FULL=100000000 POWER_NOW=1"}, "0", {50}},
+        {"two packs, weighted",
+         {"STATUS=Unknown CAPACITY=100 ENERGY_NOW=20000000 ENERGY_FULL=20000000 ENERGY_FULL_DESIGN=25000000 "
+          "POWER_NOW=0 CYCLE_COUNT=9 TEMP=200",
+          "STATUS=Discharging CAPACITY=10 ENERGY_NOW=7000000 ENERGY_FULL=70000000 ENERGY_FULL_DESIGN=75000000 "
+          "POWER_NOW=9000000 CYCLE_COUNT=44 TEMP=300"},
+         "0",
+         {30, false, false, 180, 44, 90, 30.0, 9.0}},
+        {"two packs, one of which tells its level alone",
+         {"STATUS=Full CAPACITY=100", "STATUS=Charging CAPACITY=40 ENERGY_NOW=1 ENERGY_FULL=9 POWER_NOW=6000000"},
+         "1",
+         {70, true, true, {}, {}, {}, {}, 6.0}},
+        {"empty bay", {"STATUS=Full CAPACITY=60", "PRESENT=0 CAPACITY=0"}, "1", {60, false, true}},
+        {"nonsense",
+         {"STATUS=Full CAPACITY=60 TEMP=9999 POWER_NOW=99999999999999 ENERGY_NOW=x ENERGY_FULL=-5 CYCLE_COUNT=-1"},
+         "1",
+         {60, false, true}},
+    };
+    for (const auto& row : rows) {
+        folder.remove("sys");
+        EXPECT_EQ(sample(), std::nullopt);
+        for (std::size_t i = 0; i < row.packs.size(); ++i)
+            setPack("BAT" + std::to_string(i), row.packs[i]);
+        if (*row.adapter)
+            setAdapter("AC", "Mains", row.adapter);
+        EXPECT_EQ(sample(), row.sample) << row.name;
+    }
+}
+
+TEST_F(LinuxBatterySourceTest, FollowsPacksAndPorts) {
+    setAdapter("ucsi-source-psy-1", "USB", "1");
+    write("ucsi-source-psy-1", "scope", "System\n");
+    EXPECT_EQ(sample(), std::nullopt); // an adapter is no battery
+    setPack("BAT0", "STATUS=Unknown CAPACITY=50");
+    setPack("BAT1", "STATUS=Unknown CAPACITY=70");
+    EXPECT_EQ(sample(), (BatterySample{60, false, true}));
+    folder.remove("sys/class/power_supply/BAT1");
+    EXPECT_EQ(sample(), (BatterySample{50, false, true}));
+    write("ucsi-source-psy-1", "scope", "Device\n"); // the port gives power now
+    EXPECT_EQ(sample(), (BatterySample{50, false, false}));
+    setPack("BAT0", "STATUS=Unknown");
+    EXPECT_EQ(sample(), std::nullopt); // without a level
+    setPack("BAT0", "STATUS=Unknown CAPACITY=51");
+    EXPECT_EQ(sample()->percent, 51);
+}
+
+TEST_F(LinuxBatterySourceTest, TheFolderIsListedOnlyNowAndThenAndPacksAreNoticedAllTheSame) {
+    LinuxBatterySource usual(folder.path("sys"), std::make_shared<FakeClock>());
+    const auto passesUntil = [&](int percent) {
+        for (int passes = 1; passes < 100; ++passes) {
+            const auto now = BatterySampler(usual).sample();
+            if ((now ? now->percent : -1) == percent)
+                return passes;
+        }
+        return 100;
+    };
+    setPack("BAT0", "STATUS=Unknown CAPACITY=50");
+    EXPECT_EQ(passesUntil(50), 1);
+    folder.remove("sys/class/power_supply/BAT0");
+    EXPECT_LE(passesUntil(-1), KernelFolder::usualPeriod);
+    setPack("BAT1", "STATUS=Unknown CAPACITY=70");
+    EXPECT_EQ(passesUntil(70), KernelFolder::usualPeriod);
+}
+
+/// On this clock every read takes very long.
+struct SlowClock : Clock {
+    mutable std::atomic<double> now = 0.0;
+    double uptime() const override { return now += 0.03; }
+};
+
+TEST_F(LinuxBatterySourceTest, ASlowControllerIsAskedAside) {
+    LinuxBatterySource slow(folder.path("sys"), std::make_shared<SlowClock>());
+    const auto percent = [&] {
+        const auto now = BatterySampler(slow).sample();
+        return now ? now->percent : -1;
+    };
+    setPack("BAT0", "STATUS=Unknown CAPACITY=50");
+    EXPECT_EQ(percent(), 50); // the first look is the one that shows how slow it is
+    setPack("BAT0", "STATUS=Unknown CAPACITY=40");
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    int told = percent();
+    for (; told != 40 && std::chrono::steady_clock::now() < deadline; told = percent()) {
+        EXPECT_EQ(told, 50); // what was told last, until the answer is there
+        std::this_thread::yield();
+    }
+    EXPECT_EQ(told, 40);
+}
+
+TEST_F(LinuxBatterySourceTest, MouseIsNoBatteryOfTheMachine) {
+    setPack("hidpp_battery_0", "STATUS=Discharging CAPACITY=50");
+    write("hidpp_battery_0", "scope", "Device\n");
+    EXPECT_EQ(sample(), std::nullopt);
+}
+
+/// One property that fails spoils the whole of uevent with some drivers.
+TEST_F(LinuxBatterySourceTest, ReadsSingleFilesWhereTheWholeFails) {
+    write("BAT0", "type", "Battery\n");
+    EXPECT_EQ(sample(), std::nullopt);
+    write("BAT0", "capacity", "64\n");
+    write("BAT0", "status", "Charging\n");
+    write("BAT0", "power_now", "15000000\n");
+    EXPECT_EQ(sample(), (BatterySample{64, true, true, {}, {}, {}, {}, 15.0}));
+}
+
+} // namespace
+} // namespace vantrix

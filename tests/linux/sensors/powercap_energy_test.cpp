@@ -1,0 +1,88 @@
+#include "linux/sensors/powercap_energy.h"
+
+#include <gmock/gmock.h>
+
+#include "linux/temporary_folder.h"
+#include "samplers/fake_clock.h"
+
+namespace vantrix {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+TEST(WrappedGrowth, StartsOverAtItsRange) {
+    const struct {
+        const char* name;
+        std::uint64_t now, before, range;
+        std::optional<std::uint64_t> growth;
+    } rows[] = {
+        {"grown", 30, 10, 100, 20},
+        {"still", 10, 10, 100, 0},
+        {"wrapped", 5, 90, 100, 15},
+        {"wrapped to zero", 0, 100, 100, 0},
+        {"beyond its range", 5, 101, 100, std::nullopt},
+        {"no range", 5, 90, 0, std::nullopt},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(wrappedGrowth(row.now, row.before, row.range), row.growth) << row.name;
+}
+
+struct PowercapEnergyTest : ::testing::Test {
+    TemporaryFolder folder;
+    PowercapEnergy source{folder.path(""), std::make_shared<FakeClock>()};
+
+    void write(const std::string& zone, const std::string& name, std::uint64_t energy) {
+        const std::string path = "class/powercap/" + zone;
+        folder.write(path + "/name", name + '\n');
+        folder.write(path + "/max_energy_range_uj", "1000\n");
+        folder.write(path + "/energy_uj", std::to_string(energy) + '\n');
+    }
+    std::vector<std::pair<std::string, std::int64_t>> growth() {
+        EXPECT_TRUE(source.takeSnapshot());
+        std::vector<IOReportSampler::Channel> channels(9); // what was there before must not matter
+        EXPECT_TRUE(source.readDifference(channels));
+        std::vector<std::pair<std::string, std::int64_t>> result;
+        for (const auto& channel : channels) {
+            EXPECT_EQ(channel.group, "Energy Model");
+            EXPECT_EQ(channel.unit, "uJ");
+            result.emplace_back(*channel.name, channel.value);
+        }
+        return result;
+    }
+};
+
+TEST_F(PowercapEnergyTest, PackagesGraphicsAndMemory) {
+    const auto writeAll = [&](std::uint64_t times) {
+        write("intel-rapl:0", "package-0", 500 * times);
+        write("intel-rapl:0:0", "core", 100 * times);
+        write("intel-rapl:0:1", "uncore", 50 * times);
+        write("intel-rapl:0:2", "dram", 20 * times);
+        write("intel-rapl:1", "package-1", 300 * times);
+        write("intel-rapl:1:0", "uncore", 0);
+        write("intel-rapl:2", "psys", 1000 * times);
+        write("intel-rapl-mmio:0", "package-0", 500 * times);
+    };
+    writeAll(1);
+    EXPECT_THAT(growth(), IsEmpty());
+    writeAll(2);
+    EXPECT_THAT(growth(), ElementsAre(std::pair("CPU Energy", 450), std::pair("GPU Energy", 50), std::pair("DRAM", 20),
+                                      std::pair("CPU Energy", 300)));
+    write("intel-rapl:0", "package-0", 100); // wrapped
+    EXPECT_EQ(growth()[0].second, 100);
+}
+
+TEST_F(PowercapEnergyTest, CountersThatCannotBeReadAreAbsent) {
+    EXPECT_FALSE(source.takeSnapshot());
+    write("intel-rapl:0", "package-0", 10);
+    for (int i = 0; i < 60; ++i)
+        source.takeSnapshot();
+    EXPECT_THAT(growth(), ElementsAre(std::pair("CPU Energy", 0)));
+    folder.write("class/powercap/intel-rapl:0/energy_uj", "-5\n");
+    EXPECT_FALSE(source.takeSnapshot()); // the snapshots before stay
+    write("intel-rapl:0", "package-0", 40);
+    EXPECT_THAT(growth(), ElementsAre(std::pair("CPU Energy", 30)));
+}
+
+} // namespace
+} // namespace vantrix

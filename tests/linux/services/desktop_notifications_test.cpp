@@ -1,0 +1,171 @@
+#include "linux/services/desktop_notifications.h"
+
+#include <QDBusArgument>
+
+#include <gtest/gtest.h>
+
+#include "linux/services/fake_notification_service.h"
+#include "linux/services/private_bus.h"
+
+namespace vantrix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+uint replacedBy(const QDBusMessage& notify) {
+    return notify.arguments().at(1).toUInt();
+}
+
+QString titleOf(const QDBusMessage& notify) {
+    return notify.arguments().at(3).toString();
+}
+
+class DesktopNotificationsTest : public testing::Test {
+  protected:
+    void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon"; }
+
+    void post(const QString& identifier, const QString& title = u"title"_s) {
+        center.post(identifier, title, u"body"_s);
+    }
+
+    static bool gets(const FakeNotificationService& service, std::size_t count) {
+        return spinUntil([&] { return service.asked.size() >= count; }) && service.asked.size() == count;
+    }
+
+    static std::optional<bool> authorization(DesktopNotifications& asked) {
+        std::optional<bool> answer;
+        asked.requestAuthorization([&](bool granted) { answer = granted; });
+        EXPECT_FALSE(answer) << "answered before returning";
+        EXPECT_TRUE(spinUntil([&] { return answer.has_value(); }));
+        return answer;
+    }
+
+    PrivateBus bus;
+    BusConnection connection{bus.address()};
+    DesktopNotifications center{connection.bus()};
+};
+
+TEST_F(DesktopNotificationsTest, SaysWhatDaemonsUnderstand) {
+    FakeNotificationService service(bus.address());
+    center.post(u"vantrix.cpu"_s, u"A <title>"_s, u"Less < more"_s);
+    ASSERT_TRUE(gets(service, 1));
+    ASSERT_EQ(service.asked[0].signature(), u"susssasa{sv}i"_s);
+    const QVariantList arguments = service.asked[0].arguments();
+    EXPECT_EQ(arguments.mid(0, 5), QVariantList({u"Vantrix"_s, 0U, u"vantrix"_s, u"A <title>"_s, u"Less &lt; more"_s}));
+    EXPECT_EQ(arguments[7], QVariant(-1));
+    const auto hints = qdbus_cast<QVariantMap>(arguments[6]);
+    EXPECT_EQ(hints.value(u"urgency"_s), QVariant::fromValue(uchar{1})); // daemons refuse another type than byte
+    EXPECT_EQ(hints.value(u"desktop-entry"_s), u"vantrix"_s);
+    EXPECT_FALSE(hints.value(u"sound-name"_s).toString().isEmpty());
+}
+
+TEST_F(DesktopNotificationsTest, ReplacesWhatTheSameServiceShowsUnderTheIdentifier) {
+    for (int restart = 0; restart < 2; ++restart) {
+        FakeNotificationService service(bus.address(), 40);
+        EXPECT_EQ(authorization(center), true); // by now it knows of this service
+        std::vector<uint> replaced;
+        for (const auto& identifier : {u"a"_s, u"b"_s, u"a"_s, u"a"_s, u"b"_s}) {
+            post(identifier);
+            ASSERT_TRUE(gets(service, replaced.size() + 1));
+            replaced.push_back(replacedBy(service.asked.back()));
+        }
+        EXPECT_EQ(replaced, (std::vector<uint>{0, 0, 40, 40, 41}));
+    }
+}
+
+TEST_F(DesktopNotificationsTest, HoldsTheLatestBackWhileTheServiceIsSlow) {
+    FakeNotificationService service(bus.address(), 7);
+    service.hangs = true;
+    post(u"a"_s, u"first"_s);
+    ASSERT_TRUE(gets(service, 1));
+    post(u"a"_s, u"outdated"_s);
+    post(u"a"_s, u"latest"_s);
+    post(u"b"_s, u"another"_s); // is not held up
+    ASSERT_TRUE(gets(service, 2));
+    EXPECT_EQ(titleOf(service.asked[1]), u"another"_s);
+    service.answer(service.asked[0]);
+    ASSERT_TRUE(gets(service, 3));
+    EXPECT_EQ(titleOf(service.asked[2]), u"latest"_s);
+    EXPECT_EQ(replacedBy(service.asked[2]), 7U);
+}
+
+TEST_F(DesktopNotificationsTest, GoesOnAfterWrongAnswers) {
+    FakeNotificationService service(bus.address());
+    const QVariantList answers[] = {{}, {u"1"_s}, {QVariant::fromValue(qint64{1})}, {1U, 2U}, {QStringList{}}};
+    std::size_t count = 0;
+    const auto expectFresh = [&](const char* what) {
+        post(u"a"_s);
+        ASSERT_TRUE(gets(service, ++count)) << what;
+        EXPECT_EQ(replacedBy(service.asked.back()), 0U) << what;
+    };
+    for (const QVariantList& answer : answers) {
+        service.nonsense = answer;
+        expectFresh("nonsense");
+    }
+    service.error = true;
+    expectFresh("after nonsense");
+    expectFresh("after an error");
+}
+
+TEST_F(DesktopNotificationsTest, SurvivesAServiceThatDiesUnanswered) {
+    std::optional<FakeNotificationService> service(std::in_place, bus.address());
+    service->hangs = true;
+    post(u"a"_s);
+    ASSERT_TRUE(gets(*service, 1));
+    post(u"a"_s, u"held back"_s);
+    service.reset();
+    FakeNotificationService successor(bus.address());
+    EXPECT_TRUE(spinUntil([&] {
+        if (successor.asked.empty())
+            post(u"a"_s, u"once more"_s);
+        return !successor.asked.empty();
+    }));
+    EXPECT_EQ(replacedBy(successor.asked[0]), 0U);
+}
+
+TEST_F(DesktopNotificationsTest, TakesNoIdFromAServiceThatHasResigned) {
+    FakeNotificationService former(bus.address(), 99);
+    former.hangs = true;
+    post(u"a"_s);
+    ASSERT_TRUE(gets(former, 1));
+    former.resign();
+    FakeNotificationService successor(bus.address());
+    EXPECT_EQ(authorization(center), true); // by now it knows of the successor
+    post(u"a"_s);
+    former.answer(former.asked[0]);
+    ASSERT_TRUE(gets(successor, 1));
+    EXPECT_EQ(replacedBy(successor.asked[0]), 0U);
+}
+
+TEST_F(DesktopNotificationsTest, IsAuthorizedWhereThereIsAService) {
+    EXPECT_EQ(authorization(center), false) << "nobody shows notifications";
+    {
+        FakeNotificationService service(bus.address());
+        service.hangs = true;
+        EXPECT_EQ(authorization(center), true) << "a service runs";
+    }
+    EXPECT_EQ(authorization(center), false) << "it is gone";
+    DesktopNotifications busless{std::nullopt};
+    busless.post(u"a"_s, {}, {});
+    EXPECT_EQ(authorization(busless), false) << "no bus";
+    bus.kill();
+    EXPECT_EQ(authorization(center), false) << "the bus is gone";
+    post(u"a"_s);
+}
+
+TEST_F(DesktopNotificationsTest, IsAuthorizedWhereAServiceCanBeStarted) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"daemon.service"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[D-BUS Service]\nName=org.freedesktop.Notifications\nExec=/bin/false\n");
+    file.close();
+    PrivateBus starting("<servicedir>" + QFile::encodeName(folder.path()) + "</servicedir>");
+    BusConnection own(starting.address());
+    DesktopNotifications notifications(own.bus());
+    EXPECT_EQ(authorization(notifications), true);
+    notifications.post(u"a"_s, {}, {}); // fails to start, which nobody notices
+    EXPECT_EQ(authorization(notifications), true);
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,182 @@
+#include "linux/services/linux_service_diagnosis.h"
+
+#include <sys/prctl.h>
+
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QDir>
+
+#include <gmock/gmock.h>
+
+#include "linux/services/fake_answerer.h"
+#include "linux/services/fake_portal.h"
+#include "linux/services/private_bus.h"
+
+namespace vantrix {
+namespace {
+
+using namespace Qt::StringLiterals;
+using ::testing::HasSubstr;
+
+using Interfaces = QMap<QString, QVariantMap>;
+using Objects = QMap<QDBusObjectPath, Interfaces>;
+
+const QString notifications = QStringLiteral("org.freedesktop.Notifications");
+const QString notificationsPath = QStringLiteral("/org/freedesktop/Notifications");
+
+class ServiceDiagnosisTest : public testing::Test {
+  protected:
+    void SetUp() override {
+        ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon";
+        qDBusRegisterMetaType<Interfaces>();
+        qDBusRegisterMetaType<Objects>();
+    }
+
+    /// The rows by name; one bus serves as both.
+    std::map<std::string, SourceDiagnosis> ask(const BusAddresses& addresses,
+                                               std::chrono::milliseconds patience = std::chrono::seconds(20)) {
+        LinuxServiceDiagnoses diagnoses(addresses, patience);
+        std::optional<std::vector<SourceDiagnosis>> rows;
+        diagnoses.finished = [&](auto told) { rows = std::move(told); };
+        EXPECT_FALSE(rows);
+        EXPECT_TRUE(spinUntil([&] { return rows.has_value(); }));
+        std::map<std::string, SourceDiagnosis> byName;
+        for (const SourceDiagnosis& row : rows.value_or(std::vector<SourceDiagnosis>()))
+            byName[row.name] = row;
+        return byName;
+    }
+    std::map<std::string, SourceDiagnosis> ask() { return ask({bus.address(), bus.address()}); }
+
+    FakeAnswerer answerer(const QString& name, const QString& path, const QVariantList& arguments) const {
+        return FakeAnswerer(bus.address(), name, path,
+                            [arguments](const QDBusMessage& call) { return call.createReply(arguments); });
+    }
+
+    PrivateBus bus;
+};
+
+TEST_F(ServiceDiagnosisTest, WithoutABusItSaysSo) {
+    const auto rows = ask({std::nullopt, u"unix:path=/nowhere/bus"_s});
+    EXPECT_EQ(rows.at("Session bus").state, SourceState::absent);
+    EXPECT_EQ(rows.at("System bus").source, "unix:path=/nowhere/bus");
+    EXPECT_EQ(rows.at("System bus").state, SourceState::absent);
+    EXPECT_EQ(rows.at("Notifications").reason, "There is no session bus to ask.");
+    EXPECT_EQ(rows.at("Bluetooth").reason, "There is no system bus to ask.");
+}
+
+TEST_F(ServiceDiagnosisTest, TellsOfEachServiceThatAnswers) {
+    const auto daemon = answerer(notifications, notificationsPath, {u"dunst"_s, u"people"_s, u"1.9"_s, u"1.2"_s});
+    const auto watcher = answerer(u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s,
+                                  {QVariant::fromValue(QDBusVariant(true))});
+    const FakePortal portal(bus.address(), {{u"org.freedesktop.appearance"_s, {{u"color-scheme"_s, QVariant(1U)}}}});
+    const auto rows = ask();
+    EXPECT_EQ(rows.at("Session bus").value, "connected");
+    EXPECT_EQ(rows.at("Notifications").value, "dunst 1.9");
+    EXPECT_EQ(rows.at("Appearance").value, "dark");
+    EXPECT_EQ(rows.at("Status area").state, SourceState::ok);
+    EXPECT_EQ(rows.at("Status area").value, "app_tests"); // whose process the watcher is
+}
+
+TEST_F(ServiceDiagnosisTest, AWatcherWithoutAPanelIsNoStatusArea) {
+    const auto watcher = answerer(u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s,
+                                  {QVariant::fromValue(QDBusVariant(false))});
+    auto row = ask().at("Status area");
+    EXPECT_EQ(row.state, SourceState::absent);
+    EXPECT_THAT(row.reason, HasSubstr("app_tests keeps the list"));
+    ::prctl(PR_SET_NAME, "notification-ar"); // MATE's: a panel that denies being one
+    row = ask().at("Status area");
+    ::prctl(PR_SET_NAME, "app_tests");
+    EXPECT_EQ(row.state, SourceState::ok);
+}
+
+TEST_F(ServiceDiagnosisTest, AServiceThatHangsIsSilentAndKeepsNobodyWaiting) {
+    const FakeAnswerer daemon(bus.address(), notifications, notificationsPath);
+    const FakePortal portal(bus.address(), {});
+    const auto rows = ask({bus.address(), std::nullopt}, std::chrono::milliseconds(1500));
+    EXPECT_EQ(rows.at("Notifications").state, SourceState::silent);
+    EXPECT_EQ(rows.at("Appearance").value, "no preference");
+}
+
+TEST_F(ServiceDiagnosisTest, NonsenseAndRefusalsAreToldApart) {
+    const auto daemon = answerer(notifications, notificationsPath, {42});
+    const FakeAnswerer bluez(bus.address(), u"org.bluez"_s, u"/"_s, [](const QDBusMessage& call) {
+        return call.createErrorReply(QDBusError::AccessDenied, u"no"_s);
+    });
+    const auto rows = ask();
+    EXPECT_EQ(rows.at("Notifications").state, SourceState::damaged);
+    EXPECT_EQ(rows.at("Bluetooth").state, SourceState::denied);
+    EXPECT_THAT(rows.at("Bluetooth").reason, HasSubstr("usermod -aG bluetooth"));
+}
+
+TEST_F(ServiceDiagnosisTest, BluetoothIsToldByItsAdaptersAndBatteries) {
+    const auto adapter = [](bool isOn) { return Interfaces{{u"org.bluez.Adapter1"_s, {{u"Powered"_s, isOn}}}}; };
+    const Interfaces headset{{u"org.bluez.Battery1"_s, {{u"Percentage"_s, QVariant::fromValue(uchar{70})}}},
+                             {u"org.bluez.Device1"_s, {{u"Alias"_s, u"Ann's headset"_s}}}};
+    const QDBusObjectPath hci(u"/org/bluez/hci0"_s);
+    const struct {
+        const char* name;
+        Objects objects;
+        SourceState state;
+        const char* value;
+    } rows[] = {
+        {"no adapter", {}, SourceState::absent, ""},
+        {"off", {{hci, adapter(false)}}, SourceState::ok, "off"},
+        {"on", {{hci, adapter(true)}, {QDBusObjectPath(u"/d"_s), headset}}, SourceState::ok, "on, 1 level"},
+    };
+    EXPECT_EQ(ask().at("Bluetooth").state, SourceState::absent);
+    for (const auto& row : rows) {
+        const auto bluez = answerer(u"org.bluez"_s, u"/"_s, {QVariant::fromValue(row.objects)});
+        const auto told = ask().at("Bluetooth");
+        EXPECT_EQ(told.state, row.state) << row.name;
+        EXPECT_EQ(told.value, row.value) << row.name;
+    }
+}
+
+TEST_F(ServiceDiagnosisTest, AServiceThatTheBusCanStartIsNotStarted) {
+    QTemporaryDir services;
+    QFile file(services.filePath(u"n.service"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[D-BUS Service]\nName=org.freedesktop.Notifications\nExec=/bin/false\n");
+    file.close();
+    const PrivateBus starting("<servicedir>" + QFile::encodeName(services.path()) + "</servicedir>");
+    const auto row = ask({starting.address(), std::nullopt}).at("Notifications");
+    EXPECT_EQ(row.state, SourceState::ok);
+    EXPECT_EQ(row.value, "started when needed");
+}
+
+TEST(OwnFilesDiagnosis, TellsOfSettingsThatCannotBeUsed) {
+    const QTemporaryDir folder;
+    const QByteArray usual = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
+    const QString path = folder.filePath(u"vantrix/settings.json"_s);
+    const auto told = [] { return diagnoseOwnFiles().front(); };
+    const auto put = [&](const QByteArray& text) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    };
+    EXPECT_EQ(told().value, "defaults");
+    ASSERT_TRUE(QDir().mkpath(folder.filePath(u"vantrix"_s)));
+    put("{\"updateInterval\": 5, \"menuBarStyle\": \"inline\"}");
+    EXPECT_EQ(told(), (SourceDiagnosis{"Settings", path.toStdString(), SourceState::ok, "2 entries", ""}));
+    put("{\"updateInterval\": ");
+    EXPECT_EQ(told().state, SourceState::damaged);
+    EXPECT_THAT(told().reason, HasSubstr("sets it aside"));
+    EXPECT_TRUE(QFile::exists(path)); // only looked at
+    QFile::remove(path);
+    ASSERT_TRUE(QDir().mkdir(path));
+    EXPECT_THAT(told().reason, HasSubstr("left alone"));
+    usual.isNull() ? qunsetenv("XDG_CONFIG_HOME") : qputenv("XDG_CONFIG_HOME", usual);
+}
+
+TEST(StatusAreaDiagnosis, FollowsTheOrderOfTheBackEnds) {
+    EXPECT_EQ(diagnoseStatusArea({}, TrayAnswer::tray, false).value, "X11 tray");
+    EXPECT_EQ(diagnoseStatusArea({}, TrayAnswer::silent, false).state, SourceState::silent);
+    EXPECT_THAT(diagnoseStatusArea({}, TrayAnswer::noServer, false).reason, HasSubstr("no display"));
+    for (const auto tray : {TrayAnswer::noServer, TrayAnswer::noTray})
+        EXPECT_THAT(diagnoseStatusArea({}, tray, true).reason, HasSubstr("a strip on the desktop")) << int(tray);
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,102 @@
+#include "linux/services/linux_widget_center.h"
+
+#include <atomic>
+#include <csignal>
+#include <sys/stat.h>
+#include <thread>
+
+#include "linux/services/private_bus.h"
+#include "linux/services/session_bus.h"
+#include "linux/settings/settings_folder.h"
+
+namespace vantrix {
+namespace {
+
+using namespace Qt::StringLiterals;
+using settings_folder::put;
+
+/// What widgets are told.
+class Listener : public QObject {
+    Q_OBJECT
+  public:
+    explicit Listener(QDBusConnection bus) {
+        bus.connect(QString(), u"/vantrix/WidgetCenter"_s, u"vantrix.WidgetCenter"_s, u"Reload"_s, this,
+                    SLOT(reload(QString)));
+    }
+    QStringList paths;
+
+  private Q_SLOTS:
+    void reload(const QString& path) { paths << path; }
+};
+
+class LinuxWidgetCenterTest : public settings_folder::FileDefaultsStoreTest {
+  protected:
+    static mode_t modeOf(const QString& path) {
+        struct stat status {};
+        return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+    }
+
+    QString file = at("run/vantrix/defaults.json");
+    LinuxWidgetCenter center{file, std::nullopt};
+};
+
+TEST_F(LinuxWidgetCenterTest, ReplacesAPrivateFile) {
+    for (const char* json : {"{\"a\":1}", "2"}) {
+        center.store("sharedStats", json);
+        EXPECT_EQ(read(file), "{\"sharedStats\":" + QByteArray(json) + "}\n");
+        EXPECT_EQ(modeOf(file), 0600u);
+    }
+    EXPECT_EQ(modeOf(at("run/vantrix")), 0700u);
+    QDir(at("run")).removeRecursively(); // as at the end of a session
+    center.store("sharedStats", "3");
+    EXPECT_EQ(read(file), "{\"sharedStats\":3}\n");
+    EXPECT_EQ(QDir(at("run/vantrix")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"defaults.json"_s});
+}
+
+TEST_F(LinuxWidgetCenterTest, FailsWithoutATrace) {
+    put(at("run"), "a file in the place of the folder");
+    center.store("sharedStats", "1");
+    ASSERT_TRUE(QFile::remove(at("run")));
+    ASSERT_TRUE(QDir().mkpath(file));
+    center.store("sharedStats", "1");
+    EXPECT_EQ(QDir(at("run/vantrix")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+              QStringList{u"defaults.json"_s});
+}
+
+TEST_F(LinuxWidgetCenterTest, ReadersNeverSeeAMixture) {
+    const std::string values[] = {'"' + std::string(100'000, 'a') + '"', '"' + std::string(50'000, 'b') + '"'};
+    center.store("k", values[0]);
+    std::atomic<bool> done = false;
+    std::thread writer([&] {
+        for (int round = 0; round < 500; ++round)
+            center.store("k", values[round % 2]);
+        done = true;
+    });
+    int torn = 0;
+    while (!done) {
+        const std::string seen = read(file).toStdString();
+        torn += seen != "{\"k\":" + values[0] + "}\n" && seen != "{\"k\":" + values[1] + "}\n";
+    }
+    writer.join();
+    EXPECT_EQ(torn, 0);
+}
+
+TEST_F(LinuxWidgetCenterTest, TellsWidgetsOnTheBus) {
+    PrivateBus bus;
+    ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon";
+    BusConnection own(bus.address());
+    BusConnection other(bus.address());
+    Listener widget(other.bus());
+    LinuxWidgetCenter telling(file, own.bus());
+    telling.reloadAllTimelines();
+    EXPECT_TRUE(spinUntil([&] { return widget.paths == QStringList{file}; }));
+    bus.kill();
+    telling.reloadAllTimelines();
+    center.reloadAllTimelines(); // has no bus at all
+}
+
+} // namespace
+} // namespace vantrix
+
+#include "linux_widget_center_test.moc"

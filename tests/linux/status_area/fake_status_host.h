@@ -1,0 +1,127 @@
+#pragma once
+
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include <QDBusArgument>
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDBusVariant>
+#include <QDBusVirtualObject>
+
+#include "linux/services/private_bus.h"
+#include "linux/services/session_bus.h"
+
+namespace vantrix {
+
+/// A status area on a bus: a watcher that lists the items registered with it, and a host that reads them.
+class FakeStatusHost : public QDBusVirtualObject {
+    Q_OBJECT
+  public:
+    struct Item {
+        QString service;
+        QString path;
+
+        bool operator==(const Item&) const = default;
+    };
+
+    struct Signal {
+        QString path;
+        QString name;
+        QVariantList arguments;
+    };
+
+    explicit FakeStatusHost(const QString& busAddress) : busAddress_(busAddress) { start(); }
+    ~FakeStatusHost() override { stop(); }
+
+    /// Takes the watcher's name on a connection of its own, as a freshly started panel does; behind
+    /// another that has it.
+    void start() {
+        connection_ = std::make_unique<BusConnection>(busAddress_);
+        QDBusConnection& bus = connection_->bus();
+        bus.registerVirtualObject(QStringLiteral("/StatusNotifierWatcher"), this);
+        for (const char* interface : {"org.kde.StatusNotifierItem", "com.canonical.dbusmenu"})
+            bus.connect({}, {}, QString::fromLatin1(interface), {}, this, SLOT(heard(QDBusMessage)));
+        bus.interface()->registerService(watcherName, QDBusConnectionInterface::QueueService);
+    }
+
+    void stop() { connection_.reset(); }
+
+    /// Gives the name up but stays on the bus.
+    void release() { connection_->bus().unregisterService(watcherName); }
+
+    /// Calls and waits for the answer, whatever it is.
+    QDBusMessage call(const Item& item, const QString& interface, const QString& member,
+                      const QVariantList& arguments = {}) {
+        auto message = QDBusMessage::createMethodCall(item.service, item.path, interface, member);
+        message.setArguments(arguments);
+        return call(message);
+    }
+
+    QDBusMessage call(const QDBusMessage& message) {
+        // The item lives in this very thread: a blocking call would wait for itself.
+        const QDBusPendingCall pending = connection_->bus().asyncCall(message);
+        spinUntil([&] { return pending.isFinished(); });
+        return pending.reply();
+    }
+
+    QVariantMap properties(const Item& item) {
+        const QDBusMessage reply = call(item, propertiesInterface, QStringLiteral("GetAll"), {itemInterface});
+        return reply.arguments().isEmpty() ? QVariantMap() : qdbus_cast<QVariantMap>(reply.arguments()[0]);
+    }
+
+    QVariant property(const Item& item, const QString& name) {
+        const QDBusMessage reply = call(item, propertiesInterface, QStringLiteral("Get"), {itemInterface, name});
+        return reply.arguments().isEmpty() ? QVariant() : reply.arguments()[0].value<QDBusVariant>().variant();
+    }
+
+    /// Waits until everything sent to this host so far has arrived.
+    void settle(const Item& item) {
+        call(item, QStringLiteral("org.freedesktop.DBus.Peer"), QStringLiteral("Ping"));
+        QCoreApplication::processEvents();
+    }
+
+    qsizetype count(const QString& signal) const {
+        return std::count_if(signalsHeard.begin(), signalsHeard.end(),
+                             [&](const Signal& s) { return s.name == signal; });
+    }
+
+    QString introspect(const QString&) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
+        if (message.member() != QStringLiteral("RegisterStatusNotifierItem") || !answers)
+            return true; // no word
+        const QString what = message.arguments().value(0).toString();
+        items.push_back(what.startsWith(u'/') ? Item{message.service(), what}
+                                              : Item{what, QStringLiteral("/StatusNotifierItem")});
+        if (reads) {
+            auto read = QDBusMessage::createMethodCall(items.back().service, items.back().path, propertiesInterface,
+                                                       QStringLiteral("GetAll"));
+            bus.send(read << itemInterface);
+        }
+        return message.isReplyRequired() ? bus.send(message.createReply()) : true;
+    }
+
+    inline static const QString watcherName = QStringLiteral("org.kde.StatusNotifierWatcher");
+    inline static const QString itemInterface = QStringLiteral("org.kde.StatusNotifierItem");
+    inline static const QString menuInterface = QStringLiteral("com.canonical.dbusmenu");
+    inline static const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+    bool answers = true; ///< takes registrations in
+    bool reads = true;   ///< fetches the properties of what registers
+    std::vector<Item> items;
+    std::vector<Signal> signalsHeard;
+
+  public Q_SLOTS:
+    void heard(const QDBusMessage& message) {
+        signalsHeard.push_back({message.path(), message.member(), message.arguments()});
+    }
+
+  private:
+    QString busAddress_;
+    std::unique_ptr<BusConnection> connection_;
+};
+
+} // namespace vantrix

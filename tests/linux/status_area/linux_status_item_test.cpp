@@ -1,0 +1,214 @@
+#include "linux/status_area/status_item_on_bus.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QRegularExpression>
+
+#include "linux/status_area/floating_strip.h"
+
+namespace vantrix {
+namespace {
+
+using std::chrono::milliseconds;
+
+class LinuxStatusItemTest : public StatusItemOnBus {
+  protected:
+    static int strips() {
+        const QWidgetList widgets = QApplication::topLevelWidgets();
+        return static_cast<int>(std::count_if(widgets.begin(), widgets.end(), [](QWidget* widget) {
+            return qobject_cast<FloatingStrip*>(widget) != nullptr && widget->isVisible();
+        }));
+    }
+
+    void expectStrip() {
+        EXPECT_TRUE(awaitKind(Kind::strip));
+        EXPECT_EQ(strips(), 1);
+        EXPECT_TRUE(item->anchor().isValid());
+    }
+};
+
+TEST_F(LinuxStatusItemTest, ShowsAStripWhereThereIsNoBus) {
+    for (const std::optional<QString>& address :
+         {std::optional<QString>(), std::optional(u"unix:path=/nowhere/at/all"_qs), std::optional(u"garbage"_qs)}) {
+        surroundings.busAddress = address;
+        item = std::make_unique<LinuxStatusItem>(handlers(), defaults, appearance, surroundings);
+        item->show(rowOf(12));
+        expectStrip();
+        item->show(rowOf(13));
+        item.reset();
+        EXPECT_EQ(strips(), 0);
+    }
+}
+
+TEST_F(LinuxStatusItemTest, WaitsForTheRowAndForTheStatusArea) {
+    host.stop();
+    surroundings.stripDelay = std::chrono::hours(1);
+    start();
+    EXPECT_EQ(item->kind(), Kind::none);
+    host.start(); // late, but before the strip
+    EXPECT_TRUE(awaitItems(2));
+    EXPECT_EQ(item->kind(), Kind::notifier);
+    EXPECT_EQ(strips(), 0);
+}
+
+TEST_F(LinuxStatusItemTest, RegistersAgainWithEveryNewWatcher) {
+    startOn(NotifierHost());
+    ASSERT_TRUE(awaitItems(2));
+    for (int round = 0; round < 3; ++round) {
+        host.stop();
+        host.items.clear();
+        host.start();
+        ASSERT_TRUE(awaitItems(2));
+        EXPECT_EQ(host.property(host.items[0], u"Id"_qs).toString(), u"vantrix-cpu"_qs);
+    }
+}
+
+TEST_F(LinuxStatusItemTest, FollowsWhoeverTakesTheNameOver) {
+    startOn(NotifierHost(), 2);
+    FakeStatusHost next(bus.address()); // waits for the name
+    layout = notifierHostNamed("gnome-shell");
+    host.release();
+    ASSERT_TRUE(spinUntil([&] { return !next.items.empty(); }));
+    EXPECT_TRUE(next.properties(next.items[0]).contains(u"XAyatanaLabel"_qs));
+}
+
+TEST_F(LinuxStatusItemTest, StripStepsInWhileThereIsNoWatcher) {
+    startOn(NotifierHost());
+    for (int round = 0; round < 3; ++round) {
+        host.release();
+        expectStrip();
+        item->show(rowOf(20 + round));
+        host.items.clear();
+        host.start();
+        ASSERT_TRUE(awaitKind(Kind::notifier));
+        ASSERT_TRUE(awaitItems(1));
+        EXPECT_EQ(strips(), 0);
+        EXPECT_EQ(host.property(host.items[0], u"Title"_qs).toString(),
+                  u"CPU %1%, RAM 50%"_qs.arg(20 + round)); // what was shown meanwhile
+    }
+}
+
+TEST_F(LinuxStatusItemTest, OutlivesTheBus) {
+    startOn(notifierHostNamed("waybar"));
+    bus.kill();
+    item->show(rowOf(13));
+    expectStrip();
+    item->show(rowOf(14));
+}
+
+TEST_F(LinuxStatusItemTest, HostThatNeverAnswersHoldsNothingUp) {
+    host.answers = false;
+    layout.pace = milliseconds(0);
+    start();
+    ASSERT_TRUE(awaitKind(Kind::notifier));
+    for (int cpu = 13; cpu < 100; ++cpu)
+        item->show(rowOf(cpu));
+    EXPECT_TRUE(awaitSignals(u"NewIcon"_qs, 87));
+    EXPECT_TRUE(item->anchor().isValid());
+}
+
+TEST_F(LinuxStatusItemTest, ItemsThatNobodyReadsRegisterAllTheSame) {
+    host.reads = false;
+    startOn(NotifierHost(), 2);
+}
+
+/// What a long life must not add to.
+struct Holdings {
+    qsizetype files = 0, children = 0, names = 0, objects = 0;
+
+    bool operator==(const Holdings&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Holdings& h) {
+    return out << h.files << " files, " << h.children << " children, " << h.names << " names, " << h.objects
+               << " objects";
+}
+
+class StatusItemSoak : public LinuxStatusItemTest {
+  protected:
+    /// Counts the nodes below `at`, itself included.
+    qsizetype objects(const Item& at) {
+        const auto reply =
+            host.call(at, u"org.freedesktop.DBus.Introspectable"_qs, u"Introspect"_qs).arguments().value(0).toString();
+        static const QRegularExpression node(u"<node name=\"([^\"]+)\""_qs);
+        qsizetype count = 1;
+        for (const auto& match : node.globalMatch(reply))
+            count += objects({at.service, at.path + (at.path == u"/" ? u""_qs : u"/"_qs) + match.captured(1)});
+        return count;
+    }
+
+    Holdings holdings() {
+        const Item busItself{u"org.freedesktop.DBus"_qs, u"/org/freedesktop/DBus"_qs};
+        const auto names = host.call(busItself, busItself.service, u"ListNames"_qs).arguments().value(0);
+        return {QDir(u"/proc/self/fd"_qs).entryList(QDir::NoFilter).size(), item->findChildren<QObject*>().size(),
+                names.toStringList().size(), objects({host.items.back().service, u"/"_qs})};
+    }
+
+    /// Shows `count` rows that differ from one to the next, now and then of other modules.
+    void showRows(int count) {
+        for (int i = 1; i <= count; ++i) {
+            item->show(rowOf(i % 100, i / 100 % 100));
+            if (i % 50 == 0)
+                QCoreApplication::processEvents();
+            if (i % 1000 == 0)
+                changeModules();
+        }
+        changeModules();
+        host.settle(host.items.back());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    void changeModules() {
+        for (const std::size_t modules : {1U, 2U}) {
+            host.items.clear();
+            StatusContent content = rowOf(1);
+            content.items.resize(modules);
+            item->show(content);
+            ASSERT_TRUE(awaitItems(modules));
+        }
+    }
+};
+
+TEST_F(StatusItemSoak, ManyRowsLeaveNothingBehind) {
+    NotifierHost eager;
+    eager.pace = milliseconds(2);
+    startOn(eager, 2);
+    showRows(100);
+    QProcess monitor;
+    monitor.start(u"dbus-monitor"_qs,
+                  {u"--address"_qs, bus.address(), u"interface='org.freedesktop.DBus',member='AddMatch'"_qs,
+                   u"interface='org.freedesktop.DBus',member='RemoveMatch'"_qs});
+    ASSERT_TRUE(spinUntil([&] { return monitor.bytesAvailable() > 0; }));
+    const Holdings before = holdings();
+    showRows(100'000);
+    Holdings after;
+    EXPECT_TRUE(spinUntil([&] { return (after = holdings()) == before; })) << before << ", then " << after;
+    const QByteArray seen = monitor.readAll();
+    EXPECT_LE(seen.count("member=AddMatch"), seen.count("member=RemoveMatch"));
+    host.stop();
+    host.start(); // listens anew: proof that the monitor would have seen it
+    EXPECT_TRUE(spinUntil([&] { return monitor.readAll().contains("member=AddMatch"); }));
+    monitor.terminate();
+    monitor.waitForFinished();
+    EXPECT_GT(host.count(u"NewIcon"_qs), 100);
+}
+
+TEST_F(StatusItemSoak, ManyWatchersLeaveNothingBehind) {
+    startOn(NotifierHost(), 2);
+    const auto restart = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            host.stop();
+            host.items.clear();
+            host.start();
+            ASSERT_TRUE(awaitItems(2));
+        }
+    };
+    restart(3);
+    const Holdings before = holdings();
+    restart(50);
+    Holdings after;
+    EXPECT_TRUE(spinUntil([&] { return (after = holdings()) == before; })) << before << ", then " << after;
+}
+
+} // namespace
+} // namespace vantrix

@@ -1,0 +1,90 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "fakes/fake_appearance.h"
+#include "fakes/fake_defaults.h"
+#include "linux/status_area/fake_status_host.h"
+#include "linux/status_area/linux_status_item.h"
+#include "linux/status_area/notifier_types.h"
+
+namespace vantrix {
+
+/// A row of two modules.
+inline StatusContent rowOf(int cpu, int ram = 50) {
+    const auto item = [](MenuBarModule module, const char* label, int percent) {
+        MenuBarItem made;
+        made.label = label;
+        made.lines = {std::to_string(percent) + "%"};
+        made.fraction = percent / 100.0;
+        made.reference = "100%";
+        made.module = module;
+        return made;
+    };
+    StatusContent content;
+    content.items = {item(MenuBarModule::cpu, "CPU", cpu), item(MenuBarModule::memory, "RAM", ram)};
+    content.accessibilityLabel = accessibilityLabel(content.items);
+    return content;
+}
+
+/// The status item on a bus of its own, with a host that says what it hears.
+class StatusItemOnBus : public ::testing::Test {
+  protected:
+    using Kind = LinuxStatusItem::Kind;
+    using Item = FakeStatusHost::Item;
+
+    void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon"; }
+
+    void start(const StatusContent& content = rowOf(12)) {
+        surroundings.busAddress = busAddress.value_or(bus.address());
+        surroundings.hostOfProcess = [this](uint) { return layout; };
+        item = std::make_unique<LinuxStatusItem>(handlers(), defaults, appearance, surroundings);
+        item->show(content);
+    }
+
+    StatusItem::Handlers handlers() {
+        return {.clicked = [this](const StatusClick& click) { clicks.push_back(click.button); },
+                .menu = [this] { return entries; },
+                .menuWillOpen = [this] { ++menusOpened; }};
+    }
+
+    /// Starts on a host of that kind and waits for `count` items.
+    std::vector<Item> startOn(const NotifierHost& host, std::size_t count = 1, const StatusContent& row = rowOf(12)) {
+        layout = host;
+        start(row);
+        EXPECT_TRUE(awaitItems(count));
+        std::vector<Item> items = this->host.items;
+        items.resize(count);
+        return items;
+    }
+
+    bool awaitItems(std::size_t count) {
+        return spinUntil([&] { return host.items.size() >= count; });
+    }
+
+    bool awaitKind(Kind kind) {
+        return spinUntil([&] { return item->kind() == kind; });
+    }
+
+    bool awaitSignals(const QString& name, qsizetype count) {
+        return spinUntil([&] { return host.count(name) >= count; });
+    }
+
+    static NotifierPixmaps icon(const QVariantMap& properties) {
+        return qdbus_cast<NotifierPixmaps>(properties.value(QStringLiteral("IconPixmap")));
+    }
+
+    PrivateBus bus;
+    FakeStatusHost host{bus.address()};
+    fakes::FakeDefaults defaults;
+    fakes::FakeAppearance appearance;
+    std::optional<QString> busAddress; ///< where the bus is not the test's own
+    StatusSurroundings surroundings{.stripDelay = std::chrono::milliseconds(30)};
+    NotifierHost layout;
+    std::vector<StatusMenuEntry> entries;
+    std::vector<StatusClick::Button> clicks;
+    int menusOpened = 0;
+    std::unique_ptr<LinuxStatusItem> item;
+};
+
+} // namespace vantrix

@@ -1,0 +1,69 @@
+#include <QApplication>
+#include <QMenu>
+
+#include <gtest/gtest.h>
+
+#include "fakes/fake_appearance.h"
+#include "linux/x11/fake_tray.h"
+#include "popover/popover_host.h"
+#include "views/theme.h"
+
+namespace vantrix {
+namespace {
+
+using fakes::becomes;
+
+/// No compositor runs on this screen, and no window manager.
+class PopoverOnScreen : public testing::Test {
+  protected:
+    void SetUp() override {
+        host.show(anchor);
+        window = static_cast<xcb_window_t>(view->window()->winId());
+        ASSERT_TRUE(becomes(nullptr, [&] { return mouse.isMapped(window) && QApplication::activePopupWidget(); }));
+    }
+
+    const QRect anchor{600, 0, 80, 22};
+    QWidget* view = nullptr;
+    xcb_window_t window = XCB_NONE;
+    fakes::FakeTray mouse; // only lends its connection
+    fakes::FakeAppearance appearance;
+    Theme theme{appearance};
+    PopoverHost host{theme, [this] {
+                         auto made = std::make_unique<QWidget>();
+                         view = made.get();
+                         return made;
+                     }};
+};
+
+TEST_F(PopoverOnScreen, StandsBelowTheItemWithItsCornersCutOff) {
+    EXPECT_TRUE(becomes(nullptr, [&] { return mouse.rootRect(window) == QRect(469, 26, 340, 1024 - 30); }));
+    EXPECT_FALSE(view->window()->mask().contains(QPoint(0, 0)));
+    EXPECT_TRUE(view->window()->mask().contains(QPoint(170, 0)));
+    EXPECT_EQ(view->window()->windowOpacity(), 1.0) << "without a compositor there is nothing to fade";
+}
+
+TEST_F(PopoverOnScreen, OnlyAClickOutsideClosesIt) {
+    // The popover has the mouse to itself: a press anywhere arrives at it, told from its corner.
+    const auto press = [&](QPoint at) { mouse.mouse(XCB_BUTTON_PRESS, window, at, 1); };
+    press({170, 300});
+    ASSERT_TRUE(becomes(nullptr, [] { return QGuiApplication::mouseButtons() != Qt::NoButton; }));
+    EXPECT_TRUE(host.isShown());
+    press({-100, 300});
+    EXPECT_TRUE(becomes(nullptr, [&] { return !host.isShown(); }));
+    EXPECT_TRUE(becomes(nullptr, [&] { return !mouse.isMapped(window); }));
+}
+
+TEST_F(PopoverOnScreen, StaysWhileAMenuOfItsOwnIsOpen) {
+    QMenu menu;
+    menu.addAction(QStringLiteral("Settings"));
+    menu.popup(view->mapToGlobal(QPoint(10, 10)));
+    ASSERT_TRUE(becomes(nullptr, [&] { return mouse.isMapped(static_cast<xcb_window_t>(menu.winId())); }));
+    EXPECT_TRUE(host.isShown());
+    menu.close();
+    QApplication::processEvents();
+    EXPECT_TRUE(host.isShown());
+    EXPECT_EQ(QApplication::activePopupWidget(), view->window());
+}
+
+} // namespace
+} // namespace vantrix

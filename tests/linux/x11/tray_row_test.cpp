@@ -1,0 +1,179 @@
+#include <optional>
+
+#include <QGuiApplication>
+
+#include <gtest/gtest.h>
+
+#include "fakes/fake_appearance.h"
+#include "fakes/memory_defaults_store.h"
+#include "linux/status_area/linux_status_item.h"
+#include "linux/x11/fake_tray.h"
+
+namespace vantrix {
+namespace {
+
+using fakes::becomes;
+using fakes::FakeTray;
+using fakes::shows;
+using Kind = LinuxStatusItem::Kind;
+
+MenuBarItem item(const char* label, const char* value) {
+    return {.label = label, .lines = {value}, .fraction = 0.5, .reference = "100%"};
+}
+
+StatusContent row(int count) {
+    static const MenuBarItem items[] = {item("CPU", "12%"), item("RAM", "48%"), item("SSD", "83%")};
+    return {.items = {items, items + count}, .accessibilityLabel = "row"};
+}
+
+class TrayRow : public testing::Test {
+  protected:
+    void start(FakeTray& tray) {
+        tray.claim();
+        item.show(content);
+        ASSERT_TRUE(becomes(&tray, [&] { return tray.icon() != 0 && item.kind() == Kind::tray; }));
+    }
+
+    MemoryDefaults kept;
+    fakes::FakeAppearance appearance;
+    StatusContent content = row(3);
+    std::vector<StatusClick> clicks;
+    LinuxStatusItem item{{.clicked = [this](const StatusClick& click) { clicks.push_back(click); }},
+                         kept.defaults,
+                         appearance,
+                         {.busAddress = std::nullopt, .stripDelay = std::chrono::milliseconds(50)}};
+};
+
+TEST_F(TrayRow, DocksAndPaintsWhereItsWidthIsGranted) {
+    for (const int count : {3, 1, 0}) {
+        SCOPED_TRACE(testing::Message() << count << " modules");
+        content = row(count);
+        FakeTray tray;
+        start(tray);
+        const QRect place(QPoint(304, 4), StatusRow(content).size());
+        EXPECT_TRUE(becomes(&tray, [&] { return tray.rootRect(tray.icon()) == place; }));
+        EXPECT_EQ(item.anchor(), place);
+        EXPECT_TRUE(becomes(&tray, [&] { return shows(tray.picture(), Qt::white); }));
+    }
+}
+
+TEST_F(TrayRow, GivesWayToTheStripWhereOnlyASquareIsGranted) {
+    FakeTray tray(FakeTray::square);
+    tray.claim();
+    item.show(content);
+    EXPECT_TRUE(becomes(&tray, [&] { return tray.icon() != 0; }));
+    EXPECT_TRUE(becomes(&tray, [&] { return item.kind() == Kind::strip; }));
+    EXPECT_TRUE(becomes(&tray, [&] { return tray.icon() == 0; })) << "the square is still in the tray";
+}
+
+TEST_F(TrayRow, IsNotMappedBeforeTheTrayTookItIn) {
+    FakeTray tray;
+    tray.setWelcoming(false);
+    tray.claim();
+    item.show(content);
+    ASSERT_TRUE(becomes(&tray, [&] { return tray.asked() != 0; }));
+    // A map request now under way is served before this round trip's answer.
+    QCoreApplication::processEvents();
+    xcbRootRect(xcbConnection(), tray.asked());
+    EXPECT_FALSE(tray.isMapped(tray.asked()));
+    tray.takeIn();
+    EXPECT_TRUE(becomes(&tray, [&] { return tray.isMapped(tray.icon()) && item.kind() == Kind::tray; }));
+}
+
+TEST_F(TrayRow, FollowsTheTrayThroughARestart) {
+    std::optional<FakeTray> tray(std::in_place);
+    start(*tray);
+    tray.reset();
+    EXPECT_TRUE(becomes(nullptr, [&] { return item.kind() != Kind::tray; }));
+    EXPECT_TRUE(becomes(nullptr, [&] { return item.kind() == Kind::strip; }));
+    FakeTray next;
+    next.claim();
+    EXPECT_TRUE(becomes(&next, [&] { return item.kind() == Kind::tray; }));
+    EXPECT_TRUE(becomes(&next, [&] { return shows(next.picture(), Qt::white); }));
+}
+
+TEST_F(TrayRow, AsksForTheRoomItNeeds) {
+    content = row(1);
+    FakeTray tray;
+    start(tray);
+    for (const int count : {3, 2}) {
+        content = row(count);
+        item.show(content);
+        EXPECT_TRUE(becomes(&tray, [&] { return tray.wanted() == StatusRow(content).size(); })) << count;
+        EXPECT_EQ(item.kind(), Kind::tray);
+    }
+}
+
+TEST_F(TrayRow, LeavesATrayThatCutsTheWiderRow) {
+    content = row(1);
+    const int most = StatusRow(content).size().width();
+    FakeTray tray([most](QSize wanted) { return QSize(std::min(wanted.width(), most), wanted.height()); });
+    start(tray);
+    item.show(row(3));
+    EXPECT_TRUE(becomes(&tray, [&] { return item.kind() == Kind::strip; }));
+}
+
+TEST_F(TrayRow, PassesClicksOnWhenTheButtonIsReleased) {
+    FakeTray tray;
+    start(tray);
+    struct Row {
+        const char* name;
+        std::uint8_t button;
+        int modifiers;
+        StatusClick::Button expected;
+    };
+    const Row table[] = {
+        {"left", 1, 0, StatusClick::Button::left},
+        {"middle", 2, 0, StatusClick::Button::middle},
+        {"right", 3, 0, StatusClick::Button::right},
+        {"left with Control", 1, XCB_MOD_MASK_CONTROL, StatusClick::Button::left},
+    };
+    for (const Row& row : table) {
+        SCOPED_TRACE(row.name);
+        clicks.clear();
+        tray.mouse(XCB_BUTTON_PRESS, tray.icon(), {20, 10}, row.button, row.modifiers);
+        const int held = row.modifiers | XCB_BUTTON_MASK_1 << (row.button - 1);
+        EXPECT_TRUE(becomes(&tray, [] { return QGuiApplication::mouseButtons() != Qt::NoButton; }));
+        EXPECT_TRUE(clicks.empty());
+        tray.mouse(XCB_BUTTON_RELEASE, tray.icon(), {20, 10}, row.button, held);
+        ASSERT_TRUE(becomes(&tray, [&] { return clicks.size() == 1; }));
+        EXPECT_EQ(clicks[0].button, row.expected);
+        EXPECT_EQ(clicks[0].control, row.modifiers != 0);
+    }
+}
+
+TEST_F(TrayRow, TakesItsColoursFromThePanel) {
+    struct Row {
+        const char* name;
+        QColor panel;
+        std::optional<QColor> text;
+        QColor expected;
+    };
+    const Row table[] = {
+        {"dark panel", QColor(30, 30, 30), {}, Qt::white},
+        {"light panel", QColor(235, 235, 235), {}, QColor(40, 40, 40)},
+        {"told", Qt::black, QColor(0, 230, 120), QColor(0, 230, 120)},
+        {"told, but not readable on this panel", QColor(240, 240, 240), QColor(255, 255, 255), QColor(40, 40, 40)},
+    };
+    for (const Row& row : table) {
+        SCOPED_TRACE(row.name);
+        FakeTray tray(FakeTray::all, row.panel);
+        if (row.text)
+            tray.tellColors(*row.text);
+        start(tray);
+        EXPECT_TRUE(becomes(&tray, [&] {
+            const QImage picture = tray.picture();
+            return shows(picture, row.expected) && shows(picture, row.panel, 2);
+        }));
+    }
+}
+
+TEST_F(TrayRow, FollowsColoursThatChange) {
+    FakeTray tray;
+    start(tray);
+    tray.tellColors(QColor(0, 230, 120));
+    EXPECT_TRUE(becomes(&tray, [&] { return shows(tray.picture(), QColor(0, 230, 120)); }));
+}
+
+} // namespace
+} // namespace vantrix

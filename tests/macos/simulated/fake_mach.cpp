@@ -1,0 +1,125 @@
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include <libproc.h>
+#include <mach/mach_time.h>
+#include <pthread/qos.h>
+#include <sys/sysctl.h>
+
+#include "macos/simulated/machine.h"
+#include "support/checked.h"
+
+using namespace vantrix::simulated;
+
+mach_port_t mach_task_self_ = 7;
+
+namespace {
+
+constexpr mach_port_t hostPort = 8;
+
+} // namespace
+
+mach_port_t mach_host_self() {
+    ++mac().hostReferences;
+    return hostPort;
+}
+
+kern_return_t mach_port_deallocate(task_port_t task, mach_port_t name) {
+    if (task != mach_task_self_ || name != hostPort || --mac().hostReferences < 0)
+        vantrix::fatalError("mach_port_deallocate of a port that is not held");
+    return KERN_SUCCESS;
+}
+
+kern_return_t vm_deallocate(vm_map_t task, vm_address_t address, vm_size_t size) {
+    auto* const array = reinterpret_cast<integer_t*>(address);
+    const auto found = mac().arrays.find(array);
+    if (task != mach_task_self_ || found == mac().arrays.end() || found->second != size)
+        vantrix::fatalError("vm_deallocate of another array or size than was given");
+    mac().arrays.erase(found);
+    delete[] array;
+    return KERN_SUCCESS;
+}
+
+kern_return_t host_processor_info(host_t host, processor_flavor_t flavor, natural_t* processorCount,
+                                  processor_info_array_t* info, mach_msg_type_number_t* infoCount) {
+    if (host != hostPort || flavor != PROCESSOR_CPU_LOAD_INFO || !mac().ticks)
+        return KERN_FAILURE;
+    const Outcome outcome = outcomeOf("host_processor_info");
+    if (outcome != Outcome::works)
+        return outcome == Outcome::fails ? KERN_FAILURE : KERN_SUCCESS; // success without an array
+    const auto& ticks = *mac().ticks;
+    *processorCount = mac().processorsTold.value_or(static_cast<natural_t>(ticks.size()));
+    *infoCount = static_cast<mach_msg_type_number_t>(ticks.size() * CPU_STATE_MAX);
+    *info = new integer_t[*infoCount];
+    std::memcpy(*info, ticks.data(), *infoCount * sizeof(integer_t));
+    mac().arrays[*info] = *infoCount * sizeof(integer_t);
+    return KERN_SUCCESS;
+}
+
+kern_return_t host_statistics64(host_t host, host_flavor_t flavor, host_info64_t info,
+                                mach_msg_type_number_t* infoCount) {
+    // Like newer systems, this one tells more than the headers of older ones have.
+    constexpr mach_msg_type_number_t whole = sizeof(vm_statistics64) / sizeof(integer_t) + 8;
+    if (host != hostPort || flavor != HOST_VM_INFO64 || *infoCount < whole || !mac().pages ||
+        fails("host_statistics64"))
+        return KERN_FAILURE;
+    std::fill_n(info, whole, -1);
+    std::memcpy(info, &*mac().pages, sizeof(vm_statistics64));
+    *infoCount = whole;
+    return KERN_SUCCESS;
+}
+
+kern_return_t mach_timebase_info(struct mach_timebase_info* info) {
+    *info = {mac().timebase[0], mac().timebase[1]};
+    return KERN_SUCCESS;
+}
+
+std::uint64_t mach_absolute_time() {
+    return mac().machTime;
+}
+
+int sysctlbyname(const char* name, void* old, std::size_t* oldSize, void*, std::size_t) {
+    const auto found = mac().systemValues.find(name);
+    if (found == mac().systemValues.end() || fails("sysctlbyname")) {
+        errno = ENOENT;
+        return -1;
+    }
+    const std::string& value = found->second;
+    const std::size_t room = old ? *oldSize : value.size();
+    if (old)
+        std::memcpy(old, value.data(), std::min(room, value.size()));
+    *oldSize = std::min(room, value.size());
+    errno = ENOMEM;
+    return room < value.size() ? -1 : 0;
+}
+
+int proc_pidinfo(int pid, int flavor, std::uint64_t, void* buffer, int size) {
+    if (pid != 42 || flavor != PROC_PIDTASKINFO || size != sizeof(proc_taskinfo) || fails("proc_pidinfo"))
+        return 0;
+    proc_taskinfo task{};
+    task.pti_resident_size = 50'000'000;
+    task.pti_total_user = 48'000'000;
+    task.pti_total_system = 24'000'000;
+    task.pti_csw = 99'999;
+    task.pti_threadnum = 6;
+    std::memcpy(buffer, &task, sizeof task);
+    return sizeof task;
+}
+
+int proc_pid_rusage(int pid, int flavor, rusage_info_t* buffer) {
+    if (pid != 42 || flavor != RUSAGE_INFO_V2 || fails("proc_pid_rusage"))
+        return -1;
+    rusage_info_v2 usage{};
+    usage.ri_pkg_idle_wkups = 1000;
+    usage.ri_interrupt_wkups = 1234;
+    usage.ri_phys_footprint = 20'000'000;
+    usage.ri_proc_start_abstime = 240'000'000;
+    std::memcpy(buffer, &usage, sizeof usage);
+    return 0;
+}
+
+int pthread_set_qos_class_self_np(qos_class_t qualityOfService, int) {
+    mac().qualityOfService = qualityOfService;
+    return 0;
+}

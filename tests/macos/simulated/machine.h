@@ -1,0 +1,143 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <ifaddrs.h>
+#include <mach/mach.h>
+
+#include "macos/network/wifi_client.h"
+#include "macos/simulated/object.h"
+
+namespace vantrix::simulated {
+
+/// What becomes of a call that may fail.
+enum class Outcome { works, fails, wrongType };
+
+struct Service {
+    std::string className;
+    Dictionary properties;
+    bool opens = true;
+};
+
+struct LinkEntry {
+    std::string name;
+    unsigned flags = 0;
+    std::uint8_t family = 0; ///< 0: an entry without an address
+    std::uint32_t received = 0;
+    std::uint32_t sent = 0;
+    std::string address = {}; ///< four bytes
+};
+
+struct Interface {
+    const char* name;
+    const char* type;
+    const char* displayName;
+};
+
+struct SMCKey {
+    std::string type;
+    std::vector<std::uint8_t> bytes;
+};
+
+struct TemperatureSensor {
+    std::optional<Value> product;
+    std::optional<double> celsius;
+};
+
+struct EnergyCounter {
+    const char* group;
+    const char* name; ///< null for none
+    const char* unit;
+    std::int64_t energy = 0; ///< from one snapshot to the next
+};
+
+/// A Mac as its interfaces tell of it; everything that a new one has is nothing at all. One at a time.
+class Machine {
+  public:
+    Machine();
+    ~Machine();
+    Machine(const Machine&) = delete;
+    Machine& operator=(const Machine&) = delete;
+
+    template<typename T>
+    void setSystemValue(const std::string& name, const T& value) {
+        const auto* const bytes = reinterpret_cast<const char*>(&value);
+        systemValues[name].assign(bytes, bytes + sizeof value);
+    }
+
+    /// What was taken and not given back, in words; empty when all was.
+    std::string outstanding() const;
+
+    std::optional<std::vector<std::array<std::uint32_t, 4>>> ticks; ///< user, system, idle, nice
+    std::optional<natural_t> processorsTold;                        ///< instead of as many as have ticks
+    std::optional<vm_statistics64> pages;
+    std::map<std::string, std::string> systemValues;
+    std::uint64_t machTime = 0;                       ///< in the unit of `timebase`
+    std::array<std::uint32_t, 2> timebase = {125, 3}; ///< nanoseconds, as a fraction
+    std::vector<LinkEntry> links;
+    std::vector<Service> services;
+    std::map<std::string, SMCKey> controllerKeys;
+    std::optional<Dictionary> volume;
+    std::optional<List> powerSources;
+    std::map<std::string, Dictionary> store;
+    std::vector<Interface> interfaces;
+    std::map<std::string, WiFiClient::Details, std::less<>> wifi;
+    std::optional<std::vector<TemperatureSensor>> sensors; ///< absent: the functions are missing
+    std::optional<std::vector<EnergyCounter>> energy;      ///< absent: the library is missing
+    std::int64_t energySnapshots = 0;                      ///< taken so far
+    std::optional<Value> applicationGroups;
+    std::map<std::string, Value> propertyLists; ///< by the text that holds them
+
+    /// Decides over each call that may fail, by name.
+    std::function<Outcome(const std::string& call)> judge;
+    std::map<std::string, long> calls; ///< how many there were
+
+    unsigned qualityOfService = 0; ///< of the thread that asked for one last
+
+    // What the program holds.
+    long hostReferences = 0;
+    long libraries = 0;
+    std::uintptr_t pools = 0;                         ///< open ones, each within the one before
+    long leftBehind = 0;                              ///< objects that were left to a pool where there was none
+    std::map<const void*, std::size_t> arrays;        ///< sizes in bytes
+    std::map<const ifaddrs*, struct LinkList*> lists; ///< of addresses
+    struct Handle {
+        std::vector<std::size_t> left; ///< of an iterator: the services yet to come, the next one last
+        std::optional<std::size_t> service;
+        bool isConnection = false;
+    };
+    std::map<std::uint32_t, Handle> handles;
+    std::uint32_t nextHandle = 100;
+};
+
+/// The present machine.
+Machine& mac();
+
+Outcome outcomeOf(const std::string& call);
+inline bool fails(const std::string& call) {
+    return outcomeOf(call) != Outcome::works;
+}
+
+/// Leaves an object to the innermost pool, as some calls do.
+void leaveToPool();
+
+/// What a copying function of this name answers: `made`, or what the judge says instead.
+Object* answer(const char* call, Object* made);
+/// The same for a function whose answer stays the owner's.
+const Object* heldAnswer(const char* call, const Object* held);
+
+/// The controller's side of one exchange of 80-byte records; the answer is zeros before.
+void answerAsController(const std::uint8_t* question, std::uint8_t* answer);
+
+using Functions = std::map<std::string, void*>;
+
+/// What the program can look up of the HID event system, and what the library of energy reports exports.
+Functions& hidFunctions();
+Functions& energyFunctions();
+
+} // namespace vantrix::simulated
