@@ -16,3 +16,6 @@ if(VANTRIX_SANITIZE)
                                                    -fno-omit-frame-pointer)
   target_link_options(vantrix_options INTERFACE -fsanitize=address,undefined)
 endif()
+
+# What most files that use Qt include; parsed once for all files of a target.
+set(VANTRIX_QT_HEADERS <QPainter> <QString> <QWidget> <algorithm> <functional> <memory> <optional> <string> <vector>)
