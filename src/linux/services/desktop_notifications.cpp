@@ -59,22 +59,26 @@ void DesktopNotifications::notify(const QString& identifier, const Texts& texts)
     message << QStringLiteral("Vantrix") << posted.id << QStringLiteral("vantrix") << texts.title
             << texts.body.toHtmlEscaped() // the body, unlike the title, is markup
             << QStringList() << hints() << serviceDecidesHowLong;
-    call(message, [this, identifier](const QDBusMessage& reply) { takeAnswer(identifier, reply); });
+    call(message, [this, identifier, asked = resignations_](const QDBusMessage& reply) {
+        takeAnswer(identifier, reply, asked == resignations_);
+    });
 }
 
-void DesktopNotifications::takeAnswer(const QString& identifier, const QDBusMessage& reply) {
+void DesktopNotifications::takeAnswer(const QString& identifier, const QDBusMessage& reply, bool isCurrent) {
     Posted& posted = posted_[identifier];
     posted.isUnanswered = false;
     const auto id = answerOf<uint>(reply, u"u");
     // One that was replaced as the service meanwhile numbers notifications that its successor knows nothing of.
-    if (id && (owner_.isEmpty() || owner_ == reply.service()))
+    if (id && isCurrent)
         posted.id = *id;
     if (const auto next = std::exchange(posted.next, std::nullopt))
         notify(identifier, *next);
 }
 
-void DesktopNotifications::serviceOwnerChanged(const QString&, const QString&, const QString& newOwner) {
-    owner_ = newOwner;
+void DesktopNotifications::serviceOwnerChanged(const QString&, const QString& oldOwner, const QString&) {
+    if (oldOwner.isEmpty())
+        return; // one that is started by what it is asked will give the answer
+    ++resignations_;
     for (Posted& posted : posted_)
         posted.id = 0;
 }

@@ -45,12 +45,13 @@ class DesktopNotifications : public QObject, public NotificationCenter {
     };
 
     void notify(const QString& identifier, const Texts& texts);
-    void takeAnswer(const QString& identifier, const QDBusMessage& reply);
+    /// `isCurrent`: no service has resigned since it was asked.
+    void takeAnswer(const QString& identifier, const QDBusMessage& reply, bool isCurrent);
     void askBus(const QString& method, const QVariantList& arguments, std::function<void(const QDBusMessage&)> take);
     void call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> take);
 
     std::optional<QDBusConnection> bus_;
-    QString owner_; ///< the service's unique name; empty while not told
+    int resignations_ = 0; ///< how often a service has stopped being it; not every toolkit tells who sent a reply
     QHash<QString, Posted> posted_;
 };
 
