@@ -9,6 +9,8 @@
 namespace vantrix {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 using std::chrono::milliseconds;
 
 class LinuxStatusItemTest : public StatusItemOnBus {
@@ -29,7 +31,7 @@ class LinuxStatusItemTest : public StatusItemOnBus {
 
 TEST_F(LinuxStatusItemTest, ShowsAStripWhereThereIsNoBus) {
     for (const std::optional<QString>& address :
-         {std::optional<QString>(), std::optional(u"unix:path=/nowhere/at/all"_qs), std::optional(u"garbage"_qs)}) {
+         {std::optional<QString>(), std::optional(u"unix:path=/nowhere/at/all"_s), std::optional(u"garbage"_s)}) {
         surroundings.busAddress = address;
         item = std::make_unique<LinuxStatusItem>(handlers(), defaults, appearance, surroundings);
         item->show(rowOf(12));
@@ -59,7 +61,7 @@ TEST_F(LinuxStatusItemTest, RegistersAgainWithEveryNewWatcher) {
         host.items.clear();
         host.start();
         ASSERT_TRUE(awaitItems(2));
-        EXPECT_EQ(host.property(host.items[0], u"Id"_qs).toString(), u"vantrix-cpu"_qs);
+        EXPECT_EQ(host.property(host.items[0], u"Id"_s).toString(), u"vantrix-cpu"_s);
     }
 }
 
@@ -69,7 +71,7 @@ TEST_F(LinuxStatusItemTest, FollowsWhoeverTakesTheNameOver) {
     layout = notifierHostNamed("gnome-shell");
     host.release();
     ASSERT_TRUE(spinUntil([&] { return !next.items.empty(); }));
-    EXPECT_TRUE(next.properties(next.items[0]).contains(u"XAyatanaLabel"_qs));
+    EXPECT_TRUE(next.properties(next.items[0]).contains(u"XAyatanaLabel"_s));
 }
 
 TEST_F(LinuxStatusItemTest, StripStepsInWhileThereIsNoWatcher) {
@@ -83,8 +85,8 @@ TEST_F(LinuxStatusItemTest, StripStepsInWhileThereIsNoWatcher) {
         ASSERT_TRUE(awaitKind(Kind::notifier));
         ASSERT_TRUE(awaitItems(1));
         EXPECT_EQ(strips(), 0);
-        EXPECT_EQ(host.property(host.items[0], u"Title"_qs).toString(),
-                  u"CPU %1%, RAM 50%"_qs.arg(20 + round)); // what was shown meanwhile
+        EXPECT_EQ(host.property(host.items[0], u"Title"_s).toString(),
+                  u"CPU %1%, RAM 50%"_s.arg(20 + round)); // what was shown meanwhile
     }
 }
 
@@ -103,7 +105,7 @@ TEST_F(LinuxStatusItemTest, HostThatNeverAnswersHoldsNothingUp) {
     ASSERT_TRUE(awaitKind(Kind::notifier));
     for (int cpu = 13; cpu < 100; ++cpu)
         item->show(rowOf(cpu));
-    EXPECT_TRUE(awaitSignals(u"NewIcon"_qs, 87));
+    EXPECT_TRUE(awaitSignals(u"NewIcon"_s, 87));
     EXPECT_TRUE(item->anchor().isValid());
 }
 
@@ -129,19 +131,19 @@ class StatusItemSoak : public LinuxStatusItemTest {
     /// Counts the nodes below `at`, itself included.
     qsizetype objects(const Item& at) {
         const auto reply =
-            host.call(at, u"org.freedesktop.DBus.Introspectable"_qs, u"Introspect"_qs).arguments().value(0).toString();
-        static const QRegularExpression node(u"<node name=\"([^\"]+)\""_qs);
+            host.call(at, u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s).arguments().value(0).toString();
+        static const QRegularExpression node(u"<node name=\"([^\"]+)\""_s);
         qsizetype count = 1;
         for (const auto& match : node.globalMatch(reply))
-            count += objects({at.service, at.path + (at.path == u"/" ? u""_qs : u"/"_qs) + match.captured(1)});
+            count += objects({at.service, at.path + (at.path == u"/" ? u""_s : u"/"_s) + match.captured(1)});
         return count;
     }
 
     Holdings holdings() {
-        const Item busItself{u"org.freedesktop.DBus"_qs, u"/org/freedesktop/DBus"_qs};
-        const auto names = host.call(busItself, busItself.service, u"ListNames"_qs).arguments().value(0);
-        return {QDir(u"/proc/self/fd"_qs).entryList(QDir::NoFilter).size(), item->findChildren<QObject*>().size(),
-                names.toStringList().size(), objects({host.items.back().service, u"/"_qs})};
+        const Item busItself{u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s};
+        const auto names = host.call(busItself, busItself.service, u"ListNames"_s).arguments().value(0);
+        return {QDir(u"/proc/self/fd"_s).entryList(QDir::NoFilter).size(), item->findChildren<QObject*>().size(),
+                names.toStringList().size(), objects({host.items.back().service, u"/"_s})};
     }
 
     /// Shows `count` rows that differ from one to the next, now and then of other modules.
@@ -175,9 +177,9 @@ TEST_F(StatusItemSoak, ManyRowsLeaveNothingBehind) {
     startOn(eager, 2);
     showRows(100);
     QProcess monitor;
-    monitor.start(u"dbus-monitor"_qs,
-                  {u"--address"_qs, bus.address(), u"interface='org.freedesktop.DBus',member='AddMatch'"_qs,
-                   u"interface='org.freedesktop.DBus',member='RemoveMatch'"_qs});
+    monitor.start(u"dbus-monitor"_s,
+                  {u"--address"_s, bus.address(), u"interface='org.freedesktop.DBus',member='AddMatch'"_s,
+                   u"interface='org.freedesktop.DBus',member='RemoveMatch'"_s});
     ASSERT_TRUE(spinUntil([&] { return monitor.bytesAvailable() > 0; }));
     const Holdings before = holdings();
     showRows(100'000);
@@ -190,7 +192,7 @@ TEST_F(StatusItemSoak, ManyRowsLeaveNothingBehind) {
     EXPECT_TRUE(spinUntil([&] { return monitor.readAll().contains("member=AddMatch"); }));
     monitor.terminate();
     monitor.waitForFinished();
-    EXPECT_GT(host.count(u"NewIcon"_qs), 100);
+    EXPECT_GT(host.count(u"NewIcon"_s), 100);
 }
 
 TEST_F(StatusItemSoak, ManyWatchersLeaveNothingBehind) {

@@ -7,6 +7,8 @@
 namespace vantrix {
 namespace {
 
+using namespace Qt::StringLiterals;
+
 using std::chrono::milliseconds;
 
 class StatusNotifierTest : public StatusItemOnBus {
@@ -152,45 +154,45 @@ TEST_F(StatusNotifierTest, WrongCallsGetErrors) {
         QVariantList arguments;
         const char* error;
     } cases[] = {
-        {"no such property", properties, u"Get"_qs, {ours, u"Nonsense"_qs}, "UnknownProperty"},
-        {"label where none is shown", properties, u"Get"_qs, {ours, u"XAyatanaLabel"_qs}, "UnknownProperty"},
-        {"property of another interface", properties, u"Get"_qs, {u"a.b"_qs, u"Title"_qs}, "UnknownProperty"},
-        {"too few arguments", properties, u"Get"_qs, {ours}, "InvalidArgs"},
-        {"arguments of another kind", properties, u"Get"_qs, {1, 2}, "InvalidArgs"},
-        {"all of a number", properties, u"GetAll"_qs, {7}, "InvalidArgs"},
+        {"no such property", properties, u"Get"_s, {ours, u"Nonsense"_s}, "UnknownProperty"},
+        {"label where none is shown", properties, u"Get"_s, {ours, u"XAyatanaLabel"_s}, "UnknownProperty"},
+        {"property of another interface", properties, u"Get"_s, {u"a.b"_s, u"Title"_s}, "UnknownProperty"},
+        {"too few arguments", properties, u"Get"_s, {ours}, "InvalidArgs"},
+        {"arguments of another kind", properties, u"Get"_s, {1, 2}, "InvalidArgs"},
+        {"all of a number", properties, u"GetAll"_s, {7}, "InvalidArgs"},
         {"writing",
          properties,
-         u"Set"_qs,
-         {ours, u"Title"_qs, QVariant::fromValue(QDBusVariant(1))},
+         u"Set"_s,
+         {ours, u"Title"_s, QVariant::fromValue(QDBusVariant(1))},
          "PropertyReadOnly"},
-        {"no such method", ours, u"Explode"_qs, {}, "UnknownMethod"},
-        {"no such method of properties", properties, u"Explode"_qs, {}, "UnknownMethod"},
-        {"click without a place", ours, u"Activate"_qs, {}, "InvalidArgs"},
-        {"click at a text", ours, u"ContextMenu"_qs, {u"1"_qs, u"2"_qs}, "InvalidArgs"},
-        {"no such interface", u"a.b"_qs, u"Activate"_qs, {1, 2}, "UnknownInterface"},
+        {"no such method", ours, u"Explode"_s, {}, "UnknownMethod"},
+        {"no such method of properties", properties, u"Explode"_s, {}, "UnknownMethod"},
+        {"click without a place", ours, u"Activate"_s, {}, "InvalidArgs"},
+        {"click at a text", ours, u"ContextMenu"_s, {u"1"_s, u"2"_s}, "InvalidArgs"},
+        {"no such interface", u"a.b"_s, u"Activate"_s, {1, 2}, "UnknownInterface"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(errorOf(at, c.interface, c.member, c.arguments), QLatin1StringView(c.error)) << c.name;
-    EXPECT_EQ(host.call({at.service, u"/Elsewhere"_qs}, ours, u"Activate"_qs, {1, 2}).type(),
+    EXPECT_EQ(host.call({at.service, u"/Elsewhere"_s}, ours, u"Activate"_s, {1, 2}).type(),
               QDBusMessage::ErrorMessage);
     EXPECT_TRUE(clicks.empty());
-    EXPECT_EQ(host.properties(at).value(u"Status"_qs).toString(), u"Active"_qs);
+    EXPECT_EQ(host.properties(at).value(u"Status"_s).toString(), u"Active"_s);
 }
 
 TEST_F(StatusNotifierTest, ClicksArriveWithTheirButtonAndPlace) {
     const Item at = startOn(quick("unheard-of"), 2).front();
-    for (const auto& member : {u"Activate"_qs, u"SecondaryActivate"_qs, u"ContextMenu"_qs})
+    for (const auto& member : {u"Activate"_s, u"SecondaryActivate"_s, u"ContextMenu"_s})
         EXPECT_EQ(host.call(at, FakeStatusHost::itemInterface, member, {300, 2}).type(), QDBusMessage::ReplyMessage);
     ASSERT_TRUE(spinUntil([&] { return clicks.size() == 3; }));
     using Button = StatusClick::Button;
     EXPECT_EQ(clicks, (std::vector{Button::left, Button::middle, Button::right}));
     EXPECT_TRUE(item->anchor().contains(300, 2));
     // No panel is there: not a place to believe.
-    host.call(at, FakeStatusHost::itemInterface, u"Activate"_qs, {300, 300});
+    host.call(at, FakeStatusHost::itemInterface, u"Activate"_s, {300, 300});
     ASSERT_TRUE(spinUntil([&] { return clicks.size() == 4; }));
     EXPECT_FALSE(item->anchor().contains(300, 300));
-    for (const auto& member : {u"Scroll"_qs, u"ProvideXdgActivationToken"_qs})
-        EXPECT_EQ(host.call(at, FakeStatusHost::itemInterface, member, {u"x"_qs}).type(), QDBusMessage::ReplyMessage);
+    for (const auto& member : {u"Scroll"_s, u"ProvideXdgActivationToken"_s})
+        EXPECT_EQ(host.call(at, FakeStatusHost::itemInterface, member, {u"x"_s}).type(), QDBusMessage::ReplyMessage);
     EXPECT_EQ(clicks.size(), 4u);
 }
 
@@ -201,31 +203,31 @@ TEST_F(StatusNotifierTest, OnlyChangesAreSignalled) {
     EXPECT_TRUE(host.signalsHeard.empty());
 
     item->show(rowOf(13)); // of two tiles only the first changes
-    ASSERT_TRUE(awaitSignals(u"NewToolTip"_qs, 1));
-    ASSERT_EQ(host.count(u"NewIcon"_qs), 1);
+    ASSERT_TRUE(awaitSignals(u"NewToolTip"_s, 1));
+    ASSERT_EQ(host.count(u"NewIcon"_s), 1);
     for (const auto& signal : host.signalsHeard)
         EXPECT_EQ(signal.path, items[0].path);
-    EXPECT_EQ(host.property(items[0], u"Title"_qs).toString(), u"CPU 13%, RAM 50%"_qs);
-    EXPECT_EQ(host.property(items[1], u"Title"_qs).toString(), u"RAM 50%"_qs);
+    EXPECT_EQ(host.property(items[0], u"Title"_s).toString(), u"CPU 13%, RAM 50%"_s);
+    EXPECT_EQ(host.property(items[1], u"Title"_s).toString(), u"RAM 50%"_s);
 }
 
 TEST_F(StatusNotifierTest, LabelledHostHearsOfTheTextAlone) {
     const Item at = startOn(quick("gnome-shell")).front();
-    EXPECT_EQ(host.property(at, u"XAyatanaLabel"_qs).toString(), u"CPU 12%  RAM 50%"_qs);
-    EXPECT_EQ(host.property(at, u"XAyatanaLabelGuide"_qs).toString(), u"CPU 100%  RAM 100%"_qs);
+    EXPECT_EQ(host.property(at, u"XAyatanaLabel"_s).toString(), u"CPU 12%  RAM 50%"_s);
+    EXPECT_EQ(host.property(at, u"XAyatanaLabelGuide"_s).toString(), u"CPU 100%  RAM 100%"_s);
     item->show(rowOf(13));
-    ASSERT_TRUE(awaitSignals(u"XAyatanaNewLabel"_qs, 1));
+    ASSERT_TRUE(awaitSignals(u"XAyatanaNewLabel"_s, 1));
     EXPECT_EQ(host.signalsHeard.size(), 1u);
-    EXPECT_EQ(host.signalsHeard[0].arguments, QVariantList({u"CPU 13%  RAM 50%"_qs, u"CPU 100%  RAM 100%"_qs}));
+    EXPECT_EQ(host.signalsHeard[0].arguments, QVariantList({u"CPU 13%  RAM 50%"_s, u"CPU 100%  RAM 100%"_s}));
 }
 
 TEST_F(StatusNotifierTest, ManyChangesBecomeOneSignal) {
     const Item at = startOn(quick("waybar", milliseconds(200))).front();
     for (int cpu = 13; cpu < 60; ++cpu)
         item->show(rowOf(cpu));
-    ASSERT_TRUE(spinUntil([&] { return host.property(at, u"Title"_qs).toString() == u"CPU 59%, RAM 50%"_qs; }));
+    ASSERT_TRUE(spinUntil([&] { return host.property(at, u"Title"_s).toString() == u"CPU 59%, RAM 50%"_s; }));
     host.settle(at);
-    EXPECT_GE(host.count(u"NewIcon"_qs), 1);
+    EXPECT_GE(host.count(u"NewIcon"_s), 1);
     EXPECT_LE(host.signalsHeard.size(), 2u); // this host fetches the tooltip along with the icon
 }
 
@@ -234,7 +236,7 @@ TEST_F(StatusNotifierTest, AnotherLabelIsTheSameItem) {
     StatusContent charging = rowOf(12);
     charging.items[1].label = "CHG";
     item->show(charging);
-    ASSERT_TRUE(awaitSignals(u"NewIcon"_qs, 1));
+    ASSERT_TRUE(awaitSignals(u"NewIcon"_s, 1));
     host.settle(items[1]);
     EXPECT_EQ(host.items.size(), 2u); // nobody registered anew
 }
@@ -245,12 +247,12 @@ TEST_F(StatusNotifierTest, OtherModulesTakeOtherItems) {
     one.items.pop_back();
     item->show(one);
     ASSERT_TRUE(awaitItems(3));
-    EXPECT_EQ(host.property(host.items[2], u"Id"_qs).toString(), u"vantrix-cpu"_qs);
+    EXPECT_EQ(host.property(host.items[2], u"Id"_s).toString(), u"vantrix-cpu"_s);
     EXPECT_TRUE(host.properties(host.items[1]).isEmpty()); // gone with its connection
     item->show({});
     ASSERT_TRUE(awaitItems(4));
     const QVariantMap gauge = host.properties(host.items[3]);
-    EXPECT_EQ(gauge.value(u"Title"_qs).toString(), u"Vantrix"_qs);
+    EXPECT_EQ(gauge.value(u"Title"_s).toString(), u"Vantrix"_s);
     EXPECT_EQ(icon(gauge).size(), 2);
 }
 
