@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick check-darwin bench format clean
+.PHONY: run build test test-asan check check-quick check-darwin check-debian bench format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -36,6 +36,11 @@ check-quick:
 # Optional: fetches a cross compiler.
 check-darwin:
 	scripts/check_darwin.sh
+
+# Builds and tests in fresh systems of Debian 12 and 13; as root.
+check-debian:
+	scripts/setup.sh debian
+	scripts/check_debian.sh
 
 bench:
 	scripts/setup.sh build test bench
