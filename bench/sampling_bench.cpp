@@ -6,9 +6,8 @@
 #include <benchmark/benchmark.h>
 
 #include "bare_reading.h"
-#include "fakes/busy_laptop.h"
+#include "fakes/fixture_machine.h"
 #include "library_readings.h"
-#include "linux/temporary_folder.h"
 #include "platform/sampling_sources.h"
 #include "sensors/sensors_sampler.h"
 
@@ -142,13 +141,11 @@ void compareOnThisMachine() {
 
 /// A laptop with every kind of device, from files. What a pass keeps open is what its floor reads.
 void compareOnBusyLaptop() {
-    const TemporaryFolder folder;
-    const std::string root = folder.path("laptop");
-    fakes::writeBusyLaptop(FIXTURES, root);
-    Pass pass({root + "/proc", root + "/sys"});
+    const fakes::BusyLaptop laptop;
+    Pass pass(laptop.roots());
     for (int i = 0; i < 3; ++i)
         pass.run();
-    bench::BareFiles floor(root);
+    bench::BareFiles floor(laptop.path(""));
     std::printf("busy laptop: %zu files read in a pass\n", floor.count());
     printRatio("busy laptop", pass, floor);
 }

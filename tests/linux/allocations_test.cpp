@@ -7,12 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/busy_laptop.h"
+#include "fakes/fixture_machine.h"
 #include "linux/graphics/linux_gpu_source.h"
 #include "linux/network/linux_network_info.h"
 #include "linux/sensors/linux_sensor_keys.h"
 #include "linux/sensors/linux_temperatures.h"
-#include "linux/temporary_folder.h"
 #include "platform/sampling_sources.h"
 #include "sensors/sensors_sampler.h"
 
@@ -108,17 +107,12 @@ TEST(SamplingPass, AllocatesNothingAfterTheSecond) {
     EXPECT_EQ(allocationsAfterSecondPass({}), 0);
     for (const char* machine : {"many-interfaces", "zram-in-use", "laptop-hybrid-cores", "no-psi",
                                 "two-packs-and-accessories", "gpu-asleep-beside-another", "laptop-many-sensors",
-                                "desktop-resting-disk-sleeping-gpu", "board-with-thermal-zones-alone"}) {
-        const std::string folder = std::string(FIXTURES) + '/' + machine;
-        EXPECT_EQ(allocationsAfterSecondPass({folder + "/proc", folder + "/sys"}), 0) << machine;
-    }
+                                "desktop-resting-disk-sleeping-gpu", "board-with-thermal-zones-alone"})
+        EXPECT_EQ(allocationsAfterSecondPass(fakes::FixtureMachine(machine).roots()), 0) << machine;
 }
 
 TEST(SamplingPass, AllocatesNothingOnALaptopThatHasEverything) {
-    const TemporaryFolder folder;
-    const std::string laptop = folder.path("laptop");
-    fakes::writeBusyLaptop(FIXTURES, laptop);
-    EXPECT_EQ(allocationsAfterSecondPass({laptop + "/proc", laptop + "/sys"}), 0);
+    EXPECT_EQ(allocationsAfterSecondPass(fakes::BusyLaptop().roots()), 0);
 }
 
 struct PassingClock : Clock {

@@ -1,12 +1,10 @@
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include <gtest/gtest.h>
 
 #include "accessories/reported_devices.h"
+#include "fakes/fixture_machine.h"
 #include "linux/disks/proc_diskstats.h"
 #include "linux/graphics/gpu_meter.h"
 #include "linux/memory/linux_memory_source.h"
@@ -21,8 +19,6 @@
 #include "linux/processor/proc_stat.h"
 #include "linux/processor/processor_brand.h"
 #include "linux/sensors/sensor_files.h"
-#include "linux/temporary_folder.h"
-#include "platform/sampling_sources.h"
 #include "sensors/sensors_sampler.h"
 
 namespace vantrix {
@@ -91,12 +87,6 @@ class Mutator {
     std::mt19937 random_{20240229};
 };
 
-std::string contentOf(const std::filesystem::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
-
 void parseWithEverything(const std::string& text) {
     std::vector<CoreTicks> cores;
     std::vector<NetDevLine> links;
@@ -134,21 +124,12 @@ void parseWithEverything(const std::string& text) {
     EXPECT_LT(parseDefaultRoute(text).size() + parseDefaultIPv6Route(text).size(), text.size() + 1);
 }
 
-std::vector<std::filesystem::path> filesBelow(const std::string& folder) {
-    std::vector<std::filesystem::path> files;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-        if (entry.is_regular_file())
-            files.push_back(entry.path());
-    }
-    std::sort(files.begin(), files.end());
-    return files;
-}
-
 TEST(Garbage, NoParserStumbles) {
     Mutator mutator;
     for (const char* machine : {"laptop-hybrid-cores", "zram-in-use", "two-packs-and-accessories"}) {
-        for (const auto& file : filesBelow(std::string(FIXTURES) + '/' + machine)) {
-            const std::string text = contentOf(file);
+        const fakes::FixtureMachine folder(machine);
+        for (const std::string& name : folder.files()) {
+            const std::string text = folder.read(name);
             for (int i = 0; i < 1000; ++i)
                 parseWithEverything(mutator.damaged(text));
         }
@@ -158,17 +139,14 @@ TEST(Garbage, NoParserStumbles) {
 /// The samplers end the program on sums past 64 bits, so no file may make a source hand out such numbers.
 TEST(Garbage, NoFileEndsASamplingPass) {
     Mutator mutator;
-    const TemporaryFolder folder;
-    std::filesystem::copy(std::string(FIXTURES) + "/zram-in-use", folder.path("m"),
-                          std::filesystem::copy_options::recursive);
-    const auto sources = makeSamplingSources({folder.path("m/proc"), folder.path("m/sys")});
+    const fakes::FixtureMachine folder("zram-in-use");
+    const auto sources = makeSamplingSources(folder.roots());
     CPUSampler cpu(*sources.cpu);
     MemorySampler memory(*sources.memory);
     NetworkSampler network(*sources.network, *sources.clock);
     DiskSampler disk(*sources.disks, *sources.volume, *sources.clock);
-    for (const auto& file : filesBelow(folder.path("m"))) {
-        const std::string text = contentOf(file);
-        const auto name = std::filesystem::relative(file, folder.path("")).string();
+    for (const std::string& name : folder.files()) {
+        const std::string text = folder.read(name);
         for (int i = 0; i < 400; ++i) {
             folder.write(name, mutator.damaged(text));
             if (const auto* sample = cpu.sample()) {
@@ -188,15 +166,12 @@ TEST(Garbage, NoFileEndsASamplingPass) {
 TEST(Garbage, NoFileMakesNonsenseOfBatteriesAndGPUs) {
     Mutator mutator;
     for (const char* machine : {"two-packs-and-accessories", "gpu-asleep-beside-another"}) {
-        const TemporaryFolder folder;
-        std::filesystem::copy(std::string(FIXTURES) + '/' + machine, folder.path("m"),
-                              std::filesystem::copy_options::recursive);
-        const auto sources = makeSamplingSources({folder.path("m/proc"), folder.path("m/sys")});
+        const fakes::FixtureMachine folder(machine);
+        const auto sources = makeSamplingSources(folder.roots());
         GPUSampler gpu(*sources.gpu);
         BatterySampler battery(*sources.battery);
-        for (const auto& file : filesBelow(folder.path("m"))) {
-            const std::string text = contentOf(file);
-            const auto name = std::filesystem::relative(file, folder.path("")).string();
+        for (const std::string& name : folder.files()) {
+            const std::string text = folder.read(name);
             for (int i = 0; i < 100; ++i) {
                 folder.write(name, mutator.damaged(text));
                 const double load = gpu.sample().value_or(0.0);
@@ -224,23 +199,20 @@ bool isPlausible(const SensorsSample& sample) {
 /// Chips and zones lose their names, sensors their numbers; all that is shown stays plausible, and comes back whole.
 TEST(Garbage, NoFileMakesASensorImplausible) {
     Mutator mutator;
-    const TemporaryFolder folder;
-    std::filesystem::copy(std::string(FIXTURES) + "/laptop-many-sensors", folder.path("m"),
-                          std::filesystem::copy_options::recursive | std::filesystem::copy_options::copy_symlinks);
-    const auto sources = makeSamplingSources({folder.path("m/proc"), folder.path("m/sys")});
+    const fakes::FixtureMachine folder("laptop-many-sensors");
+    const auto sources = makeSamplingSources(folder.roots());
     const auto makeSampler = [](const SamplingSources& from) {
         return SensorsSampler(from.sensorKeys.get(), from.temperatures.get(), from.energy.get(), *from.clock);
     };
     SensorsSampler longRunning = makeSampler(sources);
     const SensorsSample whole = longRunning.sample();
     EXPECT_EQ(whole.all.size(), 35u);
-    for (const auto& file : filesBelow(folder.path("m"))) {
-        const std::string text = contentOf(file);
-        const auto name = std::filesystem::relative(file, folder.path("")).string();
+    for (const std::string& name : folder.files()) {
+        const std::string text = folder.read(name);
         for (int i = 0; i < 3; ++i) {
             folder.write(name, mutator.damaged(text));
             EXPECT_TRUE(isPlausible(longRunning.sample())) << name;
-            const auto fresh = makeSamplingSources({folder.path("m/proc"), folder.path("m/sys")});
+            const auto fresh = makeSamplingSources(folder.roots());
             EXPECT_TRUE(isPlausible(makeSampler(fresh).sample())) << name;
         }
         folder.write(name, text);

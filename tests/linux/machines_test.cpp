@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "platform/sampling_sources.h"
+#include "fakes/fixture_machine.h"
 #include "samplers/processor_description.h"
 
 namespace vantrix {
@@ -62,8 +62,8 @@ const Machine machines[] = {
 
 class MachinesTest : public ::testing::TestWithParam<Machine> {
   protected:
-    const std::string folder = std::string(FIXTURES) + '/' + GetParam().name;
-    SamplingSources sources = makeSamplingSources({folder + "/proc", folder + "/sys/"});
+    const fakes::FixtureMachine machine{GetParam().name};
+    const SamplingSources sources = makeSamplingSources(machine.roots());
 };
 
 TEST_P(MachinesTest, Processor) {
@@ -120,13 +120,15 @@ std::string testName(const ::testing::TestParamInfo<Machine>& info) {
 INSTANTIATE_TEST_SUITE_P(Recorded, MachinesTest, ::testing::ValuesIn(machines), testName);
 
 TEST(Machines, TwoPacksAreOneBattery) {
-    const auto sources = makeSamplingSources({"", std::string(FIXTURES) + "/two-packs-and-accessories/sys"});
+    const fakes::FixtureMachine machine("two-packs-and-accessories");
+    const auto sources = makeSamplingSources(machine.roots());
     // 20 Wh of 20, and 2 Ah of 5 at 11.1 V; 11.4 W flow.
     EXPECT_EQ(BatterySampler(*sources.battery).sample(), (BatterySample{56, false, false, 222, 312, 83, 31.2, 11.4}));
 }
 
 TEST(Machines, SleepingGPUCountsAsIdle) {
-    const auto sources = makeSamplingSources({"", std::string(FIXTURES) + "/gpu-asleep-beside-another/sys"});
+    const fakes::FixtureMachine machine("gpu-asleep-beside-another");
+    const auto sources = makeSamplingSources(machine.roots());
     GPUSampler gpu(*sources.gpu);
     EXPECT_EQ(gpu.sample(), 0.35);
 }

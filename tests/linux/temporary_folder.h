@@ -1,19 +1,22 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
+#include <vector>
 
 namespace vantrix {
 
-/// A folder that lives as long as its test.
+/// A folder that lives as long as its test, in memory where it can: some tests write a file many thousand times.
 class TemporaryFolder {
   public:
-    explicit TemporaryFolder(const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
-        std::string name = parent / "vantrix-";
-        name.append(6, 'X'); // the letters that mkdtemp replaces
-        path_ = mkdtemp(name.data());
+    TemporaryFolder() {
+        path_ = std::filesystem::exists("/dev/shm") ? "/dev/shm" : std::filesystem::temp_directory_path();
+        path_.append("/vantrix-").append(6, 'X'); // the letters that mkdtemp replaces
+        mkdtemp(path_.data());
     }
     ~TemporaryFolder() { std::filesystem::remove_all(path_); }
     TemporaryFolder(const TemporaryFolder&) = delete;
@@ -27,7 +30,24 @@ class TemporaryFolder {
         std::ofstream(path(entry), std::ios::binary | std::ios::trunc) << text;
     }
 
+    std::string read(const std::string& entry) const {
+        std::ostringstream text;
+        text << std::ifstream(path(entry), std::ios::binary).rdbuf();
+        return text.str();
+    }
+
     void remove(const std::string& entry) const { std::filesystem::remove_all(path(entry)); }
+
+    /// Every file as an entry, sorted; nothing that is reached through a link alone.
+    std::vector<std::string> files() const {
+        std::vector<std::string> entries;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(path_)) {
+            if (entry.symlink_status().type() == std::filesystem::file_type::regular)
+                entries.push_back(entry.path().lexically_relative(path_));
+        }
+        std::sort(entries.begin(), entries.end());
+        return entries;
+    }
 
   private:
     std::string path_;

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fake_appearance.h"
+#include "fakes/fixture_machine.h"
 #include "linux/a11y/accessible_tree.h"
 #include "views/theme.h"
 #include "views/view.h"
@@ -130,8 +131,8 @@ TEST_F(AccessibleProgramTest, ThePopoverCanBeRead) {
 }
 
 TEST_F(AccessibleProgramTest, CardsOfALaptopCanBeReadAndOpened) {
-    const QString machine = QStringLiteral(FIXTURES "/two-packs-and-accessories");
-    startAndAsk({u"--show-popover"_s}, {u"--sys-root"_s, machine + u"/sys"_s});
+    const fakes::FixtureMachine machine("two-packs-and-accessories");
+    startAndAsk({u"--show-popover"_s}, {u"--sys-root"_s, QString::fromStdString(machine.roots().sys)});
     const AccessibleNode tree = readUntil(u"vantrix"_s, [](const AccessibleNode& program) {
         return find(program, u"panel"_s, u"Accessories, 4 connected"_s) != nullptr;
     });

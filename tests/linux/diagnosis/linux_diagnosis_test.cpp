@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include "fakes/fixture_machine.h"
 #include "linux/opened_files.h"
-#include "linux/temporary_folder.h"
 
 namespace vantrix {
 namespace {
@@ -29,9 +29,8 @@ std::vector<std::string> told(const DiagnosisTools& tools, std::string_view name
     return rows;
 }
 
-DiagnosisTools fixture(const std::string& machine) {
-    const std::string root = FIXTURES "/" + machine;
-    return {{root + "/proc", root + "/sys"}, reachOf, [] { return false; }};
+DiagnosisTools toolsFor(const fakes::FixtureMachine& machine) {
+    return {machine.roots(), reachOf, [] { return false; }};
 }
 
 TEST(Diagnosis, SaysWhatEachMachineLacks) {
@@ -60,7 +59,7 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
         {"container", reading_name::gpu, "absent SYS/class/drm", "no GPU"},
     };
     for (const auto& row : rows) {
-        const auto text = told(fixture(row.machine), row.reading);
+        const auto text = told(toolsFor(fakes::FixtureMachine(row.machine)), row.reading);
         ASSERT_EQ(text.size(), 1u) << row.machine << ' ' << row.reading;
         EXPECT_THAT(text.front(), ::testing::StartsWith(row.beginning)) << row.machine;
         EXPECT_THAT(text.front(), HasSubstr(row.words)) << row.machine;
@@ -68,7 +67,8 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
 }
 
 TEST(Diagnosis, SaysHowToGetAtWhatIsDenied) {
-    auto tools = fixture("laptop-many-sensors");
+    const fakes::FixtureMachine machine("laptop-many-sensors");
+    auto tools = toolsFor(machine);
     tools.reach = [](const std::string& path) {
         return path.ends_with("energy_uj") ? Reach::denied : path.ends_with("stat") ? Reach::denied : reachOf(path);
     };
@@ -160,7 +160,7 @@ TEST(Diagnosis, ZonesThatStandInForTheProcessorsChipAreTold) {
 
 TEST(Diagnosis, NamesOfPeoplesDevicesStayOut) {
     for (const char* machine : {"two-packs-and-accessories", "laptop-many-sensors", "many-interfaces"})
-        for (const SourceDiagnosis& row : diagnoseSources(fixture(machine)))
+        for (const SourceDiagnosis& row : diagnoseSources(toolsFor(fakes::FixtureMachine(machine))))
             for (const char* secret : {"hid-", "hidpp", "wacom", "aa:bb", "eno1", "wlp"})
                 EXPECT_EQ((row.source + row.reason).find(secret), std::string::npos) << machine << ' ' << secret;
 }

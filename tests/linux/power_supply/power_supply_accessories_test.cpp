@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "linux/temporary_folder.h"
+#include "fakes/fixture_machine.h"
 
 namespace vantrix {
 namespace {
@@ -10,7 +10,8 @@ namespace {
 using ::testing::ElementsAre;
 
 TEST(PowerSupplyAccessories, ReadsTheBatteriesOfDevices) {
-    const auto scan = PowerSupplyAccessories(std::string(FIXTURES) + "/two-packs-and-accessories/sys").scan();
+    const fakes::FixtureMachine machine("two-packs-and-accessories");
+    const auto scan = PowerSupplyAccessories(machine.path("sys")).scan();
     constexpr auto other = "dot.radiowaves.left.and.right";
     EXPECT_THAT(scan.accessories, ElementsAre(AccessoryBattery{"Desk Keyboard", 87, false, "keyboard"},
                                               AccessoryBattery{"Wireless Mouse", 15, false, "computermouse"},

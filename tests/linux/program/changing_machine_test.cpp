@@ -7,11 +7,10 @@
 
 #include <gtest/gtest.h>
 
-#include "fakes/busy_laptop.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
+#include "fakes/fixture_machine.h"
 #include "linux/program/soak.h"
-#include "linux/temporary_folder.h"
 #include "monitor/system_monitor.h"
 
 namespace vantrix {
@@ -27,27 +26,18 @@ constexpr int lastPasses = 5;   // after them, all that differs from pass to pas
 constexpr std::uint64_t calmCounter = 1'310'600;
 constexpr std::uint64_t wrappingTicks = (std::uint64_t{1} << 32) - 1'310'700;
 
-std::string contentOf(const fs::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
-
 class ChangingMachine {
   public:
     ChangingMachine() {
-        fakes::writeBusyLaptop(FIXTURES, root());
-        for (const auto& entry : fs::recursive_directory_iterator(root())) {
-            if (entry.is_regular_file() && !entry.is_symlink())
-                files_.push_back({entry.path(), contentOf(entry.path())});
-        }
+        for (const std::string& name : laptop_.files())
+            files_.push_back({laptop_.path(name), laptop_.read(name)});
         for (const char* folder : {"hwmon", "power_supply", "drm", "powercap", "net"}) {
-            for (const auto& device : fs::directory_iterator(root() / "sys/class" / folder))
+            for (const auto& device : fs::directory_iterator(laptop_.path("sys/class/") + folder))
                 devices_.push_back({device.path()});
         }
     }
 
-    fs::path root() const { return folder_.path("laptop"); }
+    KernelRoots roots() const { return laptop_.roots(); }
 
     /// Time goes on, and something happens, or several things.
     void change() {
@@ -73,16 +63,13 @@ class ChangingMachine {
         for (int core = -1; core < 16; ++core)
             cores << "cpu" << (core < 0 ? " " : std::to_string(core)) << ' ' << counter_ + wrappingTicks << " 0 "
                   << counter_ / 2 << " 0 " << counter_ * 3 << " 0 0 0 0 0\n";
-        write(root() / "proc/stat", cores.str());
+        write(laptop_.path("proc/stat"), cores.str());
         writeEnergy("intel-rapl:0", counter_ * 200'000);
         writeEnergy("intel-rapl:0:1", counter_ * 50'000); // of the package, graphics
         writeEnergy("intel-rapl:0:2", counter_ * 30'000);
     }
 
   private:
-    /// A hundred thousand passes of changes would keep a disk busy.
-    static fs::path inMemory() { return fs::exists("/dev/shm") ? "/dev/shm" : fs::temp_directory_path(); }
-
     struct File {
         fs::path path;
         std::string content;
@@ -102,7 +89,7 @@ class ChangingMachine {
 
     void writeEnergy(const char* zone, std::uint64_t microjoules) const {
         constexpr std::uint64_t range = 262'143'328'850;
-        write(root() / "sys/class/powercap" / zone / "energy_uj", std::to_string(microjoules % range) + '\n');
+        write(laptop_.path("sys/class/powercap/") + zone + "/energy_uj", std::to_string(microjoules % range) + '\n');
     }
 
     void changeOnce() {
@@ -126,7 +113,7 @@ class ChangingMachine {
     }
 
     fs::path away(const Device& device) const {
-        return folder_.path(device.path.parent_path().filename().string() + ' ' + device.path.filename().string());
+        return laptop_.path(device.path.parent_path().filename().string() + ' ' + device.path.filename().string());
     }
 
     void bringBack(Device& device) {
@@ -135,7 +122,7 @@ class ChangingMachine {
         device.isGone = false;
     }
 
-    TemporaryFolder folder_{inMemory()};
+    fakes::BusyLaptop laptop_;
     std::mt19937_64 random_{20};
     std::vector<File> files_;
     std::vector<Device> devices_;
@@ -181,7 +168,7 @@ void expectPlausible(const Readings& readings) {
 TEST(ChangingMachine, EveryReadingReturnsAndNothingGrows) {
     ChangingMachine machine;
     fakes::FakeDefaults defaults;
-    auto sources = makeSamplingSources({machine.root() / "proc", machine.root() / "sys"});
+    auto sources = makeSamplingSources(machine.roots());
     auto fakeClock = std::make_unique<fakes::FakeClock>();
     fakes::FakeClock& clock = *fakeClock;
     sources.clock = std::move(fakeClock);

@@ -15,6 +15,8 @@
 
 #include <gmock/gmock.h>
 
+#include "fakes/fixture_machine.h"
+
 namespace vantrix {
 namespace {
 
@@ -47,11 +49,6 @@ class ProgramTest : public ::testing::Test {
         output = QString::fromUtf8(process.readAllStandardOutput());
         errors = QString::fromUtf8(process.readAllStandardError());
         return process.exitCode();
-    }
-
-    QStringList fixture(const char* machine) const {
-        const QString root = QStringLiteral(FIXTURES "/") + QLatin1StringView(machine);
-        return {u"--proc-root"_s, root + u"/proc"_s, u"--sys-root"_s, root + u"/sys"_s};
     }
 
     QTemporaryDir folder;
@@ -171,7 +168,12 @@ TEST_F(ProgramTest, RequestsWithoutARunningInstanceFailInOneLine) {
 
 TEST_F(ProgramTest, TheDoctorReportsOnAnyMachine) {
     for (const char* machine : {"container", "old-kernel", "laptop-hybrid-cores"}) {
-        EXPECT_EQ(run(QStringList{u"--doctor"_s, u"json"_s} + fixture(machine)), 0) << machine;
+        const fakes::FixtureMachine fixture(machine);
+        const KernelRoots roots = fixture.roots();
+        EXPECT_EQ(run({u"--doctor"_s, u"json"_s, u"--proc-root"_s, QString::fromStdString(roots.proc), u"--sys-root"_s,
+                       QString::fromStdString(roots.sys)}),
+                  0)
+            << machine;
         EXPECT_EQ(errors, QString()) << machine;
         const auto report = QJsonDocument::fromJson(output.toUtf8()).object();
         const auto processor = report[u"readings"][0];

@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "platform/sampling_sources.h"
+#include "fakes/fixture_machine.h"
 #include "sensors/sensors_sampler.h"
 
 namespace vantrix {
@@ -43,8 +43,8 @@ const SensorMachine machines[] = {
 class SensorMachinesTest : public ::testing::TestWithParam<SensorMachine> {};
 
 TEST_P(SensorMachinesTest, Sample) {
-    const std::string folder = std::string(FIXTURES) + '/' + GetParam().name;
-    const auto sources = makeSamplingSources({folder + "/proc", folder + "/sys"});
+    const fakes::FixtureMachine machine(GetParam().name);
+    const auto sources = makeSamplingSources(machine.roots());
     SensorsSampler sampler(sources.sensorKeys.get(), sources.temperatures.get(), sources.energy.get(), *sources.clock);
     auto sample = sampler.sample();
     EXPECT_EQ(sample.all.size(), GetParam().sensors);
