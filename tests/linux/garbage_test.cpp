@@ -5,6 +5,7 @@
 
 #include "accessories/reported_devices.h"
 #include "fakes/fixture_machine.h"
+#include "linux/all_samplers.h"
 #include "linux/disks/proc_diskstats.h"
 #include "linux/graphics/gpu_meter.h"
 #include "linux/memory/linux_memory_source.h"
@@ -19,7 +20,6 @@
 #include "linux/processor/proc_stat.h"
 #include "linux/processor/processor_brand.h"
 #include "linux/sensors/sensor_files.h"
-#include "sensors/sensors_sampler.h"
 
 namespace vantrix {
 namespace {
@@ -37,20 +37,9 @@ class Mutator {
     std::size_t below(std::size_t limit) { return random_() % limit; }
 
     void damageOnce(std::string& text) {
+        const std::string_view numbers[] = {"18446744073709551615", "99999999999999999999999", "36028797018963967"};
+        const std::string_view odd[] = {"-1", ":", "\n", " ", "en", "cpu7 ", "../", "nan", "1e308", "\xff\xfe"};
         const std::size_t place = below(text.size() + 1);
-        const std::string_view odd[] = {"99999999999999999999999",
-                                        "18446744073709551615",
-                                        "36028797018963967",
-                                        "-1",
-                                        ":",
-                                        "\n",
-                                        " ",
-                                        "en",
-                                        "cpu7 ",
-                                        "../",
-                                        "nan",
-                                        "1e308",
-                                        "\xff\xfe"};
         switch (below(7)) {
         case 0:
             text.resize(place);
@@ -62,8 +51,7 @@ class Mutator {
             text.erase(place, below(40));
             break;
         case 3:
-            if (place < text.size())
-                text[place] = static_cast<char>(below(256));
+            text.replace(place, 1, 1, static_cast<char>(below(256)));
             break;
         case 4:
             text.insert(place, text.substr(below(text.size() + 1), 200));
@@ -72,16 +60,10 @@ class Mutator {
             text.insert(place, below(3), '\0');
             break;
         default:
-            replaceDigits(text, place, odd[below(3)]);
+            if (const auto begin = text.find_first_of("0123456789", place); begin != std::string::npos)
+                text.replace(begin, text.find_first_not_of("0123456789", begin) - begin,
+                             numbers[below(std::size(numbers))]);
         }
-    }
-
-    static void replaceDigits(std::string& text, std::size_t from, std::string_view by) {
-        const auto begin = text.find_first_of("0123456789", from);
-        if (begin == std::string::npos)
-            return;
-        const auto end = std::min(text.find_first_not_of("0123456789", begin), text.size());
-        text.replace(begin, end - begin, by);
     }
 
     std::mt19937 random_{20240229};
@@ -127,106 +109,91 @@ void parseWithEverything(const std::string& text) {
 TEST(Garbage, NoParserStumbles) {
     Mutator mutator;
     for (const char* machine : {"laptop-hybrid-cores", "zram-in-use", "two-packs-and-accessories"}) {
-        const fakes::FixtureMachine folder(machine);
-        for (const std::string& name : folder.files()) {
-            const std::string text = folder.read(name);
+        const fakes::FixtureMachine tree(machine);
+        for (const std::string& file : tree.files()) {
+            const std::string text = tree.read(file);
             for (int i = 0; i < 1000; ++i)
                 parseWithEverything(mutator.damaged(text));
         }
     }
 }
 
-/// The samplers end the program on sums past 64 bits, so no file may make a source hand out such numbers.
-TEST(Garbage, NoFileEndsASamplingPass) {
-    Mutator mutator;
-    const fakes::FixtureMachine folder("zram-in-use");
-    const auto sources = makeSamplingSources(folder.roots());
-    CPUSampler cpu(*sources.cpu);
-    MemorySampler memory(*sources.memory);
-    NetworkSampler network(*sources.network, *sources.clock);
-    DiskSampler disk(*sources.disks, *sources.volume, *sources.clock);
-    for (const std::string& name : folder.files()) {
-        const std::string text = folder.read(name);
-        for (int i = 0; i < 400; ++i) {
-            folder.write(name, mutator.damaged(text));
-            if (const auto* sample = cpu.sample()) {
-                EXPECT_GE(sample->total, 0.0);
-                EXPECT_LE(sample->total, 1.0);
-            }
-            EXPECT_LE(usedFraction(memory.sample().value_or(MemorySample())), 1.0);
-            network.sample();
-            disk.sample();
-        }
-        folder.write(name, text);
-    }
-    EXPECT_TRUE(memory.sample().has_value()); // the files are whole again
-    EXPECT_NE(cpu.sample(), nullptr);
+bool isFraction(double value) {
+    return value >= 0.0 && value <= 1.0;
 }
 
-TEST(Garbage, NoFileMakesNonsenseOfBatteriesAndGPUs) {
-    Mutator mutator;
-    for (const char* machine : {"two-packs-and-accessories", "gpu-asleep-beside-another"}) {
-        const fakes::FixtureMachine folder(machine);
-        const auto sources = makeSamplingSources(folder.roots());
-        GPUSampler gpu(*sources.gpu);
-        BatterySampler battery(*sources.battery);
-        for (const std::string& name : folder.files()) {
-            const std::string text = folder.read(name);
-            for (int i = 0; i < 100; ++i) {
-                folder.write(name, mutator.damaged(text));
-                const double load = gpu.sample().value_or(0.0);
-                EXPECT_TRUE(load >= 0.0 && load <= 1.0) << load;
-                const auto sample = battery.sample().value_or(BatterySample());
-                EXPECT_TRUE(sample.percent >= 0 && sample.percent <= 100) << sample.percent;
-                EXPECT_LT(sample.watts.value_or(0.0), 400.0);
-                EXPECT_LE(sample.temperature.value_or(0.0), 150.0);
-            }
-            for (const auto& accessory : sources.accessories->scan().accessories)
-                EXPECT_TRUE(accessory.percent >= 0 && accessory.percent <= 100) << accessory.percent;
-            folder.write(name, text);
-        }
-    }
+bool isTemperature(double value) {
+    return value > 0.0 && value < 150.0;
 }
 
-bool isPlausible(const SensorsSample& sample) {
-    const auto isTemperature = [](double value) { return value > 0.0 && value < 150.0; };
+/// One pass of all. The samplers end the program on sums past 64 bits, so no file may make a source hand out such
+/// numbers.
+void expectPlausible(AllSamplers& samplers) {
+    const CPUSample* cpu = samplers.cpu.sample();
+    EXPECT_TRUE(isFraction(cpu ? cpu->total : 0.0)) << cpu->total;
+    EXPECT_TRUE(isFraction(usedFraction(samplers.memory.sample().value_or(MemorySample()))));
+    samplers.network.sample();
+    samplers.disk.sample();
+    EXPECT_TRUE(isFraction(samplers.gpu.sample().value_or(0.0)));
+    const BatterySample battery = samplers.battery.sample().value_or(BatterySample());
+    EXPECT_TRUE(battery.percent >= 0 && battery.percent <= 100) << battery.percent;
+    EXPECT_LT(battery.watts.value_or(0.0), 400.0);
+    EXPECT_LE(battery.temperature.value_or(0.0), 150.0);
     const auto isFan = [](const FanReading& fan) { return fan.rpm >= 0.0 && fan.rpm < 20000.0; };
-    return isTemperature(sample.cpu.value_or(1.0)) && isTemperature(sample.cpuHottest.value_or(1.0)) &&
-           std::ranges::all_of(sample.all, isTemperature, &TemperatureReading::value) &&
-           std::ranges::all_of(sample.fans, isFan) && sample.systemPower.value_or(1.0) < 600.0;
+    const SensorsSample& sensors = samplers.sensors.sample();
+    EXPECT_TRUE(isTemperature(sensors.cpu.value_or(1.0)) && isTemperature(sensors.cpuHottest.value_or(1.0)));
+    EXPECT_TRUE(std::ranges::all_of(sensors.all, isTemperature, &TemperatureReading::value));
+    EXPECT_TRUE(std::ranges::all_of(sensors.fans, isFan));
+    EXPECT_LT(sensors.systemPower.value_or(1.0), 600.0);
+    for (const auto& accessory : samplers.sources.accessories->scan().accessories)
+        EXPECT_TRUE(accessory.percent >= 0 && accessory.percent <= 100) << accessory.percent;
 }
 
-/// Chips and zones lose their names, sensors their numbers; all that is shown stays plausible, and comes back whole.
-TEST(Garbage, NoFileMakesASensorImplausible) {
+/// Chips and zones lose their names, sensors and counters their numbers; what is shown stays plausible, whether the
+/// machine was known before or not, and comes back whole.
+TEST(Garbage, NoFileMakesAReadingImplausible) {
+    const struct {
+        const char* machine;
+        int times;
+        std::size_t sensors;
+    } rows[] = {{"zram-in-use", 400, 0},
+                {"two-packs-and-accessories", 100, 0},
+                {"gpu-asleep-beside-another", 100, 0},
+                {"laptop-many-sensors", 3, 35}};
     Mutator mutator;
-    const fakes::FixtureMachine folder("laptop-many-sensors");
-    const auto sources = makeSamplingSources(folder.roots());
-    const auto makeSampler = [](const SamplingSources& from) {
-        return SensorsSampler(from.sensorKeys.get(), from.temperatures.get(), from.energy.get(), *from.clock);
-    };
-    SensorsSampler longRunning = makeSampler(sources);
-    const SensorsSample whole = longRunning.sample();
-    EXPECT_EQ(whole.all.size(), 35u);
-    for (const std::string& name : folder.files()) {
-        const std::string text = folder.read(name);
-        for (int i = 0; i < 3; ++i) {
-            folder.write(name, mutator.damaged(text));
-            EXPECT_TRUE(isPlausible(longRunning.sample())) << name;
-            const auto fresh = makeSamplingSources(folder.roots());
-            EXPECT_TRUE(isPlausible(makeSampler(fresh).sample())) << name;
+    for (const auto& row : rows) {
+        const fakes::FixtureMachine machine(row.machine);
+        AllSamplers samplers(machine.roots());
+        const SensorsSample sensors = samplers.sensors.sample();
+        EXPECT_EQ(sensors.all.size(), row.sensors);
+        const auto battery = samplers.battery.sample();
+        const auto memory = samplers.memory.sample();
+        EXPECT_TRUE(memory.has_value());
+        for (const std::string& file : machine.files()) {
+            SCOPED_TRACE(row.machine + ('/' + file));
+            const std::string text = machine.read(file);
+            for (int i = 0; i < row.times; ++i) {
+                machine.write(file, mutator.damaged(text));
+                expectPlausible(samplers);
+                if (i >= 3)
+                    continue;
+                AllSamplers fresh(machine.roots());
+                expectPlausible(fresh);
+            }
+            machine.write(file, text);
         }
-        folder.write(name, text);
+        for (int pass = 0; pass < 60; ++pass)
+            expectPlausible(samplers);
+        EXPECT_EQ(samplers.sensors.sample().all, sensors.all);
+        EXPECT_EQ(samplers.battery.sample(), battery);
+        EXPECT_EQ(samplers.memory.sample(), memory);
+        EXPECT_NE(samplers.cpu.sample(), nullptr);
     }
-    for (int i = 0; i < 60; ++i)
-        longRunning.sample();
-    EXPECT_EQ(longRunning.sample().all, whole.all);
 }
 
 TEST(Garbage, LongTextsAreTakenOrRefusedWhole) {
-    const std::string nonsense[] = {std::string(3 << 20, '\n'), std::string(3 << 20, '9'), std::string(3 << 20, ':'),
-                                    std::string(3 << 20, '\0'), std::string(3 << 20, ' ')};
-    for (const std::string& text : nonsense)
-        parseWithEverything(text);
+    for (const char letter : {'\n', '9', ':', '\0', ' '})
+        parseWithEverything(std::string(3 << 20, letter));
 }
 
 } // namespace

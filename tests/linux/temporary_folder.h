@@ -4,8 +4,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <initializer_list>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace vantrix {
@@ -28,6 +30,12 @@ class TemporaryFolder {
     void write(const std::string& entry, const std::string& text) const {
         std::filesystem::create_directories(std::filesystem::path(path(entry)).parent_path());
         std::ofstream(path(entry), std::ios::binary | std::ios::trunc) << text;
+    }
+
+    /// Writes files below a folder, each of one line.
+    void writeLines(const std::string& place, std::initializer_list<std::pair<const char*, std::string>> lines) const {
+        for (const auto& [entry, line] : lines)
+            write(place + '/' + entry, line + '\n');
     }
 
     std::string read(const std::string& entry) const {

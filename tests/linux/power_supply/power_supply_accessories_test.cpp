@@ -27,17 +27,12 @@ TEST(PowerSupplyAccessories, ReadsTheBatteriesOfDevices) {
 TEST(PowerSupplyAccessories, DevicesComeAndGo) {
     const TemporaryFolder folder;
     PowerSupplyAccessories sampler(folder.path("sys"));
-    const auto write = [&](const char* file, const char* text) {
-        folder.write(std::string("sys/class/power_supply/pen/") + file, text);
-    };
+    const std::string pen = "sys/class/power_supply/pen";
     EXPECT_EQ(sampler.scan().diagnostics, "power_supply: 0");
-    write("type", "Battery\n");
-    write("scope", "Device\n");
-    write("capacity", "140\n");
-    write("model_name", " \xff \n");
+    folder.writeLines(pen, {{"type", "Battery"}, {"scope", "Device"}, {"capacity", "140"}, {"model_name", " \xff "}});
     EXPECT_THAT(sampler.scan().accessories,
                 ElementsAre(AccessoryBattery{"\xef\xbf\xbd", 100, false, "dot.radiowaves.left.and.right"}));
-    write("online", "0\n");
+    folder.write(pen + "/online", "0\n");
     EXPECT_EQ(sampler.scan().diagnostics, "power_supply: 0"); // switched off
 }
 

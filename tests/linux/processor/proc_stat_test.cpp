@@ -1,24 +1,13 @@
 #include "linux/processor/proc_stat.h"
 
-#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 
 #include "linux/temporary_folder.h"
 
 namespace vantrix {
 namespace {
 
-using ::testing::ElementsAre;
 using Ticks = CPUSampler::Ticks; // user, system, idle, nice
-
-TEST(ParseProcStat, AddsUpWhatTheSamplerTellsApart) {
-    std::vector<CoreTicks> cores;
-    ASSERT_TRUE(parseProcStat("cpu  1 2 3 4\ncpu0 1 2 4 8 16 32 64 128 256 512\nintr 9\n", cores));
-    ASSERT_EQ(cores.size(), 1u);
-    EXPECT_EQ(cores[0].user, 1u);
-    EXPECT_EQ(cores[0].nice, 2u);
-    EXPECT_EQ(cores[0].system, 4u + 32 + 64 + 128);
-    EXPECT_EQ(cores[0].idle, 8u + 16);
-}
 
 TEST(ParseProcStat, RefusesNonsense) {
     const std::string texts[] = {
@@ -48,38 +37,31 @@ TEST(SteadyCounter, HoldsThroughSmallStepsBackAndGoesOnAfterAReset) {
     EXPECT_EQ(counter.advance(110), 705'032'717u);
 }
 
-struct ProcStatSourceTest : ::testing::Test {
-    TemporaryFolder folder;
-    ProcStatSource source{folder.path("")};
-    std::vector<Ticks> cores;
-
-    bool readAfter(const std::string& text) {
-        folder.write("stat", text);
-        return source.read(cores);
+TEST(ProcStatSource, NoCoreStepsBack) {
+    const struct {
+        const char* name;
+        std::vector<std::string> texts; // one after another
+        std::vector<Ticks> cores;       // after the last
+    } rows[] = {
+        {"guests are users already", {"cpu0 1 2 4 8 16 32 64 128 256 512\n"}, {{1, 228, 24, 2}}},
+        {"less waiting", {"cpu0 10 0 0 100 7\n", "cpu0 11 0 0 101 4\n"}, {{11, 0, 107, 0}}},
+        {"another core in the place",
+         {"cpu0 10 0 0 100\ncpu1 20 0 0 200\n", "cpu0 11 0 0 100\ncpu2 9000 0 0 9000\n",
+          "cpu0 11 0 0 100\ncpu2 9005 0 0 9001\n"},
+         {{11, 0, 100, 0}, {25, 0, 201, 0}}},
+        {"another count", {"cpu0 10 0 0 100\ncpu1 20 0 0 200\n", "cpu1 21 0 0 200\n"}, {{21, 0, 200, 0}}},
+        {"nothing in between", {"cpu1 21 0 0 200\n", "", "cpu1 22 0 0 200\n"}, {{22, 0, 200, 0}}},
+    };
+    for (const auto& row : rows) {
+        const TemporaryFolder folder;
+        ProcStatSource source(folder.path(""));
+        std::vector<Ticks> cores;
+        for (const std::string& text : row.texts) {
+            folder.write("stat", text);
+            EXPECT_EQ(source.read(cores), !text.empty()) << row.name;
+        }
+        EXPECT_EQ(cores, row.cores) << row.name;
     }
-};
-
-TEST_F(ProcStatSourceTest, IdleTimeNeverStepsBack) {
-    ASSERT_TRUE(readAfter("cpu0 10 0 0 100 7\n"));
-    ASSERT_TRUE(readAfter("cpu0 11 0 0 101 4\n"));
-    EXPECT_THAT(cores, ElementsAre(Ticks{11, 0, 107, 0}));
-}
-
-TEST_F(ProcStatSourceTest, AnotherCoreInTheSamePlaceGoesOnWhereTheLastWas) {
-    ASSERT_TRUE(readAfter("cpu0 10 0 0 100\ncpu1 20 0 0 200\n"));
-    ASSERT_TRUE(readAfter("cpu0 11 0 0 100\ncpu2 9000 0 0 9000\n"));
-    EXPECT_THAT(cores, ElementsAre(Ticks{11, 0, 100, 0}, Ticks{20, 0, 200, 0}));
-    ASSERT_TRUE(readAfter("cpu0 11 0 0 100\ncpu2 9005 0 0 9001\n"));
-    EXPECT_EQ(cores[1], (Ticks{25, 0, 201, 0}));
-}
-
-TEST_F(ProcStatSourceTest, AnotherCountStartsAfresh) {
-    ASSERT_TRUE(readAfter("cpu0 10 0 0 100\ncpu1 20 0 0 200\n"));
-    ASSERT_TRUE(readAfter("cpu1 21 0 0 200\n"));
-    EXPECT_THAT(cores, ElementsAre(Ticks{21, 0, 200, 0}));
-    EXPECT_FALSE(readAfter(""));
-    ASSERT_TRUE(readAfter("cpu1 22 0 0 200\n"));
-    EXPECT_EQ(cores[0].user, 22u);
 }
 
 } // namespace

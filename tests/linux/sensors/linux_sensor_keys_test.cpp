@@ -18,9 +18,8 @@ struct LinuxSensorKeysTest : ::testing::Test {
         const auto fans = keys.value("FNum");
         return key == "FNum" ? fans : keys.value(key);
     }
-    void write(const std::string& folderName, std::initializer_list<std::pair<const char*, const char*>> files) {
-        for (const auto& [name, text] : files)
-            folder.write("class/" + folderName + '/' + name, std::string(text) + '\n');
+    void write(const std::string& device, std::initializer_list<std::pair<const char*, std::string>> files) {
+        folder.writeLines("class/" + device, files);
     }
 };
 
@@ -28,13 +27,11 @@ TEST_F(LinuxSensorKeysTest, FansThatTurnComeFirst) {
     write("hwmon/hwmon0", {{"name", "nct6775"}, {"fan1_input", "0"}, {"fan2_input", "900"}, {"fan10_input", "800"}});
     write("hwmon/hwmon1", {{"name", "amdgpu"}, {"fan1_input", "1200"}, {"fan1_min", "0"}, {"fan1_max", "3300"}});
     EXPECT_EQ(readInNewPass("FNum"), 4.0);
-    EXPECT_EQ(keys.value("F0Ac"), 1200.0);
-    EXPECT_EQ(keys.value("F0Mn"), 0.0);
-    EXPECT_EQ(keys.value("F0Mx"), 3300.0);
-    EXPECT_EQ(keys.value("F1Ac"), 900.0);
-    EXPECT_EQ(keys.value("F1Mx"), std::nullopt);
-    EXPECT_EQ(keys.value("F2Ac"), 800.0);
-    EXPECT_EQ(keys.value("F3Ac"), 0.0);
+    const std::pair<const char*, std::optional<double>> rows[] = {{"F0Ac", 1200.0}, {"F0Mn", 0.0}, {"F0Mx", 3300.0},
+                                                                  {"F1Ac", 900.0},  {"F1Mx", {}},  {"F2Ac", 800.0},
+                                                                  {"F3Ac", 0.0}};
+    for (const auto& [key, value] : rows)
+        EXPECT_EQ(keys.value(key), value) << key;
     for (const char* key : {"F4Ac", "F9Ac", "F0Xx", "F:Ac", "F", "", "TC0P", "FAc0"})
         EXPECT_EQ(keys.value(key), std::nullopt) << key;
 }

@@ -33,10 +33,8 @@ struct PowercapEnergyTest : ::testing::Test {
     PowercapEnergy source{folder.path(""), std::make_shared<FakeClock>()};
 
     void write(const std::string& zone, const std::string& name, std::uint64_t energy) {
-        const std::string path = "class/powercap/" + zone;
-        folder.write(path + "/name", name + '\n');
-        folder.write(path + "/max_energy_range_uj", "1000\n");
-        folder.write(path + "/energy_uj", std::to_string(energy) + '\n');
+        folder.writeLines("class/powercap/" + zone,
+                          {{"name", name}, {"max_energy_range_uj", "1000"}, {"energy_uj", std::to_string(energy)}});
     }
     std::vector<std::pair<std::string, std::int64_t>> growth() {
         EXPECT_TRUE(source.takeSnapshot());
