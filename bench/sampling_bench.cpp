@@ -141,7 +141,7 @@ void compareOnThisMachine() {
 
 /// A laptop with every kind of device, from files. What a pass keeps open is what its floor reads.
 void compareOnBusyLaptop() {
-    const fakes::BusyLaptop laptop;
+    const fakes::FixtureMachine laptop("laptop-with-everything");
     Pass pass(laptop.roots());
     for (int i = 0; i < 3; ++i)
         pass.run();

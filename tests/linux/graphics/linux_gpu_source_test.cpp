@@ -8,7 +8,6 @@
 #include <gmock/gmock.h>
 
 #include "linux/opened_files.h"
-#include "linux/sensors/linux_temperatures.h"
 #include "linux/temporary_folder.h"
 #include "samplers/fake_clock.h"
 
@@ -248,49 +247,33 @@ TEST_F(LinuxGPUSourceTest, NvidiaLibraryIsAskedOnlyOfGPUsAwake) {
         const char* power;
         const char* other;
         double load;
+        std::optional<double> temperature; // of the hottest
         int jobs;
         std::vector<std::string> calls;
     } rows[] = {
-        {"active", "suspended", 0.0, 0, {}}, // looking for the one may wake the other
-        {"active", "active", 0.6, 1, {"start", "find 0000:01:00.0", "find 0000:02:00.0", "load", "load"}},
-        {"active", "suspended", 0.3, 1, {"load"}},
-        {"unsupported", "suspended", 0.3, 1, {"load"}}, // never sleeps
-        {"suspended", "suspended", 0.0, 1, {"stop"}},
-        {"suspended", "suspended", 0.0, 0, {}}, // nothing to ask
+        {"active", "suspended", 0.0, {}, 0, {}}, // looking for the one may wake the other
+        {"active", "active", 0.6, 30.0, 1, {"start", "find 0000:01:00.0", "find 0000:02:00.0", "load", "load"}},
+        {"active", "suspended", 0.3, 15.0, 1, {"load"}},
+        {"unsupported", "suspended", 0.3, 15.0, 1, {"load"}}, // never sleeps
+        {"suspended", "suspended", 0.0, {}, 1, {"stop"}},
+        {"suspended", "suspended", 0.0, {}, 0, {}}, // nothing to ask
     };
     for (const auto& row : rows) {
         setPower(nvidiaDevice, row.power);
         setPower(otherNvidia, row.other);
         EXPECT_EQ(load(), row.load) << row.power << ' ' << row.other;
+        EXPECT_EQ(source.nvidiaTemperature()->value(clock.now), row.temperature) << row.power << ' ' << row.other;
         EXPECT_THAT(takeCalls(), ::testing::UnorderedElementsAreArray(row.calls));
         EXPECT_EQ(std::exchange(background->jobs, 0), row.jobs);
     }
 }
 
-TEST_F(LinuxGPUSourceTest, NvidiaTellsTheTemperatureOfTheHottestGPUAwake) {
-    const auto temperature = [&]() -> std::optional<double> {
-        load();
-        std::vector<HIDTemperatureSampler::Service> services;
-        EXPECT_TRUE(
-            LinuxTemperatures(folder.path("sys"), std::make_shared<FakeClock>(clock), source.nvidiaTemperature())
-                .read(services));
-        if (services.empty())
-            return std::nullopt;
-        EXPECT_EQ(services.back().product, "GPU NVIDIA");
-        return services.back().temperature;
-    };
-    setNvidiaLoads(100, 80);
-    EXPECT_EQ(temperature(), std::nullopt);
-    setPower(nvidiaDevice, "active");
-    setPower(otherNvidia, "active");
-    EXPECT_EQ(temperature(), 50.0);
-    setPower(nvidiaDevice, "suspended");
-    EXPECT_EQ(temperature(), 40.0);
-    setPower(otherNvidia, "suspended");
-    EXPECT_EQ(temperature(), std::nullopt);
-    NvidiaTemperature old;
-    old.set(50.0, 100.0);
-    EXPECT_EQ(old.value(161.0), std::nullopt);
+TEST(NvidiaTemperature, IsForgottenAfterAMinute) {
+    NvidiaTemperature temperature;
+    EXPECT_EQ(temperature.value(0.0), std::nullopt);
+    temperature.set(50.0, 100.0);
+    EXPECT_EQ(temperature.value(159.0), 50.0);
+    EXPECT_EQ(temperature.value(161.0), std::nullopt);
 }
 
 TEST_F(LinuxGPUSourceTest, NvidiaLibraryLetsGoOfAnIdleGPUAtOnce) {

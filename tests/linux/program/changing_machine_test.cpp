@@ -122,7 +122,7 @@ class ChangingMachine {
         device.isGone = false;
     }
 
-    fakes::BusyLaptop laptop_;
+    fakes::FixtureMachine laptop_{"laptop-with-everything"};
     std::mt19937_64 random_{20};
     std::vector<File> files_;
     std::vector<Device> devices_;
