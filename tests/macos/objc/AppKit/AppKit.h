@@ -1,28 +1,246 @@
 #pragma once
 
-// What the program uses of it, one class a file.
-#import <AppKit/AppKitDefines.h>
-#import <AppKit/NSAccessibilityProtocols.h>
-#import <AppKit/NSAppearance.h>
-#import <AppKit/NSApplication.h>
-#import <AppKit/NSButton.h>
-#import <AppKit/NSCell.h>
-#import <AppKit/NSColor.h>
-#import <AppKit/NSColorSpace.h>
-#import <AppKit/NSControl.h>
-#import <AppKit/NSEvent.h>
-#import <AppKit/NSGraphicsContext.h>
-#import <AppKit/NSImage.h>
-#import <AppKit/NSImageSymbolConfiguration.h>
-#import <AppKit/NSMenu.h>
-#import <AppKit/NSMenuItem.h>
-#import <AppKit/NSPopover.h>
-#import <AppKit/NSResponder.h>
-#import <AppKit/NSScreen.h>
-#import <AppKit/NSStatusBar.h>
-#import <AppKit/NSStatusBarButton.h>
-#import <AppKit/NSStatusItem.h>
-#import <AppKit/NSView.h>
-#import <AppKit/NSViewController.h>
-#import <AppKit/NSWindow.h>
-#import <AppKit/NSWorkspace.h>
+#include <CoreGraphics/CoreGraphics.h>
+
+#import <Foundation/Foundation.h>
+
+NS_ASSUME_NONNULL_BEGIN
+
+@class NSPopover, NSScreen, NSWindow;
+
+// Appearance and colours.
+
+typedef NSString* NSAppearanceName NS_TYPED_EXTENSIBLE_ENUM;
+extern "C" NSAppearanceName const NSAppearanceNameAqua;
+extern "C" NSAppearanceName const NSAppearanceNameDarkAqua API_AVAILABLE(macos(10.14));
+
+API_AVAILABLE(macos(10.9))
+@interface NSAppearance : NSObject
+@property(class, strong, readonly) NSAppearance* currentDrawingAppearance API_AVAILABLE(macos(11.0));
+- (void)performAsCurrentDrawingAppearance:(void(NS_NOESCAPE ^)(void))block API_AVAILABLE(macos(11.0));
+- (nullable NSAppearanceName)bestMatchFromAppearancesWithNames:(NSArray<NSAppearanceName>*)appearances
+    API_AVAILABLE(macos(10.14));
+@end
+
+@protocol NSAppearanceCustomization <NSObject>
+@property(nullable, strong) NSAppearance* appearance API_AVAILABLE(macos(10.9));
+@property(readonly, strong) NSAppearance* effectiveAppearance API_AVAILABLE(macos(10.9));
+@end
+
+@interface NSColorSpace : NSObject
+@property(class, strong, readonly) NSColorSpace* sRGBColorSpace API_AVAILABLE(macos(10.5));
+@end
+
+@interface NSColor : NSObject
+@property(class, strong, readonly) NSColor* labelColor API_AVAILABLE(macos(10.10));
+@property(class, strong, readonly) NSColor* controlAccentColor API_AVAILABLE(macos(10.14));
+@property(class, strong, readonly) NSColor* systemOrangeColor API_AVAILABLE(macos(10.10));
+@property(class, strong, readonly) NSColor* systemRedColor API_AVAILABLE(macos(10.10));
+@property(class, strong, readonly) NSColor* systemGreenColor API_AVAILABLE(macos(10.10));
+@property(class, strong, readonly) NSColor* systemPurpleColor API_AVAILABLE(macos(10.10));
+- (nullable NSColor*)colorUsingColorSpace:(NSColorSpace*)space;
+- (void)getRed:(nullable CGFloat*)red
+         green:(nullable CGFloat*)green
+          blue:(nullable CGFloat*)blue
+         alpha:(nullable CGFloat*)alpha;
+@end
+
+extern "C" NSNotificationName const NSSystemColorsDidChangeNotification;
+
+@interface NSWorkspace : NSObject
+@property(class, readonly, strong) NSWorkspace* sharedWorkspace;
+@property(readonly, strong) NSNotificationCenter* notificationCenter;
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion API_AVAILABLE(macos(10.12));
+- (BOOL)openURL:(NSURL*)url;
+@end
+
+extern "C" NSNotificationName const
+    NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification API_AVAILABLE(macos(10.10));
+
+// Pictures.
+
+@interface NSGraphicsContext : NSObject
+@property(class, nullable, strong) NSGraphicsContext* currentContext;
+@property(readonly) CGContextRef CGContext NS_RETURNS_INNER_POINTER API_AVAILABLE(macos(10.10));
++ (NSGraphicsContext*)graphicsContextWithCGContext:(CGContextRef)graphicsPort
+                                           flipped:(BOOL)initialFlippedState API_AVAILABLE(macos(10.10));
++ (void)saveGraphicsState;
++ (void)restoreGraphicsState;
+@end
+
+typedef CGFloat NSFontWeight NS_TYPED_EXTENSIBLE_ENUM;
+extern "C" const NSFontWeight NSFontWeightMedium API_AVAILABLE(macos(10.11));
+
+API_AVAILABLE(macos(11.0))
+@interface NSImageSymbolConfiguration : NSObject <NSCopying>
++ (instancetype)configurationWithPointSize:(CGFloat)pointSize weight:(NSFontWeight)weight;
+@end
+
+typedef NS_ENUM(NSUInteger, NSImageCacheMode) { NSImageCacheNever = 3 };
+
+@interface NSImage : NSObject <NSCopying>
+@property NSSize size;
+@property NSImageCacheMode cacheMode;
+@property(nullable, copy) NSString* accessibilityDescription API_AVAILABLE(macos(10.6));
+// The setter alone: the property's name is a keyword here.
+- (void)setTemplate:(BOOL)isTemplate;
++ (nullable instancetype)imageWithSystemSymbolName:(NSString*)name
+                          accessibilityDescription:(nullable NSString*)description API_AVAILABLE(macos(11.0));
++ (instancetype)imageWithSize:(NSSize)size
+                      flipped:(BOOL)drawingHandlerShouldBeCalledWithFlippedContext
+               drawingHandler:(BOOL (^)(NSRect dstRect))drawingHandler API_AVAILABLE(macos(10.8));
+- (nullable NSImage*)imageWithSymbolConfiguration:(NSImageSymbolConfiguration*)configuration API_AVAILABLE(macos(11.0));
+- (void)drawInRect:(NSRect)rect API_AVAILABLE(macos(10.9));
+@end
+
+// The application and its events.
+
+typedef NS_ENUM(NSUInteger, NSEventType) {
+    NSEventTypeLeftMouseDown = 1,
+    NSEventTypeLeftMouseUp = 2,
+    NSEventTypeRightMouseUp = 4,
+};
+typedef NS_OPTIONS(unsigned long long, NSEventMask) {
+    NSEventMaskLeftMouseUp = 1ULL << NSEventTypeLeftMouseUp,
+    NSEventMaskRightMouseUp = 1ULL << NSEventTypeRightMouseUp,
+};
+typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagControl = 1 << 18 };
+
+@interface NSEvent : NSObject <NSCopying>
+@property(readonly) NSEventType type;
+@property(readonly) NSEventModifierFlags modifierFlags;
+@property(nullable, readonly, weak) NSWindow* window;
+@property(readonly) NSInteger eventNumber; // of mouse events alone
+@end
+
+@interface NSResponder : NSObject
+- (instancetype)init NS_DESIGNATED_INITIALIZER;
+@end
+
+typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
+    NSApplicationActivationPolicyAccessory = 1,
+} API_AVAILABLE(macos(10.6));
+
+@interface NSApplication : NSResponder <NSAppearanceCustomization>
+@property(nullable, readonly, strong) NSEvent* currentEvent;
+- (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy API_AVAILABLE(macos(10.6));
+- (void)activateIgnoringOtherApps:(BOOL)flag;
+@end
+
+extern "C" __kindof NSApplication* _Null_unspecified NSApp;
+
+// Views and windows.
+
+@protocol NSAccessibility <NSObject>
+@property(nullable, copy) NSString* accessibilityLabel API_AVAILABLE(macos(10.10));
+@end
+
+typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
+    NSViewWidthSizable = 2,
+    NSViewHeightSizable = 16,
+};
+
+@interface NSView : NSResponder <NSAppearanceCustomization, NSAccessibility>
+@property(nullable, readonly, assign) NSWindow* window;
+@property NSRect frame;
+@property NSRect bounds;
+@property NSAutoresizingMaskOptions autoresizingMask;
+- (instancetype)initWithFrame:(NSRect)frameRect NS_DESIGNATED_INITIALIZER;
+- (void)setFrameSize:(NSSize)newSize;
+- (void)addSubview:(NSView*)view;
+- (NSRect)convertRect:(NSRect)rect toView:(nullable NSView*)view;
+@end
+
+@interface NSControl : NSView
+@property(nullable, weak) id target;
+@property(nullable) SEL action;
+- (NSInteger)sendActionOn:(NSEventMask)mask;
+- (void)performClick:(nullable id)sender;
+@end
+
+typedef NS_ENUM(NSUInteger, NSCellImagePosition) { NSImageOnly = 1 };
+
+@interface NSButton : NSControl
+@property(nullable, strong) NSImage* image;
+@property NSCellImagePosition imagePosition;
+@end
+
+@interface NSScreen : NSObject
+@property(class, readonly, copy) NSArray<NSScreen*>* screens;
+@property(class, nullable, readonly, strong) NSScreen* mainScreen;
+@property(readonly) NSRect frame;
+@property(readonly) NSRect visibleFrame;
+@end
+
+@interface NSWindow : NSResponder <NSAppearanceCustomization>
+@property(nullable, readonly, strong) NSScreen* screen;
+- (void)makeKeyWindow;
+- (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
+- (NSRect)convertRectToScreen:(NSRect)rect API_AVAILABLE(macos(10.7));
+@end
+
+typedef NSString* NSNibName NS_TYPED_EXTENSIBLE_ENUM;
+
+@interface NSViewController : NSResponder
+@property(strong) NSView* view;
+- (instancetype)initWithNibName:(nullable NSNibName)nibNameOrNil
+                         bundle:(nullable NSBundle*)nibBundleOrNil NS_DESIGNATED_INITIALIZER;
+@end
+
+// The status item, its menu and its popover.
+
+@interface NSMenuItem : NSObject <NSCopying>
+@property(nullable, weak) id target;
+@property(nullable, strong) id representedObject;
++ (NSMenuItem*)separatorItem;
+- (instancetype)initWithTitle:(NSString*)string
+                       action:(nullable SEL)selector
+                keyEquivalent:(NSString*)charCode NS_DESIGNATED_INITIALIZER;
+@end
+
+@interface NSMenu : NSObject <NSCopying>
+- (instancetype)initWithTitle:(NSString*)title NS_DESIGNATED_INITIALIZER;
+- (void)addItem:(NSMenuItem*)newItem;
+@end
+
+API_AVAILABLE(macos(10.10))
+@interface NSStatusBarButton : NSButton
+@end
+
+@interface NSStatusItem : NSObject
+@property(nullable, strong) NSMenu* menu;
+@property(nullable, readonly, strong) NSStatusBarButton* button API_AVAILABLE(macos(10.10));
+@end
+
+static const CGFloat NSVariableStatusItemLength = -1;
+
+@interface NSStatusBar : NSObject
+@property(class, readonly, strong) NSStatusBar* systemStatusBar;
+- (NSStatusItem*)statusItemWithLength:(CGFloat)length;
+- (void)removeStatusItem:(NSStatusItem*)item;
+@end
+
+@protocol NSPopoverDelegate <NSObject>
+// The system calls these optional; here they are required, so that a misspelt one is found.
+- (void)popoverWillClose:(NSNotification*)notification API_AVAILABLE(macos(10.7));
+- (void)popoverDidClose:(NSNotification*)notification API_AVAILABLE(macos(10.7));
+@end
+
+typedef NS_ENUM(NSInteger, NSPopoverBehavior) { NSPopoverBehaviorTransient = 1 };
+
+API_AVAILABLE(macos(10.7))
+@interface NSPopover : NSResponder <NSAppearanceCustomization>
+@property(nullable, weak) id<NSPopoverDelegate> delegate;
+@property NSPopoverBehavior behavior;
+@property BOOL animates;
+@property(nullable, strong) NSViewController* contentViewController;
+@property NSSize contentSize;
+@property(readonly, getter=isShown) BOOL shown;
+- (instancetype)init NS_DESIGNATED_INITIALIZER;
+- (void)showRelativeToRect:(NSRect)positioningRect
+                    ofView:(NSView*)positioningView
+             preferredEdge:(NSRectEdge)preferredEdge;
+- (void)close;
+@end
+
+NS_ASSUME_NONNULL_END

@@ -1,13 +1,11 @@
 #pragma once
 
-#import <Foundation/NSObject.h>
+#import <Foundation/Foundation.h>
 
 // In Objective-C a queue is an object.
 @protocol OS_dispatch_queue <NSObject>
 @end
-@protocol OS_dispatch_queue_serial <OS_dispatch_queue>
-@end
-@protocol OS_dispatch_queue_main <OS_dispatch_queue_serial>
+@protocol OS_dispatch_queue_main <OS_dispatch_queue>
 @end
 
 typedef NSObject<OS_dispatch_queue>* dispatch_queue_t;

@@ -1,3 +1,0 @@
-#pragma once
-
-typedef unsigned int UInt32;
