@@ -98,165 +98,125 @@ TEST(SimulatedMac, WithNothingHasNoReadings) {
     EXPECT_EQ(machine.outstanding(), "");
 }
 
-/// A call that never works, and the readings that go with it. Whatever is not named stays as it is.
-struct Failure {
-    const char* call;
-    Names loses;
-    Outcome outcome = Outcome::fails;
+/// Calls of which each costs the same readings, and no others, if it never works.
+struct Loss {
+    Names readings;
+    Names calls;
 };
 
-std::ostream& operator<<(std::ostream& out, const Failure& failure) {
-    return out << failure.call << (failure.outcome == Outcome::fails ? "" : "_of_another_type");
-}
+const Names sensors{"temperatures", "sensors"};
+const Names dictionaries{"rates", "gpu",          "battery", "registers", "interface",  "address",
+                         "kind",  "display name", "wifi",    "space",     "components", "accessories"};
+const Loss losses[] = {
+    {{"cpu"}, {"host_processor_info"}},
+    {{"memory", "installed"}, {"host_statistics64"}},
+    {{"installed", "processor"}, {"sysctlbyname"}},
+    {{"network", "address"}, {"getifaddrs"}},
+    {{"address"}, {"getnameinfo"}},
+    {{"rates", "gpu", "fans", "power", "registers", "accessories"}, {"IOServiceMatching"}},
+    {{"rates", "gpu", "accessories"}, {"IOServiceGetMatchingServices", "IOIteratorNext"}},
+    {{"fans", "power", "registers"}, {"IOServiceGetMatchingService"}},
+    {{"rates", "gpu"}, {"IORegistryEntryCreateCFProperty"}},
+    {{"registers", "accessories"}, {"IORegistryEntryCreateCFProperties"}},
+    {{"fans", "power"}, {"IOServiceOpen", "IOConnectCallStructMethod"}},
+    {{"battery", "registers"},
+     {"IOPSCopyPowerSourcesInfo", "IOPSCopyPowerSourcesList", "IOPSGetPowerSourceDescription"}},
+    {{"interface", "address", "kind", "display name", "wifi"}, {"SCDynamicStoreCreate", "SCDynamicStoreCopyValue"}},
+    {{"kind", "display name", "wifi"}, {"SCNetworkInterfaceCopyAll", "SCNetworkInterfaceGetBSDName"}},
+    {{"kind", "wifi"}, {"SCNetworkInterfaceGetInterfaceType"}},
+    {{"display name"}, {"SCNetworkInterfaceGetLocalizedDisplayName"}},
+    {{"wifi"}, {"makeWiFiClient", "readWiFi"}},
+    {{"space"}, {"CFURLCreateFromFileSystemRepresentation", "CFURLCopyResourcePropertiesForKeys", "CFArrayCreate"}},
+    {{"temperatures", "sensors", "components"}, {"dlopen"}},
+    {sensors,
+     {"IOHIDEventSystemClientCreate", "IOHIDEventSystemClientCopyServices", "IOHIDServiceClientCopyProperty",
+      "IOHIDServiceClientCopyEvent", "CFNumberCreate", "CFDictionaryCreate"}},
+    {{"components"},
+     {"IOReportCopyChannelsInGroup", "IOReportCreateSubscription", "IOReportCreateSamples",
+      "IOReportCreateSamplesDelta", "IOReportChannelGetGroup", "IOReportChannelGetChannelName",
+      "IOReportChannelGetUnitLabel"}},
+    {{"rates", "gpu", "battery", "registers", "accessories"}, {"CFStringCreateWithCString"}},
+    {dictionaries, {"CFDictionaryGetValue"}},
+    {{"kind", "display name", "wifi", "temperatures", "sensors", "components", "battery", "registers"},
+     {"CFArrayGetValueAtIndex"}},
+    {{"space", "rates", "gpu", "battery", "registers", "accessories"}, {"CFNumberGetValue"}},
+};
 
-class FailureTest : public testing::TestWithParam<Failure> {};
-
-TEST_P(FailureTest, CostsOnlyWhatItTells) {
-    const Failure& failure = GetParam();
+/// What is lost where a call never works.
+Names lostWithout(const std::string& failing, Outcome outcome) {
     Machine machine;
-    const auto readings = readUnder(
-        machine, [&](const std::string& call) { return call == failure.call ? failure.outcome : Outcome::works; });
-    EXPECT_TRUE(machine.calls.contains(failure.call));
-    EXPECT_EQ(lost(readings), failure.loses);
-    EXPECT_EQ(machine.outstanding(), "");
+    const auto readings =
+        readUnder(machine, [&](const std::string& call) { return call == failing ? outcome : Outcome::works; });
+    EXPECT_EQ(machine.outstanding(), "") << failing;
+    return lost(readings);
 }
 
-const Names lostWithoutRegistry{"rates", "gpu", "fans", "power", "registers", "accessories"};
-const Names lostWithoutStore{"interface", "address", "kind", "display name", "wifi"};
+TEST(SimulatedMac, LosesOnlyWhatAFailingCallTells) {
+    Names tried{"makeLocationManager", "objc_autoreleasePoolPush"}; // these cannot fail
+    const auto expectLoss = [&](const std::string& call, const Names& readings) {
+        tried.insert(call);
+        EXPECT_EQ(lostWithout(call, Outcome::fails), readings) << call;
+        EXPECT_EQ(lostWithout(call, Outcome::wrongType), readings) << call;
+    };
+    for (const auto& [readings, calls] : losses) {
+        for (const std::string& call : calls)
+            expectLoss(call, readings);
+    }
+    for (const auto& [function, address] : hidFunctions())
+        expectLoss("dlsym " + function, sensors);
+    for (const auto& [function, address] : energyFunctions())
+        expectLoss("dlsym " + function, {"components"});
 
-INSTANTIATE_TEST_SUITE_P(Kernel, FailureTest,
-                         testing::Values(Failure{"host_processor_info", {"cpu"}},
-                                         Failure{"host_processor_info", {"cpu"}, Outcome::wrongType},
-                                         Failure{"host_statistics64", {"memory", "installed"}},
-                                         Failure{"sysctlbyname", {"installed", "processor"}},
-                                         Failure{"getifaddrs", {"network", "address"}},
-                                         Failure{"getnameinfo", {"address"}}),
-                         testing::PrintToStringParamName());
-INSTANTIATE_TEST_SUITE_P(
-    Registry, FailureTest,
-    testing::Values(Failure{"IOServiceMatching", lostWithoutRegistry},
-                    Failure{"IOServiceGetMatchingServices", {"rates", "gpu", "accessories"}},
-                    Failure{"IOServiceGetMatchingServices", {"rates", "gpu", "accessories"}, Outcome::wrongType},
-                    Failure{"IOServiceGetMatchingService", {"fans", "power", "registers"}},
-                    Failure{"IOIteratorNext", {"rates", "gpu", "accessories"}},
-                    Failure{"IORegistryEntryCreateCFProperty", {"rates", "gpu"}},
-                    Failure{"IORegistryEntryCreateCFProperty", {"rates", "gpu"}, Outcome::wrongType},
-                    Failure{"IORegistryEntryCreateCFProperties", {"registers", "accessories"}},
-                    Failure{"IORegistryEntryCreateCFProperties", {"registers", "accessories"}, Outcome::wrongType},
-                    Failure{"IOServiceOpen", {"fans", "power"}},
-                    Failure{"IOConnectCallStructMethod", {"fans", "power"}},
-                    Failure{"IOConnectCallStructMethod", {"fans", "power"}, Outcome::wrongType}),
-    testing::PrintToStringParamName());
-INSTANTIATE_TEST_SUITE_P(
-    Services, FailureTest,
-    testing::Values(Failure{"IOPSCopyPowerSourcesInfo", {"battery", "registers"}},
-                    Failure{"IOPSCopyPowerSourcesList", {"battery", "registers"}},
-                    Failure{"IOPSCopyPowerSourcesList", {"battery", "registers"}, Outcome::wrongType},
-                    Failure{"IOPSGetPowerSourceDescription", {"battery", "registers"}},
-                    Failure{"IOPSGetPowerSourceDescription", {"battery", "registers"}, Outcome::wrongType},
-                    Failure{"SCDynamicStoreCreate", lostWithoutStore},
-                    Failure{"SCDynamicStoreCopyValue", lostWithoutStore},
-                    Failure{"SCDynamicStoreCopyValue", lostWithoutStore, Outcome::wrongType},
-                    Failure{"SCNetworkInterfaceCopyAll", {"kind", "display name", "wifi"}},
-                    Failure{"SCNetworkInterfaceGetBSDName", {"kind", "display name", "wifi"}},
-                    Failure{"SCNetworkInterfaceGetInterfaceType", {"kind", "wifi"}},
-                    Failure{"SCNetworkInterfaceGetLocalizedDisplayName", {"display name"}},
-                    Failure{"makeWiFiClient", {"wifi"}}, Failure{"readWiFi", {"wifi"}},
-                    Failure{"CFURLCreateFromFileSystemRepresentation", {"space"}},
-                    Failure{"CFURLCopyResourcePropertiesForKeys", {"space"}}, Failure{"CFArrayCreate", {"space"}}),
-    testing::PrintToStringParamName());
-INSTANTIATE_TEST_SUITE_P(
-    Libraries, FailureTest,
-    testing::Values(Failure{"dlopen", {"temperatures", "sensors", "components"}},
-                    Failure{"IOHIDEventSystemClientCreate", {"temperatures", "sensors"}},
-                    Failure{"IOHIDEventSystemClientCopyServices", {"temperatures", "sensors"}},
-                    Failure{"IOHIDEventSystemClientCopyServices", {"temperatures", "sensors"}, Outcome::wrongType},
-                    Failure{"IOHIDServiceClientCopyEvent", {"temperatures", "sensors"}},
-                    Failure{"CFNumberCreate", {"temperatures", "sensors"}},
-                    Failure{"CFDictionaryCreate", {"temperatures", "sensors"}},
-                    Failure{"IOReportCopyChannelsInGroup", {"components"}},
-                    Failure{"IOReportCreateSubscription", {"components"}},
-                    Failure{"IOReportCreateSubscription", {"components"}, Outcome::wrongType},
-                    Failure{"IOReportCreateSamples", {"components"}},
-                    Failure{"IOReportCreateSamplesDelta", {"components"}},
-                    Failure{"IOReportChannelGetGroup", {"components"}},
-                    Failure{"IOReportChannelGetGroup", {"components"}, Outcome::wrongType},
-                    Failure{"IOReportChannelGetChannelName", {"components"}},
-                    Failure{"IOReportChannelGetChannelName", {"components"}, Outcome::wrongType},
-                    Failure{"IOReportChannelGetUnitLabel", {"components"}},
-                    Failure{"IOReportChannelGetUnitLabel", {"components"}, Outcome::wrongType}),
-    testing::PrintToStringParamName());
-
-const Names lostWithoutKeys{"rates", "gpu", "battery", "registers", "accessories"};
-const Names lostWithoutDictionaries{"rates", "gpu",          "battery", "registers", "interface",  "address",
-                                    "kind",  "display name", "wifi",    "space",     "components", "accessories"};
-
-INSTANTIATE_TEST_SUITE_P(Values, FailureTest,
-                         testing::Values(Failure{"CFStringCreateWithCString", lostWithoutKeys},
-                                         Failure{"CFDictionaryGetValue", lostWithoutDictionaries},
-                                         Failure{"CFDictionaryGetValue", lostWithoutDictionaries, Outcome::wrongType},
-                                         Failure{"CFArrayGetValueAtIndex",
-                                                 {"kind", "display name", "wifi", "temperatures", "sensors",
-                                                  "components", "battery", "registers"}},
-                                         Failure{"CFNumberGetValue",
-                                                 {"space", "rates", "gpu", "battery", "registers", "accessories"}}),
-                         testing::PrintToStringParamName());
+    Machine machine;
+    readUnder(machine, nullptr);
+    for (const auto& [call, count] : machine.calls)
+        EXPECT_TRUE(tried.contains(call)) << call;
+}
 
 TEST(SimulatedMac, KeepsTheValuesOfSensorsWithoutNames) {
-    for (const Outcome outcome : {Outcome::fails, Outcome::wrongType}) {
-        Machine machine;
-        const auto readings = readUnder(machine, [&](const std::string& call) {
-            return call == "IOHIDServiceClientCopyProperty" ? outcome : Outcome::works;
-        });
-        EXPECT_EQ(readings.at("sensors"), "Sensor 0 50.5; Sensor 1 40; Sensor 2 30; ");
-        EXPECT_EQ(lost(readings), Names({"temperatures", "sensors"}));
-        EXPECT_EQ(machine.outstanding(), "");
-    }
-}
-
-TEST(SimulatedMac, LacksWhatAFunctionIsMissingFor) {
-    const auto lostWithout = [](const std::string& function) {
-        Machine machine;
-        return lost(readUnder(machine, [&](const std::string& call) {
-            return call == "dlsym " + function ? Outcome::fails : Outcome::works;
-        }));
-    };
-    for (const auto& [function, address] : hidFunctions())
-        EXPECT_EQ(lostWithout(function), Names({"temperatures", "sensors"})) << function;
-    for (const auto& [function, address] : energyFunctions())
-        EXPECT_EQ(lostWithout(function), Names({"components"})) << function;
+    Machine machine;
+    const auto readings = readUnder(machine, [&](const std::string& call) {
+        return call == "IOHIDServiceClientCopyProperty" ? Outcome::wrongType : Outcome::works;
+    });
+    EXPECT_EQ(readings.at("sensors"), "Sensor 0 50.5; Sensor 1 40; Sensor 2 30; ");
 }
 
 /// What is opened once, at the start.
-const auto isOpenedOnce = testing::AnyOf("fans", "power", "temperatures", "sensors", "components");
+const Names openedOnce{"fans", "power", "temperatures", "sensors", "components"};
+
+/// Takes passes under the judge, then as many `sound` ones: the next has every reading but those that may be late.
+void expectRecovery(std::function<Outcome(const std::string&)> judge, int damaged, int sound, const Names& late) {
+    Machine machine;
+    furnish(machine);
+    machine.judge = std::move(judge);
+    {
+        Instruments instruments;
+        for (int pass = 0; pass < damaged + sound; ++pass) {
+            if (pass == damaged)
+                machine.judge = nullptr;
+            instruments.pass();
+            advance(machine);
+        }
+        ASSERT_THAT(lost(instruments.pass()), testing::Each(testing::AnyOfArray(late)));
+    }
+    ASSERT_EQ(machine.outstanding(), "");
+}
 
 TEST(SimulatedMac, RecoversFromEachCallFailingOnce) {
-    // The list of interfaces is kept for some passes.
-    const auto isLate = testing::AnyOf(isOpenedOnce, "kind", "display name", "wifi");
+    Names late{"kind", "display name", "wifi"}; // the list of interfaces is kept for some passes
+    late.insert(openedOnce.begin(), openedOnce.end());
     for (const Outcome outcome : {Outcome::fails, Outcome::wrongType}) {
         long calls = 1;
         for (long failing = 0; failing < calls; ++failing) {
-            Machine machine;
-            furnish(machine);
             calls = 0;
             std::string failed;
-            machine.judge = [&](const std::string& call) {
+            const auto judge = [&](const std::string& call) {
                 if (calls++ != failing)
                     return Outcome::works;
                 failed = call;
                 return outcome;
             };
-            {
-                Instruments instruments;
-                for (int pass = 0; pass < 3; ++pass) {
-                    if (pass == 2)
-                        machine.judge = nullptr; // what is a difference of two passes is whole after the next one
-                    instruments.pass();
-                    advance(machine);
-                }
-                ASSERT_THAT(lost(instruments.pass()), testing::Each(isLate)) << failed;
-            }
-            ASSERT_EQ(machine.outstanding(), "") << failed;
+            ASSERT_NO_FATAL_FAILURE(expectRecovery(judge, 2, 1, late)) << failed;
         }
         EXPECT_GT(calls, 300);
     }
@@ -267,28 +227,11 @@ TEST(SimulatedMac, SurvivesRandomFailuresForTenThousandPasses) {
     std::uniform_real_distribution<> chance(0.0, 1.0);
     for (int machines = 0; machines < 500; ++machines) {
         const double risk = machines % 2 == 0 ? 0.01 : 0.15;
-        bool isDamaged = true;
-        Machine machine;
-        furnish(machine);
-        machine.judge = [&](const std::string&) {
-            const double drawn = isDamaged ? chance(random) : 1.0;
+        const auto judge = [&](const std::string&) {
+            const double drawn = chance(random);
             return drawn > risk ? Outcome::works : drawn > risk / 3 ? Outcome::fails : Outcome::wrongType;
         };
-        {
-            Instruments instruments;
-            for (int pass = 0; pass < 20; ++pass) {
-                advance(machine);
-                instruments.pass();
-            }
-            isDamaged = false;
-            for (int pass = 0; pass < 5; ++pass) { // as long as an unfinished list of interfaces is kept
-                advance(machine);
-                instruments.pass();
-            }
-            advance(machine);
-            ASSERT_THAT(lost(instruments.pass()), testing::Each(isOpenedOnce));
-        }
-        ASSERT_EQ(machine.outstanding(), "");
+        ASSERT_NO_FATAL_FAILURE(expectRecovery(judge, 20, 5, openedOnce));
     }
 }
 
