@@ -133,9 +133,8 @@ CFDictionaryRef CFDictionaryCreate(CFAllocatorRef, const void** keys, const void
 }
 
 const void* CFDictionaryGetValue(CFDictionaryRef dictionary, const void* key) {
-    const auto& entries = object(dictionary, Kind::dictionary, "CFDictionaryGetValue").entries;
-    const auto found = entries.find(keyText(key));
-    return heldAnswer("CFDictionaryGetValue", found == entries.end() ? nullptr : found->second.get());
+    const Object& from = object(dictionary, Kind::dictionary, "CFDictionaryGetValue");
+    return heldAnswer("CFDictionaryGetValue", from.at(keyText(key)));
 }
 
 CFIndex CFDictionaryGetCount(CFDictionaryRef dictionary) {
@@ -179,8 +178,8 @@ CFDictionaryRef CFURLCopyResourcePropertiesForKeys(CFURLRef url, CFArrayRef keys
     Object* const all = make(*mac().volume);
     Object* const asked = make(Dictionary());
     for (const Ref& key : object(keys, Kind::list, "CFURLCopyResourcePropertiesForKeys").list) {
-        if (all->entries.contains(keyText(key.get())))
-            asked->entries[keyText(key.get())] = all->entries[keyText(key.get())];
+        if (const Object* const value = all->at(keyText(key.get())))
+            asked->entries[keyText(key.get())] = Ref::retained(value);
     }
     CFRelease(all);
     return as<CFDictionaryRef>(asked);

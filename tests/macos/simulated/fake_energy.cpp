@@ -38,21 +38,11 @@ CFDictionaryRef createDelta(CFDictionaryRef before, CFDictionaryRef now, CFTypeR
     const bool isStep = numberOf(now) == numberOf(before) + 1;
     if (!isStep || fails("IOReportCreateSamplesDelta"))
         return nullptr;
-    List channels;
-    for (const EnergyCounter& counter : *mac().energy) {
-        Dictionary channel{{"group", counter.group}, {"unit", counter.unit}};
-        if (counter.name)
-            channel.emplace_back("name", counter.name);
-        channel.emplace_back("value", counter.energy);
-        channels.emplace_back(std::move(channel));
-    }
-    return as<CFDictionaryRef>(make(Dictionary{{"IOReportChannels", channels}}));
+    return as<CFDictionaryRef>(make(Dictionary{{"IOReportChannels", *mac().energy}}));
 }
 
 CFStringRef partOf(CFDictionaryRef channel, const char* part, const char* function) {
-    const auto& parts = object(channel, Kind::dictionary, function).entries;
-    const auto found = parts.find(part);
-    return as<CFStringRef>(heldAnswer(function, found == parts.end() ? nullptr : found->second.get()));
+    return as<CFStringRef>(heldAnswer(function, object(channel, Kind::dictionary, function).at(part)));
 }
 
 CFStringRef groupOf(CFDictionaryRef channel) {
@@ -68,8 +58,7 @@ CFStringRef unitOf(CFDictionaryRef channel) {
 }
 
 std::int64_t valueOf(CFDictionaryRef channel, std::int32_t index) {
-    const auto& parts = object(channel, Kind::dictionary, "IOReportSimpleGetIntegerValue").entries;
-    return index == 0 ? parts.at("value").get()->whole : 0;
+    return index == 0 ? object(channel, Kind::dictionary, "IOReportSimpleGetIntegerValue").at("value")->whole : 0;
 }
 
 } // namespace

@@ -21,17 +21,13 @@ void setMatching(CFTypeRef client, CFDictionaryRef matching) {
 }
 
 bool asksForTemperatures(const Object& client) {
-    const auto matching = client.entries.find("matching");
-    if (matching == client.entries.end())
-        return false;
-    const auto& entries = matching->second.get()->entries;
-    return entries.size() == 2 && entries.at("PrimaryUsagePage").get()->whole == 65280 &&
-           entries.at("PrimaryUsage").get()->whole == 5;
+    const Object* const matching = client.at("matching");
+    return matching && matching->entries.size() == 2 && matching->at("PrimaryUsagePage")->whole == 65280 &&
+           matching->at("PrimaryUsage")->whole == 5;
 }
 
 CFArrayRef copyServices(CFTypeRef client) {
-    const Object& asker = object(client, Kind::opaque, "IOHIDEventSystemClientCopyServices");
-    if (!asksForTemperatures(asker))
+    if (!asksForTemperatures(object(client, Kind::opaque, "IOHIDEventSystemClientCopyServices")))
         return nullptr;
     std::vector<Ref> services;
     for (std::size_t i = 0; i < mac().sensors->size(); ++i)
@@ -56,8 +52,7 @@ CFTypeRef copyEvent(CFTypeRef service, std::int64_t type, std::int64_t options, 
 }
 
 double getFloat(CFTypeRef event, std::int32_t field) {
-    const auto& parts = object(event, Kind::dictionary, "IOHIDEventGetFloatValue").entries;
-    return field == 0xf0000 ? parts.at("level").get()->fraction : 0.0;
+    return field == 0xf0000 ? object(event, Kind::dictionary, "IOHIDEventGetFloatValue").at("level")->fraction : 0.0;
 }
 
 } // namespace

@@ -119,7 +119,6 @@ int proc_pid_rusage(int pid, int flavor, rusage_info_t* buffer) {
     return 0;
 }
 
-int pthread_set_qos_class_self_np(qos_class_t qualityOfService, int) {
-    mac().qualityOfService = qualityOfService;
+int pthread_set_qos_class_self_np(qos_class_t, int) {
     return 0;
 }

@@ -21,10 +21,8 @@ Object* makeOwner(const Dictionary& parts) {
 }
 
 CFStringRef partOf(CFTypeRef owner, const char* part, const char* function) {
-    const auto& parts = object(owner, Kind::opaque, function).entries;
-    const auto found = parts.find(part);
-    const bool isMissing = found == parts.end() || fails(function);
-    return as<CFStringRef>(isMissing ? nullptr : found->second.get());
+    const Object* const held = object(owner, Kind::opaque, function).at(part);
+    return as<CFStringRef>(fails(function) ? nullptr : held);
 }
 
 } // namespace

@@ -89,11 +89,13 @@ void furnishReports(Machine& machine) {
                                                                               {"Time to Full Charge", 55},
                                                                               {"Time to Empty", 410}}};
     machine.sensors = {{"pACC sensor 1", 50.5}, {"GPU sensor", 40.0}, {std::nullopt, 30.0}, {"NAND", std::nullopt}};
-    machine.energy = {{"Energy Model", "EACC_CPU Energy", "mJ", 1000},
-                      {"Energy Model", "PCPU Energy", "uJ", 2'000'000},
-                      {"Energy Model", "GPU Energy", "nJ", 3'000'000'000},
-                      {"Energy Model", nullptr, "mJ", 1},
-                      {"CPU Stats", "DRAM", "mJ", 1}};
+    const auto channel = [](const char* group, const char* name, const char* unit, std::int64_t value) {
+        return Dictionary{{"group", group}, {"name", name}, {"unit", unit}, {"value", value}};
+    };
+    machine.energy = List{
+        channel("Energy Model", "EACC_CPU Energy", "mJ", 1000), channel("Energy Model", "PCPU Energy", "uJ", 2'000'000),
+        channel("Energy Model", "GPU Energy", "nJ", 3'000'000'000), channel("CPU Stats", "DRAM", "mJ", 1),
+        Dictionary{{"group", "Energy Model"}, {"unit", "mJ"}, {"value", 1}}};
     machine.applicationGroups = List{"group.vantrix", "group.other"};
 }
 

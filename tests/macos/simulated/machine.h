@@ -49,13 +49,6 @@ struct TemperatureSensor {
     std::optional<double> celsius;
 };
 
-struct EnergyCounter {
-    const char* group;
-    const char* name; ///< null for none
-    const char* unit;
-    std::int64_t energy = 0; ///< from one snapshot to the next
-};
-
 /// A Mac as its interfaces tell of it; everything that a new one has is nothing at all. One at a time.
 class Machine {
   public:
@@ -88,16 +81,14 @@ class Machine {
     std::vector<Interface> interfaces;
     std::map<std::string, WiFiClient::Details, std::less<>> wifi;
     std::optional<std::vector<TemperatureSensor>> sensors; ///< absent: the functions are missing
-    std::optional<std::vector<EnergyCounter>> energy;      ///< absent: the library is missing
-    std::int64_t energySnapshots = 0;                      ///< taken so far
+    std::optional<List> energy;       ///< channels, from one snapshot to the next; absent: the library is missing
+    std::int64_t energySnapshots = 0; ///< taken so far
     std::optional<Value> applicationGroups;
     std::map<std::string, Value> propertyLists; ///< by the text that holds them
 
     /// Decides over each call that may fail, by name.
     std::function<Outcome(const std::string& call)> judge;
     std::map<std::string, long> calls; ///< how many there were
-
-    unsigned qualityOfService = 0; ///< of the thread that asked for one last
 
     // What the program holds.
     long hostReferences = 0;

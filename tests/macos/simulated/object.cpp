@@ -1,5 +1,6 @@
 #include "macos/simulated/object.h"
 
+#include <algorithm>
 #include <set>
 
 #include "support/checked.h"
@@ -8,14 +9,9 @@ namespace vantrix::simulated {
 namespace {
 
 /// Never torn down: constants live longer than any other object of the program.
-std::set<const void*>& live() {
-    static auto& objects = *new std::set<const void*>;
+std::set<const Object*>& live() {
+    static auto& objects = *new std::set<const Object*>;
     return objects;
-}
-
-std::size_t& constants() {
-    static std::size_t count = 0;
-    return count;
 }
 
 Object* track(Object made) {
@@ -44,7 +40,6 @@ struct Maker {
 };
 
 Object* makeConstant(Object constant) {
-    ++constants();
     constant.isConstant = true;
     return track(std::move(constant));
 }
@@ -80,9 +75,10 @@ Object* makeList(std::vector<Ref> members) {
 }
 
 Object& object(CFTypeRef reference, const char* function) {
-    if (!live().contains(reference))
+    auto* const found = as<Object*>(static_cast<const Object*>(reference));
+    if (!live().contains(found))
         fatalError((std::string(function) + " is given null or an object that was released").c_str());
-    return *static_cast<Object*>(const_cast<void*>(reference));
+    return *found;
 }
 
 Object& object(CFTypeRef reference, Object::Kind kind, const char* function) {
@@ -92,8 +88,8 @@ Object& object(CFTypeRef reference, Object::Kind kind, const char* function) {
     return found;
 }
 
-std::size_t liveObjects() {
-    return live().size() - constants();
+std::ptrdiff_t liveObjects() {
+    return std::count_if(live().begin(), live().end(), [](const Object* object) { return !object->isConstant; });
 }
 
 Object* strayObject() {

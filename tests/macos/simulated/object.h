@@ -45,6 +45,12 @@ struct Object {
     std::map<std::string, Ref> entries;
     long references = 1;
     bool isConstant = false;
+
+    /// What lies under a key; null for nothing.
+    const Object* at(const std::string& key) const {
+        const auto entry = entries.find(key);
+        return entry == entries.end() ? nullptr : entry->second.get();
+    }
 };
 
 /// With one reference, the caller's.
@@ -58,7 +64,7 @@ Object& object(CFTypeRef reference, const char* function);
 Object& object(CFTypeRef reference, Object::Kind kind, const char* function);
 
 /// Objects that somebody still holds, constants aside.
-std::size_t liveObjects();
+std::ptrdiff_t liveObjects();
 
 /// An object of a type that nobody asks for.
 Object* strayObject();

@@ -2,7 +2,6 @@
 #include <fstream>
 
 #include <gmock/gmock.h>
-#include <pthread/qos.h>
 
 #include "macos/kernel/mach_clock.h"
 #include "macos/mac_accessories.h"
@@ -12,7 +11,6 @@
 #include "macos/simulated/instruments.h"
 #include "macos/simulated/laptop.h"
 #include "platform/diagnosis.h"
-#include "platform/thread_priority.h"
 
 namespace vantrix::simulated {
 TEST(ApplicationGroup, IsTheFirstOfAListOfTexts) {
@@ -112,12 +110,6 @@ TEST(MacAccessories, DoWithoutAReport) {
     EXPECT_EQ(machine.outstanding(), "");
 }
 
-TEST(ThreadPriority, IsThatOfUtilities) {
-    Machine machine;
-    lowerThreadPriority();
-    EXPECT_EQ(machine.qualityOfService, QOS_CLASS_UTILITY);
-}
-
 TEST(MachProcessorTicks, AreOfWholeProcessorsAlone) {
     for (const natural_t told : {1u, 2u, 3u}) {
         Machine machine;
@@ -137,33 +129,26 @@ TEST(MachClock, FollowsTheTimebase) {
     EXPECT_EQ(MachClock().uptime(), 3.0);
 }
 
-TEST(PowerSources, AreReadAfreshEachTime) {
+TEST(Instruments, ReadTheRegistryAndPowerSourcesAfresh) {
     Machine machine;
     furnish(machine);
     Instruments instruments;
-    EXPECT_EQ(instruments.pass().at("battery"), "82 1 1 55");
+    const auto first = instruments.pass();
+    EXPECT_EQ(first.at("battery"), "82 1 1 55");
+    EXPECT_EQ(first.at("gpu"), "0.705");
     machine.powerSources = List{Dictionary{{"Type", "InternalBattery"},
                                            {"Current Capacity", 20},
                                            {"Max Capacity", 50},
                                            {"Power Source State", "Battery Power"},
                                            {"Time to Empty", 410}}};
-    for (Service& service : machine.services) {
-        if (service.className == "AppleSmartBattery")
-            service.properties = {
-                {"DesignCapacity", 5000}, {"MaxCapacity", 4000}, {"Voltage", 12000}, {"InstantAmperage", -1000}};
-    }
-    const auto readings = instruments.pass();
-    EXPECT_EQ(readings.at("battery"), "40 0 0 410");
-    EXPECT_EQ(readings.at("registers"), "- 80 - 12");
-}
-
-TEST(Accelerators, AreReadAfreshEachTime) {
-    Machine machine;
-    furnish(machine);
-    Instruments instruments;
-    EXPECT_EQ(instruments.pass().at("gpu"), "0.705");
-    machine.services[5].properties.clear();
-    EXPECT_EQ(instruments.pass().at("gpu"), "0.2");
+    machine.services = {
+        {"AppleSmartBattery",
+         {{"DesignCapacity", 5000}, {"MaxCapacity", 4000}, {"Voltage", 12000}, {"InstantAmperage", -1000}}},
+        {"IOAccelerator", {{"PerformanceStatistics", Dictionary{{"Device Utilization %", 20}}}}}};
+    const auto second = instruments.pass();
+    EXPECT_EQ(second.at("battery"), "40 0 0 410");
+    EXPECT_EQ(second.at("registers"), "- 80 - 12");
+    EXPECT_EQ(second.at("gpu"), "0.2");
 }
 
 TEST(ProcessStatistics, AreInSecondsAndBytes) {

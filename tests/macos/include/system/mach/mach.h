@@ -44,29 +44,11 @@ typedef integer_t* host_info64_t;
 #define HOST_VM_INFO64 4
 
 struct vm_statistics64 {
-    natural_t free_count;
-    natural_t active_count;
-    natural_t inactive_count;
-    natural_t wire_count;
-    std::uint64_t zero_fill_count;
-    std::uint64_t reactivations;
-    std::uint64_t pageins;
-    std::uint64_t pageouts;
-    std::uint64_t faults;
-    std::uint64_t cow_faults;
-    std::uint64_t lookups;
-    std::uint64_t hits;
-    std::uint64_t purges;
-    natural_t purgeable_count;
-    natural_t speculative_count;
-    std::uint64_t decompressions;
-    std::uint64_t compressions;
-    std::uint64_t swapins;
-    std::uint64_t swapouts;
-    natural_t compressor_page_count;
-    natural_t throttled_count;
-    natural_t external_page_count;
-    natural_t internal_page_count;
+    natural_t free_count, active_count, inactive_count, wire_count;
+    std::uint64_t zero_fill_count, reactivations, pageins, pageouts, faults, cow_faults, lookups, hits, purges;
+    natural_t purgeable_count, speculative_count;
+    std::uint64_t decompressions, compressions, swapins, swapouts;
+    natural_t compressor_page_count, throttled_count, external_page_count, internal_page_count;
     std::uint64_t total_uncompressed_pages_in_compressor;
 } __attribute__((aligned(8)));
 typedef struct vm_statistics64 vm_statistics64_data_t;
