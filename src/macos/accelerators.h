@@ -5,7 +5,7 @@
 
 namespace vantrix {
 
-/// Every IOAccelerator's dictionary "PerformanceStatistics".
+/// The dictionary "PerformanceStatistics" of every IOAccelerator.
 class Accelerators : public GPUSampler::Source {
   public:
     std::optional<std::span<const Properties>> read() override;

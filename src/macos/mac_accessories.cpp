@@ -18,7 +18,7 @@ void forEachDictionary(CFArrayRef array, Visit visit) {
     }
 }
 
-/// A dictionary of devices by name.
+/// Adds the devices of a dictionary that is keyed by name.
 void addDevices(CFDictionaryRef dictionary, PropertyTable& table, ReportedDevices& devices) {
     std::vector<const void*> names(static_cast<std::size_t>(CFDictionaryGetCount(dictionary)));
     std::vector<const void*> values(names.size());
@@ -31,7 +31,7 @@ void addDevices(CFDictionaryRef dictionary, PropertyTable& table, ReportedDevice
     }
 }
 
-/// As a property list: what is printed for people is in their language.
+/// Asks for a property list: the readable report is in the user's language.
 std::optional<ReportedDevices> readReport(const std::string& profiler, std::chrono::milliseconds patience) {
     const auto text = programOutput({profiler, "SPBluetoothDataType", "-xml"}, patience);
     if (!text)

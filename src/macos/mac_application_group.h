@@ -5,8 +5,8 @@
 
 namespace vantrix {
 
-/// The first application group that the program is signed for (com.apple.security.application-groups); absent without
-/// a list of texts there.
+/// The first application group in the program's signature (com.apple.security.application-groups); absent when that is
+/// not a list of strings.
 std::optional<std::string> applicationGroup();
 
 } // namespace vantrix

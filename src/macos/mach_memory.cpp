@@ -10,7 +10,7 @@ namespace vantrix {
 namespace {
 
 std::optional<vm_statistics64_data_t> readPages(host_t host) {
-    std::array<integer_t, 104> words{}; // more than the record has: it grows from system to system
+    std::array<integer_t, 104> words{}; // larger than the record, which grows from release to release
     auto count = static_cast<mach_msg_type_number_t>(words.size());
     if (host_statistics64(host, HOST_VM_INFO64, words.data(), &count) != KERN_SUCCESS)
         return std::nullopt;

@@ -5,7 +5,7 @@
 
 namespace vantrix {
 
-/// The power-source service (IOPS…), and the registry's AppleSmartBattery.
+/// The power source service (IOPS…) and AppleSmartBattery in the I/O registry.
 class PowerSources : public BatterySampler::Source {
   public:
     std::optional<std::span<const Properties>> powerSources() override;

@@ -1,19 +1,19 @@
-# Objective-C keeps count of its objects by itself.
+# Automatic reference counting.
 target_compile_options(vantrix_app PRIVATE $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc>)
 foreach(framework AppKit CoreBluetooth CoreGraphics Foundation IOBluetooth ServiceManagement UserNotifications)
   target_link_libraries(vantrix_app PUBLIC "-framework ${framework}")
 endforeach()
 
-# A library of its own, as one target takes either Swift or the rest. What links it stays a C++ library or program, made
-# by the C++ compiler, which has to be told where Swift's libraries are.
+# A library of its own, as a target cannot mix Swift and C++. The C++ compiler still links everything, so it has to be
+# told where Swift's libraries are.
 set_target_properties(vantrix_app PROPERTIES LINKER_LANGUAGE CXX)
 file(GLOB SWIFT_FILES CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/macos/services/*.swift)
 add_library(vantrix_swift STATIC ${SWIFT_FILES})
 set_target_properties(vantrix_swift PROPERTIES Swift_MODULE_NAME VantrixSwift)
-# A single file is else taken for a main program, and made for the newest system.
+# Otherwise a single file is taken for a main program and built for the newest system.
 target_compile_options(vantrix_swift PRIVATE -parse-as-library
                        "SHELL:-target ${CMAKE_SYSTEM_PROCESSOR}-apple-macosx${CMAKE_OSX_DEPLOYMENT_TARGET}")
-# The compiler in /usr/bin only finds and starts the one that the libraries lie beside.
+# The compiler in /usr/bin is only a launcher; the libraries are next to the real one.
 execute_process(COMMAND xcrun --find swiftc OUTPUT_VARIABLE SWIFTC OUTPUT_STRIP_TRAILING_WHITESPACE
                 COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND xcrun --sdk macosx --show-sdk-path OUTPUT_VARIABLE SDK OUTPUT_STRIP_TRAILING_WHITESPACE

@@ -1,5 +1,4 @@
-# The frameworks behind the interfaces; libIOReport and the HID event system are looked up while the program runs.
-# Objective-C keeps count of its objects by itself.
+# libIOReport and the HID event system are looked up at run time. Objective-C uses automatic reference counting.
 find_package(Threads REQUIRED)
 target_compile_options(vantrix_sources PRIVATE $<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc>)
 foreach(framework AppKit CoreFoundation CoreLocation CoreWLAN Foundation IOKit Security SystemConfiguration)

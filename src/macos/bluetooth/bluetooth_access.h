@@ -2,15 +2,15 @@
 
 namespace vantrix {
 
-/// What the system would do if this process turned to Bluetooth.
+/// What happens if this process uses Bluetooth.
 enum class BluetoothAccess {
     allowed,
-    asksUser,   ///< it has not been decided; the user will be asked
-    denied,     ///< by the user or by whoever manages the machine
-    undescribed ///< end it: nothing tells the user what for
+    asksUser,   ///< not yet decided; the system will ask
+    denied,     ///< by the user or an administrator
+    undescribed ///< the system ends the process: it has no usage description
 };
 
-/// Asks nobody but the system's keeper of permissions.
+/// Asks the user nothing.
 BluetoothAccess bluetoothAccess();
 
 } // namespace vantrix

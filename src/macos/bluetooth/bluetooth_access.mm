@@ -8,8 +8,8 @@
 namespace vantrix {
 namespace {
 
-/// Permission is given to whoever is responsible for a process: itself, when the system's first process started it;
-/// otherwise the program that did, a terminal for example, and then it is that one's description that counts.
+/// The program responsible for a process needs the description: the process itself if launchd started it, otherwise the
+/// program that did, such as a terminal.
 bool isDescribed() {
     const bool answersForItself = ::getppid() == 1;
     return answersForItself && [NSBundle.mainBundle objectForInfoDictionaryKey:@"NSBluetoothAlwaysUsageDescription"];

@@ -10,10 +10,10 @@ NS_ASSUME_NONNULL_BEGIN
 
 namespace vantrix {
 
-/// In the form that is the system's own: short for an assigned number.
+/// Short for an assigned number, as the system writes it.
 CBUUID* nativeUUID(const BluetoothUUID& uuid);
 
-/// An LE device of CoreBluetooth, which stays attached to this program for as long as this lives.
+/// A CBPeripheral. Its connection lasts as long as this object.
 class MacPeripheral final : public BluetoothPeripheral {
   public:
     explicit MacPeripheral(CBPeripheral* native);
@@ -25,7 +25,7 @@ class MacPeripheral final : public BluetoothPeripheral {
 
     std::string identifier() const override;
     std::optional<std::string> name() const override;
-    /// The system keeps it to itself.
+    /// The system does not tell.
     std::string address() const override { return {}; }
     bool isConnected() const override { return native_.state == CBPeripheralStateConnected; }
 

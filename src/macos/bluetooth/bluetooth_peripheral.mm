@@ -6,7 +6,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// What failed is not told of.
+/// Ignores failures.
 @interface VantrixPeripheralDelegate : NSObject <CBPeripheralDelegate>
 @property(nonatomic, nullable) vantrix::MacPeripheral* owner; ///< null once it is gone
 @end
@@ -39,7 +39,7 @@ NS_ASSUME_NONNULL_END
 namespace vantrix {
 namespace {
 
-/// Two services of a device may be of one kind: the objects themselves are what tells them apart.
+/// Two services of a device may have the same UUID, so the object is the identity.
 std::string identifierOf(CBAttribute* attribute) {
     return std::to_string(reinterpret_cast<std::uintptr_t>((__bridge void*)attribute));
 }

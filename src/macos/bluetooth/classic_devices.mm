@@ -9,7 +9,7 @@
 namespace vantrix {
 namespace {
 
-/// The devices have these values, but the framework's headers leave them out: nothing promises that they stay.
+/// The devices have these values, but no header declares them, so they may go away.
 std::optional<int> levelOf(IOBluetoothDevice* device, NSString* key) {
     if (![device respondsToSelector:NSSelectorFromString(key)])
         return std::nullopt;

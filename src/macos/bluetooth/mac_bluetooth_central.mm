@@ -32,7 +32,7 @@ class MacCentral final : public BluetoothCentral {
 
     BluetoothState state() const override;
     std::vector<std::shared_ptr<BluetoothPeripheral>> connectedPeripherals(const BluetoothUUID& service) override;
-    /// Ends by itself when the peripheral is let go of.
+    /// The connection ends with the peripheral object.
     void connect(BluetoothPeripheral& peripheral) override;
 
     void stateUpdated();
@@ -44,7 +44,7 @@ class MacCentral final : public BluetoothCentral {
 
     CBCentralManager* manager_;
     VantrixCentralDelegate* events_;
-    std::map<std::string, std::weak_ptr<MacPeripheral>> peripherals_; // handed out, by identifier
+    std::map<std::string, std::weak_ptr<MacPeripheral>> peripherals_; // in use, by identifier
 };
 
 } // namespace vantrix
@@ -114,7 +114,7 @@ std::shared_ptr<MacPeripheral> MacCentral::known(const std::string& identifier) 
 std::shared_ptr<MacPeripheral> MacCentral::handOut(CBPeripheral* native) {
     const std::string identifier = textOf(native.identifier.UUIDString);
     auto peripheral = known(identifier);
-    // The system makes a new object for a device whose old one it has given up.
+    // The system may have released its object for the device and made a new one.
     if (!peripheral || peripheral->native() != native)
         peripherals_[identifier] = peripheral = std::make_shared<MacPeripheral>(native);
     return peripheral;

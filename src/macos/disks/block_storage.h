@@ -5,7 +5,7 @@
 
 namespace vantrix {
 
-/// Counters of every IOBlockStorageDriver: its dictionary "Statistics".
+/// The dictionary "Statistics" of every IOBlockStorageDriver.
 class BlockStorage : public DiskSampler::CounterSource {
   public:
     bool read(std::vector<DiskSampler::Counters>& disks) override;

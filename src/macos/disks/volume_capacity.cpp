@@ -7,7 +7,7 @@ namespace vantrix {
 
 std::optional<DiskSampler::Volume> VolumeCapacity::read() {
     const AutoreleasePool pool;
-    // A URL keeps the values it once told; a new one asks the file system.
+    // A URL caches its values; a new one asks the file system.
     const UInt8 root[] = {'/'};
     const CFRef url(CFURLCreateFromFileSystemRepresentation(kCFAllocatorDefault, root, sizeof root, true));
     const void* names[] = {kCFURLVolumeTotalCapacityKey, kCFURLVolumeAvailableCapacityForImportantUsageKey};

@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// Resource values of the file URL of "/"; available is what important use may still take, purgeable space included.
+/// Resource values of the file URL "/". The available space is what important usage may take, purgeable space included.
 class VolumeCapacity : public DiskSampler::VolumeSource {
   public:
     std::optional<DiskSampler::Volume> read() override;

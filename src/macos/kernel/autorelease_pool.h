@@ -1,15 +1,15 @@
 #pragma once
 
 extern "C" {
-// Of the Objective-C runtime; no header of the system declares them.
+// From the Objective-C runtime; no system header declares them.
 void* objc_autoreleasePoolPush(void);
 void objc_autoreleasePoolPop(void* pool);
 }
 
 namespace vantrix {
 
-/// Releases, at the end of its scope, what the frameworks left to the thread's pool: threads that no event loop of the
-/// system's drives have none, and would keep it all.
+/// Releases, at the end of its scope, what the frameworks autoreleased meanwhile. Threads without a native event loop
+/// have no pool of their own and would leak it.
 class AutoreleasePool {
   public:
     AutoreleasePool() : pool_(objc_autoreleasePoolPush()) {}

@@ -6,7 +6,7 @@
 
 namespace vantrix {
 
-/// Owns one reference that a create or copy function gave, or null. `Ref` is a reference type such as CFStringRef.
+/// Owns one reference returned by a create or copy function, or null. `Ref` is a reference type such as CFStringRef.
 template<typename Ref>
 class CFRef {
   public:
@@ -25,7 +25,7 @@ class CFRef {
     explicit operator bool() const { return ref_ != nullptr; }
     Ref get() const { return ref_; }
 
-    /// Where a function puts a reference that it creates. What was held is released.
+    /// For functions that return a reference through a pointer. Releases what was held.
     Ref* out() {
         *this = CFRef();
         return &ref_;
@@ -58,13 +58,13 @@ inline CFTypeID typeIDOf<CFDictionaryRef>() {
     return CFDictionaryGetTypeID();
 }
 
-/// The object where it is of the type, else null. The caller's reference stays the caller's.
+/// The object if it has this type, else null. Takes no reference.
 template<typename Ref>
 Ref as(CFTypeRef object) {
     return object && CFGetTypeID(object) == typeIDOf<Ref>() ? static_cast<Ref>(object) : nullptr;
 }
 
-/// What a dictionary holds under a key where it is of the type, else null; owned by the dictionary.
+/// The value under a key if it has this type, else null. The dictionary owns it.
 template<typename Ref>
 Ref valueAt(CFDictionaryRef dictionary, CFStringRef key) {
     return as<Ref>(CFDictionaryGetValue(dictionary, key));

@@ -13,24 +13,24 @@
 
 namespace vantrix {
 
-/// In UTF-8; absent for null and what is no text.
+/// In UTF-8; absent for null and anything but a string.
 std::optional<std::string> textOf(CFTypeRef object);
 
-/// Absent for null and what is no whole number.
+/// Absent for null and anything but a whole number.
 std::optional<std::int64_t> wholeNumberOf(CFTypeRef object);
 
-/// What dictionaries hold under the keys that somebody asks for.
+/// The values that dictionaries hold under a fixed set of keys.
 class PropertyTable {
   public:
-    /// `names` are literals.
+    /// `names` are string literals.
     PropertyTable(std::initializer_list<const char*> names);
 
     void clear();
 
-    /// Copies the numbers, truths and texts under these keys, none from null. The row holds until the next call.
+    /// Copies the numbers, booleans and strings under these keys; an empty row for null. Valid until the next call.
     const Properties& add(CFDictionaryRef dictionary);
 
-    /// One for each dictionary; they hold until the next call.
+    /// One per dictionary; valid until the next call.
     std::span<const Properties> rows() const { return rows_; }
 
   private:
@@ -41,7 +41,7 @@ class PropertyTable {
 
     std::vector<Key> keys_;
     std::vector<Properties> rows_;
-    std::deque<std::string> texts_; // the rows have views of them: growing moves none
+    std::deque<std::string> texts_; // a deque, as the rows hold views of them
 };
 
 } // namespace vantrix

@@ -6,7 +6,7 @@
 
 namespace vantrix {
 
-/// Owns one reference to an object of the I/O registry, or none.
+/// Owns one reference to an I/O registry object, or none.
 class IOObject {
   public:
     IOObject() = default;

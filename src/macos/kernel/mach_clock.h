@@ -6,7 +6,7 @@
 
 namespace vantrix {
 
-/// Seconds of a span in the unit of mach_absolute_time().
+/// A span of mach_absolute_time(), in seconds.
 double secondsOfMachTime(std::uint64_t span);
 
 /// mach_absolute_time(), which stands still while the machine sleeps.

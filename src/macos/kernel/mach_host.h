@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// Owns one reference to the host's port: every mach_host_self() adds one.
+/// Owns one reference to the host port: each mach_host_self() adds one.
 class MachHost {
   public:
     MachHost() : port_(mach_host_self()) {}
@@ -18,7 +18,7 @@ class MachHost {
     host_t port_;
 };
 
-/// Owns an array that a Mach call laid into the program's address space, and gives it back.
+/// Owns an array that a Mach call has mapped into this process.
 struct MachArray {
     MachArray() = default;
     MachArray(const MachArray&) = delete;
@@ -29,7 +29,7 @@ struct MachArray {
     }
 
     integer_t* data = nullptr;
-    mach_msg_type_number_t count = 0; ///< of integers
+    mach_msg_type_number_t count = 0; ///< integers
 };
 
 } // namespace vantrix

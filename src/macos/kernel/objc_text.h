@@ -7,7 +7,7 @@
 
 namespace vantrix {
 
-/// UTF-8; empty for nil and for text that has none.
+/// UTF-8; empty for nil and for text that cannot be converted.
 inline std::string textOf(NSString* text) {
     const char* bytes = text.UTF8String;
     return bytes ? bytes : std::string();

@@ -34,12 +34,12 @@ struct Pipe {
             fcntl(end, F_SETFD, FD_CLOEXEC);
     }
 
-    FileDescriptor output; ///< where one reads
-    FileDescriptor input;  ///< where one writes
+    FileDescriptor output; ///< the end to read from
+    FileDescriptor input;  ///< the end to write to
 };
 
-/// How a program starts: with nothing to read and nobody to complain to, in a group of its own, and ended by a broken
-/// pipe as usual, though this program ignores those.
+/// How the program starts: with no input, its errors discarded, in a process group of its own, and with the default
+/// action for SIGPIPE, which this program ignores.
 struct Start {
     explicit Start(int output) {
         sigset_t brokenPipe;
@@ -64,7 +64,7 @@ struct Start {
     bool isWhole = false;
 };
 
-/// A running program. It is killed, and what it started with it, unless it was waited for.
+/// A running program. Unless it has ended by itself, the destructor kills it and every process it started.
 class Child {
   public:
     Child(std::vector<std::string>& command, int output) {
@@ -91,7 +91,7 @@ class Child {
 
     explicit operator bool() const { return pid_ > 0; }
 
-    /// True when it ended in time and well.
+    /// Waits for the end. True when it exits before the deadline with status 0.
     bool succeeds(Deadline deadline) {
         int status = 0;
         pid_t ended = 0;
@@ -141,7 +141,7 @@ std::optional<std::string> programOutput(std::vector<std::string> command, std::
     if (!pipe.output)
         return std::nullopt;
     Child child(command, pipe.input.get());
-    pipe.input.close(); // so that the text ends with the child
+    pipe.input.close(); // or the text would never end
     if (!child)
         return std::nullopt;
     auto text = readToEnd(pipe.output.get(), deadline);

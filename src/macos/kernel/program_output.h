@@ -7,10 +7,9 @@
 
 namespace vantrix {
 
-/// What a program prints on standard output, read to its end. Absent when it cannot be started, fails, prints more
-/// than a mebibyte, or takes longer than `patience`: it is then killed with all that it started. It has ended in any
-/// case. `command` is the
-/// program's path and its arguments. Waits; off the main thread only.
+/// Runs a program and returns all of its standard output. Absent when it cannot be started, fails, prints more than a
+/// mebibyte, or takes longer than `patience`; it is then killed, with every process it started. `command` is the
+/// program's path and its arguments. Blocks: not for the main thread.
 std::optional<std::string> programOutput(std::vector<std::string> command, std::chrono::milliseconds patience);
 
 } // namespace vantrix

@@ -13,7 +13,7 @@ bool forEachService(const char* className, const std::function<void(const IOObje
 /// The first service of a class; empty when there is none.
 IOObject firstService(const char* className);
 
-/// One property of a service; null when it has none of that name.
+/// One property of a service; null when it is missing.
 CFRef<CFTypeRef> propertyOf(const IOObject& service, CFStringRef key);
 
 /// All properties of a service; null when they cannot be read.

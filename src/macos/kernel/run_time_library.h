@@ -6,10 +6,10 @@
 
 namespace vantrix {
 
-/// A library looked up while the program runs: its functions are in no header, and a machine may lack them.
+/// A library opened at run time: no header declares its functions, and a machine may lack them.
 class RunTimeLibrary {
   public:
-    /// Without a path, what the program itself is linked with.
+    /// Null: the libraries that the program is linked with.
     explicit RunTimeLibrary(const char* path) : handle_(dlopen(path, RTLD_NOW)) {}
 
     /// Finds a function by name; false when there is none.

@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// Owns the list of interface addresses as it is now.
+/// Owns a list of the interface addresses (getifaddrs).
 class InterfaceAddresses {
   public:
     InterfaceAddresses() {
@@ -18,7 +18,7 @@ class InterfaceAddresses {
             freeifaddrs(first_);
     }
 
-    /// Null when the list is empty or cannot be read; the entries are linked by `ifa_next`.
+    /// Null when the list is empty or cannot be read.
     const ifaddrs* first() const { return first_; }
 
   private:

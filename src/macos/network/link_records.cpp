@@ -24,7 +24,7 @@ bool LinkRecords::read(std::vector<NetworkSampler::Link>& links) {
     for (const ifaddrs* entry = addresses.first(); entry; entry = entry->ifa_next) {
         if (count == links.size())
             links.emplace_back();
-        NetworkSampler::Link& link = links[count++]; // in place: its name's memory serves every pass
+        NetworkSampler::Link& link = links[count++]; // reused, with the memory of its name
         link.name = entry->ifa_name;
         link.flags = entry->ifa_flags;
         link.counters = countersOf(*entry);

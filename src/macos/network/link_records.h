@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// getifaddrs; the link-level entries carry the counters.
+/// getifaddrs; the link-level entries hold the counters.
 class LinkRecords : public NetworkSampler::Source {
   public:
     bool read(std::vector<NetworkSampler::Link>& links) override;

@@ -6,8 +6,7 @@
 
 namespace vantrix {
 
-/// The system's keeper of location access (CLLocationManager), with its delegate in place. Main thread only; null when
-/// there is none.
+/// CLLocationManager. Main thread only.
 std::unique_ptr<LocationManager> makeLocationManager();
 
 } // namespace vantrix

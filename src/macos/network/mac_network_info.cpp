@@ -14,7 +14,7 @@ using Family = NetworkInfoSampler::AddressFamily;
 using Type = NetworkInfoSampler::InterfaceType;
 
 constexpr int passesIfFound = 30;
-constexpr int passesIfNotWhole = 5; // a new port may be in use before it is in the list
+constexpr int passesIfNotWhole = 5; // a new port may be in use before the list has it
 
 std::optional<std::string_view> viewOf(const std::optional<std::string>& text) {
     return text ? std::optional<std::string_view>(*text) : std::nullopt;

@@ -33,17 +33,17 @@ class MacNetworkInfo : public NetworkInfoSampler::Source {
     std::array<std::string, 2> primary_; // by family
     std::string address_;
 
-    // Listing the interfaces walks the registry: too dear for every pass.
+    // Listing the interfaces walks the registry: too slow for every pass.
     std::string described_;
     std::optional<NetworkInfoSampler::InterfaceType> type_;
     std::optional<std::string> displayName_;
     int passesLeft_ = 0; // until they are listed again
 
-    std::unique_ptr<WiFiClient> wifi_; // made when there is Wi-Fi to ask about
+    std::unique_ptr<WiFiClient> wifi_; // made when first needed
     std::optional<WiFiClient::Details> details_;
 };
 
-/// True when one of the system's network interfaces is of Wi-Fi.
+/// True when the machine has a Wi-Fi interface.
 bool hasWiFiInterface();
 
 } // namespace vantrix

@@ -7,7 +7,7 @@
 
 namespace vantrix {
 
-/// The system's Wi-Fi client: CoreWLAN, which only Objective-C reaches. One caller at a time.
+/// The system's Wi-Fi client, CoreWLAN, which is Objective-C only. One caller at a time.
 class WiFiClient {
   public:
     struct Details {
@@ -21,7 +21,7 @@ class WiFiClient {
     virtual ~WiFiClient() = default;
     /// Absent when the machine has no Wi-Fi interface of this name (interfaceWithName:).
     virtual std::optional<Details> read(std::string_view name) = 0;
-    /// Starts over with a fresh client, as a changed authorisation demands.
+    /// Replaces the client, as is needed after location access has changed.
     virtual void renew() = 0;
 };
 

@@ -29,7 +29,7 @@ class MacWiFiClient final : public WiFiClient {
         }
     }
 
-    /// The shared client keeps the connection that it was made with.
+    /// The shared client keeps its first connection.
     void renew() override { client_ = [[CWWiFiClient alloc] init]; }
 
   private:

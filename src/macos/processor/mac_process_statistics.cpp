@@ -6,7 +6,7 @@
 
 namespace vantrix {
 
-/// The system counts no time that the machine slept, so neither does the uptime.
+/// The uptime excludes sleep, as mach_absolute_time() does.
 std::optional<ProcessStatistics> processStatistics(int pid, const std::string&) {
     proc_taskinfo task{};
     rusage_info_v2 usage{};
@@ -20,7 +20,7 @@ std::optional<ProcessStatistics> processStatistics(int pid, const std::string&) 
     statistics.systemTime = secondsOfMachTime(task.pti_total_system);
     statistics.residentBytes = task.pti_resident_size;
     statistics.ownBytes = usage.ri_phys_footprint;
-    // Those that woke an idle processor are among these.
+    // These include those that woke an idle processor.
     statistics.wakeUps = usage.ri_interrupt_wkups;
     statistics.threads = task.pti_threadnum;
     return statistics;

@@ -6,7 +6,7 @@
 
 namespace vantrix {
 
-/// Copies the system value `name` to `buffer`. False when it is unknown or has another size than `size`.
+/// Copies the value `name` to `buffer`. False when it is unknown or its size is not `size`.
 bool readSystemValue(const char* name, void* buffer, std::size_t size);
 
 /// sysctlbyname.

@@ -72,7 +72,7 @@ class EnergyChannels : public IOReportSampler::Source {
     }
 
   private:
-    EnergyFunctions functions_; // first, so that what the library made goes before it
+    EnergyFunctions functions_; // first, so that the library is closed last
     CFRef<CFTypeRef> subscription_;
     CFRef<CFMutableDictionaryRef> subscribed_;
     CFRef<CFDictionaryRef> previous_;

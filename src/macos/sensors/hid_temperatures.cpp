@@ -17,7 +17,7 @@ struct HIDFunctions {
     void (*setMatching)(CFTypeRef client, CFDictionaryRef matching) = nullptr;
     CFArrayRef (*copyServices)(CFTypeRef client) = nullptr;
     CFTypeRef (*copyProperty)(CFTypeRef service, CFStringRef key) = nullptr;
-    // Nobody tells how wide the options are: zeros of 64 bits are zeros of any width.
+    // The width of the options is not documented: 64 zero bits are zero at any width.
     CFTypeRef (*copyEvent)(CFTypeRef service, std::int64_t type, std::int64_t options, std::int64_t more) = nullptr;
     double (*getFloat)(CFTypeRef event, std::int32_t field) = nullptr;
 
@@ -60,11 +60,11 @@ class HIDTemperatures : public HIDTemperatureSampler::Source {
         return event ? std::optional(functions_.getFloat(event.get(), temperatureLevel)) : std::nullopt;
     }
 
-    HIDFunctions functions_; // first, so that the client goes before the library
+    HIDFunctions functions_; // first, so that the library is closed last
     CFRef<CFTypeRef> client_;
 };
 
-/// Sensors that speak of temperature on the vendor's page.
+/// Matches temperature sensors on the vendor's usage page.
 CFRef<CFDictionaryRef> temperatureSensors() {
     const std::int32_t vendorPage = 0xff00;
     const std::int32_t temperatureSensor = 5;

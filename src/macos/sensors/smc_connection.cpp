@@ -8,7 +8,7 @@
 namespace vantrix {
 namespace {
 
-constexpr std::uint32_t exchangeRecords = 2; // the user client's only method that is used
+constexpr std::uint32_t exchangeRecords = 2; // the user client's method
 
 class SMCConnection : public SMC::Transport {
   public:

@@ -6,7 +6,7 @@
 
 namespace vantrix {
 
-/// The keys of the service AppleSMC, over a user client of its own; null when the service is missing or refuses.
+/// The keys of the service AppleSMC, over a user client; null when the service is missing or refuses.
 std::unique_ptr<SensorKeys> makeSensorKeys();
 
 } // namespace vantrix

@@ -5,7 +5,7 @@
 namespace vantrix {
 
 void activateProgram() {
-    // The toolkit activates windows alone, which brings nothing to the front in a program without a place in the dock.
+    // The toolkit activates only windows, which brings nothing to the front in a program without a Dock icon.
     [NSApp activateIgnoringOtherApps:YES];
 }
 

@@ -5,7 +5,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// Tells when anything about the appearance may have changed.
+/// Calls back when the appearance may have changed.
 @interface VantrixAppearanceObserver : NSObject
 - (instancetype)initWithChanged:(std::function<void()>)changed;
 - (void)stop;
@@ -84,7 +84,7 @@ Appearance currentAppearance() {
     return current;
 }
 
-/// The appearance of the application, with the accent colour and the display options of the system's settings.
+/// The application's appearance, and the accent colour and display options from System Settings.
 class MacAppearance final : public AppearanceSource {
   public:
     MacAppearance()

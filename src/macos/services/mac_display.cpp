@@ -17,12 +17,12 @@ std::shared_ptr<void> prepareDisplay(int argc, char** argv) {
     const CFRef<CFDictionaryRef> session(CGSessionCopyCurrentDictionary());
     if (!session)
         return nullptr;
-    // The status item and the popover are the system's own: no other kind of display could show them.
+    // The status item and the popover are native: no other platform plugin could show them.
     qputenv("QT_QPA_PLATFORM", cocoa);
     for (int i = 1; i + 1 < argc; ++i)
         if (!std::strcmp(argv[i], "-platform") || !std::strcmp(argv[i], "--platform"))
             argv[i + 1] = cocoa;
-    // Started by hand, outside its bundle, the program is still none with a place in the dock.
+    // No Dock icon either when the program is started by hand, outside its bundle.
     qputenv("QT_MAC_DISABLE_FOREGROUND_APPLICATION_TRANSFORM", "1");
     return std::make_shared<bool>(true);
 }
@@ -32,7 +32,7 @@ void drawOffscreen() {
 }
 
 void prepareTerminal() {
-    // The toolkit's other event loop knows descriptors and timers alone, not the system's main queue.
+    // The toolkit's other event loop does not serve the main dispatch queue.
     qputenv("QT_EVENT_DISPATCHER_CORE_FOUNDATION", "1");
 }
 
@@ -45,7 +45,7 @@ bool windowsCanFade() {
 }
 
 std::optional<std::string> unreadableRoot(const KernelRoots& /*roots*/) {
-    return std::nullopt; // its kernel shows itself in no folders
+    return std::nullopt; // there are no such folders here
 }
 
 } // namespace vantrix

@@ -21,7 +21,7 @@ FileDescriptor prepared(int socket) {
 } // namespace
 
 FileDescriptor makeLocalSocket() {
-    // A stream: this system has no packets that keep their order between processes.
+    // A stream: this system has no SOCK_SEQPACKET for local sockets.
     return prepared(::socket(AF_UNIX, SOCK_STREAM, 0));
 }
 
@@ -49,7 +49,7 @@ std::optional<int> peerProcess(int socket) {
 }
 
 std::string instancePrefix() {
-    // The folder of temporary files is the user's own.
+    // This folder belongs to the user.
     char folder[PATH_MAX];
     const std::size_t size = ::confstr(_CS_DARWIN_USER_TEMP_DIR, folder, sizeof folder);
     return size > 0 && size <= sizeof folder ? std::string(folder) + "vantrix" : std::string();

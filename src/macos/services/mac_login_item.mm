@@ -5,7 +5,7 @@
 namespace vantrix {
 namespace {
 
-/// The application itself, as the system's settings list it.
+/// The application itself, as System Settings lists it.
 class MacLoginItem final : public LoginItem {
   public:
     bool isEnabled() const override {

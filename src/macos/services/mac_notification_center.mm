@@ -35,7 +35,7 @@ class MacNotificationCenter final : public NotificationCenter {
   private:
     UNUserNotificationCenter* center_; ///< nil outside a bundle
     VantrixNotificationDelegate* delegate_;
-    std::vector<std::function<void(bool)>> answers_; ///< still owed
+    std::vector<std::function<void(bool)>> answers_; ///< not called yet
 };
 
 } // namespace vantrix
@@ -45,7 +45,7 @@ class MacNotificationCenter final : public NotificationCenter {
 - (void)userNotificationCenter:(UNUserNotificationCenter*)center
        willPresentNotification:(UNNotification*)notification
          withCompletionHandler:(void (^)(UNNotificationPresentationOptions options))completionHandler {
-    // Nothing promises that this comes on the main thread.
+    // This may come on any thread.
     dispatch_async(dispatch_get_main_queue(), ^{
       completionHandler(self.owner ? self.owner->presentationOptions() : 0);
     });
@@ -56,7 +56,7 @@ class MacNotificationCenter final : public NotificationCenter {
 namespace vantrix {
 
 MacNotificationCenter::MacNotificationCenter() : delegate_([[VantrixNotificationDelegate alloc] init]) {
-    // The system ends a program that asks for its centre without being an application.
+    // Outside a bundle, asking for the centre ends the program.
     if (NSBundle.mainBundle.bundleIdentifier)
         center_ = [UNUserNotificationCenter currentNotificationCenter];
     delegate_.owner = this;

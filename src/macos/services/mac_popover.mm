@@ -10,7 +10,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// Tells when the popover closes, and when it has closed, whoever closes it.
+/// Calls back when the popover is about to close and when it has closed, for whatever reason.
 @interface VantrixPopoverDelegate : NSObject <NSPopoverDelegate>
 - (instancetype)initWithClosing:(std::function<void()>)closing closed:(std::function<void()>)closed;
 @end
@@ -44,15 +44,14 @@ NS_ASSUME_NONNULL_END
 namespace vantrix {
 namespace {
 
-/// The number that a press in the window and its release have in common; absent when the event now handled is not of
-/// that type, or happened elsewhere.
+/// The event number, which a press and its release share; absent when the current event has another type or window.
 std::optional<NSInteger> clickNumber(NSEventType type, NSWindow* window) {
     NSEvent* event = NSApp.currentEvent;
     const bool isMeant = event && window && event.type == type && event.window == window;
     return isMeant ? std::optional<NSInteger>(event.eventNumber) : std::nullopt;
 }
 
-/// The system's popover (NSPopover) around the toolkit's view. It closes when the user turns elsewhere.
+/// An NSPopover around the toolkit's view. It closes when the user clicks elsewhere.
 class MacPopover final : public PopoverWindow {
   public:
     MacPopover(const Theme& theme, MakeView makeView) : theme_(theme), makeView_(std::move(makeView)) {
@@ -65,7 +64,7 @@ class MacPopover final : public PopoverWindow {
     ~MacPopover() override {
         popover_.delegate = nil;
         [popover_ close];
-        popover_.contentViewController = nil; // the toolkit's view goes first
+        popover_.contentViewController = nil; // before the toolkit's view is destroyed
     }
 
     bool isShown() const override { return popover_.shown; }
@@ -74,14 +73,14 @@ class MacPopover final : public PopoverWindow {
         @autoreleasepool {
             NSView* button = (__bridge NSView*)reinterpret_cast<void*>(item.nativeView());
             if (!button.window)
-                return; // to point at nothing is an error
+                return; // an error without one
             itemWindow_ = button.window;
             if (!content_)
                 makeContent();
             NSScreen* screen = button.window.screen ? button.window.screen : NSScreen.mainScreen;
             resize(popoverContentSize(screen ? screen.visibleFrame.size.height : 0.0));
             popover_.animates = !theme_.reducesMotion();
-            popover_.appearance = NSApp.effectiveAppearance; // not the menu bar's, which goes by the desktop's picture
+            popover_.appearance = NSApp.effectiveAppearance; // not the menu bar's, which depends on the wallpaper
             content_->show();
             [popover_ showRelativeToRect:button.bounds ofView:button preferredEdge:NSRectEdgeMinY];
             [view().window makeKeyWindow];
@@ -93,10 +92,10 @@ class MacPopover final : public PopoverWindow {
         @autoreleasepool {
             [popover_ close];
         }
-        closingClick_.reset(); // the next click is a new wish
+        closingClick_.reset(); // the next click opens it again
     }
 
-    /// The press of a click on the item may have closed the popover already; its release must not open it again.
+    /// The press on the item may have closed the popover already; its release must not open it again.
     void toggle(const StatusItem& item) override {
         const auto closing = std::exchange(closingClick_, std::nullopt);
         if (isShown())
@@ -115,7 +114,7 @@ class MacPopover final : public PopoverWindow {
 
     NSView* view() const { return (__bridge NSView*)reinterpret_cast<void*>(content_->winId()); }
 
-    /// Popover, ground and view at once: the view follows the ground by as much as that grows, not to its edges.
+    /// Also places the view anew: autoresizing only adds what the ground grows by.
     void resize(QSize size) {
         popover_.contentSize = size.toCGSize();
         [ground_ setFrameSize:size.toCGSize()];
@@ -123,7 +122,7 @@ class MacPopover final : public PopoverWindow {
         view().frame = ground_.bounds;
     }
 
-    /// Within a view of the system's, so that the toolkit makes no window for it.
+    /// Puts the toolkit's view into a native one, or the toolkit would make a window for it.
     void makeContent() {
         content_ = std::make_unique<PopoverContent>(theme_, makeView_(), [this] { close(); });
         ground_ = [[NSView alloc] initWithFrame:NSMakeRect(0.0, 0.0, content_->width(), content_->height())];
@@ -143,9 +142,9 @@ class MacPopover final : public PopoverWindow {
     std::unique_ptr<PopoverContent> content_;
     VantrixPopoverDelegate* delegate_;
     NSPopover* popover_;
-    NSView* ground_ = nil; ///< what the popover holds; the toolkit's view fills it
+    NSView* ground_ = nil; ///< the popover's content; the toolkit's view fills it
     __weak NSWindow* itemWindow_ = nil;
-    std::optional<NSInteger> closingClick_; ///< the one on the item whose press closed the popover
+    std::optional<NSInteger> closingClick_; ///< the click on the item whose press closed the popover
 };
 
 } // namespace

@@ -62,7 +62,7 @@ SourceDiagnosis loginItem() {
     return {"Login item", "SMAppService", SourceState::ok, makeLoginItem()->isEnabled() ? "on" : "off", {}};
 }
 
-/// The system's keepers of permissions and of login items answer from other processes; this waits for them.
+/// The answers come from other processes of the system; this waits for them.
 class MacServiceDiagnoses final : public ServiceDiagnoses {
   public:
     MacServiceDiagnoses() {

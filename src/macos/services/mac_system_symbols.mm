@@ -9,7 +9,7 @@
 namespace vantrix {
 namespace {
 
-/// Draws into the pixels of `image` from now on; null when it cannot.
+/// Draws into the pixels of `image`; null on failure.
 CFRef<CGContextRef> contextOf(QImage& image) {
     const CFRef<CGColorSpaceRef> space(CGColorSpaceCreateWithName(kCGColorSpaceSRGB));
     return CFRef<CGContextRef>(CGBitmapContextCreate(
@@ -18,7 +18,7 @@ CFRef<CGContextRef> contextOf(QImage& image) {
         static_cast<std::uint32_t>(kCGImageAlphaPremultipliedFirst) | kCGBitmapByteOrder32Little));
 }
 
-/// As it goes with medium type of that size, the weight of the texts beside it; nil where the system has none.
+/// At the weight of the texts beside it; nil where the system has no such symbol.
 NSImage* symbolOf(std::string_view name, double textSize) {
     NSImageSymbolConfiguration* looks = [NSImageSymbolConfiguration configurationWithPointSize:textSize
                                                                                         weight:NSFontWeightMedium];

@@ -5,13 +5,13 @@
 
 #import <Foundation/Foundation.h>
 
-/// In widget_center.swift.
+/// In mac_widget_center.swift.
 extern "C" void vantrixReloadAllTimelines();
 
 namespace vantrix {
 namespace {
 
-/// The settings that the programs of the group share, and the system's keeper of widgets.
+/// The shared settings of the application group, and WidgetKit.
 class MacWidgetCenter final : public WidgetCenter {
   public:
     explicit MacWidgetCenter(std::string_view group)
@@ -30,7 +30,7 @@ class MacWidgetCenter final : public WidgetCenter {
     }
 
   private:
-    NSUserDefaults* suite_; ///< nil when it could not be opened
+    NSUserDefaults* suite_; ///< nil if it cannot be opened
 };
 
 } // namespace

@@ -1,6 +1,6 @@
 import WidgetKit
 
-/// The widget centre can be reached from Swift alone; this is its one door for the rest of the program.
+/// WidgetCenter is Swift only; this makes it callable from C++.
 @_cdecl("vantrixReloadAllTimelines")
 public func reloadAllTimelines() {
     WidgetCenter.shared.reloadAllTimelines()

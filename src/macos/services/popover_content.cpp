@@ -13,7 +13,7 @@ QSize popoverContentSize(double visibleHeight) {
     return {PopoverView::contentWidth, popoverHeight(visibleHeight)};
 }
 
-// A window to the toolkit, but one that it makes a native view for and no native window.
+// A sub-window: the toolkit makes a native view for it and no native window.
 PopoverContent::PopoverContent(const Theme& theme, std::unique_ptr<QWidget> view, std::function<void()> dismiss)
     : QWidget(nullptr, Qt::Window | Qt::SubWindow), dismiss_(std::move(dismiss)) {
     setAttribute(Qt::WA_TranslucentBackground);

@@ -9,10 +9,10 @@ namespace vantrix {
 
 class Theme;
 
-/// The size of the popover on a screen whose visible area is that high, in points; 0: no screen.
+/// The popover's size for a screen's visible height, both in points; 0: no screen.
 QSize popoverContentSize(double visibleHeight);
 
-/// What the system's popover holds: the view on the popover's own ground. Asks to be closed when Escape is pressed.
+/// The content of the native popover, with a transparent background. Calls `dismiss` when Escape is pressed.
 class PopoverContent : public QWidget {
   public:
     /// `theme` outlives the content.

@@ -10,7 +10,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 namespace vantrix {
 
-/// What a colour of the system is in the appearance that is drawn for at present.
+/// A system colour, in the current drawing appearance.
 QColor resolved(NSColor* color);
 
 } // namespace vantrix

@@ -43,8 +43,8 @@ id nativeValue(const QVariant& value) {
 
 } // namespace
 
-/// A domain of the system's own settings, where this program and others may change them at any time. Each key is
-/// watched from its first reading on: only of watched keys the system tells what other programs change.
+/// NSUserDefaults, which this program and others may change at any time. Each key is observed from its first read: the
+/// system reports other programs' changes only to key-value observers.
 class NativeDefaultsStore final : public DefaultsStore {
   public:
     explicit NativeDefaultsStore(NSUserDefaults* defaults);
@@ -76,7 +76,7 @@ class NativeDefaultsStore final : public DefaultsStore {
                       ofObject:(id)object
                         change:(NSDictionary<NSKeyValueChangeKey, id>*)change
                        context:(void*)context {
-    // What the store itself writes comes back here within the writing.
+    // The store's own writes arrive here synchronously.
     if (NSThread.isMainThread && self.owner && self.owner->isWriting())
         return;
     dispatch_async(dispatch_get_main_queue(), ^{

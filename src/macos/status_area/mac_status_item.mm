@@ -8,7 +8,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-/// Hands the clicks on the status item's button on.
+/// Receives the clicks on the status item's button.
 @interface VantrixClickTarget : NSObject
 - (instancetype)initWithClicked:(std::function<void(const vantrix::StatusClick&)>)clicked;
 - (void)statusItemClicked:(NSView*)button;
@@ -29,8 +29,8 @@ NS_ASSUME_NONNULL_END
 
 - (void)statusItemClicked:(NSView*)button {
     using Button = vantrix::StatusClick::Button;
-    // The last event of all. When an assistive program presses the button, it is another one, and the click a plain
-    // one.
+    // The latest event, whatever it is: when an assistive program presses the button, it is no click on the button, and
+    // counts as a plain left click.
     NSEvent* event = NSApp.currentEvent;
     const bool right = event && event.type == NSEventTypeRightMouseUp;
     const bool left = event && event.type == NSEventTypeLeftMouseUp;
@@ -49,8 +49,8 @@ bool looksTheSame(const StatusContent& a, const StatusContent& b) {
            samePicture(a.items, b.items, a.style);
 }
 
-/// From the system's screens, whose first one has its lower left corner at the origin, to the toolkit's, which count
-/// downwards from that one's top.
+/// From the system's coordinates, which go up from the bottom of the first screen, to the toolkit's, which go down from
+/// its top.
 QRect fromScreen(NSRect rect) {
     const CGFloat height = NSScreen.screens.firstObject.frame.size.height;
     return QRectF(rect.origin.x, height - rect.origin.y - rect.size.height, rect.size.width, rect.size.height)
@@ -61,7 +61,7 @@ QRect fromScreen(NSRect rect) {
 class MacStatusItem final : public StatusItem {
   public:
     explicit MacStatusItem(Handlers handlers) {
-        // Neither a place in the dock nor a menu bar of its own.
+        // No Dock icon and no menu bar of its own.
         [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
         item_ = [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
         target_ = [[VantrixClickTarget alloc] initWithClicked:std::move(handlers.clicked)];
@@ -109,7 +109,7 @@ class MacStatusItem final : public StatusItem {
   private:
     NSStatusItem* item_;
     VantrixClickTarget* target_;
-    NSMenu* menu_ = nil; ///< the one that was shown last: what was chosen in it may be done after it has closed
+    NSMenu* menu_ = nil; ///< the last one shown: its chosen action may run after it has closed
     std::optional<StatusContent> shown_;
 };
 

@@ -12,7 +12,7 @@ NS_ASSUME_NONNULL_BEGIN
 
 namespace vantrix {
 
-/// A menu of the system's. It keeps what it needs of the entries.
+/// A native menu. It copies what it needs from the entries.
 NSMenu* makeNativeMenu(const std::vector<StatusMenuEntry>& entries);
 
 } // namespace vantrix

@@ -32,7 +32,7 @@ NS_ASSUME_NONNULL_END
 namespace vantrix {
 namespace {
 
-/// The key alone: the system adds the Command key, which Qt calls Control, by itself.
+/// The key without its modifier: the system adds Command, which Qt calls Control.
 NSString* keyEquivalent(const QKeySequence& shortcut) {
     if (shortcut.isEmpty())
         return @"";
@@ -47,7 +47,7 @@ NSMenuItem* makeItem(const StatusMenuEntry& entry) {
                                            keyEquivalent:keyEquivalent(entry.shortcut)];
     VantrixMenuAction* action = [[VantrixMenuAction alloc] initWithAction:entry.action];
     item.target = action;
-    item.representedObject = action; // a target alone is not kept alive
+    item.representedObject = action; // an item does not keep its target alive
     return item;
 }
 

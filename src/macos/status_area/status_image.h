@@ -11,8 +11,8 @@ NS_ASSUME_NONNULL_BEGIN
 
 namespace vantrix {
 
-/// The picture of a status item's content that `button` shows. It is drawn anew whenever the button is, in the colours
-/// of the button's appearance at that moment; without items it is the gauge, which the system colours.
+/// The image that `button` shows for the content. It is redrawn whenever the button is, in the colours of the button's
+/// appearance at that moment; without items it is the gauge, which the system colours.
 NSImage* statusImage(const StatusContent& content, NSView* button);
 
 } // namespace vantrix

@@ -23,7 +23,7 @@ MenuBarPalette currentPalette() {
             .red = resolved(NSColor.systemRedColor)};
 }
 
-/// Pixels per point of what is drawn on at present.
+/// Pixels per point.
 double scaleOf(CGContextRef context) {
     const CGAffineTransform toDevice = CGContextGetUserSpaceToDeviceSpaceTransform(context);
     return std::hypot(toDevice.a, toDevice.b);
@@ -60,11 +60,11 @@ NSImage* rowImage(const StatusContent& content, NSView* button) {
                                return YES;
                              }];
     [image setTemplate:NO];
-    image.cacheMode = NSImageCacheNever; // a kept picture would keep the colours of another appearance
+    image.cacheMode = NSImageCacheNever; // a cached picture would keep the colours of an old appearance
     return image;
 }
 
-/// For a system that has no such symbol.
+/// Where the system has no such symbol.
 NSImage* ownGauge() {
     return [NSImage imageWithSize:NSMakeSize(gaugeSide, gaugeSide)
                           flipped:NO
