@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "accessories/accessory_levels.h"
-#include "accessories/accessory_symbol.h"
+#include "support/ascii_case.h"
 
 namespace vantrix {
 namespace {

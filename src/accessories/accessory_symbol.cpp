@@ -1,16 +1,10 @@
 #include "accessories/accessory_symbol.h"
 
-#include <algorithm>
 #include <utility>
 
-namespace vantrix {
+#include "support/ascii_case.h"
 
-std::string loweredASCII(std::string_view text) {
-    std::string lowered(text);
-    std::transform(lowered.begin(), lowered.end(), lowered.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return lowered;
-}
+namespace vantrix {
 
 std::string symbolForAccessory(std::string_view name) {
     constexpr std::pair<std::string_view, const char*> words[] = {

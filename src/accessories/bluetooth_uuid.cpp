@@ -1,6 +1,6 @@
 #include "accessories/bluetooth_uuid.h"
 
-#include "accessories/accessory_symbol.h"
+#include "support/ascii_case.h"
 
 namespace vantrix {
 namespace {

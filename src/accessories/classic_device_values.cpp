@@ -1,15 +1,14 @@
 #include "accessories/classic_device_values.h"
 
+#include <algorithm>
+
+#include "support/ascii_case.h"
+
 namespace vantrix {
 
 std::string addressWithColons(std::string_view address) {
-    std::string result(address);
-    for (char& letter : result) {
-        if (letter == '-')
-            letter = ':';
-        else if (letter >= 'a' && letter <= 'f')
-            letter = static_cast<char>(letter - 'a' + 'A');
-    }
+    std::string result = raisedASCII(address);
+    std::replace(result.begin(), result.end(), '-', ':');
     return result;
 }
 

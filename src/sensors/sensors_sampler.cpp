@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "sensors/plausible_temperature.h"
+#include "support/ascii_case.h"
 
 namespace vantrix {
 namespace {
@@ -19,7 +20,7 @@ bool hasAny(std::string_view name, std::initializer_list<std::string_view> words
 
 bool isBattery(std::string_view name) {
     constexpr std::string_view word = "battery";
-    const auto isSame = [](char a, char b) { return (a >= 'A' && a <= 'Z' ? a - 'A' + 'a' : a) == b; };
+    const auto isSame = [](char a, char b) { return loweredASCII(a) == b; };
     return std::search(name.begin(), name.end(), word.begin(), word.end(), isSame) != name.end() ||
            hasAny(name, {"gas gauge"});
 }

@@ -1,10 +1,9 @@
 #include "linux/power_supply/power_supply.h"
 
-#include <algorithm>
-
 #include "linux/kernel/kernel_number.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
+#include "support/ascii_case.h"
 
 namespace vantrix {
 namespace {
@@ -35,13 +34,6 @@ constexpr Key keys[] = {
 };
 
 constexpr std::string_view prefix = "POWER_SUPPLY_";
-
-std::string fileName(std::string_view key) {
-    std::string name(key);
-    std::transform(name.begin(), name.end(), name.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return name;
-}
 
 std::optional<std::int64_t> plausible(std::optional<std::int64_t> value) {
     constexpr std::int64_t limit = 1'000'000'000'000; // a megawatt hour
@@ -111,7 +103,7 @@ std::optional<SupplyState> PowerSupply::read() {
 std::optional<SupplyState> PowerSupply::readSingly() {
     if (single_.empty()) {
         for (const Key& key : keys)
-            single_.emplace_back(folder_ + '/' + fileName(key.name));
+            single_.emplace_back(folder_ + '/' + loweredASCII(key.name));
         single_.emplace_back(folder_ + "/status");
     }
     SupplyState state;

@@ -7,6 +7,7 @@
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
 #include "linux/power_supply/power_supply.h"
+#include "support/ascii_case.h"
 #include "support/utf8.h"
 
 namespace vantrix {
@@ -66,10 +67,7 @@ std::string findAddress(std::string_view text) {
     constexpr std::size_t length = 17;
     while (text.size() >= length && !isAddressAt(text))
         text.remove_prefix(1);
-    std::string address(text.size() >= length ? text.substr(0, length) : std::string_view());
-    std::transform(address.begin(), address.end(), address.begin(),
-                   [](char c) { return c >= 'a' ? static_cast<char>(c - 'a' + 'A') : c; });
-    return address;
+    return text.size() >= length ? raisedASCII(text.substr(0, length)) : std::string();
 }
 
 std::optional<int> percentOfLevel(std::string_view word) {
