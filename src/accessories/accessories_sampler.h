@@ -21,14 +21,14 @@ class AccessoriesSampler {
     virtual Scan scan() = 0;
 };
 
-/// How a scan went: `origin`, the number of entries, then each with its level and the names of `others`, which tell
-/// none: "power_supply: 2: Mouse 64%, Pen 5%, Pad [no value]".
+/// How a scan went: `origin`, the number of entries, each with its level, then the names of `others`, which have none:
+/// "power_supply: 2: Mouse 64%, Pen 5%, Pad [no value]".
 std::string accessoriesDiagnostics(std::string_view origin, const std::vector<AccessoryBattery>& accessories,
                                    const std::vector<std::string>& others);
 
-/// One entry per device (and one for its case): every live reading, and what the scan found of devices that have none.
-/// Scanned devices come first; a device's place is that of its first mention. Entries are of one device when their
-/// addresses are the same, or their names where an address is unknown.
+/// One entry per device (and one for its case): its live reading, else what the scan found. In the order of first
+/// mention, scanned devices before live ones. Two entries are of one device when their addresses are the same, or their
+/// names where an address is unknown.
 std::vector<AccessoryBattery> combineAccessories(const std::vector<AccessoryBattery>& scanned,
                                                  const std::vector<AccessoryBattery>& live);
 

@@ -9,8 +9,8 @@ struct AccessoryBattery {
     int percent = 0; ///< charge, 0 to 100
     bool isCharging = false;
     std::string symbol; ///< name of the symbol that pictures the accessory
-    /// Of its radio, "AA:BB:CC:DD:EE:FF", or what else the system tells it by; empty when unknown. It tells devices
-    /// apart and is no part of what is shown.
+    /// The radio's, "AA:BB:CC:DD:EE:FF", or whatever else the system knows it by; empty when unknown. It tells devices
+    /// apart, but is never shown and so not compared.
     std::string address = {};
 
     bool operator==(const AccessoryBattery& other) const {

@@ -8,7 +8,7 @@
 
 namespace vantrix {
 
-/// The levels that one accessory may tell, in percent.
+/// The levels that one accessory may report, in percent.
 struct AccessoryLevels {
     std::optional<int> single;
     std::optional<int> combined;
@@ -21,8 +21,8 @@ struct AccessoryLevels {
     std::optional<int> main() const;
 };
 
-/// Appends the accessory with its main level and, where its case tells one, an entry for that: the name followed by
-/// " case". Appends nothing for levels that are absent. Levels are brought within 0 to 100.
+/// Appends the accessory with its main level and, where its case has one, an entry for that: the name followed by
+/// " case". Appends nothing for absent levels; others are brought within 0 to 100.
 void appendAccessory(std::vector<AccessoryBattery>& list, AccessoryBattery accessory, const AccessoryLevels& levels);
 
 /// True for the entry of a case.

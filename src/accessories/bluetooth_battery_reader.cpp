@@ -171,7 +171,7 @@ void BluetoothBatteryReader::readClassicDevices() {
         const std::string symbol = device.majorClass == audioClass ? "headphones" : symbolForAccessory(name);
         const std::size_t before = classic_.size();
         appendAccessory(classic_, {name, 0, false, symbol, device.address}, device.levels);
-        // Where only the case tells a level, its line stands for the device.
+        // Where only the case has a level, its line stands for the device.
         appendTo(classicInfo_, classic_.size() > before
                                    ? levelLine(classic_[before])
                                    : name + " [no value] class " + std::to_string(device.majorClass));

@@ -17,8 +17,8 @@ namespace vantrix {
 /// service, of classic devices by what the system publishes. Main thread only.
 class BluetoothBatteryReader final : private BluetoothCentral::Delegate, private BluetoothPeripheral::Delegate {
   public:
-    /// Nothing happens before the central tells its state. `classicDevices` may be null; `timer` starts when Bluetooth
-    /// is on for the first time.
+    /// Nothing happens before the central reports its state. `classicDevices` may be null; `timer` starts when
+    /// Bluetooth is on for the first time.
     BluetoothBatteryReader(std::unique_ptr<BluetoothCentral> central,
                            std::unique_ptr<ClassicBluetoothDevices> classicDevices,
                            std::unique_ptr<RepeatingTimer> timer);

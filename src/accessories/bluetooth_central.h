@@ -16,8 +16,8 @@ struct BluetoothAttribute {
     std::string identifier; ///< the system's own, to hand back to it
 };
 
-/// A Bluetooth LE device. Main thread only. Answers come through the delegate, within the call that asks or later;
-/// what fails is never answered.
+/// A Bluetooth LE device. Main thread only. Answers come through the delegate, during the call that asks or later; a
+/// request that fails gets none.
 class BluetoothPeripheral {
   public:
     class Delegate {
@@ -39,9 +39,9 @@ class BluetoothPeripheral {
     /// Stays the same for as long as the system knows the device.
     virtual std::string identifier() const = 0;
     virtual std::optional<std::string> name() const = 0;
-    /// Of its radio, "AA:BB:CC:DD:EE:FF"; empty where the system keeps it to itself.
+    /// The radio's, "AA:BB:CC:DD:EE:FF"; empty where the system keeps it secret.
     virtual std::string address() const = 0;
-    /// Connected for this program, so that it can be asked.
+    /// Connected to this program, so that it can be asked.
     virtual bool isConnected() const = 0;
 
     virtual void discoverServices(const BluetoothUUID& kind) = 0;
@@ -59,7 +59,7 @@ class BluetoothCentral {
   public:
     class Delegate {
       public:
-        /// The state is another, or, where the system tells of it, the devices connected are.
+        /// The state changed or, where the system reports that too, the set of connected devices.
         virtual void centralDidUpdateState() = 0;
         virtual void didConnect(BluetoothPeripheral& peripheral) = 0;
 
@@ -69,7 +69,7 @@ class BluetoothCentral {
 
     virtual ~BluetoothCentral() = default;
 
-    /// `unknown` until the delegate was told of another one.
+    /// `unknown` until the delegate hears of another one.
     virtual BluetoothState state() const = 0;
     /// The peripherals connected to the system, by whichever program, that offer a service.
     virtual std::vector<std::shared_ptr<BluetoothPeripheral>> connectedPeripherals(const BluetoothUUID& service) = 0;

@@ -28,7 +28,7 @@ std::optional<int> percentOf(std::optional<std::int64_t> number) {
 
 void add(ReportedDevices& devices, const std::string& name, std::string_view kind, std::string_view address,
          const AccessoryLevels& levels) {
-    // The words of the name come first: they know AirPods from other headphones.
+    // The name comes first: it tells AirPods from other headphones.
     const std::string symbol = symbolForAccessory(name + ' ' + std::string(kind));
     const std::size_t before = devices.accessories.size();
     appendAccessory(devices.accessories, {name, 0, false, symbol, std::string(address)}, levels);

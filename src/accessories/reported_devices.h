@@ -9,7 +9,7 @@
 
 namespace vantrix {
 
-/// The devices that one origin of a scan tells of.
+/// The devices that one origin of a scan lists.
 struct ReportedDevices {
     std::vector<AccessoryBattery> accessories; ///< with a level, in the order of their mention
     std::vector<std::string> others;           ///< names of those without one
@@ -24,8 +24,8 @@ struct ReportedDevices {
     void addInputDevice(const Properties& values);
 };
 
-/// Both origins in one list, the registry's word against the report's: it is the newer one. `report` is absent when
-/// there was none.
+/// Both origins in one list. Where both have a device, the registry's level stands: it is newer. `report` is absent
+/// when there was none.
 AccessoriesSampler::Scan scanOf(const std::optional<ReportedDevices>& report, const ReportedDevices& inputDevices);
 
 } // namespace vantrix

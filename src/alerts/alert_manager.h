@@ -16,13 +16,13 @@ namespace vantrix {
 
 class UserDefaults;
 
-/// Turns readings into notifications for conditions that last. Main thread only.
+/// Posts notifications about conditions that last. Main thread only.
 class AlertManager : public QObject {
     Q_OBJECT
   public:
     enum class Kind { cpu, memory, disk, battery, temperature, test };
 
-    /// The kinds by their names in identifiers, in the order of their evaluation.
+    /// The names of the kinds in identifiers, in the order of `Kind`.
     static constexpr std::array<std::string_view, 6> kindNames{"cpu",     "memory",      "disk",
                                                                "battery", "temperature", "test"};
 
@@ -38,8 +38,8 @@ class AlertManager : public QObject {
     /// Posts a notification at once; the next one of its kind takes its place.
     void send(Kind kind, const QString& title, const QString& body);
 
-    /// Posts the test notification if the system lets it. Hands back, perhaps much later, a text on how that went; not
-    /// once the manager is gone.
+    /// Posts the test notification if the system allows it. Calls `done`, perhaps much later, with a text on how that
+    /// went; never once the manager is gone.
     void sendTest(std::function<void(const QString& outcome)> done);
 
   private:

@@ -11,7 +11,7 @@ struct BatterySample {
     bool isPluggedIn = false;            ///< running on the power adapter
     std::optional<int> minutesRemaining; ///< to full while charging, else to empty; absent while still estimated
     std::optional<int> cycleCount;
-    std::optional<int> healthPercent;  ///< present full charge against the design's, at most 100
+    std::optional<int> healthPercent;  ///< present full charge as a share of the design's, at most 100
     std::optional<double> temperature; ///< °C
     std::optional<double> watts;       ///< into or out of the battery, always positive
 

@@ -14,11 +14,11 @@ class BatterySampler {
     class Source {
       public:
         virtual ~Source() = default;
-        /// The description of every power source; hold until the next call. Keys: "Type" ("InternalBattery"),
+        /// One description per power source, valid until the next call. Keys: "Type" ("InternalBattery"),
         /// "Current Capacity" of "Max Capacity", "Is Charging", "Power Source State" ("AC Power"), "Time to Empty" and
-        /// "Time to Full Charge" (minutes; negative while estimated). Absent when they cannot be listed.
+        /// "Time to Full Charge" (minutes; negative while still estimated). Absent when they cannot be listed.
         virtual std::optional<std::span<const Properties>> powerSources() = 0;
-        /// The battery's own registers, null when it has none; hold until the next call. Keys: "CycleCount",
+        /// The battery's own registers, valid until the next call; null when it has none. Keys: "CycleCount",
         /// "DesignCapacity", "AppleRawMaxCapacity" or "MaxCapacity" (one unit for all), "Temperature" (1/100 °C),
         /// "Voltage" (mV), "Amperage" or "InstantAmperage" (mA, negative while discharging).
         virtual const Properties* smartBattery() = 0;

@@ -17,7 +17,7 @@ struct CPUSample {
 
 class CPUSampler {
   public:
-    /// Cumulative ticks of one logical core; each counter starts over at 2^32.
+    /// Cumulative ticks of one logical core; each counter wraps at 2^32.
     struct Ticks {
         std::uint32_t user = 0;
         std::uint32_t system = 0;
@@ -39,8 +39,8 @@ class CPUSampler {
     explicit CPUSampler(Source& source) : source_(source) {}
 
     /// The load since the previous call; null when the counters cannot be read. The first call, and the first after
-    /// the number of cores changed, answers zeros: there is nothing to measure from. The record is the sampler's own
-    /// and holds until the next call, so that a pass allocates nothing. One caller at a time.
+    /// the number of cores changed, gives zeros: there is nothing to measure from. The record belongs to the sampler
+    /// and is valid until the next call, so that a pass allocates nothing. One caller at a time.
     const CPUSample* sample();
 
     /// True when the record that `sample` last returned only set the baseline and measured nothing.

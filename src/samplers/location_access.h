@@ -6,11 +6,11 @@
 
 namespace vantrix {
 
-/// The system's keeper of location access, which some systems demand before they tell the name of a Wi-Fi network.
+/// Where the system grants location access, which some systems require before they reveal a Wi-Fi network's name.
 class LocationManager {
   public:
     virtual ~LocationManager() = default;
-    /// In the system's numbers: 0 not determined, 3 authorised always.
+    /// The system's own numbers: 0 not determined, 3 authorised always.
     virtual std::int32_t authorizationStatus() const = 0;
     /// Asks the user; the answer arrives through `authorizationChanged`.
     virtual void requestAlwaysAuthorization() = 0;
@@ -40,7 +40,7 @@ class LocationAccess {
     /// The action behind "show the network name": asks the first time, later shows where to change the answer.
     void requestLocationAccess();
 
-    /// Called on the main thread after the status was read anew.
+    /// Called on the main thread after the status was read again.
     std::function<void()> onChange;
 
   private:

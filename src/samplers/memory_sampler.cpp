@@ -37,7 +37,7 @@ std::optional<MemorySample> MemorySampler::sample() {
     if (!statistics)
         return std::nullopt;
     const Statistics& s = *statistics;
-    // Two counters are not read at one instant: purgeable may exceed internal for a moment.
+    // The counters are not read at the same instant: purgeable may exceed internal for a moment.
     const auto purgeable = std::min(s.purgeableCount, s.internalPageCount);
     MemorySample sample;
     sample.total = s.physicalMemory;

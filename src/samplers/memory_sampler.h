@@ -11,9 +11,9 @@ struct MemorySample {
 
     std::uint64_t total = 0;      ///< installed
     std::uint64_t app = 0;        ///< anonymous memory of applications that cannot simply be dropped
-    std::uint64_t wired = 0;      ///< memory that can never leave
+    std::uint64_t wired = 0;      ///< memory that can never be paged out
     std::uint64_t compressed = 0; ///< held by the memory compressor
-    std::uint64_t swapUsed = 0;   ///< 0 as well when it cannot be read
+    std::uint64_t swapUsed = 0;   ///< 0 also when it cannot be read
     Pressure pressure = Pressure::normal;
 
     bool operator==(const MemorySample&) const = default;
@@ -30,7 +30,7 @@ double usedFraction(const MemorySample& memory);
 
 class MemorySampler {
   public:
-    /// The kernel's own figures; counts are of pages.
+    /// The kernel's own figures; each count is in pages.
     struct Statistics {
         std::uint64_t wireCount = 0;
         std::uint64_t purgeableCount = 0;

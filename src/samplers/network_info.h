@@ -15,7 +15,7 @@ struct NetworkInfo {
     std::optional<std::string> displayName; ///< what the system calls it
     std::optional<std::string> localIP;     ///< IPv4, numeric
     std::optional<std::string> ssid;        ///< Wi-Fi network name
-    std::optional<int> rssi;                ///< received signal, dBm
+    std::optional<int> rssi;                ///< received signal strength, dBm
     std::optional<int> noise;               ///< dBm
     std::optional<double> linkSpeedMbps;    ///< transmit rate, Mbit/s
     bool ssidHiddenByPrivacy = false;       ///< associated, but the system withheld the name
@@ -27,7 +27,7 @@ struct NetworkInfo {
 /// "wifi", "ethernet", "other" or "offline".
 const char* wordOf(NetworkInfo::Kind kind);
 
-/// How good a received signal of `rssi` dBm is, in English; absent when the signal is not known.
+/// An English word for a signal of `rssi` dBm; absent when its strength is unknown.
 std::optional<std::string_view> signalQuality(std::optional<int> rssi);
 
 } // namespace vantrix

@@ -3,7 +3,7 @@
 namespace vantrix {
 namespace {
 
-/// An empty text in the memory that `text` has already.
+/// Empties `text` but keeps its memory.
 std::string& emptied(std::optional<std::string>& text) {
     if (!text)
         text.emplace();

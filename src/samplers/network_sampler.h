@@ -19,7 +19,7 @@ struct NetworkSample {
 
 class NetworkSampler {
   public:
-    /// Cumulative bytes of one interface; each counter starts over at 2^32.
+    /// Cumulative bytes of one interface; each counter wraps at 2^32.
     struct Counters {
         std::uint32_t received = 0;
         std::uint32_t sent = 0;

@@ -13,7 +13,7 @@ class ProcessorDescription {
     /// `information` outlives the description.
     explicit ProcessorDescription(const SystemInformation& information) : information_(information) {}
 
-    /// The maker's name of the processor; "CPU" when the system does not tell.
+    /// The maker's name for the processor; "CPU" when the system does not say.
     const std::string& brand() const;
 
     /// Localised: "10 cores (8P + 2E)", or "8 cores" where the kinds of core are not told apart.

@@ -13,7 +13,7 @@ class HIDTemperatureSampler {
     /// One temperature sensor of the system's list. An entry without a temperature keeps its place in the list.
     struct Service {
         std::optional<std::string> product;
-        std::optional<double> temperature; ///< °C, as the sensor tells it
+        std::optional<double> temperature; ///< °C, as the sensor reports it
     };
 
     class Source {
@@ -26,8 +26,8 @@ class HIDTemperatureSampler {
     /// `source` outlives the sampler.
     explicit HIDTemperatureSampler(Source& source) : source_(source) {}
 
-    /// The sensors whose temperature is plausible (0 to 150 °C, both excluded), in the system's order; a sensor
-    /// without a name is called "Sensor " and its place in that order, from 0. Holds until the next call.
+    /// The sensors with a plausible temperature, in the system's order; one without a name is called "Sensor " and its
+    /// place in that order, from 0. Valid until the next call.
     const std::vector<TemperatureReading>& read();
 
   private:

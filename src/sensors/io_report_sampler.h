@@ -26,7 +26,7 @@ class IOReportSampler {
         /// Remembers all counters as they are now, and those of the snapshot before. False when they cannot be read;
         /// the snapshots taken earlier then stay.
         virtual bool takeSnapshot() = 0;
-        /// Replaces `channels` by the growth between the last two snapshots. False when it cannot be told; `channels`
+        /// Replaces `channels` by the growth between the last two snapshots. False when it cannot be read; `channels`
         /// is then unspecified.
         virtual bool readDifference(std::vector<Channel>& channels) = 0;
     };
@@ -35,7 +35,7 @@ class IOReportSampler {
     IOReportSampler(Source& source, const Clock& clock) : source_(source), clock_(clock) {}
 
     /// The average power since the previous call. Absent on the first call, when no more than 0.1 s have passed, and
-    /// when no channel tells of a component with a plausible power.
+    /// when no channel gives a component a plausible power.
     std::optional<ComponentPower> read();
 
   private:

@@ -126,8 +126,8 @@ void SensorsSampler::deriveTemperatures(const std::vector<TemperatureReading>& r
     sample_.battery = battery.mean();
 }
 
-/// Hottest first, equal values in their order. From pass to pass little changes its place, so that the order of the
-/// last one is nearly that of this.
+/// Hottest first, equal values in the order of the list. An insertion sort, which starts from the order of the last
+/// pass: few places change from one pass to the next.
 void SensorsSampler::sortByValue(const std::vector<TemperatureReading>& readings) {
     if (order_.size() != readings.size()) {
         order_.resize(readings.size());

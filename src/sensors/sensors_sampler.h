@@ -19,8 +19,8 @@ class SensorsSampler {
     SensorsSampler(SensorKeys* keys, HIDTemperatureSampler::Source* temperatures, IOReportSampler::Source* energy,
                    const Clock& clock);
 
-    /// The record is the sampler's own and holds until the next call, so that a pass allocates nothing. One caller at
-    /// a time.
+    /// The record belongs to the sampler and is valid until the next call, so that a pass allocates nothing. One
+    /// caller at a time.
     const SensorsSample& sample();
 
   private:
@@ -45,8 +45,8 @@ class SensorsSampler {
     std::optional<HIDTemperatureSampler> hid_;
     std::optional<IOReportSampler> ioReport_;
     std::optional<ComponentPower> lastComponents_;
-    std::vector<Groups> groups_;     // of the sensors in their order, as of the last pass
-    std::vector<std::size_t> order_; // places of the sensors, hottest first
+    std::vector<Groups> groups_;     // by place in the list, as of the last pass
+    std::vector<std::size_t> order_; // places in the list, hottest first
     SensorsSample sample_;
 };
 

@@ -14,12 +14,12 @@ std::uint64_t checkedAdd(std::uint64_t a, std::uint64_t b, const char* what);
 /// a × b; a product past 64 bits is a fault, reported with `what`.
 std::uint64_t checkedMultiply(std::uint64_t a, std::uint64_t b, const char* what);
 
-/// The growth of a 32-bit counter that starts over at 2^32.
+/// The growth of a 32-bit counter that wraps at 2^32.
 constexpr std::uint32_t wrappingDifference(std::uint32_t now, std::uint32_t before) {
     return now - before;
 }
 
-/// The growth of a 64-bit counter that never wraps: one that went down was reset and has grown by nothing.
+/// The growth of a 64-bit counter, which never wraps; 0 for one that went down, because it was reset.
 constexpr std::uint64_t clampedDifference(std::uint64_t now, std::uint64_t before) {
     return now > before ? now - before : 0;
 }

@@ -7,8 +7,8 @@
 namespace vantrix {
 namespace {
 
-/// Streams, because printf follows the process's locale, and a Mac's standard library knows std::to_chars for fractions
-/// from 13.3 on only.
+/// Streams, because printf follows the process's locale, and a Mac's standard library has std::to_chars for fractions
+/// only from 13.3 on.
 std::string written(double value, std::ios_base::fmtflags notation, int digits) {
     std::ostringstream text;
     text.imbue(std::locale::classic());

@@ -4,11 +4,10 @@
 
 namespace vantrix {
 
-/// With that many digits after the point, rounded. The point is '.' whatever the process's locale is.
+/// `value` rounded to `decimals` digits after the point, which is '.' in every locale.
 std::string fixedDecimal(double value, int decimals);
 
-/// The shortest of 15 to 17 significant digits that reads back as the same `value`. The point is '.' whatever the
-/// process's locale is.
+/// `value` in as few of 15 to 17 significant digits as read back as the same number. The point is '.' in every locale.
 std::string roundTripDecimal(double value);
 
 } // namespace vantrix

@@ -7,7 +7,7 @@
 
 namespace vantrix {
 
-/// Looks a user-visible text up by its English form; `count` chooses among its plural forms where it has any. Texts
+/// Looks up a user-visible text by its English form; `count` chooses among its plural forms where it has any. Texts
 /// with values in them use printf-like "%lld" and "%@" marks, filled in by `formatted`, so that a translation may
 /// reorder them with "%2$lld".
 using Translator = std::string (*)(std::string_view english, std::optional<long long> count);

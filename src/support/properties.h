@@ -11,11 +11,11 @@
 
 namespace vantrix {
 
-/// What a system service tells of one object: numbers, truths and texts by key. Never allocates: keys and texts are
+/// What a system service says about one object: numbers, booleans and texts by key. Never allocates: keys and texts are
 /// views of what outlives the dictionary, and only the keys that a rule asks for are ever put in.
 class Properties {
   public:
-    /// A number that is unsigned in its register keeps its 64 bits.
+    /// An unsigned 64-bit number is kept with its bits as they are.
     using Value = std::variant<bool, std::int64_t, double, std::string_view>;
 
     static constexpr std::size_t capacity = 12;
@@ -31,13 +31,13 @@ class Properties {
     /// Replaces the value of a key. More than `capacity` keys are a fault.
     void set(std::string_view key, Value value);
 
-    /// A number with its fraction cut off; absent when the key is missing or no number within 64 bits.
+    /// A number without its fraction; absent when the key is missing or its value is no number within 64 bits.
     std::optional<std::int64_t> integer(std::string_view key) const;
-    /// Absent when the key is missing or no number.
+    /// Absent when the key is missing or its value is no finite number.
     std::optional<double> number(std::string_view key) const;
-    /// Absent when the key is missing or no truth value.
+    /// Absent when the key is missing or its value is no boolean.
     std::optional<bool> boolean(std::string_view key) const;
-    /// Absent when the key is missing or no text.
+    /// Absent when the key is missing or its value is no text.
     std::optional<std::string_view> text(std::string_view key) const;
 
   private:

@@ -10,7 +10,7 @@
 namespace vantrix {
 namespace {
 
-/// Digits after the point, by unit from kilobytes up: more where one unit spans more of a disk or a memory.
+/// The most digits after the point, by unit from kilobytes up.
 constexpr std::array decimals{0, 1, 2, 2, 2, 2};
 
 std::string unitText(std::size_t unit) {
@@ -34,7 +34,7 @@ QString withUnit(const QString& value, std::size_t unit) {
     return QString::fromStdString(formatted(unitText(unit), {value.toStdString()}));
 }
 
-/// `value` rounded to `digits` after the point, without zeros at the end.
+/// `value` rounded to `digits` after the point, without trailing zeros.
 QString trimmed(double value, int digits) {
     double scale = std::pow(10.0, digits);
     while (digits > 0 && std::fmod(std::round(value * scale), 10.0) == 0.0) {

@@ -7,7 +7,7 @@ namespace {
 struct Lead {
     std::size_t length = 0; // 0: no sequence begins with this byte
     char32_t bits = 0;
-    char32_t least = 0; // smaller values have a shorter form, which alone is valid
+    char32_t least = 0; // a smaller value has a shorter form, and only that is valid
 };
 
 Lead leadOf(unsigned char byte) {

@@ -15,8 +15,8 @@ inline double secondsSince2001() {
     return std::chrono::duration<double>(std::chrono::system_clock::now() - reference).count();
 }
 
-/// True when `seconds` have passed from `start` to `now`, or `start` is absent: the distant past. A clock that was set
-/// back moves the start along, or what waits for it might wait for years.
+/// True when `seconds` have passed from `start` to `now`, or `start` is absent: the distant past. When the clock was
+/// set back, `start` becomes `now`, or the wait might last for years.
 inline bool havePassed(double seconds, std::optional<double>& start, double now) {
     if (start && now < *start)
         start = now;
