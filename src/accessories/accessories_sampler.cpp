@@ -4,6 +4,7 @@
 
 #include "accessories/accessory_levels.h"
 #include "support/ascii_case.h"
+#include "support/text_format.h"
 
 namespace vantrix {
 namespace {
@@ -25,17 +26,12 @@ bool isSameDevice(const AccessoryBattery& a, const AccessoryBattery& b) {
 
 std::string accessoriesDiagnostics(std::string_view origin, const std::vector<AccessoryBattery>& accessories,
                                    const std::vector<std::string>& others) {
-    std::string text = std::string(origin) + ": " + std::to_string(accessories.size());
-    std::string_view separator = ": ";
-    const auto append = [&](const std::string& entry) {
-        text.append(separator).append(entry);
-        separator = ", ";
-    };
+    std::string list;
     for (const AccessoryBattery& accessory : accessories)
-        append(accessory.name + ' ' + std::to_string(accessory.percent) + '%');
+        appendToList(list, namedLevel(accessory));
     for (const std::string& name : others)
-        append(name + " [no value]");
-    return text;
+        appendToList(list, name + " [no value]");
+    return std::string(origin) + ": " + std::to_string(accessories.size()) + (list.empty() ? "" : ": " + list);
 }
 
 std::vector<AccessoryBattery> combineAccessories(const std::vector<AccessoryBattery>& scanned,

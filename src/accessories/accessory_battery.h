@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstdint>
 #include <string>
 
 namespace vantrix {
@@ -18,5 +20,15 @@ struct AccessoryBattery {
                symbol == other.symbol;
     }
 };
+
+/// "Mouse 64%", for a bug report.
+inline std::string namedLevel(const AccessoryBattery& accessory) {
+    return accessory.name + ' ' + std::to_string(accessory.percent) + '%';
+}
+
+/// A reported level, brought within 0 to 100.
+constexpr int boundedPercent(std::int64_t level) {
+    return static_cast<int>(std::clamp<std::int64_t>(level, 0, 100));
+}
 
 } // namespace vantrix

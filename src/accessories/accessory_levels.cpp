@@ -21,12 +21,11 @@ void appendAccessory(std::vector<AccessoryBattery>& list, AccessoryBattery acces
     const std::string name = accessory.name;
     const std::string address = accessory.address;
     if (const auto level = levels.main()) {
-        accessory.percent = std::clamp(*level, 0, 100);
+        accessory.percent = boundedPercent(*level);
         list.push_back(std::move(accessory));
     }
     if (levels.box)
-        list.push_back(
-            {name + std::string(caseSuffix), std::clamp(*levels.box, 0, 100), false, "earbuds.case", address});
+        list.push_back({name + std::string(caseSuffix), boundedPercent(*levels.box), false, "earbuds.case", address});
 }
 
 bool isCase(const AccessoryBattery& accessory) {

@@ -4,13 +4,13 @@
 #include <utility>
 
 #include "accessories/accessory_symbol.h"
+#include "support/text_format.h"
 
 namespace vantrix {
 namespace {
 
 constexpr double refreshInterval = 60.0; // seconds
 constexpr double refreshTolerance = 6.0; // seconds
-constexpr int fullLevel = 100;
 constexpr int audioClass = 4;
 constexpr const char* namelessDevice = "Bluetooth device";
 
@@ -41,14 +41,6 @@ std::string nameOf(const ClassicBluetoothDevices::Device& device) {
     if (!device.name.empty())
         return device.name;
     return device.address.empty() ? namelessDevice : device.address;
-}
-
-std::string levelLine(const AccessoryBattery& accessory) {
-    return accessory.name + ' ' + std::to_string(accessory.percent) + '%';
-}
-
-void appendTo(std::string& list, const std::string& entry) {
-    list += list.empty() ? entry : ", " + entry;
 }
 
 } // namespace
@@ -155,7 +147,7 @@ void BluetoothBatteryReader::didUpdateValue(BluetoothPeripheral& peripheral, con
                                             const std::vector<std::uint8_t>& value) {
     if (characteristic.uuid != batteryLevel || value.empty())
         return;
-    levels_[peripheral.identifier()] = std::min<int>(value.front(), fullLevel);
+    levels_[peripheral.identifier()] = boundedPercent(value.front());
     changed();
 }
 
@@ -172,9 +164,9 @@ void BluetoothBatteryReader::readClassicDevices() {
         const std::size_t before = classic_.size();
         appendAccessory(classic_, {name, 0, false, symbol, device.address}, device.levels);
         // Where only the case has a level, its line stands for the device.
-        appendTo(classicInfo_, classic_.size() > before
-                                   ? levelLine(classic_[before])
-                                   : name + " [no value] class " + std::to_string(device.majorClass));
+        appendToList(classicInfo_, classic_.size() > before
+                                       ? namedLevel(classic_[before])
+                                       : name + " [no value] class " + std::to_string(device.majorClass));
     }
 }
 
@@ -200,7 +192,7 @@ std::vector<AccessoryBattery> BluetoothBatteryReader::all() const {
 std::string BluetoothBatteryReader::diagnostics() const {
     std::string levels;
     for (const AccessoryBattery& reading : readings())
-        appendTo(levels, levelLine(reading));
+        appendToList(levels, namedLevel(reading));
     std::string text = status_ + ", " + std::to_string(peripherals_.size()) + " with battery service";
     if (!levels.empty())
         text += ": " + levels;

@@ -22,10 +22,6 @@ std::optional<int> parsePercent(std::optional<std::string_view> text) {
     return isPercent ? std::optional(percent) : std::nullopt;
 }
 
-std::optional<int> percentOf(std::optional<std::int64_t> number) {
-    return number ? std::optional(static_cast<int>(std::clamp<std::int64_t>(*number, 0, 100))) : std::nullopt;
-}
-
 void add(ReportedDevices& devices, const std::string& name, std::string_view kind, std::string_view address,
          const AccessoryLevels& levels) {
     // The name comes first: it tells AirPods from other headphones.
@@ -52,7 +48,8 @@ void ReportedDevices::addInputDevice(const Properties& values) {
     if (!name)
         return;
     AccessoryLevels levels;
-    levels.single = percentOf(values.integer("BatteryPercent"));
+    if (const auto percent = values.integer("BatteryPercent"))
+        levels.single = boundedPercent(*percent);
     add(*this, std::string(*name), "", values.text("DeviceAddress").value_or(""), levels);
 }
 

@@ -1,5 +1,6 @@
 #include "alerts/alert_manager.h"
 
+#include <initializer_list>
 #include <utility>
 
 #include <QPointer>
@@ -25,14 +26,8 @@ constexpr std::size_t indexOf(Kind kind) {
     return static_cast<std::size_t>(kind);
 }
 
-QString localizedText(std::string_view english) {
-    return QString::fromStdString(localized(english));
-}
-
-/// `english` looked up, with the values in it.
-template<typename... Value>
-QString localizedText(std::string_view english, const Value&... values) {
-    return QString::fromStdString(formatted(localized(english), {std::string_view(values)...}));
+QString localizedText(std::string_view english, std::initializer_list<std::string_view> values = {}) {
+    return QString::fromStdString(formatted(localized(english), values));
 }
 
 std::string temperatureText(double celsius) {
@@ -107,21 +102,21 @@ AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readin
     switch (kind) {
     case Kind::cpu:
         return {localizedText("High CPU usage"),
-                localizedText("The CPU has been at %@ or more for a while.", compactPercent(readings.cpu.total))};
+                localizedText("The CPU has been at %@ or more for a while.", {compactPercent(readings.cpu.total)})};
     case Kind::memory:
         return {localizedText("Memory is running low"),
                 localizedText("%@ of %@ in use and the system is under memory pressure.",
-                              memoryText(usedMemory(readings.memory)).toStdString(),
-                              memoryText(readings.memory.total).toStdString())};
+                              {memoryText(usedMemory(readings.memory)).toStdString(),
+                               memoryText(readings.memory.total).toStdString()})};
     case Kind::disk:
         return {localizedText("Disk almost full"),
-                localizedText("Only %@ free on the startup disk.", byteText(readings.disk.available).toStdString())};
+                localizedText("Only %@ free on the startup disk.", {byteText(readings.disk.available).toStdString()})};
     case Kind::battery:
         return {localizedText("Battery low"),
-                localizedText("%@ left. Plug in the charger.", std::to_string(readings.battery->percent) + '%')};
+                localizedText("%@ left. Plug in the charger.", {std::to_string(readings.battery->percent) + '%'})};
     case Kind::temperature:
         return {localizedText("CPU is running hot"),
-                localizedText("The CPU temperature is %@.", temperatureText(*readings.sensors.cpu))};
+                localizedText("The CPU temperature is %@.", {temperatureText(*readings.sensors.cpu)})};
     case Kind::test:
         break;
     }

@@ -25,7 +25,7 @@ std::string networkText(const NetworkSample& network) {
 std::string signalText(const NetworkInfo& info) {
     std::string text = info.rssi ? std::to_string(*info.rssi) + " dBm" : std::string();
     if (info.linkSpeedMbps)
-        text += (text.empty() ? "" : ", ") + roundedInteger(*info.linkSpeedMbps) + " Mbit/s";
+        appendToList(text, roundedInteger(*info.linkSpeedMbps) + " Mbit/s");
     return text;
 }
 
@@ -52,7 +52,7 @@ std::string temperaturesText(const SensorsSample& sensors) {
 std::string fansText(const SensorsSample& sensors) {
     std::string text;
     for (const FanReading& fan : sensors.fans)
-        text += (text.empty() ? "" : ", ") + roundedInteger(fan.rpm);
+        appendToList(text, roundedInteger(fan.rpm));
     return text.empty() ? text : text + " rpm";
 }
 
@@ -68,7 +68,7 @@ std::string batteryText(const BatterySample& battery) {
 std::string accessoriesText(const AccessoriesSampler::Scan& scan) {
     std::string text;
     for (const AccessoryBattery& accessory : scan.accessories)
-        text += (text.empty() ? "" : ", ") + percent(accessory.percent);
+        appendToList(text, percent(accessory.percent));
     return text;
 }
 

@@ -153,7 +153,7 @@ std::vector<MenuBarItem> menuBarItems(const std::vector<MenuBarModule>& modules,
 std::string accessibilityLabel(const std::vector<MenuBarItem>& items) {
     std::string text;
     for (const MenuBarItem& item : items) {
-        text += (text.empty() ? "" : ", ") + item.label;
+        appendToList(text, item.label);
         for (const std::string& line : item.lines)
             text += ' ' + line;
     }

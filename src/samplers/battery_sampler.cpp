@@ -3,17 +3,20 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "support/checked.h"
 
 namespace vantrix {
 namespace {
 
-/// Absent when it is negative: the service still estimates.
-std::optional<int> minutes(std::optional<std::int64_t> value) {
-    if (!value || *value < 0 || *value > std::numeric_limits<int>::max())
-        return std::nullopt;
-    return static_cast<int>(*value);
+std::optional<int> fitting(std::optional<std::int64_t> value) {
+    return value && std::in_range<int>(*value) ? std::optional(static_cast<int>(*value)) : std::nullopt;
+}
+
+std::optional<int> minutesOf(const Properties& source, bool isCharging) {
+    const auto minutes = fitting(source.integer(isCharging ? "Time to Full Charge" : "Time to Empty"));
+    return minutes >= 0 ? minutes : std::nullopt; // negative while still estimated
 }
 
 int percentOf(const Properties& source) {
@@ -27,15 +30,8 @@ BatterySample describe(const Properties& source) {
     sample.percent = percentOf(source);
     sample.isCharging = source.boolean("Is Charging").value_or(false);
     sample.isPluggedIn = source.text("Power Source State") == "AC Power";
-    sample.minutesRemaining = minutes(source.integer(sample.isCharging ? "Time to Full Charge" : "Time to Empty"));
+    sample.minutesRemaining = minutesOf(source, sample.isCharging);
     return sample;
-}
-
-std::optional<int> cyclesOf(const Properties& battery) {
-    const auto cycles = battery.integer("CycleCount");
-    if (!cycles || *cycles < std::numeric_limits<int>::min() || *cycles > std::numeric_limits<int>::max())
-        return std::nullopt;
-    return static_cast<int>(*cycles);
 }
 
 std::optional<int> healthOf(const Properties& battery) {
@@ -82,7 +78,7 @@ std::optional<BatterySample> BatterySampler::sample() {
         return std::nullopt;
     BatterySample sample = describe(*internal);
     if (const Properties* battery = source_.smartBattery()) {
-        sample.cycleCount = cyclesOf(*battery);
+        sample.cycleCount = fitting(battery->integer("CycleCount"));
         sample.healthPercent = healthOf(*battery);
         sample.temperature = temperatureOf(*battery);
         sample.watts = wattsOf(*battery);

@@ -1,16 +1,14 @@
 #include "samplers/disk_sampler.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "support/checked.h"
 
 namespace vantrix {
 
 double usedFraction(const DiskSample& disk) {
-    if (disk.total == 0)
-        return 0.0;
-    const auto used = clampedDifference(disk.total, disk.available);
-    return std::min(static_cast<double>(used) / static_cast<double>(disk.total), 1.0);
+    return fractionOf(clampedDifference(disk.total, disk.available), disk.total);
 }
 
 DiskSample DiskSampler::sample() {
@@ -32,9 +30,9 @@ void DiskSampler::readSpace(DiskSample& sample) {
 }
 
 std::optional<DiskSampler::Totals> DiskSampler::readTotals() {
+    Totals totals{.time = clock_.uptime()};
     if (!counters_.read(disks_) || disks_.empty())
         return std::nullopt;
-    Totals totals;
     for (const Counters& disk : disks_) {
         totals.read =
             checkedAdd(totals.read, disk.bytesRead.value_or(0), "the sum of bytes read from all disks overflows");
@@ -45,17 +43,15 @@ std::optional<DiskSampler::Totals> DiskSampler::readTotals() {
 }
 
 void DiskSampler::readRates(DiskSample& sample) {
-    const double now = clock_.uptime();
-    const auto totals = readTotals();
-    if (!totals)
+    const auto now = readTotals();
+    if (!now)
         return; // the baseline stays: the next good reading measures over the whole gap
-    if (previous_ && lastTimestamp_ && *lastTimestamp_ < now) {
-        const double elapsed = now - *lastTimestamp_;
-        sample.readRate = static_cast<double>(clampedDifference(totals->read, previous_->read)) / elapsed;
-        sample.writeRate = static_cast<double>(clampedDifference(totals->written, previous_->written)) / elapsed;
-    }
-    previous_ = totals;
-    lastTimestamp_ = now;
+    const auto before = std::exchange(previous_, now);
+    if (!before || now->time <= before->time)
+        return;
+    const double elapsed = now->time - before->time;
+    sample.readRate = static_cast<double>(clampedDifference(now->read, before->read)) / elapsed;
+    sample.writeRate = static_cast<double>(clampedDifference(now->written, before->written)) / elapsed;
 }
 
 } // namespace vantrix

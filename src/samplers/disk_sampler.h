@@ -17,7 +17,7 @@ struct DiskSample {
     bool operator==(const DiskSample&) const = default;
 };
 
-/// (total − available) / total, at most 1; 0 when available exceeds total or the total is 0.
+/// (total − available) / total, 0 to 1; 0 when available exceeds total or the total is 0.
 double usedFraction(const DiskSample& disk);
 
 class DiskSampler {
@@ -57,6 +57,7 @@ class DiskSampler {
 
   private:
     struct Totals {
+        double time = 0.0; // of the clock
         std::uint64_t read = 0;
         std::uint64_t written = 0;
     };
@@ -70,7 +71,6 @@ class DiskSampler {
     const Clock& clock_;
     std::vector<Counters> disks_;
     std::optional<Totals> previous_;
-    std::optional<double> lastTimestamp_;
 };
 
 } // namespace vantrix

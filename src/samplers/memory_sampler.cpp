@@ -26,10 +26,7 @@ std::uint64_t usedMemory(const MemorySample& memory) {
 }
 
 double usedFraction(const MemorySample& memory) {
-    const std::uint64_t used = usedMemory(memory);
-    if (memory.total == 0)
-        return 0.0;
-    return std::min(static_cast<double>(used) / static_cast<double>(memory.total), 1.0);
+    return std::min(fractionOf(usedMemory(memory), memory.total), 1.0);
 }
 
 std::optional<MemorySample> MemorySampler::sample() {

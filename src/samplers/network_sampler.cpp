@@ -1,6 +1,7 @@
 #include "samplers/network_sampler.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "support/checked.h"
 
@@ -57,11 +58,9 @@ std::optional<NetworkSample> NetworkSampler::sample() {
         return std::nullopt;
     collectPorts();
     const double now = clock_.uptime();
-    NetworkSample sample;
-    if (lastTimestamp_ && *lastTimestamp_ < now)
-        sample = rates(now - *lastTimestamp_);
+    const auto before = std::exchange(previousTime_, now);
+    const NetworkSample sample = before && *before < now ? rates(now - *before) : NetworkSample();
     previous_.swap(current_);
-    lastTimestamp_ = now;
     return sample;
 }
 

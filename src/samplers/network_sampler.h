@@ -65,7 +65,7 @@ class NetworkSampler {
     std::vector<Link> links_;
     std::vector<Port> current_; // flat, not a map: a handful of ports, and its strings are reused on every pass
     std::vector<Port> previous_;
-    std::optional<double> lastTimestamp_;
+    std::optional<double> previousTime_;
 };
 
 } // namespace vantrix

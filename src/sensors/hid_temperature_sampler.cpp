@@ -1,7 +1,5 @@
 #include "sensors/hid_temperature_sampler.h"
 
-#include "sensors/plausible_temperature.h"
-
 namespace vantrix {
 
 const std::vector<TemperatureReading>& HIDTemperatureSampler::read() {

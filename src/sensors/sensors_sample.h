@@ -13,6 +13,11 @@ struct TemperatureReading {
     bool operator==(const TemperatureReading&) const = default;
 };
 
+/// True between 0 and 150 °C, both excluded.
+constexpr bool isPlausibleTemperature(double celsius) {
+    return celsius > 0.0 && celsius < 150.0;
+}
+
 struct FanReading {
     int id = 0;       ///< fan index, 0 to 3
     double rpm = 0.0; ///< revolutions per minute

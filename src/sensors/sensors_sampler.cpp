@@ -5,7 +5,6 @@
 #include <numeric>
 #include <string_view>
 
-#include "sensors/plausible_temperature.h"
 #include "support/ascii_case.h"
 
 namespace vantrix {

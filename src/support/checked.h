@@ -24,4 +24,9 @@ constexpr std::uint64_t clampedDifference(std::uint64_t now, std::uint64_t befor
     return now > before ? now - before : 0;
 }
 
+/// part / whole; 0 when there is no whole.
+constexpr double fractionOf(std::uint64_t part, std::uint64_t whole) {
+    return whole > 0 ? static_cast<double>(part) / static_cast<double>(whole) : 0.0;
+}
+
 } // namespace vantrix

@@ -37,4 +37,8 @@ std::string compactRate(double rate) {
     return scaled(rate / 1e9, 1, 'G');
 }
 
+void appendToList(std::string& list, std::string_view entry) {
+    list.append(list.empty() ? "" : ", ").append(entry);
+}
+
 } // namespace vantrix

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace vantrix {
 
@@ -13,5 +14,8 @@ std::string compactRate(double bytesPerSecond);
 
 /// `value` rounded half away from zero, as an integer. A value that is not finite is a fault.
 std::string roundedInteger(double value);
+
+/// Appends an entry to a list such as "CPU, GPU".
+void appendToList(std::string& list, std::string_view entry);
 
 } // namespace vantrix

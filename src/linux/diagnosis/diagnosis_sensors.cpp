@@ -5,6 +5,7 @@
 #include "linux/power_supply/power_supply_accessories.h"
 #include "linux/sensors/hwmon_chips.h"
 #include "linux/sensors/thermal_zones.h"
+#include "support/text_format.h"
 
 namespace vantrix {
 namespace {
@@ -45,7 +46,7 @@ Chips chipsWith(const std::string& sys, std::string_view prefix) {
 std::string listed(const std::vector<std::string>& names) {
     std::string text;
     for (const std::string& name : names)
-        text += (text.empty() ? "" : ", ") + name;
+        appendToList(text, name);
     return text;
 }
 

@@ -43,7 +43,7 @@ std::string addressOf(const std::string& supply, const std::string& entry) {
 
 std::optional<int> levelOf(const std::string& supply) {
     if (const auto percent = parseNumber(readWord(supply + "/capacity")))
-        return static_cast<int>(std::clamp<std::int64_t>(*percent, 0, 100));
+        return boundedPercent(*percent);
     return percentOfLevel(readWord(supply + "/capacity_level"));
 }
 

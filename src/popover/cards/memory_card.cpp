@@ -7,16 +7,13 @@
 #include "popover/charts/stat_row.h"
 #include "popover/headline.h"
 #include "popover/reading_text.h"
+#include "support/checked.h"
 #include "views/text_label.h"
 
 namespace vantrix {
 namespace {
 
 constexpr int rowGap = 5;
-
-double share(std::uint64_t part, std::uint64_t total) {
-    return total > 0 ? static_cast<double>(part) / static_cast<double>(total) : 0.0;
-}
 
 QString pressureLine(MemorySample::Pressure pressure) {
     switch (pressure) {
@@ -54,9 +51,9 @@ void MemoryCard::showReadings(const Readings& readings) {
     const MemorySample& memory = readings.memory;
     used_->setText(memoryText(usedMemory(memory)),
                    QStringLiteral("%@ ") + localizedText("of %@", memoryText(memory.total)));
-    shares_->setSegments({{0, share(memory.app, memory.total), &ThemeColors::accent},
-                          {1, share(memory.wired, memory.total), &ThemeColors::orange},
-                          {2, share(memory.compressed, memory.total), &ThemeColors::purple}});
+    shares_->setSegments({{0, fractionOf(memory.app, memory.total), &ThemeColors::accent},
+                          {1, fractionOf(memory.wired, memory.total), &ThemeColors::orange},
+                          {2, fractionOf(memory.compressed, memory.total), &ThemeColors::purple}});
     app_->setValue(memoryText(memory.app));
     wired_->setValue(memoryText(memory.wired));
     compressed_->setValue(memoryText(memory.compressed));
