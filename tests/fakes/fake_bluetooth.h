@@ -90,12 +90,11 @@ struct FakeBluetooth {
     FakeTimer* timer = nullptr;
 
     Bluetooth make() {
-        auto bundle = std::make_tuple(std::make_unique<FakeCentral>(), std::make_unique<FakeClassicDevices>(),
-                                      std::make_unique<FakeTimer>());
-        central = std::get<0>(bundle).get();
-        classic = std::get<1>(bundle).get();
-        timer = std::get<2>(bundle).get();
-        return {std::move(std::get<0>(bundle)), std::move(std::get<1>(bundle)), std::move(std::get<2>(bundle))};
+        central = new FakeCentral;
+        classic = new FakeClassicDevices;
+        timer = new FakeTimer;
+        return {std::unique_ptr<BluetoothCentral>(central), std::unique_ptr<ClassicBluetoothDevices>(classic),
+                std::unique_ptr<RepeatingTimer>(timer)};
     }
 };
 

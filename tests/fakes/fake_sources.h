@@ -1,33 +1,44 @@
 #pragma once
 
+#include <map>
 #include <memory>
+#include <string>
 
 #include "platform/sampling_sources.h"
+#include "samplers/fake_clock.h"
 
 namespace vantrix::fakes {
 
-class FakeClock : public Clock {
-  public:
-    double now = 1000.0;
-    double uptime() const override { return now; }
-};
+using vantrix::FakeClock;
 
 class FakeInformation : public SystemInformation {
   public:
-    std::optional<std::int64_t> integer(std::string_view) const override { return std::nullopt; }
-    std::optional<std::string> text(std::string_view) const override { return "Test processor"; }
+    std::map<std::string, std::int64_t, std::less<>> integers;
+    std::optional<std::string> brand = "Test processor";
+    std::optional<std::int64_t> integer(std::string_view name) const override {
+        const auto found = integers.find(name);
+        return found == integers.end() ? std::nullopt : std::optional(found->second);
+    }
+    std::optional<std::string> text(std::string_view name) const override {
+        return name == "machdep.cpu.brand_string" ? brand : std::nullopt;
+    }
     int processorCount() const override { return 2; }
 };
 
-/// Absent members make the source fail.
+/// Absent records make a source fail, and leave behind what must not matter.
+template<typename Record>
+bool answer(const std::optional<std::vector<Record>>& records, std::vector<Record>& into) {
+    if (records)
+        into = *records;
+    else
+        into.assign(7, Record());
+    return records.has_value();
+}
+
 class FakeCPU : public CPUSampler::Source {
   public:
     std::optional<std::vector<CPUSampler::Ticks>> cores = std::vector<CPUSampler::Ticks>(2);
-    bool read(std::vector<CPUSampler::Ticks>& into) override {
-        if (cores)
-            into = *cores;
-        return cores.has_value();
-    }
+    bool read(std::vector<CPUSampler::Ticks>& into) override { return answer(cores, into); }
     /// Lets every core spend `busy` of the next `all` ticks in user code.
     void advance(std::uint32_t busy, std::uint32_t all) {
         for (auto& core : *cores) {
@@ -47,21 +58,13 @@ class FakeMemory : public MemorySampler::Source {
 class FakeNetwork : public NetworkSampler::Source {
   public:
     std::optional<std::vector<NetworkSampler::Link>> links = {{{"en0", 0x41, NetworkSampler::Counters{}}}};
-    bool read(std::vector<NetworkSampler::Link>& into) override {
-        if (links)
-            into = *links;
-        return links.has_value();
-    }
+    bool read(std::vector<NetworkSampler::Link>& into) override { return answer(links, into); }
 };
 
 class FakeDisks : public DiskSampler::CounterSource {
   public:
     std::optional<std::vector<DiskSampler::Counters>> disks = {{{0, 0}}};
-    bool read(std::vector<DiskSampler::Counters>& into) override {
-        if (disks)
-            into = *disks;
-        return disks.has_value();
-    }
+    bool read(std::vector<DiskSampler::Counters>& into) override { return answer(disks, into); }
 };
 
 class FakeVolume : public DiskSampler::VolumeSource {
@@ -93,22 +96,14 @@ struct FakeMachine {
     SamplingSources makeSources() {
         SamplingSources sources;
         sources.information = std::make_unique<FakeInformation>();
-        keep(sources.clock, clock);
-        keep(sources.cpu, cpu);
-        keep(sources.memory, memory);
-        keep(sources.network, network);
-        keep(sources.disks, disks);
-        keep(sources.volume, volume);
-        keep(sources.accessories, accessories);
+        sources.clock.reset(clock = new FakeClock);
+        sources.cpu.reset(cpu = new FakeCPU);
+        sources.memory.reset(memory = new FakeMemory);
+        sources.network.reset(network = new FakeNetwork);
+        sources.disks.reset(disks = new FakeDisks);
+        sources.volume.reset(volume = new FakeVolume);
+        sources.accessories.reset(accessories = new FakeAccessories);
         return sources;
-    }
-
-  private:
-    template<typename Interface, typename Fake>
-    static void keep(std::unique_ptr<Interface>& place, Fake*& pointer) {
-        auto fake = std::make_unique<Fake>();
-        pointer = fake.get();
-        place = std::move(fake);
     }
 };
 

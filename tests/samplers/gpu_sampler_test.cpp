@@ -19,13 +19,12 @@ constexpr const char* device = "Device Utilization %";
 constexpr const char* activity = "GPU Activity(%)";
 
 TEST(GPUSampler, TellsTheBusiestAccelerator) {
-    struct Row {
+    using Int = std::int64_t;
+    const struct {
         const char* name;
         std::optional<std::vector<Properties>> accelerators;
         std::optional<double> load;
-    };
-    using Int = std::int64_t;
-    const Row rows[] = {
+    } rows[] = {
         {"first key wins", {{{{device, Int{20}}, {activity, Int{90}}}}}, 0.2},
         {"first key is no number", {{{{device, "20"}, {activity, 90.5}}}}, 0.905},
         {"first key is a truth value", {{{{device, true}}}}, std::nullopt},
@@ -38,7 +37,7 @@ TEST(GPUSampler, TellsTheBusiestAccelerator) {
         {"none", std::vector<Properties>(), std::nullopt},
         {"cannot be listed", std::nullopt, std::nullopt},
     };
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         FakeAccelerators source;
         source.next = row.accelerators;
         EXPECT_EQ(GPUSampler(source).sample(), row.load) << row.name;

@@ -2,85 +2,51 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/fake_sources.h"
+
 namespace vantrix {
 namespace {
 
-struct FakeSource : MemorySampler::Source {
-    std::optional<MemorySampler::Statistics> next;
-    std::optional<MemorySampler::Statistics> read() override { return next; }
-};
+using Statistics = MemorySampler::Statistics;
+using Pressure = MemorySample::Pressure;
 
-struct MemorySamplerTest : ::testing::Test {
-    FakeSource source;
-    MemorySampler sampler{source};
-};
-
-using MemorySamplerDeathTest = MemorySamplerTest;
-
-MemorySampler::Statistics counts(std::uint64_t wire, std::uint64_t purgeable, std::uint64_t compressor,
-                                 std::uint64_t internal) {
-    MemorySampler::Statistics statistics;
-    statistics.wireCount = wire;
-    statistics.purgeableCount = purgeable;
-    statistics.compressorPageCount = compressor;
-    statistics.internalPageCount = internal;
-    statistics.pageSize = 4096;
-    statistics.physicalMemory = 1 << 20;
-    return statistics;
+std::optional<MemorySample> sampleOf(const std::optional<Statistics>& statistics) {
+    fakes::FakeMemory source;
+    source.statistics = statistics;
+    return MemorySampler(source).sample();
 }
 
-TEST_F(MemorySamplerTest, CountsBecomeBytes) {
-    source.next = counts(3, 2, 5, 12);
-    source.next->swapUsed = 77;
-    EXPECT_EQ(sampler.sample(), (MemorySample{1 << 20, 40960, 12288, 20480, 77, MemorySample::Pressure::normal}));
+TEST(MemorySampler, TurnsCountsOfPagesIntoBytes) {
+    Statistics statistics{3, 2, 5, 12, 4096, 1 << 20, 77, std::nullopt};
+    EXPECT_EQ(sampleOf(statistics), (MemorySample{1 << 20, 40960, 12288, 20480, 77, Pressure::normal}));
+    statistics.swapUsed.reset();
+    EXPECT_EQ(sampleOf(statistics)->swapUsed, 0u);
+    statistics.purgeableCount = 13; // for a moment
+    EXPECT_EQ(sampleOf(statistics)->app, 0u);
+    EXPECT_EQ(sampleOf(std::nullopt), std::nullopt);
 }
 
-TEST_F(MemorySamplerTest, PurgeableMayExceedInternalForAMoment) {
-    source.next = counts(0, 9, 0, 8);
-    EXPECT_EQ(sampler.sample()->app, 0u);
-}
-
-TEST_F(MemorySamplerTest, UnreadableStatisticsAreAbsent) {
-    EXPECT_EQ(sampler.sample(), std::nullopt);
-}
-
-TEST_F(MemorySamplerTest, SwapThatCannotBeReadIsZero) {
-    source.next = counts(0, 0, 0, 0);
-    EXPECT_EQ(sampler.sample()->swapUsed, 0u);
-}
-
-TEST_F(MemorySamplerTest, PressureFollowsTheKernelsScale) {
-    using Pressure = MemorySample::Pressure;
+TEST(MemorySampler, PressureFollowsTheKernelsScale) {
     const std::pair<std::optional<std::int64_t>, Pressure> rows[] = {
-        {std::nullopt, Pressure::normal}, {-1, Pressure::normal}, {0, Pressure::normal},   {1, Pressure::normal},
-        {2, Pressure::warning},           {3, Pressure::warning}, {4, Pressure::critical}, {8, Pressure::critical},
+        {std::nullopt, Pressure::normal}, {-1, Pressure::normal}, {1, Pressure::normal},
+        {2, Pressure::warning},           {3, Pressure::warning}, {4, Pressure::critical},
     };
-    for (const auto& [level, pressure] : rows) {
-        source.next = counts(0, 0, 0, 0);
-        source.next->pressureLevel = level;
-        EXPECT_EQ(sampler.sample()->pressure, pressure) << level.value_or(-99);
-    }
+    for (const auto& [level, pressure] : rows)
+        EXPECT_EQ(sampleOf(Statistics{.pressureLevel = level})->pressure, pressure) << level.value_or(-99);
 }
 
-TEST_F(MemorySamplerDeathTest, OverflowIsAFault) {
+TEST(MemorySamplerDeathTest, OverflowIsAFault) {
     constexpr std::uint64_t many = std::uint64_t{1} << 53;
-    source.next = counts(0, 0, 0, many);
-    EXPECT_DEATH(sampler.sample(), "application memory overflows");
-    source.next = counts(many, 0, 0, 0);
-    EXPECT_DEATH(sampler.sample(), "wired memory overflows");
-    source.next = counts(0, 0, many, 0);
-    EXPECT_DEATH(sampler.sample(), "compressed memory overflows");
+    EXPECT_DEATH(sampleOf(Statistics{.internalPageCount = many, .pageSize = 4096}), "application memory overflows");
+    EXPECT_DEATH(sampleOf(Statistics{.wireCount = many, .pageSize = 4096}), "wired memory overflows");
+    EXPECT_DEATH(sampleOf(Statistics{.compressorPageCount = many, .pageSize = 4096}), "compressed memory overflows");
+    EXPECT_DEATH(usedFraction(MemorySample{100, ~std::uint64_t{0}, 1, 0, 0, {}}), "sum of app, wired and compressed");
 }
 
 TEST(MemoryUsedFraction, IsClampedAndNeedsATotal) {
-    EXPECT_DOUBLE_EQ(usedFraction({100, 10, 20, 30, 0, {}}), 0.6);
-    EXPECT_DOUBLE_EQ(usedFraction({100, 90, 20, 30, 0, {}}), 1.0);
-    EXPECT_DOUBLE_EQ(usedFraction({0, 10, 20, 30, 0, {}}), 0.0);
-}
-
-TEST(MemoryUsedFractionDeathTest, SumPast64BitsIsAFault) {
-    EXPECT_DEATH(usedFraction({100, ~std::uint64_t{0}, 1, 0, 0, {}}),
-                 "sum of app, wired and compressed memory overflows");
+    EXPECT_EQ(usedFraction(MemorySample{100, 10, 20, 30, 0, {}}), 0.6);
+    EXPECT_EQ(usedFraction(MemorySample{100, 90, 20, 30, 0, {}}), 1.0);
+    EXPECT_EQ(usedFraction(MemorySample{0, 10, 20, 30, 0, {}}), 0.0);
 }
 
 } // namespace

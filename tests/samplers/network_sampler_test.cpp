@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "samplers/fake_clock.h"
+#include "fakes/fake_sources.h"
 
 namespace vantrix {
 namespace {
@@ -12,88 +12,54 @@ using Links = std::vector<Link>;
 
 constexpr auto active = NetworkSampler::linkUp | NetworkSampler::linkRunning;
 
-Link port(const char* name, std::uint32_t received, std::uint32_t sent) {
-    return {name, active, NetworkSampler::Counters{received, sent}};
+Link port(const char* name, std::uint32_t received, std::uint32_t sent, std::uint32_t flags = active) {
+    return {name, flags, NetworkSampler::Counters{received, sent}};
 }
 
-struct FakeSource : NetworkSampler::Source {
-    std::optional<Links> next;
-
-    bool read(std::vector<Link>& links) override {
-        links = next.value_or(Links{port("en9", 1, 1)}); // what a failed read leaves must not matter
-        return next.has_value();
-    }
-};
-
-struct NetworkSamplerTest : ::testing::Test {
-    FakeSource source;
-    FakeClock clock;
-    NetworkSampler sampler{source, clock};
-
-    /// The sample `seconds` after the one before.
-    std::optional<NetworkSample> sampleOf(std::optional<Links> links, double seconds = 2.0) {
-        clock.now += seconds;
-        source.next = std::move(links);
-        return sampler.sample();
-    }
-};
-
-constexpr NetworkSample silence{0.0, 0.0};
-
-TEST_F(NetworkSamplerTest, RatesAreBytesPerSecondOverAllPorts) {
-    EXPECT_EQ(sampleOf(Links{port("en0", 100, 10), port("en1", 0, 0)}), silence);
-    EXPECT_EQ(sampleOf(Links{port("en1", 5, 0), port("en0", 200, 11)}), (NetworkSample{52.5, 0.5}));
+/// Names and states of what is no active port, with one that is.
+Links crowd(std::uint32_t bytes) {
+    return {port("lo", bytes, bytes),
+            port("utun0", bytes, bytes),
+            port("bridge0", bytes, bytes),
+            port("wen0", bytes, bytes),
+            port("en1", bytes, bytes, NetworkSampler::linkUp),
+            port("en2", bytes, bytes, NetworkSampler::linkRunning),
+            {"en3", active, std::nullopt},
+            port("en0", bytes, 0)};
 }
 
-TEST_F(NetworkSamplerTest, CountersWrap) {
-    sampleOf(Links{port("en0", 4294967000u, 4294967295u)});
-    EXPECT_EQ(sampleOf(Links{port("en0", 704, 0)}, 1.0), (NetworkSample{1000.0, 1.0}));
-}
-
-TEST_F(NetworkSamplerTest, OnlyActivePortsCount) {
-    const auto links = [](std::uint32_t bytes) {
-        Link down = port("en1", bytes, bytes);
-        down.flags = NetworkSampler::linkUp;
-        Link unplugged = port("en2", bytes, bytes);
-        unplugged.flags = NetworkSampler::linkRunning;
-        Link address{"en3", active, std::nullopt};
-        return Links{port("lo", bytes, bytes),
-                     port("utun0", bytes, bytes),
-                     port("bridge0", bytes, bytes),
-                     port("wen0", bytes, bytes),
-                     down,
-                     unplugged,
-                     address,
-                     port("en0", bytes, 0)};
+TEST(NetworkSampler, RatesAreMeasuredFromOneGoodReadingToTheNext) {
+    constexpr NetworkSample silence;
+    const struct {
+        const char* name;
+        double seconds; // since the step before
+        std::optional<Links> links;
+        std::optional<NetworkSample> sample;
+    } steps[] = {
+        {"cannot be read", 2.0, std::nullopt, std::nullopt},
+        {"the first", 2.0, Links{port("en0", 100, 10), port("en1", 0, 0)}, silence},
+        {"over all ports", 2.0, Links{port("en1", 5, 0), port("en0", 200, 11)}, {{52.5, 0.5}}},
+        {"a port more", 2.0, Links{port("en0", 202, 11), port("en5", 4000, 4000)}, {{1.0, 0.0}}},
+        {"a port less", 2.0, Links{port("en5", 4294967000u, 4294967295u)}, {{2147481500.0, 2147481647.5}}},
+        {"wrapping", 1.0, Links{port("en5", 704, 0)}, {{1000.0, 1.0}}},
+        {"listed twice", 2.0, Links{port("en5", 900, 0), port("en5", 712, 6)}, {{4.0, 3.0}}},
+        {"no time elapsed", 0.0, Links{port("en5", 762, 6)}, silence},
+        {"a clock set back", -1.0, Links{port("en5", 772, 6)}, silence},
+        {"since then", 2.0, Links{port("en5", 776, 6)}, {{2.0, 0.0}}},
+        {"cannot be read any more", 2.0, std::nullopt, std::nullopt},
+        {"nothing listed", 2.0, Links{}, std::nullopt},
+        {"over the whole gap", 2.0, Links{port("en5", 836, 18)}, {{10.0, 2.0}}},
+        {"other ports", 2.0, crowd(0), silence},
+        {"active ports alone", 2.0, crowd(10), {{5.0, 0.0}}},
     };
-    sampleOf(links(0));
-    EXPECT_EQ(sampleOf(links(10)), (NetworkSample{5.0, 0.0}));
-}
-
-TEST_F(NetworkSamplerTest, NewPortCountsFromItsSecondCall) {
-    sampleOf(Links{port("en0", 0, 0)});
-    EXPECT_EQ(sampleOf(Links{port("en0", 2, 0), port("en5", 4000, 4000)}), (NetworkSample{1.0, 0.0}));
-    EXPECT_EQ(sampleOf(Links{port("en5", 4010, 4000)}), (NetworkSample{5.0, 0.0}));
-}
-
-TEST_F(NetworkSamplerTest, NameListedTwiceTakesTheLaterEntry) {
-    sampleOf(Links{port("en0", 0, 0)});
-    EXPECT_EQ(sampleOf(Links{port("en0", 500, 0), port("en0", 8, 6)}), (NetworkSample{4.0, 3.0}));
-}
-
-TEST_F(NetworkSamplerTest, NoTimeElapsedRenewsTheBaseline) {
-    sampleOf(Links{port("en0", 0, 0)});
-    EXPECT_EQ(sampleOf(Links{port("en0", 50, 50)}, 0.0), silence);
-    EXPECT_EQ(sampleOf(Links{port("en0", 60, 50)}, -1.0), silence);
-    EXPECT_EQ(sampleOf(Links{port("en0", 64, 50)}), (NetworkSample{2.0, 0.0}));
-}
-
-TEST_F(NetworkSamplerTest, UnreadableOrEmptyListKeepsTheBaseline) {
-    EXPECT_EQ(sampleOf(std::nullopt), std::nullopt);
-    sampleOf(Links{port("en0", 0, 0)});
-    EXPECT_EQ(sampleOf(std::nullopt), std::nullopt);
-    EXPECT_EQ(sampleOf(Links{}), std::nullopt);
-    EXPECT_EQ(sampleOf(Links{port("en0", 60, 12)}), (NetworkSample{10.0, 2.0}));
+    fakes::FakeNetwork source;
+    FakeClock clock;
+    NetworkSampler sampler(source, clock);
+    for (const auto& step : steps) {
+        clock.now += step.seconds;
+        source.links = step.links;
+        EXPECT_EQ(sampler.sample(), step.sample) << step.name;
+    }
 }
 
 } // namespace

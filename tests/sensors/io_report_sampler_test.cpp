@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "samplers/fake_clock.h"
+#include "sensors/sensors_sampler.h"
 
 namespace vantrix {
 namespace {
@@ -37,38 +38,35 @@ struct IOReportSamplerTest : ::testing::Test {
     }
 };
 
-TEST_F(IOReportSamplerTest, TheFirstReadHasNothingToMeasureFrom) {
-    source.difference = {{"Energy Model", "GPU Energy", "mJ", 3000}};
-    EXPECT_EQ(sampler.read(), std::nullopt);
-    EXPECT_EQ(readAfter(2.0), (ComponentPower{{}, 1.5, {}, {}}));
-}
-
-TEST_F(IOReportSamplerTest, ReadsInQuickSuccessionStartOver) {
-    source.difference = {{"Energy Model", "GPU Energy", "mJ", 3000}};
-    sampler.read();
-    EXPECT_EQ(readAfter(0.05), std::nullopt);
-    EXPECT_EQ(readAfter(-1.0), std::nullopt);
-    EXPECT_EQ(readAfter(1.0)->gpu, 3.0); // not over the 1.05 s since the first
-}
-
-TEST_F(IOReportSamplerTest, AFailedSnapshotKeepsTheBaselineAFailedDifferenceDoesNot) {
-    source.difference = {{"Energy Model", "GPU Energy", "mJ", 3000}};
-    sampler.read();
-    source.canTake = false;
-    EXPECT_EQ(readAfter(1.0), std::nullopt);
-    source.canTake = true;
-    EXPECT_EQ(readAfter(1.0)->gpu, 1.5);
-    source.difference.reset();
-    EXPECT_EQ(readAfter(1.0), std::nullopt);
-    source.difference = {{"Energy Model", "GPU Energy", "mJ", 3000}};
-    EXPECT_EQ(readAfter(1.0)->gpu, 3.0);
+TEST_F(IOReportSamplerTest, MeasuresFromOneGoodSnapshotToTheNext) {
+    const Channels energy{{"Energy Model", "GPU Energy", "mJ", 3000}};
+    const struct {
+        const char* name;
+        double seconds; // since the step before
+        bool canTake;
+        std::optional<Channels> difference;
+        std::optional<double> watts;
+    } steps[] = {
+        {"the first", 2.0, true, energy, {}},           {"the second", 2.0, true, energy, 1.5},
+        {"too soon", 0.05, true, energy, {}},           {"a clock set back", -1.0, true, energy, {}},
+        {"since then", 1.0, true, energy, 3.0},         {"no snapshot", 1.0, false, energy, {}},
+        {"over the whole gap", 1.0, true, energy, 1.5}, {"no difference", 1.0, true, std::nullopt, {}},
+        {"not over the gap", 1.0, true, energy, 3.0},
+    };
+    SensorsSampler sensors(nullptr, nullptr, &source, clock);
+    std::optional<ComponentPower> last;
+    for (const auto& step : steps) {
+        source.canTake = step.canTake;
+        source.difference = step.difference;
+        const auto power = readAfter(step.seconds);
+        EXPECT_EQ(power ? power->gpu : std::nullopt, step.watts) << step.name;
+        last = power ? power : last;
+        EXPECT_EQ(sensors.sample().components, last) << step.name << ": the last good one is repeated";
+    }
 }
 
 TEST_F(IOReportSamplerTest, ChannelsCountForOneComponentAtMost) {
-    const struct {
-        const char* name;
-        ComponentPower power;
-    } rows[] = {
+    const std::pair<const char*, ComponentPower> rows[] = {
         {"GPU Energy", {{}, 1.0, {}, {}}},
         {"GPU Energy0", {}},
         {"CPU Energy", {1.0, {}, {}, {}}},
@@ -80,9 +78,8 @@ TEST_F(IOReportSamplerTest, ChannelsCountForOneComponentAtMost) {
         {"DRAM0", {{}, {}, {}, 1.0}},
         {"gpu energy", {}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(powerOf({{"Energy Model", row.name, "mJ", 2000}}).value_or(ComponentPower()), row.power) << row.name;
-    EXPECT_EQ(powerOf({{"Energy Model", "GPU Energy0", "mJ", 2000}}), std::nullopt);
+    for (const auto& [name, power] : rows)
+        EXPECT_EQ(powerOf({{"Energy Model", name, "mJ", 2000}}).value_or(ComponentPower()), power) << name;
 }
 
 TEST_F(IOReportSamplerTest, ChannelsOfOneComponentAddUp) {

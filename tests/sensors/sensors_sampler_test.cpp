@@ -1,5 +1,7 @@
 #include "sensors/sensors_sampler.h"
 
+#include <cmath>
+#include <limits>
 #include <map>
 
 #include <gmock/gmock.h>
@@ -11,6 +13,8 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using Services = std::vector<HIDTemperatureSampler::Service>;
+using Reading = TemperatureReading;
 
 struct FakeKeys : SensorKeys {
     std::map<std::string, double, std::less<>> values;
@@ -24,81 +28,73 @@ struct FakeKeys : SensorKeys {
 };
 
 struct FakeTemperatures : HIDTemperatureSampler::Source {
-    std::vector<TemperatureReading> readings;
+    std::optional<Services> next;
 
-    bool read(std::vector<HIDTemperatureSampler::Service>& services) override {
-        services.clear();
-        for (const auto& [name, value] : readings)
-            services.push_back({name, value});
-        return true;
-    }
-};
-
-struct FakeEnergy : IOReportSampler::Source {
-    bool canTake = true;
-
-    bool takeSnapshot() override { return canTake; }
-    bool readDifference(std::vector<IOReportSampler::Channel>& channels) override {
-        channels = {{"Energy Model", "GPU Energy", "mJ", 3000}};
-        return true;
+    bool read(Services& services) override {
+        services = next.value_or(Services{{"left over", 50.0}}); // what a failed read leaves must not matter
+        return next.has_value();
     }
 };
 
 struct SensorsSamplerTest : ::testing::Test {
     FakeKeys keys;
     FakeTemperatures temperatures;
-    FakeEnergy energy;
     FakeClock clock;
-    SensorsSampler sampler{&keys, &temperatures, &energy, clock};
+    SensorsSampler sampler{&keys, &temperatures, nullptr, clock};
 
-    const SensorsSample& sampleOf(const std::vector<TemperatureReading>& readings) {
-        temperatures.readings = readings;
+    const SensorsSample& sampleOf(std::optional<Services> services) {
+        temperatures.next = std::move(services);
         return sampler.sample();
     }
 };
 
 TEST_F(SensorsSamplerTest, ComponentsAreKnownByTheNamesOfTheirSensors) {
-    const auto& sample = sampleOf({{"PMU tdie1", 50.0}, {"GPU MTR", 40.0}, {"PMU tdie2", 60.0}});
+    const auto& sample = sampleOf({{{"PMU tdie1", 50.0}, {"GPU MTR", 40.0}, {"PMU tdie2", 60.0}}});
     EXPECT_EQ(sample.cpu, 55.0);
     EXPECT_EQ(sample.cpuHottest, 60.0);
     EXPECT_EQ(sample.gpu, 40.0);
     EXPECT_EQ(sample.soc, std::nullopt);
-    EXPECT_THAT(sample.all, ElementsAre(TemperatureReading{"PMU tdie2", 60.0}, TemperatureReading{"PMU tdie1", 50.0},
-                                        TemperatureReading{"GPU MTR", 40.0}));
 }
 
 TEST_F(SensorsSamplerTest, ASensorCountsInEveryGroupItsNameSays) {
-    const struct {
-        const char* name;
-        const char* groups; // c, g, s, n, b
-    } rows[] = {
+    const std::pair<const char*, const char*> rows[] = {
         {"pACC MTR", "c"},  {"eACC MTR", "c"},    {"CPU", "c"},         {"cpu", ""},       {"Tdie", ""},
         {"GPU SOC", "gs"},  {"CPU in SoC", "cs"}, {"Soc", ""},          {"NAND CH0", "n"}, {"Nand", ""},
         {"Battery 1", "b"}, {"the bATTERy", "b"}, {"gas gauge x", "b"}, {"GAS GAUGE", ""}, {"batter", ""},
     };
-    for (const auto& row : rows) {
-        const auto& sample = sampleOf({{row.name, 30.0}});
+    for (const auto& [name, expected] : rows) {
+        const auto& sample = sampleOf({{{name, 30.0}}});
         std::string groups;
         groups += sample.cpu ? "c" : "";
         groups += sample.gpu ? "g" : "";
         groups += sample.soc ? "s" : "";
         groups += sample.ssd ? "n" : "";
         groups += sample.battery ? "b" : "";
-        EXPECT_EQ(groups, row.groups) << row.name;
+        EXPECT_EQ(groups, expected) << name;
     }
 }
 
-TEST_F(SensorsSamplerTest, EqualTemperaturesKeepTheirOrderAndGoneSensorsLeave) {
-    const auto& sample = sampleOf({{"b", 30.0}, {"c", 40.0}, {"a", 30.0}, {"d", 30.0}});
-    EXPECT_THAT(sample.all, ElementsAre(TemperatureReading{"c", 40.0}, TemperatureReading{"b", 30.0},
-                                        TemperatureReading{"a", 30.0}, TemperatureReading{"d", 30.0}));
-    EXPECT_THAT(sampleOf({{"a", 31.0}}).all, ElementsAre(TemperatureReading{"a", 31.0}));
+TEST_F(SensorsSamplerTest, ListsSensorsHottestFirst) {
+    const auto& sample = sampleOf({{{"b", 30.0}, {"c", 40.0}, {"a", 30.0}, {"d", 30.0}}});
+    EXPECT_THAT(sample.all, ElementsAre(Reading{"c", 40.0}, Reading{"b", 30.0}, Reading{"a", 30.0}, Reading{"d", 30.0}))
+        << "equal ones in their order";
+    EXPECT_THAT(sampleOf({{{"a", 31.0}}}).all, ElementsAre(Reading{"a", 31.0})) << "the others are gone";
+    EXPECT_THAT(sampleOf({{{}, {"", 20.0}, {"x", 40.0}, {std::nullopt, 30.0}}}).all,
+                ElementsAre(Reading{"x", 40.0}, Reading{"Sensor 3", 30.0}, Reading{"", 20.0}));
+    EXPECT_THAT(sampleOf(std::nullopt).all, IsEmpty());
+}
+
+TEST_F(SensorsSamplerTest, KeepsPlausibleTemperaturesAlone) {
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    for (const double value : {0.0, -0.0, -5.0, 150.0, 1e9, infinity, -infinity, std::nan("")})
+        EXPECT_THAT(sampleOf({{{"tdie", value}}}).all, IsEmpty()) << value;
+    EXPECT_EQ(sampleOf({{{"tdie", 149.9}, {"tdie", 0.1}}}).all.size(), 2u);
 }
 
 TEST_F(SensorsSamplerTest, KeysStandInWhereNoSensorIsListed) {
     keys.values = {{"TC0P", 0.0},  {"TC0D", 45.5}, {"TC0E", 99.0}, {"TG0P", 150.0},
                    {"TG0D", 50.0}, {"TH0a", 33.0}, {"TB0T", 31.0}};
-    const auto& sample = sampleOf({});
+    const auto& sample = sampleOf(Services());
     EXPECT_EQ(sample.cpu, 45.5);
     EXPECT_EQ(sample.cpuHottest, 45.5);
     EXPECT_EQ(sample.gpu, 50.0);
@@ -108,18 +104,19 @@ TEST_F(SensorsSamplerTest, KeysStandInWhereNoSensorIsListed) {
     EXPECT_THAT(sample.all, IsEmpty());
 
     keys.asked.clear();
-    EXPECT_EQ(sampleOf({{"other", 20.0}}).cpu, std::nullopt); // one sensor of any kind is enough
+    EXPECT_EQ(sampleOf({{{"other", 20.0}}}).cpu, std::nullopt); // one sensor of any kind is enough
     EXPECT_THAT(keys.asked, ElementsAre("FNum", "PSTR", "PDTR"));
 }
 
 TEST_F(SensorsSamplerTest, AtMostFourPlausibleFans) {
     keys.values = {{"FNum", 6.0},     {"F0Ac", 25000.0}, {"F1Ac", 1200.0}, {"F1Mn", -5.0},
                    {"F1Mx", 90000.0}, {"F3Ac", 0.0},     {"F4Ac", 1000.0}};
-    EXPECT_THAT(sampleOf({}).fans, ElementsAre(FanReading{1, 1200.0, -5.0, 90000.0}, FanReading{3, 0.0, {}, {}}));
+    EXPECT_THAT(sampleOf(Services()).fans,
+                ElementsAre(FanReading{1, 1200.0, -5.0, 90000.0}, FanReading{3, 0.0, {}, {}}));
     keys.values["F0Ac"] = 19999.0;
     for (const auto& [number, fans] : {std::pair{0.9, 0u}, {1.9, 1u}, {2.0, 2u}, {1e300, 3u}, {-1.0, 0u}}) {
         keys.values["FNum"] = number;
-        EXPECT_EQ(sampleOf({}).fans.size(), fans) << number;
+        EXPECT_EQ(sampleOf(Services()).fans.size(), fans) << number;
     }
 }
 
@@ -128,18 +125,9 @@ TEST_F(SensorsSamplerTest, PowersAreAbsentOutsideTheirRange) {
          {std::pair{0.04, false}, {0.05, false}, {0.06, true}, {599.9, true}, {600.0, false}}) {
         keys.values = {{"PSTR", value}, {"PDTR", value}};
         const auto expected = isKept ? std::optional(value) : std::nullopt;
-        EXPECT_EQ(sampleOf({}).systemPower, expected);
-        EXPECT_EQ(sampleOf({}).adapterPower, expected);
+        EXPECT_EQ(sampleOf(Services()).systemPower, expected);
+        EXPECT_EQ(sampleOf(Services()).adapterPower, expected);
     }
-}
-
-TEST_F(SensorsSamplerTest, RepeatsTheLastGoodSplit) {
-    EXPECT_EQ(sampler.sample().components, std::nullopt);
-    clock.now += 2.0;
-    EXPECT_EQ(sampler.sample().components, (ComponentPower{{}, 1.5, {}, {}}));
-    energy.canTake = false;
-    clock.now += 2.0;
-    EXPECT_EQ(sampler.sample().components, (ComponentPower{{}, 1.5, {}, {}}));
 }
 
 TEST(SensorsSamplerWithoutSources, IsEmpty) {

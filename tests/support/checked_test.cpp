@@ -20,12 +20,5 @@ TEST(CheckedDeathTest, NamesWhatOverflowed) {
     EXPECT_DEATH(checkedMultiply(most / 2, 3, "the product overflows"), "the product overflows");
 }
 
-TEST(Differences, WrapOrClamp) {
-    EXPECT_EQ(wrappingDifference(704, 4294967000u), 1000u);
-    EXPECT_EQ(wrappingDifference(7, 7), 0u);
-    EXPECT_EQ(clampedDifference(10, 4), 6u);
-    EXPECT_EQ(clampedDifference(4, 10), 0u);
-}
-
 } // namespace
 } // namespace vantrix

@@ -11,36 +11,26 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TEST(CompactPercent, RoundsHalfAwayFromZero) {
-    EXPECT_EQ(compactPercent(0.0), "0%");
     EXPECT_EQ(compactPercent(0.125), "13%"); // 12.5 exactly
     EXPECT_EQ(compactPercent(0.994), "99%");
-    EXPECT_EQ(compactPercent(1.0), "100%");
     EXPECT_EQ(compactPercent(-0.125), "-13%");
 }
 
 TEST(CompactRate, ChoosesUnitByTheRateItself) {
-    struct Row {
-        double rate;
-        const char* text;
-    };
-    const Row rows[] = {
+    const std::pair<double, const char*> rows[] = {
         {-5.0, "0K"},           {0.0, "0K"},          {999.9, "0K"},        {1000.0, "1K"},
         {12'400.0, "12K"},      {999'500.0, "1000K"}, {1e6, "1.0M"},        {1.54e6, "1.5M"},
         {9'999'999.0, "10.0M"}, {1e7, "10M"},         {25.4e6, "25M"},      {999'600'000.0, "1000M"},
         {1e9, "1.0G"},          {12.34e9, "12.3G"},   {std::nan(""), "0K"},
     };
-    for (const Row& row : rows)
-        EXPECT_EQ(compactRate(row.rate), row.text) << row.rate;
-}
-
-TEST(CompactRate, SurvivesTheLargestRates) {
+    for (const auto& [rate, text] : rows)
+        EXPECT_EQ(compactRate(rate), text) << rate;
     EXPECT_GT(compactRate(std::numeric_limits<double>::max()).size(), 300u);
     EXPECT_EQ(compactRate(infinity), "infG");
 }
 
 TEST(RoundedIntegerDeathTest, RejectsWhatIsNoFiniteNumber) {
-    EXPECT_EQ(roundedInteger(-0.4), "0");
-    EXPECT_EQ(roundedInteger(2.5), "3");
+    EXPECT_EQ(roundedInteger(-0.4), "0") << "without a sign";
     EXPECT_DEATH(roundedInteger(infinity), "no finite number");
     EXPECT_DEATH(compactPercent(std::nan("")), "no finite number");
 }

@@ -6,12 +6,11 @@ namespace vantrix {
 namespace {
 
 TEST(RepairedUTF8, KeepsValidTextAndReplacesTheRest) {
-    struct Row {
+    const struct {
         const char* name;
         std::string text;
         std::string repaired;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"plain", "CPU", "CPU"},
         {"two to four bytes", "\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80", "\xc3\xa9\xe2\x82\xac\xf0\x9f\x98\x80"},
         {"Latin-1", "Caf\xe9 X", "Caf\xef\xbf\xbd X"},
@@ -21,7 +20,7 @@ TEST(RepairedUTF8, KeepsValidTextAndReplacesTheRest) {
         {"past the last code point", "\xf4\x90\x80\x80", "\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd\xef\xbf\xbd"},
         {"stray continuation", "\x80z", "\xef\xbf\xbdz"},
     };
-    for (const Row& row : rows)
+    for (const auto& row : rows)
         EXPECT_EQ(repairedUTF8(row.text), row.repaired) << row.name;
 }
 
