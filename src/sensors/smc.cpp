@@ -44,20 +44,6 @@ std::uint32_t keyCode(std::string_view key) {
     return code;
 }
 
-std::string typeText(std::uint32_t code) {
-    std::string text;
-    for (const int shift : {24, 16, 8, 0}) {
-        const std::uint32_t byte = (code >> shift) & 0xff;
-        if (byte < 0x80) {
-            text += static_cast<char>(byte);
-        } else {
-            text += static_cast<char>(0xc0 | (byte >> 6));
-            text += static_cast<char>(0x80 | (byte & 0x3f));
-        }
-    }
-    return text;
-}
-
 std::optional<double> finiteFloat(std::uint32_t bits) {
     const auto value = std::bit_cast<float>(bits);
     return std::isfinite(value) ? std::optional<double>(value) : std::nullopt;
@@ -65,7 +51,7 @@ std::optional<double> finiteFloat(std::uint32_t bits) {
 
 } // namespace
 
-std::optional<SMC::Data> SMC::read(std::string_view key) {
+std::optional<double> SMC::value(std::string_view key) {
     Record question{};
     Record answer{};
     const auto ask = [&](std::uint8_t command) {
@@ -75,16 +61,15 @@ std::optional<SMC::Data> SMC::read(std::string_view key) {
     putNumber(question, keyOffset, keyCode(key));
     if (!ask(readKeyInfo))
         return std::nullopt;
-    Data data;
-    data.size = littleEndian(std::span(answer).subspan(dataSizeOffset, 4));
-    data.type = typeText(littleEndian(std::span(answer).subspan(dataTypeOffset, 4)));
-    if (data.size < 1 || data.size > data.storage.size())
+    const std::uint32_t size = littleEndian(std::span(answer).subspan(dataSizeOffset, 4));
+    std::array<char, 4> type{}; // told as a number: the last character comes first
+    std::reverse_copy(answer.begin() + dataTypeOffset, answer.begin() + dataTypeOffset + type.size(), type.begin());
+    if (size < 1 || size > answer.size() - bytesOffset)
         return std::nullopt;
-    putNumber(question, dataSizeOffset, static_cast<std::uint32_t>(data.size));
+    putNumber(question, dataSizeOffset, size);
     if (!ask(readBytes))
         return std::nullopt;
-    std::copy_n(answer.begin() + bytesOffset, data.size, data.storage.begin());
-    return data;
+    return decode({type.data(), type.size()}, std::span(answer).subspan(bytesOffset, size));
 }
 
 std::optional<double> SMC::decode(std::string_view type, std::span<const std::uint8_t> bytes) {
@@ -102,11 +87,6 @@ std::optional<double> SMC::decode(std::string_view type, std::span<const std::ui
     if (has("fpe2", 2))
         return bigEndian(bytes.first(2)) / 4.0;
     return std::nullopt;
-}
-
-std::optional<double> SMC::value(std::string_view key) {
-    const auto data = read(key);
-    return data ? decode(data->type, data->bytes()) : std::nullopt;
 }
 
 } // namespace vantrix

@@ -6,7 +6,6 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 
 #include "sensors/sensor_keys.h"
@@ -28,26 +27,16 @@ class SMC : public SensorKeys {
         virtual bool call(const Record& question, Record& answer) = 0;
     };
 
-    /// A key's data as the controller stores it.
-    struct Data {
-        std::string type; ///< four characters, blanks included: "flt "
-        std::array<std::uint8_t, 32> storage{};
-        std::size_t size = 0; ///< 1 to 32
-
-        std::span<const std::uint8_t> bytes() const { return std::span(storage).first(size); }
-    };
-
     /// `transport` is an open connection.
     explicit SMC(std::unique_ptr<Transport> transport) : transport_(std::move(transport)) {}
 
     /// Two calls of the controller: one for the key's type and size, one for its bytes.
-    std::optional<Data> read(std::string_view key);
-
-    /// Integers and fixed-point numbers are big-endian, "flt " is little-endian. Absent for other types, for too few
-    /// bytes and for a float that is not finite.
-    static std::optional<double> decode(std::string_view type, std::span<const std::uint8_t> bytes);
-
     std::optional<double> value(std::string_view key) override;
+
+    /// The number in a key's bytes by the name of their type: four characters, "ui8 ". Integers and fixed-point numbers
+    /// are big-endian, "flt " is little-endian. Absent for other types, for too few bytes and for a float that is not
+    /// finite.
+    static std::optional<double> decode(std::string_view type, std::span<const std::uint8_t> bytes);
 
   private:
     std::unique_ptr<Transport> transport_;
