@@ -3,7 +3,6 @@
 #include <Security/SecTask.h>
 
 #include "macos/kernel/cf_values.h"
-#include "support/application_group.h"
 
 namespace vantrix {
 
@@ -14,10 +13,14 @@ std::optional<std::string> applicationGroup() {
     const CFRef held(
         SecTaskCopyValueForEntitlement(task.get(), CFSTR("com.apple.security.application-groups"), nullptr));
     const auto groups = as<CFArrayRef>(held.get());
-    std::vector<std::optional<std::string>> listed;
-    for (CFIndex i = 0; groups && i < CFArrayGetCount(groups); ++i)
-        listed.push_back(textOf(CFArrayGetValueAtIndex(groups, i)));
-    return sharedGroup(listed);
+    std::optional<std::string> first;
+    for (CFIndex i = 0; groups && i < CFArrayGetCount(groups); ++i) {
+        const auto group = textOf(CFArrayGetValueAtIndex(groups, i));
+        if (!group)
+            return std::nullopt;
+        first = first ? first : group;
+    }
+    return first;
 }
 
 } // namespace vantrix
