@@ -16,42 +16,44 @@ QVariant text(const char* value) {
     return QString::fromUtf8(value);
 }
 
-struct Reading {
-    const char* name;
-    QVariant stored; ///< over a registered number 2, text "registered" and boolean true
-    double number;
-    const char* string;
-    bool boolean;
-};
-
-class UserDefaultsReading : public testing::TestWithParam<Reading> {};
-
-TEST_P(UserDefaultsReading, FallsBackToRegistered) {
-    MemoryDefaults memory;
-    if (GetParam().stored.isValid())
-        memory.store->values.insert(key, GetParam().stored);
-    memory.defaults.registerDefaults({{key, 2}});
-    EXPECT_EQ(memory.defaults.number(key), GetParam().number);
-    memory.defaults.registerDefaults({{key, text("registered")}});
-    EXPECT_EQ(memory.defaults.string(key), QString::fromUtf8(GetParam().string));
-    memory.defaults.registerDefaults({{key, true}});
-    EXPECT_EQ(memory.defaults.boolean(key), GetParam().boolean);
+TEST(UserDefaults, WhatCannotBeReadAsAskedFallsBackToWhatIsRegistered) {
+    const struct {
+        const char* name;
+        QVariant stored; ///< over a registered number 2, text "registered" and boolean true
+        double number;
+        const char* string;
+        bool boolean;
+    } cases[] = {
+        {"nothing", {}, 2, "registered", true},
+        {"no", false, 2, "registered", false},
+        {"fraction", 0.9, 0.9, "0.9", true},
+        {"zero", 0.0, 0, "0", false},
+        {"large whole number", 1e15, 1e15, "1000000000000000", true},
+        {"number as text", text("0.5"), 0.5, "0.5", true},
+        {"spaced number", text(" 5 "), 5, " 5 ", true},
+        {"one as text", text("1"), 1, "1", true},
+        {"zero as text", text("0"), 0, "0", false},
+        {"no as text", text("No"), 2, "No", false},
+        {"word", text("fast"), 2, "fast", true},
+        {"trailing unit", text("5s"), 2, "5s", true},
+        {"comma", text("0,5"), 2, "0,5", true},
+        {"empty text", text(""), 2, "", true},
+        {"infinite", text("inf"), 2, "inf", true},
+        {"not a number", text("nan"), 2, "nan", true},
+        {"beyond range", text("1e999"), 2, "1e999", true},
+    };
+    for (const auto& c : cases) {
+        MemoryDefaults memory;
+        if (c.stored.isValid())
+            memory.store->values.insert(key, c.stored);
+        memory.defaults.registerDefaults({{key, 2}});
+        EXPECT_EQ(memory.defaults.number(key), c.number) << c.name;
+        memory.defaults.registerDefaults({{key, text("registered")}});
+        EXPECT_EQ(memory.defaults.string(key), QString::fromUtf8(c.string)) << c.name;
+        memory.defaults.registerDefaults({{key, true}});
+        EXPECT_EQ(memory.defaults.boolean(key), c.boolean) << c.name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, UserDefaultsReading,
-    testing::Values(Reading{"nothing", {}, 2, "registered", true}, Reading{"no", false, 2, "registered", false},
-                    Reading{"fraction", 0.9, 0.9, "0.9", true}, Reading{"zero", 0.0, 0, "0", false},
-                    Reading{"largeWhole", 1e15, 1e15, "1000000000000000", true},
-                    Reading{"numericText", text("0.5"), 0.5, "0.5", true},
-                    Reading{"spacedNumber", text(" 5 "), 5, " 5 ", true}, Reading{"oneAsText", text("1"), 1, "1", true},
-                    Reading{"zeroAsText", text("0"), 0, "0", false}, Reading{"NoAsText", text("No"), 2, "No", false},
-                    Reading{"word", text("fast"), 2, "fast", true}, Reading{"trailingUnit", text("5s"), 2, "5s", true},
-                    Reading{"comma", text("0,5"), 2, "0,5", true}, Reading{"emptyText", text(""), 2, "", true},
-                    Reading{"infinite", text("inf"), 2, "inf", true},
-                    Reading{"notANumber", text("nan"), 2, "nan", true},
-                    Reading{"beyondRange", text("1e999"), 2, "1e999", true}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(UserDefaults, NothingStoredOrRegistered) {
     const MemoryDefaults memory;
