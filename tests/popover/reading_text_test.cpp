@@ -1,5 +1,6 @@
 #include "popover/reading_text.h"
 
+#include <cmath>
 #include <limits>
 
 #include <QLocale>
@@ -16,16 +17,12 @@ TEST(ReadingText, BytesInDecimalUnits) {
     } cases[] = {
         {0, "0 KB"},
         {512, "512 bytes"},
-        {999, "999 bytes"},
         {1000, "1 KB"},
-        {12'400, "12 KB"},
         {999'499, "999 KB"},
         {999'500, "1 MB"}, // not 1000 KB
         {9'400'000, "9.4 MB"},
-        {31'000'000, "31 MB"},
         {999'960'000, "1 GB"},
         {1'234'000'000, "1.23 GB"},
-        {186'000'000'000, "186 GB"},
         {12'345'678'901'234, "12.35 TB"},
         {std::numeric_limits<std::uint64_t>::max(), "18.45 EB"},
     };
@@ -34,20 +31,22 @@ TEST(ReadingText, BytesInDecimalUnits) {
 }
 
 TEST(ReadingText, MemoryInBinaryUnits) {
-    EXPECT_EQ(memoryText(std::uint64_t{10} << 30), QStringLiteral("10 GB"));
-    EXPECT_EQ(memoryText(std::uint64_t{512} << 20), QStringLiteral("512 MB"));
-    EXPECT_EQ(memoryText((std::uint64_t{1} << 30) - 1), QStringLiteral("1 GB"));
-    EXPECT_EQ(memoryText(1000), QStringLiteral("1000 bytes"));
-    EXPECT_EQ(memoryText(0), QStringLiteral("0 KB"));
+    const std::pair<std::uint64_t, const char*> cases[] = {{std::uint64_t{10} << 30, "10 GB"},
+                                                           {std::uint64_t{512} << 20, "512 MB"},
+                                                           {(std::uint64_t{1} << 30) - 1, "1 GB"},
+                                                           {1000, "1000 bytes"},
+                                                           {0, "0 KB"}};
+    for (const auto& [bytes, text] : cases)
+        EXPECT_EQ(memoryText(bytes).toStdString(), text) << bytes;
 }
 
 TEST(ReadingText, RatesDropFractionsAndNeverGoBelowZero) {
-    EXPECT_EQ(rateText(1999.9), QStringLiteral("2 KB/s"));
-    EXPECT_EQ(rateText(999.9), QStringLiteral("999 bytes/s"));
-    EXPECT_EQ(rateText(-5.0), QStringLiteral("0 KB/s"));
-    EXPECT_EQ(rateText(0.4), QStringLiteral("0 KB/s"));
-    EXPECT_EQ(rateText(std::numeric_limits<double>::quiet_NaN()), QStringLiteral("0 KB/s"));
-    EXPECT_EQ(rateText(std::numeric_limits<double>::infinity()), QStringLiteral("18.45 EB/s"));
+    constexpr double infinity = std::numeric_limits<double>::infinity();
+    const std::pair<double, const char*> cases[] = {{1999.9, "2 KB/s"},       {999.9, "999 bytes/s"},
+                                                    {-5.0, "0 KB/s"},         {0.4, "0 KB/s"},
+                                                    {std::nan(""), "0 KB/s"}, {infinity, "18.45 EB/s"}};
+    for (const auto& [rate, text] : cases)
+        EXPECT_EQ(rateText(rate).toStdString(), text) << rate;
 }
 
 TEST(ReadingText, WritesTheDecimalSignOfTheRegion) {

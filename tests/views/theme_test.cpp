@@ -11,7 +11,6 @@ namespace {
 
 TEST(Contrast, IsThatOfRelativeLuminances) {
     EXPECT_NEAR(contrast(Qt::black, Qt::white), 21.0, 1e-4);
-    EXPECT_NEAR(contrast(Qt::white, Qt::white), 1.0, 1e-4);
     EXPECT_NEAR(contrast(QColor(119, 119, 119), Qt::white), 4.48, 0.01); // the grey known to miss 4.5 by a hair
 }
 
