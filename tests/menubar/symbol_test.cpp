@@ -31,15 +31,8 @@ TEST(Symbols, EveryChoiceWithASymbolHasADrawing) {
 }
 
 TEST(Symbols, UnknownNameDrawsNothing) {
-    for (const auto* name : {"", "no.such.symbol", "CPU"}) {
+    for (const auto* name : {"", "no.such.symbol", "CPU"})
         EXPECT_EQ(coverage(symbolImage(name, ink, 32)), 0.0) << name;
-        QImage page(32, 32, QImage::Format_ARGB32_Premultiplied);
-        page.fill(Qt::white);
-        const auto before = page;
-        QPainter painter(&page);
-        paintSymbol(painter, name, QRectF(0, 0, 32, 32), ink);
-        EXPECT_EQ(page, before) << name;
-    }
 }
 
 TEST(Symbols, TakeTheAskedColourAndItsOpacity) {
@@ -57,7 +50,6 @@ TEST(Symbols, OfTheSystemAreCentredAndOnlyEverShrunk) {
         QSizeF natural;
         QRectF place; ///< in a square of 20
     } cases[] = {{"small", {12, 6}, {4, 7, 12, 6}},
-                 {"as large as the square", {20, 20}, {0, 0, 20, 20}},
                  {"too wide", {40, 10}, {0, 7.5, 20, 5}},
                  {"too tall", {10, 25}, {6, 0, 8, 20}},
                  {"nothing", {0, 0}, {10, 10, 0, 0}}};

@@ -26,22 +26,22 @@ TEST(UserDefaults, WhatCannotBeReadAsAskedFallsBackToWhatIsRegistered) {
     } cases[] = {
         {"nothing", {}, 2, "registered", true},
         {"no", false, 2, "registered", false},
-        {"fraction", 0.9, 0.9, "0.9", true},
         {"zero", 0.0, 0, "0", false},
         {"large whole number", 1e15, 1e15, "1000000000000000", true},
         {"number as text", text("0.5"), 0.5, "0.5", true},
         {"spaced number", text(" 5 "), 5, " 5 ", true},
-        {"one as text", text("1"), 1, "1", true},
         {"zero as text", text("0"), 0, "0", false},
         {"no as text", text("No"), 2, "No", false},
-        {"word", text("fast"), 2, "fast", true},
         {"trailing unit", text("5s"), 2, "5s", true},
         {"comma", text("0,5"), 2, "0,5", true},
         {"empty text", text(""), 2, "", true},
-        {"infinite", text("inf"), 2, "inf", true},
         {"not a number", text("nan"), 2, "nan", true},
         {"beyond range", text("1e999"), 2, "1e999", true},
     };
+    const MemoryDefaults empty;
+    EXPECT_EQ(empty.defaults.string(key), std::nullopt);
+    EXPECT_EQ(empty.defaults.number(key), 0.0);
+    EXPECT_FALSE(empty.defaults.boolean(key));
     for (const auto& c : cases) {
         MemoryDefaults memory;
         if (c.stored.isValid())
@@ -53,13 +53,6 @@ TEST(UserDefaults, WhatCannotBeReadAsAskedFallsBackToWhatIsRegistered) {
         memory.defaults.registerDefaults({{key, true}});
         EXPECT_EQ(memory.defaults.boolean(key), c.boolean) << c.name;
     }
-}
-
-TEST(UserDefaults, NothingStoredOrRegistered) {
-    const MemoryDefaults memory;
-    EXPECT_EQ(memory.defaults.string(key), std::nullopt);
-    EXPECT_EQ(memory.defaults.number(key), 0.0);
-    EXPECT_FALSE(memory.defaults.boolean(key));
 }
 
 TEST(UserDefaults, AnnouncesChangesOnly) {
@@ -87,10 +80,9 @@ TEST(UserDefaults, AnnouncesChangesOnly) {
 
 TEST(UserDefaults, DropsWhatNoStoreKeeps) {
     MemoryDefaults memory;
-    memory.defaults.set(key, std::numeric_limits<double>::infinity());
-    memory.defaults.set(key, std::nan(""));
-    memory.defaults.set(key, QVariantList{1, 2});
-    memory.defaults.set(key, {});
+    const QVariant values[] = {std::numeric_limits<double>::infinity(), std::nan(""), QVariantList{1, 2}, {}};
+    for (const QVariant& value : values)
+        memory.defaults.set(key, value);
     EXPECT_EQ(memory.store->writes, 0);
 }
 

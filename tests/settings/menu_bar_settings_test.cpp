@@ -34,19 +34,17 @@ TEST_F(MenuBarSettingsTest, ButtonsSwapNeighboursAndStoreAllSeven) {
     control<SymbolButton>("Move Memory up").click();
     EXPECT_EQ(order(), u"memory,cpu,network,disk,gpu,temperature,battery");
     EXPECT_EQ(shownOrder(), order());
-    EXPECT_FALSE(control<SymbolButton>("Move Memory up").isEnabled());
-    EXPECT_TRUE(control<SymbolButton>("Move CPU up").isEnabled());
     control<SymbolButton>("Move CPU temperature down").click();
     EXPECT_EQ(order(), u"memory,cpu,network,disk,gpu,battery,temperature");
-    EXPECT_FALSE(control<SymbolButton>("Move CPU temperature down").isEnabled());
     store(preference_key::menuBarOrder, QStringLiteral("battery,unknown,battery"));
     EXPECT_EQ(shownOrder(), u"battery,cpu,memory,network,disk,gpu,temperature") << "a change from outside";
 }
 
 TEST_F(MenuBarSettingsTest, NothingMovesOutOfTheList) {
     const QString before = order();
-    control<SymbolButton>("Move CPU up").click();
-    control<SymbolButton>("Move Battery down").click();
+    EXPECT_FALSE(control<SymbolButton>("Move CPU up").isEnabled());
+    EXPECT_TRUE(control<SymbolButton>("Move Memory up").isEnabled());
+    EXPECT_FALSE(control<SymbolButton>("Move Battery down").isEnabled());
     press(control<CheckBox>("CPU"), Qt::Key_Up, Qt::AltModifier);
     press(control<CheckBox>("Battery"), Qt::Key_Down, Qt::AltModifier);
     EXPECT_EQ(order(), before);
@@ -110,10 +108,11 @@ TEST_F(MenuBarSettingsTest, ChecksAreStoredAsASortedSetAndThePreviewFollows) {
     control<CheckBox>("Battery").click();
     EXPECT_EQ(stored(preference_key::menuBarEnabled), u"battery,cpu,gpu,memory");
     auto* preview = controller.window()->findChild<MenuBarPreview*>();
-    EXPECT_TRUE(preview->isVisible());
-    EXPECT_FALSE(shows("Select at least one module"));
-    for (const char* name : {"GPU", "Battery", "CPU", "Memory"})
+    for (const char* name : {"GPU", "Battery", "CPU", "Memory"}) {
+        EXPECT_TRUE(preview->isVisible());
+        EXPECT_FALSE(shows("Select at least one module"));
         control<CheckBox>(name).click();
+    }
     EXPECT_EQ(stored(preference_key::menuBarEnabled), u"");
     EXPECT_FALSE(preview->isVisible());
     EXPECT_TRUE(shows("Select at least one module"));

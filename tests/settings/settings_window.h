@@ -17,16 +17,6 @@
 /// What the tests of the settings window share.
 namespace vantrix::settings_window {
 
-class NoTimer : public RepeatingTimer {
-  public:
-    void schedule(double, double, std::function<void()>) override {}
-};
-
-class NoTasks : public TaskRunner {
-  public:
-    void run(std::function<void()>, std::function<void()>) override {}
-};
-
 inline void press(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
     QKeyEvent down(QEvent::KeyPress, key, modifiers);
     QApplication::sendEvent(&widget, &down);
@@ -78,7 +68,8 @@ class SettingsWindowTest : public ::testing::Test {
     Theme theme{appearance};
     fakes::FakeDefaults defaults;
     fakes::FakeMachine machine;
-    SystemMonitor monitor{machine.makeSources(), defaults, std::make_unique<NoTimer>(), std::make_unique<NoTasks>()};
+    SystemMonitor monitor{machine.makeSources(), defaults, std::make_unique<QtRepeatingTimer>(),
+                          std::make_unique<ThreadTaskRunner>()};
     fakes::FakeLoginItem loginItem;
     std::function<void(const QString&)> reportTest;
     SettingsWindowController controller{

@@ -8,14 +8,13 @@ namespace vantrix {
 namespace {
 
 TEST(Thresholds, PushEachOtherApart) {
-    struct Case {
+    const struct {
         const char* name;
         void (*set)(UserDefaults&, double);
         double value;
         double warningBefore, criticalBefore;
         double warning, critical;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"room enough", setWarningThreshold, 0.8, 0.75, 0.9, 0.8, 0.9},
         {"warning meets critical", setWarningThreshold, 0.85, 0.75, 0.85, 0.85, 0.9},
         {"warning far above critical", setWarningThreshold, 0.95, 0.75, 0.9, 0.95, 1.0},
@@ -26,7 +25,7 @@ TEST(Thresholds, PushEachOtherApart) {
         {"critical below all", setCriticalThreshold, 0.5, 0.75, 0.9, 0.5, 0.5},
         {"a sum that drifts", setWarningThreshold, 0.65, 0.5, 0.6, 0.65, 0.7},
     };
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         fakes::FakeDefaults defaults;
         defaults.set(preference_key::warningThreshold, c.warningBefore);
         defaults.set(preference_key::criticalThreshold, c.criticalBefore);
