@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "popover/charts/threshold_color.h"
+#include "views/theme_colors.h"
 #include "views/view.h"
 
 namespace vantrix {

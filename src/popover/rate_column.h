@@ -3,7 +3,7 @@
 #include <span>
 #include <string_view>
 
-#include "popover/charts/threshold_color.h"
+#include "views/theme_colors.h"
 #include "views/view.h"
 
 class QHBoxLayout;

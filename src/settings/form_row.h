@@ -13,7 +13,7 @@ class FormRow : public View {
         QString caption;
         QWidget* control = nullptr; ///< becomes the row's child; sizeHint() counts
         QWidget* mark = nullptr;    ///< becomes the row's child; optional
-        QColor ThemeColors::*color = &ThemeColors::label;
+        ColorRole color = &ThemeColors::label;
     };
 
     static constexpr int sidePadding = 14; ///< points

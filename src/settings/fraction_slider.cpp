@@ -13,7 +13,7 @@
 
 namespace vantrix {
 
-PercentLabel::PercentLabel(const Theme& theme, QColor ThemeColors::*color)
+PercentLabel::PercentLabel(const Theme& theme, ColorRole color)
     : TextLabel(theme, {.points = bodyPoints, .color = color, .monospaced = true, .side = Qt::AlignRight}) {}
 
 QSize PercentLabel::sizeHint() const {
@@ -23,7 +23,7 @@ QSize PercentLabel::sizeHint() const {
 }
 
 QWidget* withPercent(const Theme& theme, Slider* slider, const UserDefaults& defaults, const QString& key,
-                     QColor ThemeColors::*color) {
+                     ColorRole color) {
     auto* label = new PercentLabel(theme, color);
     follow(*label, defaults, [label, &defaults, key] { label->setText(thresholdText(defaults.number(key))); });
     return besideEachOther(slider, label);

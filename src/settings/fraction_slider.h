@@ -11,7 +11,7 @@ class UserDefaults;
 class PercentLabel : public TextLabel {
     Q_OBJECT
   public:
-    PercentLabel(const Theme& theme, QColor ThemeColors::*color);
+    PercentLabel(const Theme& theme, ColorRole color);
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
@@ -19,6 +19,6 @@ class PercentLabel : public TextLabel {
 
 /// The slider with the number stored under `key` beside it, as one control.
 QWidget* withPercent(const Theme& theme, Slider* slider, const UserDefaults& defaults, const QString& key,
-                     QColor ThemeColors::*color);
+                     ColorRole color);
 
 } // namespace vantrix

@@ -23,7 +23,7 @@ constexpr double dotSide = 8.0;
 /// The colour that a threshold stands for.
 class Dot : public View {
   public:
-    Dot(const Theme& theme, QColor ThemeColors::*color) : View(theme), color_(color) {}
+    Dot(const Theme& theme, ColorRole color) : View(theme), color_(color) {}
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Graphic; }
     QSize sizeHint() const override {
@@ -41,7 +41,7 @@ class Dot : public View {
     }
 
   private:
-    QColor ThemeColors::*color_;
+    ColorRole color_;
 };
 
 } // namespace
@@ -84,7 +84,7 @@ void GeneralSettings::addThresholds() {
 }
 
 void GeneralSettings::addThreshold(FormSection& section, Slider* slider, const QString& key, const QString& caption,
-                                   QColor ThemeColors::*color) {
+                                   ColorRole color) {
     follow(*slider, defaults_, [this, slider, key] { slider->setFraction(defaults_.number(key)); });
     section.addRow({.caption = caption,
                     .control = withPercent(theme(), slider, defaults_, key, &ThemeColors::label),

@@ -22,7 +22,7 @@ class GeneralSettings : public Form {
   private:
     void addLoginItem();
     void addThreshold(FormSection& section, Slider* slider, const QString& key, const QString& caption,
-                      QColor ThemeColors::*color);
+                      ColorRole color);
     void addThresholds();
     void readLoginItem();
 

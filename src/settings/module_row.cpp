@@ -15,6 +15,7 @@
 #include "settings/settings_texts.h"
 #include "support/user_defaults.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/symbol_button.h"
 #include "views/theme.h"
 

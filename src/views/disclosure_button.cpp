@@ -19,32 +19,31 @@ constexpr double cornerRadius = 4.0;
 
 } // namespace
 
-DisclosureButton::DisclosureButton(const Theme& theme) : theme_(theme), ring_(*new FocusRing(*this, theme)) {
+DisclosureButton::DisclosureButton(const Theme& theme) : Button(theme) {
     setCheckable(true);
-    setAutoDefault(true); // Return presses it, too
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
 QSize DisclosureButton::sizeHint() const {
-    const QFontMetricsF metrics(theme_.font(textSize));
-    const double width = metrics.horizontalAdvance(text()) + theme_.scaled(symbolSide) + 2.0 * focusMargin;
+    const QFontMetricsF metrics(theme().font(textSize));
+    const double width = metrics.horizontalAdvance(text()) + theme().scaled(symbolSide) + 2.0 * focusMargin;
     return QSizeF(std::ceil(width), std::ceil(metrics.height()) + 2.0 * focusMargin).toSize();
 }
 
 QSize DisclosureButton::minimumSizeHint() const {
-    return {static_cast<int>(theme_.scaled(60.0)), sizeHint().height()};
+    return {static_cast<int>(theme().scaled(60.0)), sizeHint().height()};
 }
 
 void DisclosureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    ring_.paint(painter, rect().adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin), cornerRadius);
-    const int side = static_cast<int>(std::lround(theme_.scaled(symbolSide)));
+    ring().paint(painter, insideRing(*this), cornerRadius);
+    const int side = static_cast<int>(std::lround(theme().scaled(symbolSide)));
     const QRect mark(width() - side, (height() - side) / 2, side, side);
     paintSymbol(painter, isChecked() ? "chevron.up" : "chevron.down",
-                QStyle::visualRect(layoutDirection(), rect(), mark), theme_.colors().secondary);
-    painter.setFont(theme_.font(textSize));
-    painter.setPen(theme_.colors().secondary);
+                QStyle::visualRect(layoutDirection(), rect(), mark), theme().colors().secondary);
+    painter.setFont(theme().font(textSize));
+    painter.setPen(theme().colors().secondary);
     const QRect room = QStyle::visualRect(layoutDirection(), rect(), rect().adjusted(0, 0, -side, 0));
     const auto alignment = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft | Qt::AlignVCenter);
     painter.drawText(room, static_cast<int>(alignment) | Qt::TextSingleLine, text());

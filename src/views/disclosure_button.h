@@ -1,14 +1,11 @@
 #pragma once
 
-#include <QPushButton>
+#include "views/button.h"
 
 namespace vantrix {
 
-class FocusRing;
-class Theme;
-
 /// A line of text that opens and closes what stands below it.
-class DisclosureButton : public QPushButton {
+class DisclosureButton : public Button {
     Q_OBJECT
   public:
     explicit DisclosureButton(const Theme& theme);
@@ -18,10 +15,6 @@ class DisclosureButton : public QPushButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-
-  private:
-    const Theme& theme_;
-    FocusRing& ring_;
 };
 
 } // namespace vantrix

@@ -37,6 +37,14 @@ std::optional<bool> keyboardSign(const QEvent& event) {
 
 } // namespace
 
+QRectF insideRing(const QWidget& control) {
+    return QRectF(control.rect()).adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin);
+}
+
+QSize withRing(const QSize& drawing) {
+    return drawing + QSize(2 * focusMargin, 2 * focusMargin);
+}
+
 FocusRing::FocusRing(QWidget& control, const Theme& theme) : QObject(&control), control_(control), theme_(theme) {
     control.installEventFilter(this);
     connect(&theme, &Theme::changed, &control, [&control] {

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QRectF>
+#include <QSize>
 
 class QPainter;
 class QWidget;
@@ -12,6 +13,11 @@ class Theme;
 
 /// Room that a control leaves around its drawing for the ring, in points.
 inline constexpr int focusMargin = 3;
+
+/// The part of the control inside that room: what it draws in.
+QRectF insideRing(const QWidget& control);
+/// The size of a control whose drawing is that large.
+QSize withRing(const QSize& drawing);
 
 /// The ring around a control that the keyboard talks to. It shows for people who use the keyboard and stays away from
 /// those who click. Also lets the control follow the theme. Owned by the control.

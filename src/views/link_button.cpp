@@ -16,17 +16,15 @@ constexpr double cornerRadius = 3.0;
 
 } // namespace
 
-LinkButton::LinkButton(const Theme& theme, const QString& text, const QString& description)
-    : QPushButton(text), theme_(theme), ring_(*new FocusRing(*this, theme)) {
+LinkButton::LinkButton(const Theme& theme, const QString& text, const QString& description) : Button(theme, text) {
     setToolTip(description);
     setAccessibleDescription(description);
-    setAutoDefault(true); // Return presses it, too
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 QSize LinkButton::sizeHint() const {
-    const QFontMetricsF metrics(theme_.font(textSize));
+    const QFontMetricsF metrics(theme().font(textSize));
     return QSizeF(std::ceil(metrics.horizontalAdvance(text())), std::ceil(metrics.height())).toSize();
 }
 
@@ -34,9 +32,9 @@ void LinkButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     // The line stands among others: the ring lies over the text's own edge rather than to keep room of its own.
-    ring_.paint(painter, rect().adjusted(1, 1, -1, -1), cornerRadius);
-    painter.setFont(theme_.font(textSize));
-    painter.setPen(theme_.colors().accent);
+    ring().paint(painter, rect().adjusted(1, 1, -1, -1), cornerRadius);
+    painter.setFont(theme().font(textSize));
+    painter.setPen(theme().colors().accent);
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextSingleLine, text());
 }
 

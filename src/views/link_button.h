@@ -1,14 +1,11 @@
 #pragma once
 
-#include <QPushButton>
+#include "views/button.h"
 
 namespace vantrix {
 
-class FocusRing;
-class Theme;
-
 /// A line of text that does something when it is clicked.
-class LinkButton : public QPushButton {
+class LinkButton : public Button {
     Q_OBJECT
   public:
     /// `description` says what it does, in the tool tip and to assistive programs.
@@ -19,10 +16,6 @@ class LinkButton : public QPushButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-
-  private:
-    const Theme& theme_;
-    FocusRing& ring_;
 };
 
 } // namespace vantrix

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QWidget>
+
 namespace vantrix {
 namespace {
 
@@ -36,6 +38,12 @@ QPainterPath continuousRect(const QRectF& rect, double radius) {
     path.cubicTo(left, top + h, left + h, top, left + b, top);
     path.closeSubpath();
     return path;
+}
+
+QRectF mirrored(const QWidget& widget, const QRectF& rect) {
+    if (widget.layoutDirection() != Qt::RightToLeft)
+        return rect;
+    return {widget.width() - rect.right(), rect.y(), rect.width(), rect.height()};
 }
 
 } // namespace vantrix

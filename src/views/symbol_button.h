@@ -2,15 +2,12 @@
 
 #include <string>
 
-#include <QPushButton>
+#include "views/button.h"
 
 namespace vantrix {
 
-class FocusRing;
-class Theme;
-
 /// A symbol to click, without a border until the pointer or the keyboard comes to it.
-class SymbolButton : public QPushButton {
+class SymbolButton : public Button {
     Q_OBJECT
   public:
     /// `points` is the size of the text that the symbol goes with; `name` says what it does, to
@@ -24,8 +21,6 @@ class SymbolButton : public QPushButton {
     void paintEvent(QPaintEvent* event) override;
 
   private:
-    const Theme& theme_;
-    FocusRing& ring_;
     std::string symbol_;
     double points_;
 };

@@ -8,13 +8,12 @@
 #include "views/theme.h"
 
 namespace vantrix {
-namespace {
 
-constexpr double sizeToText = 1.3; // the drawings have some air around them
+double symbolSide(const Theme& theme, double points) {
+    return theme.scaled(points * 1.3); // the drawings have some air around them
+}
 
-} // namespace
-
-SymbolView::SymbolView(const Theme& theme, std::string_view symbol, double points, QColor ThemeColors::*color)
+SymbolView::SymbolView(const Theme& theme, std::string_view symbol, double points, ColorRole color)
     : View(theme), symbol_(symbol), points_(points), color_(color) {
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
@@ -27,7 +26,7 @@ void SymbolView::setSymbol(std::string_view symbol) {
 }
 
 QSize SymbolView::sizeHint() const {
-    const int side = static_cast<int>(std::lround(theme().scaled(points_ * sizeToText)));
+    const int side = static_cast<int>(std::lround(symbolSide(theme(), points_)));
     return {side, side};
 }
 

@@ -7,11 +7,14 @@
 
 namespace vantrix {
 
+/// The side of a symbol that goes with a text of that size, in points.
+double symbolSide(const Theme& theme, double points);
+
 /// A symbol beside a text. Decoration: assistive programs pass it by.
 class SymbolView : public View {
   public:
     /// `points` is the size of the text that the symbol goes with.
-    SymbolView(const Theme& theme, std::string_view symbol, double points, QColor ThemeColors::*color);
+    SymbolView(const Theme& theme, std::string_view symbol, double points, ColorRole color);
 
     void setSymbol(std::string_view symbol);
     const std::string& symbol() const { return symbol_; }
@@ -25,7 +28,7 @@ class SymbolView : public View {
   private:
     std::string symbol_;
     double points_;
-    QColor ThemeColors::*color_;
+    ColorRole color_;
 };
 
 } // namespace vantrix

@@ -37,13 +37,6 @@ void TextLabel::setText(const QString& text) {
     announceChange();
 }
 
-void TextLabel::setColor(const QColor& color) {
-    if (color == color_)
-        return;
-    color_ = color;
-    update();
-}
-
 QString TextLabel::accessibleText() const {
     return accessibleName().isEmpty() ? text_ : accessibleName();
 }
@@ -95,7 +88,7 @@ void TextLabel::paintNumber(QPainter& painter, const QColor& color, const QFontM
 
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QColor color = color_.isValid() ? color_ : theme().colors().*style_.color;
+    const QColor color = theme().colors().*style_.color;
     const QFont font = theme().font(style_.points, style_.weight);
     const QFontMetricsF metrics(font);
     if (style_.monospaced)

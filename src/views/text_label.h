@@ -17,7 +17,7 @@ class TextLabel : public View {
     struct Style {
         double points = 11.0;
         QFont::Weight weight = QFont::Normal;
-        QColor ThemeColors::*color = &ThemeColors::label;
+        ColorRole color = &ThemeColors::label;
         bool wraps = false;                 ///< more lines rather than an ellipsis
         bool monospaced = false;            ///< digits of equal advance; one line only
         Qt::Alignment side = Qt::AlignLeft; ///< or AlignRight, AlignHCenter; mirrored from right to left
@@ -27,8 +27,6 @@ class TextLabel : public View {
 
     const QString& text() const { return text_; }
     void setText(const QString& text);
-    /// Overrides the style's colour; an invalid one gives it back.
-    void setColor(const QColor& color);
 
     QAccessible::Role accessibleRole() const override { return QAccessible::StaticText; }
     QString accessibleText() const override;
@@ -49,7 +47,6 @@ class TextLabel : public View {
 
     Style style_;
     QString text_;
-    QColor color_;
 };
 
 } // namespace vantrix

@@ -37,6 +37,9 @@ struct ThemeColors {
     bool operator==(const ThemeColors&) const = default;
 };
 
+/// One of the theme's colours, whatever the theme.
+using ColorRole = QColor ThemeColors::*;
+
 /// How well a text of one opaque colour is seen on another: 1 (not at all) to 21 (black on white), by their relative
 /// luminances.
 double contrast(const QColor& a, const QColor& b);

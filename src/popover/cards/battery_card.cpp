@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "monitor/readings.h"
+#include "popover/cards/row_column.h"
 #include "popover/charts/segmented_bar.h"
 #include "popover/charts/stat_row.h"
 #include "popover/headline.h"
@@ -12,8 +13,6 @@
 
 namespace vantrix {
 namespace {
-
-constexpr int rowGap = 5;
 
 const char* symbolOf(const BatterySample& battery) {
     if (battery.isCharging)
@@ -45,27 +44,19 @@ QString durationText(int minutes) {
     return QString::fromStdString(formatted(localized("%lldh %lldm"), {minutes / 60, minutes % 60}));
 }
 
-StatRow* detail(const Theme& theme, const QString& label) {
-    return new StatRow(theme, label, StatRow::Lead::none());
-}
-
 } // namespace
 
 BatteryCard::BatteryCard(const CardContext& context)
     : Card(context.theme, localizedText("Battery"), "battery.75percent"), charge_(new Headline(context.theme)),
       bar_(new SegmentedBar(context.theme, localizedText("Battery charge"))),
       time_(new TextLabel(context.theme, {.points = 12.0, .color = &ThemeColors::secondary, .wraps = true})),
-      capacity_(detail(context.theme, localizedText("Maximum capacity"))),
-      cycles_(detail(context.theme, localizedText("Cycle count"))),
-      temperature_(detail(context.theme, localizedText("Temperature"))), power_(detail(context.theme, {})) {
-    auto* rows = new QVBoxLayout;
-    rows->setSpacing(rowGap);
-    for (StatRow* row : {capacity_, cycles_, temperature_, power_})
-        rows->addWidget(row);
+      capacity_(new StatRow(context.theme, localizedText("Maximum capacity"))),
+      cycles_(new StatRow(context.theme, localizedText("Cycle count"))),
+      temperature_(new StatRow(context.theme, localizedText("Temperature"))), power_(new StatRow(context.theme, {})) {
     content().addWidget(charge_);
     content().addWidget(bar_);
     content().addWidget(time_);
-    content().addLayout(rows);
+    content().addLayout(columnOf({capacity_, cycles_, temperature_, power_}));
 }
 
 void BatteryCard::showReadings(const Readings& readings) {

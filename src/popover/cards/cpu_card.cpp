@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 
 #include "monitor/readings.h"
+#include "popover/cards/row_column.h"
 #include "popover/charts/core_bars.h"
 #include "popover/charts/ring_gauge.h"
 #include "popover/charts/stat_row.h"
@@ -18,7 +19,6 @@ namespace {
 constexpr int ringSide = 76;
 constexpr double ringLine = 8.0;
 constexpr int ringGap = 16;
-constexpr int rowGap = 5;
 
 } // namespace
 
@@ -32,13 +32,10 @@ CPUCard::CPUCard(const CardContext& context)
     total_->setFixedSize(ringSide, ringSide);
     const auto description = QString::fromStdString(context.processor.cores());
 
-    auto* rows = new QVBoxLayout;
-    rows->setSpacing(rowGap);
-    rows->addStretch(1);
-    for (StatRow* row : {user_, system_, idle_})
-        rows->addWidget(row);
-    rows->addWidget(
-        new TextLabel(context.theme, {.points = 10.0, .color = &ThemeColors::tertiary, .wraps = true}, description));
+    auto* kind =
+        new TextLabel(context.theme, {.points = 10.0, .color = &ThemeColors::tertiary, .wraps = true}, description);
+    auto* rows = columnOf({user_, system_, idle_, kind});
+    rows->insertStretch(0, 1);
     rows->addStretch(1);
 
     auto* top = new QHBoxLayout;

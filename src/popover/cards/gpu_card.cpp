@@ -4,6 +4,7 @@
 
 #include "monitor/readings.h"
 #include "popover/charts/sparkline.h"
+#include "popover/charts/threshold_color.h"
 #include "popover/headline.h"
 #include "popover/reading_text.h"
 

@@ -3,6 +3,7 @@
 #include <QVBoxLayout>
 
 #include "monitor/readings.h"
+#include "popover/cards/row_column.h"
 #include "popover/charts/segmented_bar.h"
 #include "popover/charts/stat_row.h"
 #include "popover/headline.h"
@@ -12,8 +13,6 @@
 
 namespace vantrix {
 namespace {
-
-constexpr int rowGap = 5;
 
 QString pressureLine(MemorySample::Pressure pressure) {
     switch (pressure) {
@@ -37,13 +36,9 @@ MemoryCard::MemoryCard(const CardContext& context)
       compressed_(new StatRow(context.theme, localizedText("Compressed"), StatRow::Lead::mark(&ThemeColors::purple))),
       swap_(new StatRow(context.theme, localizedText("Swap used"), StatRow::Lead::room())),
       pressure_(new TextLabel(context.theme, {.points = 11.0, .color = &ThemeColors::secondary, .wraps = true})) {
-    auto* rows = new QVBoxLayout;
-    rows->setSpacing(rowGap);
-    for (StatRow* row : {app_, wired_, compressed_, swap_})
-        rows->addWidget(row);
     content().addWidget(used_);
     content().addWidget(shares_);
-    content().addLayout(rows);
+    content().addLayout(columnOf({app_, wired_, compressed_, swap_}));
     content().addWidget(pressure_);
 }
 

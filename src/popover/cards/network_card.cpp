@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "monitor/readings.h"
+#include "popover/cards/row_column.h"
 #include "popover/charts/stat_row.h"
 #include "popover/rate_column.h"
 #include "popover/reading_text.h"
@@ -15,7 +16,6 @@
 namespace vantrix {
 namespace {
 
-constexpr int rowGap = 5;
 constexpr double leastScale = 100'000.0; // bytes per second: less than this is an idle line
 
 const char* symbolOf(NetworkInfo::Kind kind) {
@@ -69,37 +69,24 @@ std::optional<QString> shown(const std::optional<std::string>& text) {
     return text ? std::optional(QString::fromStdString(*text)) : std::nullopt;
 }
 
-RateColumn* column(const Theme& theme, const RateColumn::Style& style) {
-    return new RateColumn(theme, style);
-}
-
-StatRow* detail(const Theme& theme, const QString& label) {
-    return new StatRow(theme, label, StatRow::Lead::none());
-}
-
 } // namespace
 
 NetworkCard::NetworkCard(const CardContext& context)
     : Card(context.theme, localizedText("Network"), "network"),
-      download_(column(context.theme, {localizedText("Download"), localizedText("Download history"), "arrow.down",
-                                       &ThemeColors::accent, leastScale})),
-      upload_(column(context.theme, {localizedText("Upload"), localizedText("Upload history"), "arrow.up",
-                                     &ThemeColors::green, leastScale})),
-      connection_(new QWidget), name_(detail(context.theme, localizedText("Network"))),
+      download_(new RateColumn(context.theme, {localizedText("Download"), localizedText("Download history"),
+                                               "arrow.down", &ThemeColors::accent, leastScale})),
+      upload_(new RateColumn(context.theme, {localizedText("Upload"), localizedText("Upload history"), "arrow.up",
+                                             &ThemeColors::green, leastScale})),
+      connection_(new QWidget), name_(new StatRow(context.theme, localizedText("Network"))),
       nameWithheld_(new LinkButton(context.theme, localizedText("Network name unavailable"),
                                    localizedText("Allow location access to show the network name"))),
-      signal_(detail(context.theme, localizedText("Signal"))),
-      signalToNoise_(detail(context.theme, localizedText("Signal-to-noise"))),
-      linkSpeed_(detail(context.theme, localizedText("Link speed"))),
-      interface_(detail(context.theme, localizedText("Interface"))),
-      address_(detail(context.theme, localizedText("IP address"))) {
+      signal_(new StatRow(context.theme, localizedText("Signal"))),
+      signalToNoise_(new StatRow(context.theme, localizedText("Signal-to-noise"))),
+      linkSpeed_(new StatRow(context.theme, localizedText("Link speed"))),
+      interface_(new StatRow(context.theme, localizedText("Interface"))),
+      address_(new StatRow(context.theme, localizedText("IP address"))) {
     signal_->setSymbol("wifi");
-    auto* rows = new QVBoxLayout(connection_);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(rowGap);
-    for (QWidget* row : std::initializer_list<QWidget*>{name_, nameWithheld_, signal_, signalToNoise_, linkSpeed_,
-                                                        interface_, address_})
-        rows->addWidget(row);
+    connection_->setLayout(columnOf({name_, nameWithheld_, signal_, signalToNoise_, linkSpeed_, interface_, address_}));
     connect(nameWithheld_, &QPushButton::clicked, this, context.requestLocationAccess);
     content().addLayout(sideBySide(download_, upload_));
     content().addWidget(connection_);

@@ -6,6 +6,7 @@
 #include <QVBoxLayout>
 
 #include "monitor/readings.h"
+#include "popover/cards/row_column.h"
 #include "popover/charts/stat_row.h"
 #include "popover/reading_text.h"
 #include "support/localization.h"
@@ -16,7 +17,6 @@
 namespace vantrix {
 namespace {
 
-constexpr int rowGap = 5;
 constexpr int columnGap = 16;
 constexpr double hot = 90.0; // °C, as in the status item
 constexpr double warm = 80.0;
@@ -50,15 +50,6 @@ QString fanText(const FanReading& fan) {
 bool hasTemperature(const SensorsSample& sensors) {
     return sensors.cpu || sensors.cpuHottest || sensors.gpu || sensors.soc || sensors.ssd || sensors.battery ||
            !sensors.all.empty();
-}
-
-QVBoxLayout* columnOf(std::initializer_list<QWidget*> rows) {
-    auto* column = new QVBoxLayout;
-    column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(rowGap);
-    for (QWidget* row : rows)
-        column->addWidget(row);
-    return column;
 }
 
 /// As many rows as `count`, in `column`.

@@ -7,6 +7,7 @@
 
 #include "popover/charts/threshold_color.h"
 #include "support/text_format.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -98,10 +99,8 @@ void CoreBars::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    const bool mirrored = layoutDirection() == Qt::RightToLeft;
-    const auto fill = [&](QRectF rect, const QColor& color) {
-        if (mirrored)
-            rect.moveLeft(width() - rect.right());
+    const auto fill = [&](const QRectF& place, const QColor& color) {
+        QRectF rect = mirrored(*this, place);
         // Edges between pixels would blur, and bars of one width would look unlike.
         const double pixels = devicePixelRatioF();
         rect.setLeft(std::round(rect.left() * pixels) / pixels);

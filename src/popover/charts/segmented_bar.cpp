@@ -59,11 +59,9 @@ void SegmentedBar::paintEvent(QPaintEvent*) {
     painter.fillPath(continuousRect(rect(), trackRadius), theme().colors().quaternary);
     const std::vector<QRectF> rects = places(width());
     for (std::size_t i = 0; i < segments_.size(); ++i) {
-        QRectF place = rects[i];
-        if (place.isEmpty())
+        if (rects[i].isEmpty())
             continue;
-        if (layoutDirection() == Qt::RightToLeft)
-            place.moveLeft(width() - place.right());
+        const QRectF place = mirrored(*this, rects[i]);
         painter.fillPath(continuousRect(place, segmentRadius), theme().colors().*segments_[i].color);
     }
 }

@@ -4,7 +4,7 @@
 
 #include <QRectF>
 
-#include "popover/charts/threshold_color.h"
+#include "views/theme_colors.h"
 #include "views/view.h"
 
 namespace vantrix {

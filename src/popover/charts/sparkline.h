@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "popover/charts/threshold_color.h"
+#include "views/theme_colors.h"
 #include "views/view.h"
 
 class QPainterPath;

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "popover/charts/threshold_color.h"
+#include "views/theme_colors.h"
 #include "views/view.h"
 
 namespace vantrix {
@@ -24,7 +24,7 @@ class StatRow : public View {
         static Lead none() { return {nullptr, {}, false}; }
     };
 
-    StatRow(const Theme& theme, const QString& label, const Lead& lead);
+    StatRow(const Theme& theme, const QString& label, const Lead& lead = Lead::none());
 
     void setLabel(const QString& label);
     void setValue(const QString& value);
@@ -41,7 +41,6 @@ class StatRow : public View {
         if (value)
             setValue(text(*value));
     }
-    const QString& value() const { return value_; }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::StaticText; }
     QString accessibleText() const override;

@@ -10,6 +10,7 @@
 #include "menubar/symbol.h"
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {

@@ -38,12 +38,6 @@ void paintKnob(QPainter& painter, const QRectF& rect, bool enabled) {
     painter.drawEllipse(rect);
 }
 
-QRectF mirrored(const QWidget& control, const QRectF& rect) {
-    if (control.layoutDirection() != Qt::RightToLeft)
-        return rect;
-    return {control.width() - rect.right(), rect.y(), rect.width(), rect.height()};
-}
-
 double widestWord(const QFont& font, const QString& text) {
     const QFontMetricsF metrics(font);
     double widest = 0.0;

@@ -24,9 +24,6 @@ void paintButtonGround(QPainter& painter, const QWidget& control, const Theme& t
 /// The round knob of a switch or a slider.
 void paintKnob(QPainter& painter, const QRectF& rect, bool enabled);
 
-/// `rect` mirrored within the control where its language runs from right to left.
-QRectF mirrored(const QWidget& control, const QRectF& rect);
-
 /// The width of the widest word of `text`: no line can be narrower.
 double widestWord(const QFont& font, const QString& text);
 

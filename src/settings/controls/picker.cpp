@@ -14,6 +14,7 @@
 #include "settings/controls/control_accessibility.h"
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -83,7 +84,7 @@ QSize Picker::sizeHint() const {
     for (int i = 0; i < count(); ++i)
         text = std::max(text, metrics.horizontalAdvance(itemText(i)));
     const double width = text + theme_.scaled(2.5 * sidePadding + chevron);
-    return QSizeF(std::ceil(width), theme_.scaled(fieldHeight)).toSize() + QSize(2 * focusMargin, 2 * focusMargin);
+    return withRing(QSizeF(std::ceil(width), theme_.scaled(fieldHeight)).toSize());
 }
 
 void Picker::pick(int index) {
@@ -105,7 +106,7 @@ void Picker::showPopup() {
 void Picker::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF ground = QRectF(rect()).adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin);
+    const QRectF ground = insideRing(*this);
     paintButtonGround(painter, *this, theme_, ground, false);
     ring_.paint(painter, ground, theme_.scaled(6.0));
 

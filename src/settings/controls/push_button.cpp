@@ -17,27 +17,25 @@ constexpr double fieldHeight = 24.0;
 
 } // namespace
 
-PushButton::PushButton(const Theme& theme, const QString& text)
-    : QPushButton(text), theme_(theme), ring_(*new FocusRing(*this, theme)) {
-    setAutoDefault(true); // the return key presses it
+PushButton::PushButton(const Theme& theme, const QString& text) : Button(theme, text) {
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
 }
 
 QSize PushButton::sizeHint() const {
-    const double text = QFontMetricsF(theme_.font(bodyPoints)).horizontalAdvance(this->text());
-    const QSizeF ground(std::ceil(text + theme_.scaled(2.0 * sidePadding)), theme_.scaled(fieldHeight));
-    return ground.toSize() + QSize(2 * focusMargin, 2 * focusMargin);
+    const double text = QFontMetricsF(theme().font(bodyPoints)).horizontalAdvance(this->text());
+    const QSizeF ground(std::ceil(text + theme().scaled(2.0 * sidePadding)), theme().scaled(fieldHeight));
+    return withRing(ground.toSize());
 }
 
 void PushButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QRectF ground = QRectF(rect()).adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin);
-    paintButtonGround(painter, *this, theme_, ground, isDown());
-    ring_.paint(painter, ground, theme_.scaled(6.0));
-    painter.setFont(fittingFont(theme_, text(), QFont::Normal, ground.width() - theme_.scaled(sidePadding)));
-    painter.setPen(textColor(*this, theme_));
+    const QRectF ground = insideRing(*this);
+    paintButtonGround(painter, *this, theme(), ground, isDown());
+    ring().paint(painter, ground, theme().scaled(6.0));
+    painter.setFont(fittingFont(theme(), text(), QFont::Normal, ground.width() - theme().scaled(sidePadding)));
+    painter.setPen(textColor(*this, theme()));
     painter.drawText(ground, Qt::AlignCenter | Qt::TextSingleLine, text());
 }
 

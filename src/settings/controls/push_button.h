@@ -1,14 +1,11 @@
 #pragma once
 
-#include <QPushButton>
+#include "views/button.h"
 
 namespace vantrix {
 
-class FocusRing;
-class Theme;
-
 /// A button with a text.
-class PushButton : public QPushButton {
+class PushButton : public Button {
     Q_OBJECT
   public:
     PushButton(const Theme& theme, const QString& text);
@@ -18,10 +15,6 @@ class PushButton : public QPushButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-
-  private:
-    const Theme& theme_;
-    FocusRing& ring_;
 };
 
 } // namespace vantrix

@@ -102,8 +102,7 @@ void SegmentedControl::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(theme().colors().quaternary);
     const double corner = theme().scaled(radius);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin), corner,
-                            corner);
+    painter.drawRoundedRect(insideRing(*this), corner, corner);
 }
 
 } // namespace vantrix

@@ -10,6 +10,7 @@
 #include "settings/controls/control_accessibility.h"
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -44,8 +45,7 @@ void Slider::setFraction(double fraction) {
 }
 
 QSize Slider::sizeHint() const {
-    const QSizeF drawing(usualWidth, theme_.scaled(knobSide));
-    return drawing.toSize() + QSize(2 * focusMargin, 2 * focusMargin);
+    return withRing(QSizeF(usualWidth, theme_.scaled(knobSide)).toSize());
 }
 
 QRectF Slider::groove() const {

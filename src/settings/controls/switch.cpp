@@ -4,6 +4,7 @@
 
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -46,7 +47,7 @@ void Switch::slideKnob(bool on) {
 }
 
 QSize Switch::sizeHint() const {
-    return (track * theme_.textScale()).toSize() + QSize(2 * focusMargin, 2 * focusMargin);
+    return withRing((track * theme_.textScale()).toSize());
 }
 
 void Switch::paintEvent(QPaintEvent*) {

@@ -56,7 +56,7 @@ void TabButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const ThemeColors& colors = theme_.colors();
-    const QRectF ground = QRectF(rect()).adjusted(focusMargin, focusMargin, -focusMargin, -focusMargin);
+    const QRectF ground = insideRing(*this);
     if (isChecked() || underMouse()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isChecked() ? withAlpha(colors.label, checkedGround) : withAlpha(colors.label, 0.04));
