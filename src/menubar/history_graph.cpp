@@ -7,7 +7,7 @@
 namespace vantrix {
 namespace {
 
-constexpr int samplesPerPixel = 4; // across; steep slopes need them, down the coverage is exact
+constexpr int samplesPerPixel = 4; // horizontally, for steep slopes; vertically the coverage is exact
 
 /// The curve above one column of pixels.
 struct ColumnHeights {

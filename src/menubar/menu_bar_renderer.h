@@ -12,7 +12,7 @@ class QPainter;
 
 namespace vantrix {
 
-/// The colours of one appearance. Chosen when the row is drawn, because a panel may change its own at any time.
+/// The colours of one appearance. Chosen whenever the row is drawn, because a panel may change its colours at any time.
 struct MenuBarPalette {
     QColor label;
     QColor orange;
@@ -24,8 +24,8 @@ struct MenuBarPalette {
     bool operator==(const MenuBarPalette&) const = default;
 };
 
-/// Draws the row of items. Stateless but for the fonts, which all renderers share. Main thread only; needs a
-/// QGuiApplication. Sizes are in points (device-independent pixels).
+/// Draws the row of items. Has no state but the fonts, which are shared. Main thread only; needs a QGuiApplication.
+/// Sizes are in points (device-independent pixels).
 class MenuBarRenderer {
   public:
     static constexpr double height = 22.0;
@@ -46,11 +46,11 @@ class MenuBarRenderer {
     static void paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
                       const MenuBarPalette& palette);
 
-    /// The row on a transparent ground; `scale` is pixels per point. Reuses `image` where its size still fits.
+    /// The row on a transparent background; `scale` is pixels per point. Reuses `image` if it has the right size.
     static void render(QImage& image, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
                        const MenuBarPalette& palette, double scale);
 
-    /// One item as two lines in a square of `side` pixels, for hosts that only show squares.
+    /// One item as two lines in a square of `side` pixels, for hosts that show only squares.
     static QImage tile(const MenuBarItem& item, bool colorize, const MenuBarPalette& palette, int side);
 };
 

@@ -14,9 +14,9 @@ class QPainter;
 
 namespace vantrix {
 
-/// The system font in one size and weight, set with digits of equal advance whatever the font's own digits measure:
-/// every digit is centred in a cell as wide as the widest one. Sizes and widths are in points and do not depend on
-/// the scale or the resolution of the device drawn to. Main thread only.
+/// The system font in one size and weight, with digits of equal width whatever the font's own are: each is centred in a
+/// cell as wide as the widest one. Sizes and widths are in points, whatever the scale or resolution of the device drawn
+/// to. Main thread only.
 class MonospacedFont {
   public:
     MonospacedFont(double size, QFont::Weight weight);
@@ -44,7 +44,7 @@ class MonospacedFont {
     QFont font_; // magnified
     double capHeight_ = 0.0;
     double digitWidth_ = 0.0;
-    mutable QList<std::pair<QRawFont, QRawFont>> reducedFonts_; // each once: a font of its own would fill a glyph cache
+    mutable QList<std::pair<QRawFont, QRawFont>> reducedFonts_; // one each: every copy would fill a glyph cache
     mutable std::unordered_map<std::string, Line> lines_; // the texts of a row repeat; shaping costs more than drawing
 };
 

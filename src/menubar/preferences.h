@@ -37,17 +37,17 @@ inline const QString settingsTab = QStringLiteral("settingsTab");
 /// One user choice.
 struct Preference {
     QString key;
-    QVariant standard;      ///< what holds until the user chooses; a bool, a double or a QString, the preference's kind
+    QVariant standard;      ///< until the user chooses; a bool, a double or a QString: this is the preference's type
     bool registered = true; ///< false: `standard` is supplied by the one view that reads the key
 };
 
 /// Every preference that the program has.
 const std::vector<Preference>& allPreferences();
 
-/// To be called once, before anything reads a preference.
+/// Call it once, before anything reads a preference.
 void registerPreferences(UserDefaults& defaults);
 
-/// Every module once: those that the user ordered, then the others in their declaration order.
+/// Every module once: those that the user put in order, then the others as declared.
 std::vector<MenuBarModule> moduleOrder(const UserDefaults& defaults);
 
 /// The modules to show, in display order; may be empty.
@@ -68,7 +68,7 @@ NameSet visibleCards(const UserDefaults& defaults);
 /// True when `names` has the card, module or other choice of that raw value.
 bool contains(const NameSet& names, std::string_view rawValue);
 
-/// The text to store for `list` once `rawValue` is in it, or is not; other names stay, known or not.
+/// The text to store for `list` with `rawValue` in it, or without; other names stay, known or not.
 QString withName(const QString& list, std::string_view rawValue, bool present);
 
 /// The text to store for an order of modules.

@@ -7,8 +7,8 @@
 
 namespace vantrix {
 
-/// The figure that a card is about, large, and what goes with it, small, on one baseline. Set smaller where the card is
-/// too narrow for it.
+/// The number that a card is about, in large type, with what goes with it in small type on the same baseline. Shrinks
+/// where the card is too narrow.
 class Headline : public View {
   public:
     explicit Headline(const Theme& theme);

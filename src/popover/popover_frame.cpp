@@ -81,7 +81,7 @@ void PopoverFrame::paintEvent(QPaintEvent* event) {
     if (rect().adjusted(1, edge, -1, -edge).contains(event->rect()))
         return painter.fillRect(event->rect(), colors.window);
     if (!mask().isEmpty())
-        painter.fillRect(rect(), colors.window); // what the mask leaves must not shine through black
+        painter.fillRect(rect(), colors.window); // or what the mask leaves would be black
     const double hairLine = 1.0 / devicePixelRatioF();
     const double inset = hairLine / 2.0;
     painter.setRenderHint(QPainter::Antialiasing);

@@ -9,8 +9,8 @@
 
 namespace vantrix {
 
-/// The popover's window: a rounded ground with a hair line around it, filled by one view. Closes when Escape is pressed
-/// or the user turns elsewhere; closing only hides it.
+/// The popover's window: a rounded background with a hairline around it, filled by one view. Closes when Escape is
+/// pressed or the user clicks or switches elsewhere; closing only hides it.
 class PopoverFrame : public View {
     Q_OBJECT
   public:
@@ -19,8 +19,8 @@ class PopoverFrame : public View {
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Dialog; }
 
-    /// True once after each time that the click which asks for it now has closed it: by its press on `item`, however
-    /// long it was held, or, where the press is not told, within the last `milliseconds`.
+    /// True once if the click that now asks for the popover is the one that has just closed it: its press was on
+    /// `item`, however long ago, or, where presses are not reported, the popover closed within the last `milliseconds`.
     bool closedBySameClick(const QRect& item, qint64 milliseconds);
 
   Q_SIGNALS:

@@ -59,8 +59,8 @@ void PopoverHost::place(const QRect& anchor) {
     const QRect visible = screen ? screen->availableGeometry() : QRect();
     const QSize size(popoverWidth, popoverHeight(visible.height()));
     if (screen) {
-        frame_->setScreen(screen); // its scale factor is the one that the place is meant in
-        // Where it stands would be wrong; the next click opens it where it belongs.
+        frame_->setScreen(screen); // the place is meant in its scale factor
+        // It would stand in the wrong place; the next click opens it in the right one.
         for (const auto moved : {&QScreen::availableGeometryChanged, &QScreen::geometryChanged})
             QObject::connect(screen, moved, frame_.get(), &QWidget::hide, Qt::UniqueConnection);
     }

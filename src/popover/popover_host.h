@@ -15,10 +15,10 @@ namespace vantrix {
 
 class Theme;
 
-/// The popover in a window of the toolkit's. The window, too, is made when it is shown first, and is kept.
+/// The popover in a window of the toolkit's, which is made when it is first shown, and kept.
 class PopoverHost : public PopoverWindow {
   public:
-    /// `theme` outlives the host. `canFade` says whether windows of this display can be faded in.
+    /// `theme` outlives the host. `canFade` says whether this display can fade windows in.
     PopoverHost(const Theme& theme, MakeView makeView, std::function<bool()> canFade = windowsCanFade);
     ~PopoverHost() override;
 

@@ -11,9 +11,9 @@ constexpr int leastHeight = 480;
 constexpr int heightWithoutScreen = 870;
 constexpr int gap = 4; // between the status item and the popover
 constexpr int highestPanel = 96;
-constexpr int panelMargin = 8; // of items in a panel; a strip on the desktop stands further in
+constexpr int panelMargin = 8; // around items in a panel; a strip on the desktop is further from the edge
 
-/// How far `point` is outside of `rect`; 0 inside.
+/// How far `point` is outside `rect`; 0 inside.
 int distance(const QPoint& point, const QRect& rect) {
     const int x = std::max({rect.left() - point.x(), point.x() - rect.right(), 0});
     const int y = std::max({rect.top() - point.y(), point.y() - rect.bottom(), 0});
@@ -30,7 +30,7 @@ bool choose(QRect& place, const QPoint& first, const QPoint& second, const QRect
     return false;
 }
 
-/// Moved inside `area` from `low` to `high`, or to `low` where it is too long for that.
+/// `start`, moved so that `length` points lie between `low` and `high`; `low` where they do not fit.
 int kept(int start, int length, int low, int high) {
     return std::max(std::min(start, high + 1 - length), low);
 }
@@ -62,7 +62,7 @@ QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible)
     QRect place(QPoint(), size);
     if (!inSidePanel && choose(place, below, above, visible))
         return place;
-    // Some systems count the panel to the visible area: then the room left beside it is a little too low.
+    // Some systems count the panel as visible area: the space that it leaves is then a little too short.
     const int roomBelow = visible.bottom() + 1 - below.y();
     const int roomAbove = anchor.top() - gap - visible.top();
     const int room = std::max(roomBelow, roomAbove);

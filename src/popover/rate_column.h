@@ -13,7 +13,7 @@ namespace vantrix {
 class Sparkline;
 class TextLabel;
 
-/// One direction of a transfer: its name, its present rate and its history.
+/// One direction of a transfer: its name, its rate now and its history.
 class RateColumn : public View {
   public:
     struct Style {
@@ -21,7 +21,7 @@ class RateColumn : public View {
         QString historyName;     ///< for assistive programs
         std::string_view symbol; ///< empty: none
         ColorRole color = nullptr;
-        double minimumScale = 1.0; ///< bytes per second; an idle line stays flat below it
+        double minimumScale = 1.0; ///< bytes per second; the chart never shows less, so that an idle line stays flat
     };
 
     RateColumn(const Theme& theme, const Style& style);

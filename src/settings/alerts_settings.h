@@ -8,7 +8,7 @@ namespace vantrix {
 
 class UserDefaults;
 
-/// Asks for a test notification. Hands back, perhaps much later, a text on how that went.
+/// Asks for a test notification. Says, perhaps much later, how it went.
 using SendTest = std::function<void(std::function<void(const QString& outcome)>)>;
 
 /// The tab for notifications.

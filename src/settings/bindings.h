@@ -22,8 +22,7 @@ void follow(QObject& context, const UserDefaults& defaults, const std::function<
 void bindSwitch(QAbstractButton& button, UserDefaults& defaults, const QString& key);
 void bindSlider(Slider& slider, UserDefaults& defaults, const QString& key);
 
-/// The picker offers `choices` seconds, and besides them the present value where it is none of these; `present` reads
-/// it.
+/// The picker offers `choices` seconds and the present value, even if it is none of them; `present` reads it.
 void bindSeconds(Picker& picker, UserDefaults& defaults, const QString& key, const std::vector<double>& choices,
                  const std::function<double()>& present);
 

@@ -15,10 +15,10 @@ constexpr int sectionGap = 20;
 constexpr int headerGap = 8;
 constexpr int footerGap = 6;
 constexpr int remarkGap = 2;
-constexpr int textInset = 4; // headers and remarks against the group's edge
+constexpr int textInset = 4; // of headers and remarks from the group's edge
 constexpr double footerPoints = 11.0;
 
-/// The ground of a group of rows.
+/// The background of a group of rows.
 class Group : public View {
   public:
     using View::View;
@@ -102,7 +102,7 @@ QWidget* besideEachOther(QWidget* first, QWidget* second) {
     row->addWidget(first, 1);
     row->addSpacing(8);
     row->addWidget(second);
-    row->addSpacing(focusMargin); // ends where the rings' owners end
+    row->addSpacing(focusMargin); // in line with controls that leave room for a ring
     return holder;
 }
 

@@ -8,13 +8,13 @@ class QVBoxLayout;
 
 namespace vantrix {
 
-/// A group of rows on a rounded ground, hair lines between them, with a header above and remarks below.
+/// A group of rows on a rounded background, hairlines between them, with a header above and remarks below.
 class FormSection : public View {
   public:
     /// `header` may be empty.
     FormSection(const Theme& theme, const QString& header = {}, const QStringList& footers = {});
 
-    /// Takes the row over.
+    /// Takes ownership of the row.
     template<typename Row>
     Row& addRow(Row* row) {
         add(row);
@@ -39,7 +39,7 @@ class Form : public View {
     QVBoxLayout* sections_;
 };
 
-/// Two controls side by side as one; the second has the room it wants.
+/// Two controls side by side as one; the second gets the width it wants.
 QWidget* besideEachOther(QWidget* first, QWidget* second);
 
 } // namespace vantrix

@@ -7,7 +7,7 @@ namespace vantrix {
 class Slider;
 class UserDefaults;
 
-/// The present value beside a slider: keeps its width while the number changes.
+/// The value beside a slider; keeps its width while the number changes.
 class PercentLabel : public TextLabel {
     Q_OBJECT
   public:

@@ -8,8 +8,8 @@ namespace vantrix {
 class SystemMonitor;
 class UserDefaults;
 
-/// The status item as it looks with the present readings and settings, on a strip like a panel's. Only for the eye:
-/// the status item itself tells assistive programs the same.
+/// The status item as it looks with the present readings and settings, on a strip like a panel's. For the eye only: the
+/// status item itself tells assistive programs the same.
 class MenuBarPreview : public View {
     Q_OBJECT
   public:

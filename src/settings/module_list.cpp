@@ -52,7 +52,7 @@ void ModuleList::showStoredOrder() {
     QWidget* before = nullptr;
     for (ModuleRow* row : rows_) {
         row->setMovable(row != rows_.front(), row != rows_.back());
-        row->raise(); // what is read out follows the order of the rows, too
+        row->raise(); // assistive programs read the rows in this order, too
         for (QWidget* control : row->controls()) {
             if (before)
                 setTabOrder(before, control);

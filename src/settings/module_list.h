@@ -8,7 +8,7 @@ namespace vantrix {
 class ModuleRow;
 class UserDefaults;
 
-/// The modules of the status item in their order, each to be switched on and off and to be moved.
+/// The modules of the status item in order; each can be switched on and off, and moved.
 class ModuleList : public View {
     Q_OBJECT
   public:
@@ -38,7 +38,7 @@ class ModuleList : public View {
         int height = 0;
     };
     std::vector<Slot> slotsFor(int width) const;
-    /// Where the row goes while its top is dragged there.
+    /// The index of the row while its top is dragged to `top`.
     std::size_t placeFor(const ModuleRow* row, int top) const;
     std::size_t indexOf(const ModuleRow* row) const;
 

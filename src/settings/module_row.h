@@ -9,8 +9,8 @@ class CheckBox;
 class SymbolButton;
 class UserDefaults;
 
-/// One module in the list that orders them. Asks to be moved: by its buttons, by Alt with the arrow keys, and by the
-/// pointer taking hold of it anywhere but on the buttons.
+/// One module in the list that puts them in order. Asks to be moved when one of its buttons is pressed, or Alt with an
+/// arrow key, or when the pointer drags it by anything but the buttons.
 class ModuleRow : public View {
     Q_OBJECT
   public:
@@ -30,7 +30,7 @@ class ModuleRow : public View {
   Q_SIGNALS:
     /// One place up (-1) or down (1).
     void moveRequested(int by);
-    /// The pointer took hold at `from` and is at `to` now: heights on the screen.
+    /// The pointer went down at `from` and is now at `to`: heights on the screen.
     void dragged(int from, int to);
     /// The end of a drag; `counts` is false when something other than the pointer's release ended it.
     void dropped(bool counts);

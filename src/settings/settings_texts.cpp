@@ -21,7 +21,7 @@ constexpr double mostFraction = 9.99;
 QString secondsText(double seconds) {
     if (std::abs(seconds) < mostWhole && seconds == std::round(seconds))
         return QString::fromStdString(localizedCount(secondsKey, std::llround(seconds)));
-    // The form for the next whole number, which takes the plural wherever a broken one does.
+    // The form for the next whole number: plural wherever a fraction takes the plural.
     const auto whole = static_cast<long long>(std::clamp(std::ceil(seconds), 2.0, 9.0));
     QString text = QString::fromStdString(localizedCount(secondsKey, whole));
     return text.replace(QString::number(whole), QLocale().toString(seconds, 'g', QLocale::FloatingPointShortest));

@@ -22,7 +22,7 @@ struct SettingsParts {
     SendTest sendTest; ///< may be empty
 };
 
-/// The settings: a bar of tabs above the form of the selected one, which scrolls where it is higher than the room.
+/// The settings: a bar of tabs above the form of the selected one, which scrolls where it is too tall.
 class SettingsView : public View {
     Q_OBJECT
   public:

@@ -33,7 +33,7 @@ void SettingsWindowController::createWindow() {
     window_ = std::make_unique<SettingsView>(parts_);
     const QString title = localizedText("Vantrix Settings");
     window_->setWindowTitle(title);
-    window_->setWindowIcon(QIcon(QStringLiteral(":/vantrix.svg"))); // not at start-up: it brings a plug-in along
+    window_->setWindowIcon(QIcon(QStringLiteral(":/vantrix.svg"))); // not at start-up: it loads a plug-in
     window_->setAccessibleName(title);
     window_->setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowCloseButtonHint);
     window_->setAttribute(Qt::WA_QuitOnClose, false);

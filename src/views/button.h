@@ -7,8 +7,8 @@ namespace vantrix {
 class FocusRing;
 class Theme;
 
-/// What the buttons share: they draw themselves in the theme's colours and fonts, with a ring around the one that the
-/// keyboard talks to, and the Return key presses them.
+/// What the buttons share: a theme to draw themselves in, a ring around the one with the keyboard focus, and the Return
+/// key, which presses it.
 class Button : public QPushButton {
     Q_OBJECT
   public:

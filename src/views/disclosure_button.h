@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// A line of text that opens and closes what stands below it.
+/// A line of text that shows and hides what is below it.
 class DisclosureButton : public Button {
     Q_OBJECT
   public:

@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// A hair line between an upper and a lower part.
+/// A hairline between an upper and a lower part.
 class Divider : public View {
   public:
     explicit Divider(const Theme& theme);

@@ -17,7 +17,7 @@ bool comesFromKeyboard(Qt::FocusReason reason) {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
 }
 
-/// Whether `event` says that the keyboard is at work, or that it is not; absent where it says neither.
+/// Whether `event` shows that the keyboard is in use (true) or the mouse (false); absent where it shows neither.
 std::optional<bool> keyboardSign(const QEvent& event) {
     switch (event.type()) {
     case QEvent::KeyPress:

@@ -19,8 +19,8 @@ QRectF insideRing(const QWidget& control);
 /// The size of a control whose drawing is that large.
 QSize withRing(const QSize& drawing);
 
-/// The ring around a control that the keyboard talks to. It shows for people who use the keyboard and stays away from
-/// those who click. Also lets the control follow the theme. Owned by the control.
+/// The ring around the control that has the keyboard focus. It shows for people who use the keyboard, not for those who
+/// click. Also makes the control follow the theme. Owned by the control.
 class FocusRing : public QObject {
   public:
     FocusRing(QWidget& control, const Theme& theme);

@@ -31,7 +31,7 @@ QSize LinkButton::sizeHint() const {
 void LinkButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // The line stands among others: the ring lies over the text's own edge rather than to keep room of its own.
+    // The line stands among others, so the ring takes no room of its own: it lies over the edge of the text.
     ring().paint(painter, rect().adjusted(1, 1, -1, -1), cornerRadius);
     painter.setFont(theme().font(textSize));
     painter.setPen(theme().colors().accent);

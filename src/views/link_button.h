@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// A line of text that does something when it is clicked.
+/// A line of text to click.
 class LinkButton : public Button {
     Q_OBJECT
   public:

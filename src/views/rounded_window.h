@@ -4,8 +4,8 @@ class QWidget;
 
 namespace vantrix {
 
-/// Cuts the corners off a window with a translucent ground, `radius` in points, where nothing would blend the soft ones
-/// that it paints. Called anew whenever it is resized.
+/// Cuts off the corners of a translucent window, `radius` in points, where nothing blends the soft ones that it paints.
+/// To be called again after every resize.
 void roundWindow(QWidget& window, double radius);
 
 } // namespace vantrix

@@ -18,7 +18,7 @@ constexpr double leastLength = 28.0;
 
 } // namespace
 
-/// Shows, and drags, the position of a scroll bar that is itself not shown.
+/// Shows the position of a hidden scroll bar, and lets it be dragged.
 class ScrollIndicator final : public QWidget {
   public:
     ScrollIndicator(const Theme& theme, QScrollBar& bar, QWidget* parent) : QWidget(parent), theme_(theme), bar_(bar) {
@@ -87,7 +87,7 @@ ScrollColumn::ScrollColumn(const Theme& theme, QWidget* column) {
     setWidgetResizable(true);
     setFocusPolicy(Qt::NoFocus); // it follows the focus of what it holds
     setWidget(column);
-    // The ground is the window's.
+    // The window paints the background.
     viewport()->setAutoFillBackground(false);
     column->setAutoFillBackground(false);
     indicator_ = new ScrollIndicator(theme, *verticalScrollBar(), this);

@@ -7,11 +7,12 @@ namespace vantrix {
 class ScrollIndicator;
 class Theme;
 
-/// Scrolls a column that is higher than its room. The indicator lies over the column's margin and takes no room.
+/// Scrolls a column that is taller than the space it has. The indicator lies over the column's margin and takes up no
+/// space.
 class ScrollColumn : public QScrollArea {
     Q_OBJECT
   public:
-    /// Takes `column` over.
+    /// Takes ownership of `column`.
     ScrollColumn(const Theme& theme, QWidget* column);
 
   protected:

@@ -17,7 +17,7 @@ constexpr double handle = 0.331;
 QPainterPath continuousRect(const QRectF& rect, double radius) {
     const double room = std::min(rect.width(), rect.height()) / 2.0;
     QPainterPath path;
-    if (radius * begin > room) { // no straight edge is left to bend softly into
+    if (radius * begin > room) { // too small for a soft bend
         path.addRoundedRect(rect, std::min(radius, room), std::min(radius, room));
         return path;
     }

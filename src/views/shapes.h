@@ -7,8 +7,8 @@ class QWidget;
 
 namespace vantrix {
 
-/// A rounded rectangle whose corners begin to bend early and softly, as on the best-drawn surfaces of today: the
-/// curvature has no jump where the straight edge ends. `radius` is that of the circle it comes closest to.
+/// A rounded rectangle whose corners begin to bend early and softly. `radius` is that of the circle they come closest
+/// to.
 QPainterPath continuousRect(const QRectF& rect, double radius);
 
 /// `rect` mirrored within `widget` where its language runs from right to left.

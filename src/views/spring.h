@@ -12,7 +12,7 @@ class Spring {
     bool isAtRest() const { return distance_ == 0.0 && velocity_ == 0.0; }
 
     void setTarget(double target);
-    /// At the target, at rest.
+    /// Puts it on the target, at rest.
     void jumpTo(double target);
     /// Exact for any step; a value close to its target settles on it.
     void advance(double seconds);

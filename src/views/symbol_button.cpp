@@ -26,7 +26,7 @@ SymbolButton::SymbolButton(const Theme& theme, std::string_view symbol, double p
 }
 
 QSize SymbolButton::sizeHint() const {
-    const int side = static_cast<int>(std::lround(symbolSide(theme(), points_) + 2.0 * padding));
+    const int side = static_cast<int>(std::lround(symbolSideFor(theme(), points_) + 2.0 * padding));
     return withRing({side, side});
 }
 

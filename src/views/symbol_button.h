@@ -6,7 +6,7 @@
 
 namespace vantrix {
 
-/// A symbol to click, without a border until the pointer or the keyboard comes to it.
+/// A symbol to click, without a border until the pointer or the keyboard focus is on it.
 class SymbolButton : public Button {
     Q_OBJECT
   public:

@@ -9,7 +9,7 @@
 
 namespace vantrix {
 
-double symbolSide(const Theme& theme, double points) {
+double symbolSideFor(const Theme& theme, double points) {
     return theme.scaled(points * 1.3); // the drawings have some air around them
 }
 
@@ -26,7 +26,7 @@ void SymbolView::setSymbol(std::string_view symbol) {
 }
 
 QSize SymbolView::sizeHint() const {
-    const int side = static_cast<int>(std::lround(symbolSide(theme(), points_)));
+    const int side = static_cast<int>(std::lround(symbolSideFor(theme(), points_)));
     return {side, side};
 }
 

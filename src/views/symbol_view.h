@@ -8,9 +8,9 @@
 namespace vantrix {
 
 /// The side of a symbol that goes with a text of that size, in points.
-double symbolSide(const Theme& theme, double points);
+double symbolSideFor(const Theme& theme, double points);
 
-/// A symbol beside a text. Decoration: assistive programs pass it by.
+/// A symbol beside a text. Decoration: assistive programs skip it.
 class SymbolView : public View {
   public:
     /// `points` is the size of the text that the symbol goes with.

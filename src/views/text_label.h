@@ -9,8 +9,8 @@ class QFontMetricsF;
 
 namespace vantrix {
 
-/// A text that shows itself whole: it takes as many lines as it needs, or, where it has to stay on one, ends in an
-/// ellipsis and tells the rest in its tool tip.
+/// A text that takes as many lines as it needs or, where it has to stay on one, shrinks a little, then ends in an
+/// ellipsis and is shown whole in its tool tip.
 class TextLabel : public View {
     Q_OBJECT
   public:
@@ -19,8 +19,8 @@ class TextLabel : public View {
         QFont::Weight weight = QFont::Normal;
         ColorRole color = &ThemeColors::label;
         bool wraps = false;                 ///< more lines rather than an ellipsis
-        bool monospaced = false;            ///< digits of equal advance; one line only
-        Qt::Alignment side = Qt::AlignLeft; ///< or AlignRight, AlignHCenter; mirrored from right to left
+        bool monospaced = false;            ///< digits of equal width; one line only
+        Qt::Alignment side = Qt::AlignLeft; ///< or AlignRight, AlignHCenter; mirrored for right-to-left languages
     };
 
     TextLabel(const Theme& theme, const Style& style, const QString& text = {});

@@ -12,7 +12,7 @@ namespace {
 
 constexpr double usualTextHeight = 40.0 / 3.0; // 10 typographic points, in pixels at scale 1
 constexpr double mostTextScale = 3.0;
-// Desktops set their texts in anything from 9 to 12 points; only more than that is a wish for larger ones.
+// Desktops use anything from 9 to 12 points by default; only more than that means that somebody wants larger text.
 constexpr double leastEnlargement = 1.25;
 
 double desktopTextScale() {

@@ -25,7 +25,7 @@ class Theme : public QObject {
     bool isDark() const { return appearance_.dark; }
     bool reducesMotion() const { return appearance_.reducesMotion; }
 
-    /// How much larger than usual the desktop sets its texts: 1 to 3.
+    /// How much larger than usual the desktop's text is: 1 to 3.
     double textScale() const { return textScale_; }
     /// A length that goes with the text, in points.
     double scaled(double points) const { return points * textScale_; }

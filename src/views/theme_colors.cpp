@@ -25,7 +25,7 @@ QColor shade(bool dark, float alpha) {
 
 /// `color`, moved towards black or white until it stands out from `ground`.
 QColor standingOut(const QColor& color, const QColor& ground, double least) {
-    const bool lighten = luminance(ground) < 0.18; // the ground that black and white stand out from alike
+    const bool lighten = luminance(ground) < 0.18; // at 0.18 black and white stand out alike
     QColor result = color;
     for (float share = step; contrast(result, ground) < least && share < 1.0f; share += step)
         result = over(shade(lighten, share), color);

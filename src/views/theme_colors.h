@@ -8,16 +8,16 @@ namespace vantrix {
 
 /// The colours of one appearance. The text styles are readable (contrast 4.5 or more) on the window and on a card.
 struct ThemeColors {
-    QColor window;     ///< the ground of windows; opaque
-    QColor card;       ///< the ground of a card or a group of controls, over the window; translucent
-    QColor separator;  ///< hair lines
-    QColor control;    ///< the ground of a button or a field at rest, over a card
+    QColor window;     ///< the background of windows; opaque
+    QColor card;       ///< the background of a card or a group of controls, over the window; translucent
+    QColor separator;  ///< hairlines
+    QColor control;    ///< the background of a button or a field at rest, over a card
     QColor label;      ///< the text style of titles and values
     QColor secondary;  ///< the text style of labels
     QColor tertiary;   ///< the text style of remarks
     QColor quaternary; ///< tracks behind bars and rings; too faint for text
 
-    // For shapes. Where one of them colours a text, ask `readable` for it.
+    // For shapes. Text in one of these colours needs `readable`.
     QColor accent;
     QColor orange;
     QColor red;
@@ -27,10 +27,11 @@ struct ThemeColors {
     /// `accent` replaces the program's own where the desktop names one.
     static ThemeColors of(bool dark, const std::optional<QColor>& accent);
 
-    /// `color`, darkened or lightened as far as a text in it on a card, or on another opaque ground, needs.
+    /// `color`, darkened or lightened until text in it can be read on a card, or on another opaque background.
     QColor readable(const QColor& color) const;
     static QColor readable(const QColor& color, const QColor& ground);
-    /// White, or black where that is the better one: for a text on a shape filled with `fill`, and for a bold mark.
+    /// White, or black where white would be hard to see: for text on a shape filled with `fill`, and for a bold mark on
+    /// it.
     static QColor textOn(const QColor& fill);
     static QColor markOn(const QColor& fill);
 
@@ -40,14 +41,13 @@ struct ThemeColors {
 /// One of the theme's colours, whatever the theme.
 using ColorRole = QColor ThemeColors::*;
 
-/// How well a text of one opaque colour is seen on another: 1 (not at all) to 21 (black on white), by their relative
-/// luminances.
+/// The contrast of two opaque colours by their relative luminances: 1 (none) to 21 (black and white).
 double contrast(const QColor& a, const QColor& b);
 
 /// `color` with that opacity, 0 to 1.
 QColor withAlpha(QColor color, double alpha);
 
-/// What `color` looks like over an opaque `ground`.
+/// What `color` looks like on an opaque `ground`.
 QColor over(const QColor& color, const QColor& ground);
 
 } // namespace vantrix

@@ -20,7 +20,7 @@ class ViewInterface final : public QAccessibleWidget, public QAccessibleValueInt
     QAccessible::State state() const override {
         QAccessible::State state = QAccessibleWidget::state();
         const QAccessible::Role role = view().accessibleRole();
-        // Decoration; what it means stands beside it in words.
+        // Decoration: the text beside it says the same.
         if (role == QAccessible::Graphic || role == QAccessible::Separator || role == QAccessible::NoRole)
             state.invisible = true;
         return state;

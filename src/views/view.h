@@ -21,7 +21,7 @@ class View : public QWidget {
     const Theme& theme() const { return theme_; }
 
     virtual QAccessible::Role accessibleRole() const { return QAccessible::Grouping; }
-    /// What is read out; by default the accessible name. Asked only when somebody listens.
+    /// What is read out; by default the accessible name. Called only while somebody listens.
     virtual QString accessibleText() const { return accessibleName(); }
     /// The value of a gauge or a bar, 0 to 1; absent where there is none.
     virtual std::optional<double> accessibleFraction() const { return std::nullopt; }

@@ -9,7 +9,7 @@ namespace vantrix {
 
 class StatRow;
 
-/// The charge of every connected accessory that tells it.
+/// The charge of every connected accessory that reports it.
 class AccessoriesCard : public Card {
   public:
     explicit AccessoriesCard(const CardContext& context);

@@ -15,11 +15,11 @@ struct CardContext {
     const Theme& theme;
     const UserDefaults& defaults;
     const ProcessorDescription& processor;
-    /// Asks for what shows the name of a Wi-Fi network that the system withholds.
+    /// Asks for the permission without which the system withholds the name of a Wi-Fi network.
     std::function<void()> requestLocationAccess = [] {};
 };
 
-/// A card of the popover: shows the latest readings each time it is told.
+/// A card of the popover.
 class Card : public MetricCard {
   public:
     using MetricCard::MetricCard;

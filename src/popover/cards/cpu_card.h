@@ -8,7 +8,7 @@ class CoreBars;
 class RingGauge;
 class StatRow;
 
-/// The processor's load: in all, by kind, and core by core.
+/// The processor's load: in total, by kind and by core.
 class CPUCard : public Card {
   public:
     explicit CPUCard(const CardContext& context);

@@ -52,7 +52,7 @@ bool hasTemperature(const SensorsSample& sensors) {
            !sensors.all.empty();
 }
 
-/// As many rows as `count`, in `column`.
+/// Adds or deletes rows in `column` until there are `count`.
 void resizeRows(std::vector<StatRow*>& rows, std::size_t count, QVBoxLayout& column, const Theme& theme,
                 const StatRow::Lead& lead) {
     for (; rows.size() > count; rows.pop_back())
@@ -97,7 +97,7 @@ QLayout* SensorsCard::makeTemperatures() {
     ssd_ = row(localizedText("SSD"));
     battery_ = row(localizedText("Battery"));
     for (StatRow* placedLater : {gpu_, soc_, ssd_, battery_})
-        placedLater->setParent(details_); // else showing it would open a window
+        placedLater->setParent(details_); // or showing it would open a window
     auto* column = columnOf({cpu_});
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(columnGap);
@@ -149,7 +149,7 @@ void SensorsCard::showTemperatures(const SensorsSample& sensors) {
     for (const auto& [row, temperature] : named) {
         showTemperature(row, temperature);
         if (!temperature) {
-            grid_->removeWidget(row); // else it would hold its place
+            grid_->removeWidget(row); // or it would keep its place
             continue;
         }
         if (grid_->itemAtPosition(place / 2, place % 2) == nullptr ||

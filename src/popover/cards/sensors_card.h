@@ -29,7 +29,7 @@ class SensorsCard : public Card {
 
     TextLabel* unavailable_;
     QWidget* details_;
-    QGridLayout* grid_ = nullptr; // of the temperatures but the CPU's
+    QGridLayout* grid_ = nullptr; // of all temperatures but the CPU's
     StatRow* cpu_;
     StatRow* gpu_;
     StatRow* soc_;

@@ -19,7 +19,7 @@ constexpr double least = 3.0;      // an idle core still shows a stub
 constexpr double leastWidth = 3.0; // of a bar; thinner ones cannot be told apart
 constexpr double cornerRadius = 2.0;
 
-// Beyond what one row of the usual kind holds.
+// For more cores than one row of the usual kind holds.
 constexpr double denseSpacing = 1.0;
 constexpr double denseHeight = 20.0;
 
@@ -39,14 +39,14 @@ Grid gridFor(std::size_t count, double width) {
         return {std::max<std::size_t>(count, 1), 1, spacing, rowHeight};
     const std::size_t most = columnsOf(width, denseSpacing);
     const std::size_t rows = (count + most - 1) / most;
-    const std::size_t columns = (count + rows - 1) / rows; // rows of the same length, but for the last
+    const std::size_t columns = (count + rows - 1) / rows; // all rows are equally long but the last
     return {columns, rows, denseSpacing, rows == 1 ? rowHeight : denseHeight};
 }
 
 } // namespace
 
 CoreBars::CoreBars(const Theme& theme, const UserDefaults& defaults) : View(theme), defaults_(defaults) {
-    // Not Fixed: that would hold the height of one row even where the cores need more.
+    // Not Fixed: that would keep the height of one row even where the cores need more.
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -56,7 +56,7 @@ void CoreBars::setValues(std::span<const double> values) {
     if (values.size() != values_.size())
         updateGeometry();
     if (std::ranges::equal(values, values_))
-        return update(); // the thresholds may have moved
+        return update(); // the thresholds may have changed
     values_.assign(values.begin(), values.end());
     announceChange();
     update();
@@ -101,7 +101,7 @@ void CoreBars::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     const auto fill = [&](const QRectF& place, const QColor& color) {
         QRectF rect = mirrored(*this, place);
-        // Edges between pixels would blur, and bars of one width would look unlike.
+        // Edges between pixels would blur, and equal bars would look different.
         const double pixels = devicePixelRatioF();
         rect.setLeft(std::round(rect.left() * pixels) / pixels);
         rect.setRight(std::round(rect.right() * pixels) / pixels);

@@ -11,16 +11,16 @@ namespace vantrix {
 
 class UserDefaults;
 
-/// One bar per core, side by side; many cores make thinner bars, very many several rows.
+/// One bar per core, side by side; many cores make the bars thinner, very many take several rows.
 class CoreBars : public View {
   public:
     /// `defaults` outlives the view.
     CoreBars(const Theme& theme, const UserDefaults& defaults);
 
-    /// Loads of the cores, 0 to 1; what lies beyond counts as the end of the range.
+    /// Loads of the cores, clamped to 0 to 1.
     void setValues(std::span<const double> values);
 
-    /// The place of core `index` (its track) in a view `width` points wide.
+    /// The track of core `index` in a view `width` points wide.
     QRectF track(std::size_t index, double width) const;
     /// The filled part of that track.
     QRectF bar(std::size_t index, double width) const;

@@ -11,13 +11,13 @@ namespace vantrix {
 class SymbolView;
 class TextLabel;
 
-/// The frame that every card of the popover has: a soft ground and a header with symbol, title and subtitle.
+/// The frame that every card of the popover has: a soft background and a header with symbol, title and subtitle.
 class MetricCard : public View {
   public:
     MetricCard(const Theme& theme, const QString& title, std::string_view symbol);
 
     void setSymbol(std::string_view symbol);
-    /// Empty: none.
+    /// Empty for none.
     void setSubtitle(const QString& subtitle);
 
     /// Where the content goes, below the header.

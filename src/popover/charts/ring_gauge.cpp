@@ -30,8 +30,8 @@ RingGauge::RingGauge(const Theme& theme, const UserDefaults& defaults, const QSt
 }
 
 void RingGauge::setFraction(double fraction) {
-    const double clamped = fraction > 0.0 ? std::min(fraction, 1.0) : 0.0; // not a number counts as 0
-    update(); // also where the share is the same: the thresholds may have moved
+    const double clamped = fraction > 0.0 ? std::min(fraction, 1.0) : 0.0; // NaN, too, counts as 0
+    update(); // even where the share is the same: the thresholds may have changed
     if (clamped == fraction_)
         return;
     fraction_ = clamped;
@@ -85,7 +85,7 @@ void RingGauge::paintEvent(QPaintEvent*) {
 void RingGauge::paintText(QPainter& painter) const {
     const MonospacedFont& font = theme().digits(textSize, QFont::DemiBold);
     const std::string percentage = text().toStdString();
-    // Larger texts must not run into the ring.
+    // Large text must not run into the ring.
     const double room = std::min(width(), height()) - 2.0 * lineWidth_ - 8.0;
     const double scale = std::min(1.0, room / font.width(percentage));
     painter.translate(width() / 2.0, height() / 2.0);

@@ -17,13 +17,13 @@ class RingGauge : public View {
     /// `name` is for assistive programs; `defaults` outlives the view.
     RingGauge(const Theme& theme, const UserDefaults& defaults, const QString& name, double lineWidth);
 
-    /// What lies beyond 0 to 1 counts as the end of the range.
+    /// Clamped to 0 to 1; NaN counts as 0.
     void setFraction(double fraction);
 
     /// The percentage.
     QString text() const;
     bool isAnimating() const { return timer_.isActive(); }
-    /// The share that the arc shows at this moment of its way.
+    /// The share that the arc shows right now, perhaps still on its way.
     double shownFraction() const { return spring_.value(); }
 
     QAccessible::Role accessibleRole() const override { return QAccessible::ProgressBar; }

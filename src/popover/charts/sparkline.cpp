@@ -18,7 +18,7 @@ constexpr double lineWidth = 1.5;
 constexpr double opacityAtTop = 0.35;
 constexpr double opacityAtBottom = 0.02;
 
-/// The curve's slope at each point: no steeper than lets the curve rise only where the points do.
+/// The curve's slope at each point: flat enough that the curve rises only where the points do.
 std::vector<double> slopes(std::span<const QPointF> points) {
     std::vector<double> secants(points.size() - 1);
     for (std::size_t i = 0; i + 1 < points.size(); ++i)
@@ -78,7 +78,7 @@ QSize Sparkline::sizeHint() const {
 }
 
 std::vector<QPointF> Sparkline::points() const {
-    // Half a line is kept free above and below, or a value at an edge would lose half its line.
+    // Half the line's width stays free above and below, or a value at an edge would lose half its line.
     const double bottom = height() - lineWidth / 2.0;
     const double span = bottom - lineWidth / 2.0;
     const double step = static_cast<double>(width()) / (historyLength - 1);

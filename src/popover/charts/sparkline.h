@@ -11,7 +11,7 @@ class QPainterPath;
 
 namespace vantrix {
 
-/// A history as a line over a soft area. Sixty values fill the width; fewer begin at the left and leave the rest free.
+/// A history as a line over a soft area. Sixty values fill the width; fewer start at the left and leave the rest empty.
 class Sparkline : public View {
   public:
     /// The scale ends at `maximum`, or at the largest value but no lower than `minimumScale`.
@@ -43,7 +43,8 @@ class Sparkline : public View {
     std::vector<double> values_;
 };
 
-/// A smooth curve through `points`, whose abscissae rise: it never leaves the range of the two points it runs between.
+/// A smooth curve through `points`, each further right than the one before. Between two points it stays within their
+/// heights.
 QPainterPath monotoneCurve(std::span<const QPointF> points);
 
 } // namespace vantrix

@@ -29,7 +29,7 @@ QFontMetricsF metricsOf(const Theme& theme) {
 } // namespace
 
 StatRow::StatRow(const Theme& theme, const QString& label, const Lead& lead) : View(theme), label_(label), lead_(lead) {
-    // Not Fixed: that would hold the height of one line even where the width asks for two.
+    // Not Fixed: that would keep the height of one line even where the text needs two.
     QSizePolicy policy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
     setSizePolicy(policy);
@@ -74,7 +74,7 @@ void StatRow::resizeEvent(QResizeEvent*) {
     updateToolTip();
 }
 
-/// A value too long even for a line of its own is told whole there.
+/// A value too long even for a line of its own is shown whole there.
 void StatRow::updateToolTip() {
     const QString wanted = leadWidth() + valueWidth() > width() ? value_ : QString();
     if (toolTip() != wanted)
@@ -108,7 +108,7 @@ bool StatRow::fitsOneLine(double width) const {
     return leadWidth() + labelWidth() + spacing + valueWidth() <= width;
 }
 
-/// Names of devices may be longer than a line and have no blank.
+/// Names of devices may be longer than a line without a single space.
 int StatRow::wrapFlag(double width) const {
     const auto words = label_.split(u' ');
     const bool doAllFit = std::all_of(words.begin(), words.end(), [&](const QString& word) {

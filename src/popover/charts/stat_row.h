@@ -8,7 +8,7 @@
 
 namespace vantrix {
 
-/// A label and its value, led by a marker in the colour that stands for it elsewhere on the card. What does not fit on
+/// A label and its value, after a marker in the colour that stands for them elsewhere on the card. What does not fit on
 /// one line takes two.
 class StatRow : public View {
   public:
@@ -16,7 +16,7 @@ class StatRow : public View {
     struct Lead {
         ColorRole marker = nullptr; ///< a small mark of that colour
         std::string symbol;         ///< or a symbol
-        bool indented = true;       ///< or as much room, so that the labels of several rows line up
+        bool indented = true;       ///< or only as much space, so that the labels of several rows line up
 
         static Lead mark(ColorRole color) { return {color, {}, true}; }
         static Lead picture(std::string symbol) { return {nullptr, std::move(symbol), true}; }

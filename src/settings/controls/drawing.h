@@ -18,7 +18,7 @@ inline constexpr double bodyPoints = 13.0;
 /// The colour of a control's text or mark.
 QColor textColor(const QWidget& control, const Theme& theme);
 
-/// The ground of a button or a field, with its hair-line edge; darker while it is held down.
+/// The background of a button or a field, with its hairline edge; darker while it is held down.
 void paintButtonGround(QPainter& painter, const QWidget& control, const Theme& theme, const QRectF& rect, bool down);
 
 /// The round knob of a switch or a slider.

@@ -26,7 +26,7 @@ constexpr double chevron = 12.0;
 constexpr double markRoom = 26.0;
 constexpr double entryHeight = 26.0;
 
-/// Draws an entry of the opened list: a tick before the present one, the accent under the one to be chosen.
+/// Draws an entry of the opened list: a tick before the present one, the accent colour behind the highlighted one.
 class EntryDelegate : public QStyledItemDelegate {
   public:
     EntryDelegate(Picker& picker, const Theme& theme) : QStyledItemDelegate(&picker), picker_(picker), theme_(theme) {}

@@ -13,7 +13,7 @@ class Picker : public QComboBox {
   public:
     Picker(const Theme& theme, const QString& name);
 
-    /// As if the user had picked that entry; nothing where there is none.
+    /// As if the user had picked that entry; does nothing where there is none.
     void pick(int index);
 
     QSize sizeHint() const override;

@@ -29,7 +29,7 @@ class Segment : public QRadioButton {
     }
 
     QSize sizeHint() const override {
-        // The heavier weight of the chosen one: the row must not move with the choice.
+        // In the heavier weight of the chosen one, or the row would move with the choice.
         const double text = QFontMetricsF(theme_.font(bodyPoints, QFont::Medium)).horizontalAdvance(this->text());
         return QSizeF(std::ceil(text + theme_.scaled(2.0 * sidePadding)), theme_.scaled(segmentHeight)).toSize() +
                QSize(0, 2 * focusMargin);

@@ -8,8 +8,7 @@ namespace vantrix {
 class FocusRing;
 class Theme;
 
-/// A sliding switch. The setting's name beside it is a label of its own; assistive programs need it as the
-/// accessible name.
+/// A sliding switch. `name` is for assistive programs: the text beside the switch is a label of its own.
 class Switch : public QCheckBox {
     Q_OBJECT
   public:
