@@ -7,8 +7,8 @@
 #include <QObject>
 
 #include "accessories/bluetooth_battery_reader.h"
+#include "monitor/qt_repeating_timer.h"
 #include "monitor/readings.h"
-#include "monitor/repeating_timer.h"
 #include "monitor/task_runner.h"
 #include "platform/bluetooth.h"
 #include "platform/sampling_sources.h"

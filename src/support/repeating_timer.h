@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// A heartbeat; injected so that tests fire it by hand.
+/// Calls a function again and again. An interface, so that tests can fire it by hand.
 class RepeatingTimer {
   public:
     virtual ~RepeatingTimer() = default;

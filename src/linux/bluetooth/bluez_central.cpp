@@ -1,7 +1,7 @@
 #include "linux/bluetooth/bluez_central.h"
 
 #include "linux/bluetooth/bluez_devices.h"
-#include "monitor/repeating_timer.h"
+#include "monitor/qt_repeating_timer.h"
 #include "platform/bluetooth.h"
 
 namespace vantrix {

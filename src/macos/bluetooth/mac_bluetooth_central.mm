@@ -4,7 +4,7 @@
 #include "macos/bluetooth/bluetooth_peripheral.h"
 #include "macos/bluetooth/classic_devices.h"
 #include "macos/kernel/objc_text.h"
-#include "monitor/repeating_timer.h"
+#include "monitor/qt_repeating_timer.h"
 #include "platform/bluetooth.h"
 
 #import <CoreBluetooth/CoreBluetooth.h>

@@ -6,8 +6,8 @@
 #include <set>
 #include <string>
 
-#include "monitor/repeating_timer.h"
 #include "monitor/task_runner.h"
+#include "support/repeating_timer.h"
 
 // Present only in sanitized builds, whose allocator the C library's own statistics do not see.
 extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();

@@ -1,4 +1,4 @@
-#include "monitor/repeating_timer.h"
+#include "monitor/qt_repeating_timer.h"
 
 #include <algorithm>
 #include <cmath>
