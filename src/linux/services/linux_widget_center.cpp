@@ -1,12 +1,19 @@
 #include "linux/services/linux_widget_center.h"
 
 #include <QDBusMessage>
-#include <QFile>
+#include <QFileInfo>
 
 #include "linux/services/session_bus.h"
-#include "linux/settings/file_defaults_store.h"
+#include "linux/settings/base_folders.h"
 
 namespace vantrix {
+
+QString widgetStorePath() {
+    QString base = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!QDir::isAbsolutePath(base) || !QFileInfo(base).isDir())
+        base = baseFolder("XDG_STATE_HOME", QStringLiteral("/.local/state"));
+    return base + QStringLiteral("/vantrix/defaults.json");
+}
 
 LinuxWidgetCenter::LinuxWidgetCenter(const QString& path, const std::optional<QDBusConnection>& bus)
     : file_(QFile::encodeName(path).toStdString()), bus_(bus) {}
@@ -25,11 +32,10 @@ void LinuxWidgetCenter::reloadAllTimelines() {
 }
 
 std::unique_ptr<WidgetCenter> makeWidgetCenter() {
-    const QString path = FileDefaultsStore::suitePath(QStringLiteral("vantrix"));
     if (!sessionBusAddress())
-        return std::make_unique<LinuxWidgetCenter>(path, std::nullopt);
+        return std::make_unique<LinuxWidgetCenter>(widgetStorePath(), std::nullopt);
     // The toolkit has this connection open anyway.
-    return std::make_unique<LinuxWidgetCenter>(path, QDBusConnection::sessionBus());
+    return std::make_unique<LinuxWidgetCenter>(widgetStorePath(), QDBusConnection::sessionBus());
 }
 
 } // namespace vantrix

@@ -9,6 +9,9 @@
 
 namespace vantrix {
 
+/// $XDG_RUNTIME_DIR/vantrix/defaults.json, or in $XDG_STATE_HOME where there is no such folder.
+QString widgetStorePath();
+
 /// The group's store as a file, and its announcements as a signal on the session bus.
 class LinuxWidgetCenter final : public WidgetCenter {
   public:

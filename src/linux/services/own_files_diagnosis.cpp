@@ -2,6 +2,7 @@
 #include <QFileInfo>
 
 #include "linux/services/linux_service_diagnosis.h"
+#include "linux/services/linux_widget_center.h"
 #include "linux/settings/autostart_entry.h"
 #include "linux/settings/file_defaults_store.h"
 #include "linux/settings/settings_file.h"
@@ -35,7 +36,7 @@ SourceDiagnosis settings() {
 }
 
 SourceDiagnosis widgetData() {
-    const QFileInfo file(FileDefaultsStore::suitePath(QStringLiteral("vantrix")));
+    const QFileInfo file(widgetStorePath());
     SourceDiagnosis row{"Widget data", file.filePath().toStdString()};
     if (file.exists()) {
         const qint64 age = std::max(file.lastModified().secsTo(QDateTime::currentDateTime()), qint64{0});

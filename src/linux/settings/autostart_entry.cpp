@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QSaveFile>
 
+#include "linux/settings/base_folders.h"
 #include "linux/settings/desktop_entry.h"
 
 namespace vantrix {
@@ -34,9 +35,7 @@ QStringList foldersOf(const char* variable, const QString& standard) {
 } // namespace
 
 AutostartEntry::Places AutostartEntry::Places::standard() {
-    const QString home = QDir::homePath() + QLatin1StringView("/.config");
-    const QString configured = qEnvironmentVariable("XDG_CONFIG_HOME");
-    return {(configured.startsWith(u'/') ? configured : home) + QLatin1StringView("/autostart"),
+    return {baseFolder("XDG_CONFIG_HOME", QStringLiteral("/.config")) + QLatin1StringView("/autostart"),
             foldersOf("XDG_CONFIG_DIRS", QStringLiteral("/etc/xdg")), QCoreApplication::applicationFilePath()};
 }
 

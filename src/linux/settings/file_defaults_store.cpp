@@ -6,12 +6,14 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
-#include <QDir>
 #include <QFileInfo>
 #include <QJsonDocument>
+
+#include "linux/settings/base_folders.h"
+#include "linux/settings/file_writing.h"
+#include "platform/desktop_services.h"
 
 namespace vantrix {
 
@@ -24,19 +26,6 @@ using State = SettingsFile::State;
 constexpr auto writeDelay = 200ms;
 /// Editors write in several steps; the file is read after the last of them.
 constexpr auto rereadDelay = 50ms;
-
-/// The variable's folder; `fallback` below the home folder where it is unset or, against the rules, relative.
-QString baseFolder(const char* variable, QLatin1StringView fallback) {
-    const QString value = qEnvironmentVariable(variable);
-    return QDir::isAbsolutePath(value) ? value : QDir::homePath() + fallback;
-}
-
-/// The folder itself is made private; folders above it are made as usual.
-void makeFolder(const QString& folder) {
-    const QFileInfo info(folder);
-    if (!info.exists() && QDir().mkpath(info.path()))
-        ::mkdir(QFile::encodeName(folder).constData(), 0700);
-}
 
 QString nearestFolder(const QString& file) {
     QFileInfo folder(QFileInfo(file).path());
@@ -51,22 +40,19 @@ bool allowed(const QString& path, int kind) {
 
 } // namespace
 
-FileDefaultsStore::FileDefaultsStore(const QString& path, Use use) : path_(path), use_(use), target_(linkTarget(path)) {
+FileDefaultsStore::FileDefaultsStore(const QString& path) : path_(path), target_(linkTarget(path)) {
     writeTimer_.setSingleShot(true);
     writeTimer_.setInterval(writeDelay);
     QObject::connect(&writeTimer_, &QTimer::timeout, &writeTimer_, [this] { flush(); });
     rereadTimer_.setSingleShot(true);
     rereadTimer_.setInterval(rereadDelay);
     QObject::connect(&rereadTimer_, &QTimer::timeout, &rereadTimer_, [this] { reread(); });
-    if (use_ == Use::settings) {
-        watcher_ = std::make_unique<QFileSystemWatcher>();
-        const auto readSoon = [this] {
-            if (!rereadTimer_.isActive())
-                rereadTimer_.start();
-        };
-        QObject::connect(watcher_.get(), &QFileSystemWatcher::fileChanged, &rereadTimer_, readSoon);
-        QObject::connect(watcher_.get(), &QFileSystemWatcher::directoryChanged, &rereadTimer_, readSoon);
-    }
+    const auto readSoon = [this] {
+        if (!rereadTimer_.isActive())
+            rereadTimer_.start();
+    };
+    QObject::connect(&watcher_, &QFileSystemWatcher::fileChanged, &rereadTimer_, readSoon);
+    QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &rereadTimer_, readSoon);
     watch();
     load();
 }
@@ -78,14 +64,7 @@ FileDefaultsStore::~FileDefaultsStore() {
 }
 
 QString FileDefaultsStore::settingsPath() {
-    return baseFolder("XDG_CONFIG_HOME", QLatin1StringView("/.config")) + QStringLiteral("/vantrix/settings.json");
-}
-
-QString FileDefaultsStore::suitePath(const QString& suite) {
-    QString base = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    if (!QDir::isAbsolutePath(base) || !QFileInfo(base).isDir())
-        base = baseFolder("XDG_STATE_HOME", QLatin1StringView("/.local/state"));
-    return base + u'/' + suite + QStringLiteral("/defaults.json");
+    return baseFolder("XDG_CONFIG_HOME", QStringLiteral("/.config")) + QStringLiteral("/vantrix/settings.json");
 }
 
 QVariant FileDefaultsStore::value(const QString& key) const {
@@ -167,7 +146,7 @@ void FileDefaultsStore::write() {
         return complainOnce(complainedOfWriting_, "would become too large", "changes are kept in memory only");
 
     const bool worthKeeping = file_.state == State::damaged && file_.stamp && file_.stamp->size > 0;
-    const Replaced replaced = replaceFile(target_, contents, {file_.mode, use_ == Use::settings, worthKeeping});
+    const Replaced replaced = replaceFile(target_, contents, {file_.mode, worthKeeping});
     if (!replaced.stamp)
         return complainOnce(complainedOfWriting_, "cannot be written: " + QByteArray(std::strerror(replaced.error)),
                             "changes are kept in memory until it can be written");
@@ -182,7 +161,7 @@ bool FileDefaultsStore::mayWrite() {
     if (file_.state == State::blocked)
         return false;
     if (file_.state == State::missing && target_ == path_)
-        makeFolder(QFileInfo(path_).path());
+        makePrivateFolder(QFile::encodeName(QFileInfo(path_).path()).toStdString());
     // Replacing needs leave for the folder only, but a file made read-only is meant to stay as it is.
     if (file_.state == State::good && !allowed(target_, W_OK)) {
         complainOnce(complainedOfWriting_, "is read-only", "changes are kept in memory only");
@@ -192,12 +171,10 @@ bool FileDefaultsStore::mayWrite() {
 }
 
 void FileDefaultsStore::watch() {
-    if (!watcher_)
-        return;
     // Watches hold to a file, not to its name: after each replacement they are on the wrong one.
-    const QStringList stale = watcher_->files() + watcher_->directories();
+    const QStringList stale = watcher_.files() + watcher_.directories();
     if (!stale.isEmpty())
-        watcher_->removePaths(stale);
+        watcher_.removePaths(stale);
     QStringList paths{nearestFolder(path_)};
     const QString target = linkTarget(path_);
     if (target != path_)
@@ -208,12 +185,16 @@ void FileDefaultsStore::watch() {
     // What cannot be watched would be polled every second instead.
     paths.removeIf([](const QString& each) { return !allowed(each, R_OK); });
     if (!paths.isEmpty())
-        watcher_->addPaths(paths);
+        watcher_.addPaths(paths);
 }
 
 void FileDefaultsStore::complainOnce(bool& complained, const QByteArray& problem, const char* consequence) const {
     if (!std::exchange(complained, true))
         std::fprintf(stderr, "vantrix: %s %s; %s\n", qPrintable(path_), problem.constData(), consequence);
+}
+
+std::unique_ptr<DefaultsStore> makeStandardDefaultsStore() {
+    return std::make_unique<FileDefaultsStore>(FileDefaultsStore::settingsPath());
 }
 
 } // namespace vantrix

@@ -1,8 +1,5 @@
 #pragma once
 
-#include <memory>
-#include <optional>
-
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QJsonObject>
@@ -20,19 +17,12 @@ namespace vantrix {
 /// be written stays in memory, and is tried again with the next write.
 class FileDefaultsStore final : public DefaultsStore {
   public:
-    enum class Use {
-        settings, ///< the user's own: watched for edits, and kept safe from power cuts
-        suite,    ///< data for other programs, rewritten often: neither
-    };
-
     /// Reads the file at once; it need not exist. New files are for the user's eyes only (0600).
-    explicit FileDefaultsStore(const QString& path, Use use = Use::settings);
+    explicit FileDefaultsStore(const QString& path);
     ~FileDefaultsStore() override;
 
     /// $XDG_CONFIG_HOME/vantrix/settings.json
     static QString settingsPath();
-    /// The file of a suite under $XDG_RUNTIME_DIR, else under $XDG_STATE_HOME.
-    static QString suitePath(const QString& suite);
 
     QVariant value(const QString& key) const override;
     void setValue(const QString& key, const QVariant& value) override;
@@ -52,13 +42,12 @@ class FileDefaultsStore final : public DefaultsStore {
     void complainOnce(bool& complained, const QByteArray& problem, const char* consequence) const;
 
     const QString path_;
-    const Use use_;
     QString target_; ///< where `path_` leads
     SettingsFile file_;
     QHash<QString, QJsonValue> pending_; ///< undefined: to be removed
     QTimer writeTimer_;
     QTimer rereadTimer_;
-    std::unique_ptr<QFileSystemWatcher> watcher_; ///< none for a suite
+    QFileSystemWatcher watcher_;
     bool complainedOfReading_ = false;
     bool complainedOfWriting_ = false;
 };

@@ -1,6 +1,9 @@
 #include "linux/settings/file_writing.h"
 
 #include <cerrno>
+#include <system_error>
+
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace vantrix {
@@ -15,6 +18,12 @@ bool writeAll(int file, std::string_view bytes) {
         bytes.remove_prefix(static_cast<std::size_t>(count));
     }
     return true;
+}
+
+bool makePrivateFolder(const std::filesystem::path& folder) {
+    std::error_code error;
+    std::filesystem::create_directories(folder.parent_path(), error);
+    return ::mkdir(folder.c_str(), 0700) == 0;
 }
 
 std::string hiddenPattern(std::string_view path) {

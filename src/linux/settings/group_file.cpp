@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include <fcntl.h>
@@ -15,13 +14,6 @@
 
 namespace vantrix {
 namespace {
-
-/// The folder itself is made private; folders above it are made as usual.
-bool makeFolder(const std::filesystem::path& folder) {
-    std::error_code error;
-    std::filesystem::create_directories(folder.parent_path(), error);
-    return ::mkdir(folder.c_str(), 0700) == 0;
-}
 
 /// Puts the new file where the old one is. Exchanging the two and removing the old one afterwards is as atomic as
 /// replacing it, but replacing makes common file systems write the new one to the disk at once.
@@ -46,7 +38,7 @@ bool GroupFile::write(std::string_view key, std::string_view json) {
     contents_.append("{\"").append(key).append("\":").append(json).append("}\n");
     if (replace())
         return true;
-    return errno == ENOENT && makeFolder(std::filesystem::path(path_).parent_path()) && replace();
+    return errno == ENOENT && makePrivateFolder(std::filesystem::path(path_).parent_path()) && replace();
 }
 
 bool GroupFile::replace() {

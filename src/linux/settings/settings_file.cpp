@@ -101,9 +101,7 @@ bool install(const FileDescriptor& file, const QByteArray& temporary, const QByt
     if (::fchmod(file.get(), how.mode) != 0 ||
         !writeAll(file.get(), std::string_view(contents.constData(), static_cast<std::size_t>(contents.size()))))
         return false;
-    if (how.synced && ::fsync(file.get()) != 0)
-        return false;
-    if (!replaceable(path))
+    if (::fsync(file.get()) != 0 || !replaceable(path))
         return false;
     // Last, so that a full disk leaves the old file where it is.
     if (how.keepsOld && !setAside(path))

@@ -53,7 +53,6 @@ QString linkTarget(const QString& path);
 /// How a file is to be replaced.
 struct Replacement {
     mode_t mode = 0600;
-    bool synced = true;    ///< survives a power cut; costs a write to the disk at once
     bool keepsOld = false; ///< the old file is kept beside the new one, as "<name>.damaged"
 };
 
@@ -63,7 +62,8 @@ struct Replaced {
     int error = 0;                  ///< errno when it failed
 };
 
-/// Replaces the file's contents in one step: readers and a crash see the old or the new, never a mixture.
+/// Replaces the file's contents in one step: readers see the old or the new, never a mixture, and so does the next
+/// start after a crash or a power cut.
 /// Only a regular file is ever replaced: as root, a link to a device would cost the system that device.
 Replaced replaceFile(const QString& path, const QByteArray& contents, const Replacement& how);
 

@@ -145,7 +145,7 @@ TEST_F(FileDefaultsStoreTest, UnreadableFileIsSetAside) {
 TEST_F(FileDefaultsStoreTest, ReplacesNothingButAFile) {
     ASSERT_EQ(::mkfifo(QFile::encodeName(path_).constData(), 0600), 0);
     for (bool keepsOld : {false, true})
-        EXPECT_EQ(replaceFile(path_, "{}", {0600, true, keepsOld}).error, EEXIST);
+        EXPECT_EQ(replaceFile(path_, "{}", {0600, keepsOld}).error, EEXIST);
     struct stat status {};
     ASSERT_EQ(::stat(QFile::encodeName(path_).constData(), &status), 0);
     EXPECT_TRUE(S_ISFIFO(status.st_mode));

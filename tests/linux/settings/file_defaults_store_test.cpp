@@ -7,6 +7,7 @@
 
 #include <gmock/gmock.h>
 
+#include "linux/services/linux_widget_center.h"
 #include "linux/settings/settings_folder.h"
 
 namespace vantrix {
@@ -180,27 +181,18 @@ TEST_F(FileDefaultsStoreTest, LastWriteDoesNotCallADyingOwner) {
     EXPECT_EQ(object().value(other).toInt(), 1);
 }
 
-TEST_F(FileDefaultsStoreTest, SuiteIsNotWatchedYetMerges) {
-    write("{\"key\":1}");
-    FileDefaultsStore store(path_, FileDefaultsStore::Use::suite);
-    put(path_, "{\"key\":2}");
-    store.setValue(other, 3.0);
-    ASSERT_TRUE(becomes([&] { return object().value(other).toInt() == 3; }));
-    EXPECT_EQ(object().value(key).toInt(), 2);
-}
-
 TEST(FileDefaultsPaths, FollowTheBaseFolders) {
     QTemporaryDir runtime;
     const QByteArray folder = QFile::encodeName(runtime.path());
     struct Row {
         const char* name;
-        QByteArray config, state, runtime, settings, suite;
+        QByteArray config, state, runtime, settings, widgets;
     };
     const Row rows[] = {
-        {"all set", "/c", "/s", folder, "/c/vantrix/settings.json", folder + "/g/defaults.json"},
-        {"unset", "", "", "", "/h/.config/vantrix/settings.json", "/h/.local/state/g/defaults.json"},
-        {"relative", "c", "s", "r", "/h/.config/vantrix/settings.json", "/h/.local/state/g/defaults.json"},
-        {"runtime folder gone", "/c", "/s", "/nowhere", "/c/vantrix/settings.json", "/s/g/defaults.json"},
+        {"all set", "/c", "/s", folder, "/c/vantrix/settings.json", folder + "/vantrix/defaults.json"},
+        {"unset", "", "", "", "/h/.config/vantrix/settings.json", "/h/.local/state/vantrix/defaults.json"},
+        {"relative", "c", "s", "r", "/h/.config/vantrix/settings.json", "/h/.local/state/vantrix/defaults.json"},
+        {"runtime folder gone", "/c", "/s", "/nowhere", "/c/vantrix/settings.json", "/s/vantrix/defaults.json"},
     };
     const char* const variables[] = {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR"};
     QList<QByteArray> before;
@@ -211,7 +203,7 @@ TEST(FileDefaultsPaths, FollowTheBaseFolders) {
         for (int i = 0; i < 4; ++i)
             values[i].isEmpty() ? qunsetenv(variables[i]) : qputenv(variables[i], values[i]);
         EXPECT_EQ(FileDefaultsStore::settingsPath().toUtf8(), row.settings) << row.name;
-        EXPECT_EQ(FileDefaultsStore::suitePath(text("g")).toUtf8(), row.suite) << row.name;
+        EXPECT_EQ(widgetStorePath().toUtf8(), row.widgets) << row.name;
     }
     for (int i = 0; i < 4; ++i)
         before[i].isNull() ? qunsetenv(variables[i]) : qputenv(variables[i], before[i]);
