@@ -1,15 +1,23 @@
 #include "support/text_format.h"
 
 #include <cmath>
+#include <iomanip>
+#include <locale>
+#include <sstream>
+#include <utility>
 
 #include "support/checked.h"
-#include "support/decimal_text.h"
 
 namespace vantrix {
 namespace {
 
+/// A stream, because printf follows the process's locale, and a Mac's standard library has std::to_chars for
+/// fractions only from 13.3 on.
 std::string scaled(double value, int decimals, char unit) {
-    return fixedDecimal(value, decimals) + unit;
+    std::ostringstream text;
+    text.imbue(std::locale::classic());
+    text << std::fixed << std::setprecision(decimals) << value << unit;
+    return std::move(text).str();
 }
 
 } // namespace

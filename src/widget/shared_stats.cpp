@@ -1,126 +1,136 @@
 #include "widget/shared_stats.h"
 
-#include <algorithm>
 #include <cmath>
-#include <string_view>
+#include <concepts>
 
-#include "support/decimal_text.h"
-#include "support/utf8.h"
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QString>
 
 namespace vantrix {
 namespace {
 
-void appendEscaped(std::string& json, std::string_view text) {
-    constexpr std::string_view digits = "0123456789abcdef";
-    for (const char character : text) {
-        const auto code = static_cast<unsigned char>(character);
-        if (code < 0x20) {
-            json += "\\u00";
-            json += digits[code >> 4];
-            json += digits[code & 0xf];
-            continue;
-        }
-        if (character == '"' || character == '\\')
-            json += '\\';
-        json += character;
-    }
+template<typename Stats, typename Record>
+concept Either = std::same_as<Stats, Record> || std::same_as<Stats, const Record>;
+
+/// Calls `visit` with the key and the member of each field: the one list that writing and reading go by.
+template<Either<SharedStats> Stats, typename Visit>
+void visitFields(Stats& stats, Visit&& visit) {
+    visit("cpu", stats.cpu);
+    visit("memory", stats.memory);
+    visit("disk", stats.disk);
+    visit("download", stats.download);
+    visit("upload", stats.upload);
+    visit("gpu", stats.gpu);
+    visit("batteryPercent", stats.batteryPercent);
+    visit("batteryCharging", stats.batteryCharging);
+    visit("cpuTemperature", stats.cpuTemperature);
+    visit("warning", stats.warning);
+    visit("critical", stats.critical);
+    visit("updated", stats.updated);
+    visit("accessories", stats.accessories);
 }
 
-bool isASCII(std::string_view text) {
-    return std::all_of(text.begin(), text.end(),
-                       [](char character) { return static_cast<signed char>(character) >= 0; });
+template<Either<AccessoryBattery> Accessory, typename Visit>
+void visitFields(Accessory& accessory, Visit&& visit) {
+    visit("name", accessory.name);
+    visit("percent", accessory.percent);
+    visit("isCharging", accessory.isCharging);
+    visit("symbol", accessory.symbol);
 }
 
-/// Writes one object, entry by entry.
-class ObjectWriter {
+/// Turns records into JSON.
+class Writer {
   public:
-    explicit ObjectWriter(std::string& json) : json_(json) { json_ += '{'; }
-
-    void put(std::string_view key, double value) {
-        putKey(key);
-        isFinite_ = isFinite_ && std::isfinite(value);
-        json_ += roundTripDecimal(value);
-    }
-    void put(std::string_view key, int value) {
-        putKey(key);
-        json_ += std::to_string(value);
-    }
-    void put(std::string_view key, bool value) {
-        putKey(key);
-        json_ += value ? "true" : "false";
-    }
-    void put(std::string_view key, const std::string& value) {
-        putKey(key);
-        json_ += '"';
-        if (isASCII(value)) // needs no copy
-            appendEscaped(json_, value);
-        else
-            appendEscaped(json_, repairedUTF8(value));
-        json_ += '"';
-    }
-    template<typename T>
-    void put(std::string_view key, const std::optional<T>& value) {
-        if (value)
-            put(key, *value);
+    template<typename Record>
+    QJsonObject object(const Record& record) {
+        QJsonObject object;
+        visitFields(record, [&](const char* key, const auto& field) {
+            object.insert(QLatin1StringView(key), value(field)); // leaves an undefined value out
+        });
+        return object;
     }
 
-    /// Returns with the key written and its value still to be.
-    void putKey(std::string_view key) {
-        if (!isFirst_)
-            json_ += ',';
-        isFirst_ = false;
-        json_ += '"';
-        json_ += key;
-        json_ += "\":";
-    }
-
-    /// False when a number was not finite.
-    bool finish() {
-        json_ += '}';
-        return isFinite_;
-    }
+    /// False once a number was none that JSON can express.
+    bool wasFinite() const { return wasFinite_; }
 
   private:
-    std::string& json_;
-    bool isFirst_ = true;
-    bool isFinite_ = true;
+    QJsonValue value(bool field) { return field; }
+    QJsonValue value(int field) { return field; }
+    QJsonValue value(double field) {
+        wasFinite_ = wasFinite_ && std::isfinite(field);
+        return field;
+    }
+    QJsonValue value(const std::string& field) { return QString::fromStdString(field); }
+    template<typename T>
+    QJsonValue value(const std::optional<T>& field) {
+        return field ? value(*field) : QJsonValue(QJsonValue::Undefined);
+    }
+    QJsonValue value(const std::vector<AccessoryBattery>& field) {
+        QJsonArray array;
+        for (const AccessoryBattery& accessory : field)
+            array.append(object(accessory));
+        return array;
+    }
+
+    bool wasFinite_ = true;
 };
 
-void append(std::string& json, const AccessoryBattery& accessory) {
-    ObjectWriter object(json);
-    object.put("name", accessory.name);
-    object.put("percent", accessory.percent);
-    object.put("isCharging", accessory.isCharging);
-    object.put("symbol", accessory.symbol);
-    object.finish();
-}
+/// Fills records in from JSON. Each function is false when the value is missing or of another type.
+struct Reader {
+    template<typename Record>
+    static bool readObject(const QJsonValue& value, Record& record) {
+        bool isSound = value.isObject();
+        visitFields(record, [&](const char* key, auto& field) {
+            isSound = isSound && read(value[QLatin1StringView(key)], field);
+        });
+        return isSound;
+    }
+
+    static bool read(const QJsonValue& value, bool& field) {
+        field = value.toBool();
+        return value.isBool();
+    }
+    static bool read(const QJsonValue& value, int& field) {
+        field = value.toInt();
+        return value.isDouble() && field == value.toDouble();
+    }
+    static bool read(const QJsonValue& value, double& field) {
+        field = value.toDouble();
+        return value.isDouble();
+    }
+    static bool read(const QJsonValue& value, std::string& field) {
+        field = value.toString().toStdString();
+        return value.isString();
+    }
+    template<typename T>
+    static bool read(const QJsonValue& value, std::optional<T>& field) {
+        return value.isUndefined() || read(value, field.emplace());
+    }
+    static bool read(const QJsonValue& value, std::vector<AccessoryBattery>& field) {
+        const QJsonArray elements = value.toArray();
+        for (const QJsonValue element : elements)
+            if (!readObject(element, field.emplace_back()))
+                return false;
+        return value.isArray();
+    }
+};
 
 } // namespace
 
-bool encode(const SharedStats& stats, std::string& json) {
-    json.clear();
-    ObjectWriter object(json);
-    object.put("cpu", stats.cpu);
-    object.put("memory", stats.memory);
-    object.put("disk", stats.disk);
-    object.put("download", stats.download);
-    object.put("upload", stats.upload);
-    object.put("gpu", stats.gpu);
-    object.put("batteryPercent", stats.batteryPercent);
-    object.put("batteryCharging", stats.batteryCharging);
-    object.put("cpuTemperature", stats.cpuTemperature);
-    object.put("warning", stats.warning);
-    object.put("critical", stats.critical);
-    object.put("updated", stats.updated);
-    object.putKey("accessories");
-    json += '[';
-    for (const AccessoryBattery& accessory : stats.accessories) {
-        if (&accessory != stats.accessories.data())
-            json += ',';
-        append(json, accessory);
-    }
-    json += ']';
-    return object.finish();
+std::optional<std::string> encode(const SharedStats& stats) {
+    Writer writer;
+    const QJsonObject object = writer.object(stats);
+    if (!writer.wasFinite())
+        return std::nullopt;
+    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+}
+
+std::optional<SharedStats> decodeSharedStats(std::string_view json) {
+    const auto document = QJsonDocument::fromJson(QByteArray(json.data(), static_cast<qsizetype>(json.size())));
+    SharedStats stats;
+    return Reader::readObject(document.object(), stats) ? std::optional(stats) : std::nullopt;
 }
 
 } // namespace vantrix

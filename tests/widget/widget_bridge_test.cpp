@@ -2,28 +2,24 @@
 
 #include <limits>
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-
 #include <gtest/gtest.h>
 
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_widget_center.h"
+#include "monitor/readings.h"
+#include "widget/shared_stats.h"
 
 namespace vantrix {
 namespace {
 
-using namespace Qt::StringLiterals;
-
 struct WidgetBridgeTest : ::testing::Test {
-    QJsonObject stored() {
+    /// What a widget reads after a pass.
+    SharedStats stored() {
         bridge.update(readings);
         EXPECT_EQ(center.key, "sharedStats");
-        QJsonParseError error{};
-        const auto document = QJsonDocument::fromJson(QByteArray::fromStdString(center.json), &error);
-        EXPECT_EQ(error.error, QJsonParseError::NoError) << center.json;
-        return document.object();
+        const auto stats = decodeSharedStats(center.json);
+        EXPECT_TRUE(stats) << center.json;
+        return stats.value_or(SharedStats());
     }
 
     double now = 785403893.25;
@@ -42,41 +38,32 @@ TEST_F(WidgetBridgeTest, StoresWhatAWidgetShows) {
     readings.battery = BatterySample{.percent = 80, .isCharging = true};
     readings.sensors.cpu = 1.0 / 3.0;
     readings.accessories = {{"Mouse \"M\"\\\n", 55, false, "computermouse"}, {"Клавиатура\xff", 100, true, "keyboard"}};
+    defaults.set(preference_key::warningThreshold, 0.55);
     defaults.set(preference_key::criticalThreshold, 0.95);
-    const QJsonObject expected{
-        {u"cpu"_s, 0.1},
-        {u"memory"_s, 0.5},
-        {u"disk"_s, 0.75},
-        {u"download"_s, 1e21},
-        {u"upload"_s, 1234.5},
-        {u"gpu"_s, 0.0},
-        {u"batteryPercent"_s, 80},
-        {u"batteryCharging"_s, true},
-        {u"cpuTemperature"_s, 1.0 / 3.0},
-        {u"warning"_s, defaults.number(preference_key::warningThreshold)},
-        {u"critical"_s, 0.95},
-        {u"updated"_s, 785403893.25},
-        {u"accessories"_s, QJsonArray{QJsonObject{{u"name"_s, u"Mouse \"M\"\\\n"_s},
-                                                  {u"percent"_s, 55},
-                                                  {u"isCharging"_s, false},
-                                                  {u"symbol"_s, u"computermouse"_s}},
-                                      QJsonObject{{u"name"_s, u"Клавиатура\xfffd"_s},
-                                                  {u"percent"_s, 100},
-                                                  {u"isCharging"_s, true},
-                                                  {u"symbol"_s, u"keyboard"_s}}}},
-    };
+    const SharedStats expected{
+        .cpu = 0.1,
+        .memory = 0.5,
+        .disk = 0.75,
+        .download = 1e21,
+        .upload = 1234.5,
+        .gpu = 0.0,
+        .batteryPercent = 80,
+        .batteryCharging = true,
+        .cpuTemperature = 1.0 / 3.0,
+        .warning = 0.55,
+        .critical = 0.95,
+        .updated = 785403893.25,
+        .accessories = {{"Mouse \"M\"\\\n", 55, false, "computermouse"}, {"Клавиатура\uFFFD", 100, true, "keyboard"}}};
     EXPECT_EQ(stored(), expected) << center.json;
-    EXPECT_TRUE(center.json.starts_with("{\"cpu\":0.1,\"memory\":0.5,")) << "in the fields' order";
 }
 
 TEST_F(WidgetBridgeTest, LeavesOutWhatIsAbsent) {
     readings.disk = {.total = 10, .available = 20};
-    const QJsonObject object = stored();
-    EXPECT_EQ(object.keys(), QStringList({u"accessories"_s, u"cpu"_s, u"critical"_s, u"disk"_s, u"download"_s,
-                                          u"memory"_s, u"updated"_s, u"upload"_s, u"warning"_s}));
-    EXPECT_EQ(object[u"disk"_s], 0);
-    EXPECT_EQ(object[u"memory"_s], 0);
-    EXPECT_EQ(object[u"accessories"_s], QJsonArray());
+    const SharedStats expected{.warning = defaults.number(preference_key::warningThreshold),
+                               .critical = defaults.number(preference_key::criticalThreshold),
+                               .updated = now};
+    EXPECT_EQ(stored(), expected) << center.json;
+    EXPECT_EQ(center.json.find("null"), std::string::npos);
 }
 
 TEST_F(WidgetBridgeTest, DropsASnapshotThatCannotBeExpressed) {
@@ -87,7 +74,7 @@ TEST_F(WidgetBridgeTest, DropsASnapshotThatCannotBeExpressed) {
     }
     EXPECT_EQ(center.stores, 1);
     readings.sensors.cpu = 50.0;
-    EXPECT_EQ(stored()[u"cpuTemperature"_s], 50.0);
+    EXPECT_EQ(stored().cpuTemperature, 50.0);
 }
 
 TEST_F(WidgetBridgeTest, WritesEachTimeAndAnnouncesOnceAMinute) {
@@ -105,9 +92,47 @@ TEST_F(WidgetBridgeTest, WritesEachTimeAndAnnouncesOnceAMinute) {
 }
 
 TEST_F(WidgetBridgeTest, DoesNothingWithoutAGroup) {
-    WidgetBridge alone(nullptr, defaults);
-    alone.update(readings);
-    alone.write({});
+    WidgetBridge(nullptr, defaults).update(readings);
+}
+
+TEST(SharedStats, NumbersKeepTheirShortestExactText) {
+    for (const auto& [number, text] : {std::pair(0.0, "0"),
+                                       {0.1, "0.1"},
+                                       {0.1 + 0.2, "0.30000000000000004"},
+                                       {785403893.25, "785403893.25"},
+                                       {-2.5e-308, "-2.5e-308"}}) {
+        const auto json = encode({.cpu = number});
+        EXPECT_NE(json->find(std::string("\"cpu\":") + text + ','), std::string::npos) << *json;
+        EXPECT_EQ(decodeSharedStats(*json)->cpu, number);
+    }
+}
+
+TEST(SharedStats, AreReadOnlyWhereEveryFieldIsOfItsType) {
+    const std::string sound = R"({"cpu":0.5,"memory":0,"disk":0,"download":0,"upload":0,"warning":0,"critical":0,)"
+                              R"("updated":1,"batteryPercent":7,"accessories":[{"name":"M","percent":5,)"
+                              R"("isCharging":true,"symbol":"s","kind":1}],"later":{}})";
+    ASSERT_TRUE(decodeSharedStats(sound)) << "unknown keys are passed over";
+    EXPECT_EQ(decodeSharedStats(sound)->accessories.size(), 1u);
+    const std::pair<std::string, std::string> damages[] = {
+        {R"("cpu":0.5,)", ""},
+        {"0.5", "true"},
+        {":7", ":null"},
+        {":7", ":7.5"},
+        {":7", ":1e10"},
+        {R"("percent":5,)", ""},
+        {R"("M")", "0"},
+        {"[{", "[1,{"},
+        {R"(true)", "1"},
+        {"{}}", "{}"},
+        {R"("updated":1)", "\"updated\":\"1\""},
+    };
+    for (const auto& [whole, damaged] : damages) {
+        std::string text = sound;
+        text.replace(text.find(whole), whole.size(), damaged);
+        EXPECT_FALSE(decodeSharedStats(text)) << text;
+    }
+    for (const char* other : {"", "[]", "null", "{}"})
+        EXPECT_FALSE(decodeSharedStats(other)) << other;
 }
 
 TEST(WallClock, CountsFrom2001) {

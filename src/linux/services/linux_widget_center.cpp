@@ -5,6 +5,7 @@
 
 #include "linux/services/session_bus.h"
 #include "linux/settings/base_folders.h"
+#include "linux/settings/group_file.h"
 
 namespace vantrix {
 
@@ -16,10 +17,10 @@ QString widgetStorePath() {
 }
 
 LinuxWidgetCenter::LinuxWidgetCenter(const QString& path, const std::optional<QDBusConnection>& bus)
-    : file_(QFile::encodeName(path).toStdString()), bus_(bus) {}
+    : path_(QFile::encodeName(path).toStdString()), bus_(bus) {}
 
 void LinuxWidgetCenter::store(std::string_view key, std::string_view json) {
-    file_.write(key, json);
+    writeGroupFile(path_, key, json);
 }
 
 void LinuxWidgetCenter::reloadAllTimelines() {
@@ -27,7 +28,7 @@ void LinuxWidgetCenter::reloadAllTimelines() {
         return;
     auto signal = QDBusMessage::createSignal(QStringLiteral("/vantrix/WidgetCenter"),
                                              QStringLiteral("vantrix.WidgetCenter"), QStringLiteral("Reload"));
-    signal << QFile::decodeName(file_.path().c_str());
+    signal << QFile::decodeName(path_.c_str());
     bus_->send(signal);
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include <QDBusConnection>
 
-#include "linux/settings/group_file.h"
 #include "platform/widget_center.h"
 
 namespace vantrix {
@@ -22,7 +22,7 @@ class LinuxWidgetCenter final : public WidgetCenter {
     void reloadAllTimelines() override;
 
   private:
-    GroupFile file_;
+    std::string path_;
     std::optional<QDBusConnection> bus_;
 };
 

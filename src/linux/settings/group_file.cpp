@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -29,30 +28,29 @@ bool install(const std::string& temporary, const std::string& path) {
     return false;
 }
 
-} // namespace
-
-GroupFile::GroupFile(std::string path) : path_(std::move(path)), pattern_(hiddenPattern(path_)) {}
-
-bool GroupFile::write(std::string_view key, std::string_view json) {
-    contents_.clear();
-    contents_.append("{\"").append(key).append("\":").append(json).append("}\n");
-    if (replace())
-        return true;
-    return errno == ENOENT && makePrivateFolder(std::filesystem::path(path_).parent_path()) && replace();
-}
-
-bool GroupFile::replace() {
-    temporary_ = pattern_;
-    const int file = ::mkostemp(temporary_.data(), O_CLOEXEC); // 0600
+/// False when the file stayed as it was; errno says why.
+bool replace(const std::string& path, std::string_view contents) {
+    std::string temporary = hiddenPattern(path);
+    const int file = ::mkostemp(temporary.data(), O_CLOEXEC); // 0600
     if (file < 0)
         return false;
-    const bool isComplete = writeAll(file, contents_);
-    if (::close(file) == 0 && isComplete && install(temporary_, path_))
+    const bool isComplete = writeAll(file, contents);
+    if (::close(file) == 0 && isComplete && install(temporary, path))
         return true;
     const int error = errno;
-    ::unlink(temporary_.c_str());
+    ::unlink(temporary.c_str());
     errno = error;
     return false;
+}
+
+} // namespace
+
+bool writeGroupFile(const std::string& path, std::string_view key, std::string_view json) {
+    std::string contents("{\"");
+    contents.append(key).append("\":").append(json).append("}\n");
+    if (replace(path, contents))
+        return true;
+    return errno == ENOENT && makePrivateFolder(std::filesystem::path(path).parent_path()) && replace(path, contents);
 }
 
 } // namespace vantrix
