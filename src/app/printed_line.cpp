@@ -68,7 +68,7 @@ std::string waybarLine(const std::vector<MenuBarItem>& items) {
     std::vector<std::string> blocks;
     blocks.reserve(items.size());
     for (const MenuBarItem& item : items)
-        blocks.push_back(item.label + ' ' + joinedWith(item.lines, " "));
+        blocks.push_back(itemText(item));
     // The bar reads both texts as Pango markup.
     const auto markup = [](const std::string& text) { return QString::fromStdString(text).toHtmlEscaped(); };
     QJsonObject object{{u"text"_s, markup(joinedWith(blocks, "  "))},

@@ -150,13 +150,21 @@ std::vector<MenuBarItem> menuBarItems(const std::vector<MenuBarModule>& modules,
     return items;
 }
 
+std::string valueText(const MenuBarItem& item) {
+    std::string text;
+    for (const std::string& line : item.lines)
+        text += (text.empty() ? "" : " ") + line;
+    return text;
+}
+
+std::string itemText(const MenuBarItem& item) {
+    return item.label + ' ' + valueText(item);
+}
+
 std::string accessibilityLabel(const std::vector<MenuBarItem>& items) {
     std::string text;
-    for (const MenuBarItem& item : items) {
-        appendToList(text, item.label);
-        for (const std::string& line : item.lines)
-            text += ' ' + line;
-    }
+    for (const MenuBarItem& item : items)
+        appendToList(text, itemText(item));
     return text;
 }
 

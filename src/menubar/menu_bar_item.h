@@ -38,6 +38,12 @@ std::optional<MenuBarItem> menuBarItem(MenuBarModule module, const Readings& rea
 std::vector<MenuBarItem> menuBarItems(const std::vector<MenuBarModule>& modules, const Readings& readings,
                                       const UserDefaults& defaults);
 
+/// The lines of the value with blanks between them: "↓12K ↑1.5M".
+std::string valueText(const MenuBarItem& item);
+
+/// Label and value: "NET ↓12K ↑1.5M".
+std::string itemText(const MenuBarItem& item);
+
 /// What a screen reader says for the row: "CPU 12%, RAM 48%".
 std::string accessibilityLabel(const std::vector<MenuBarItem>& items);
 

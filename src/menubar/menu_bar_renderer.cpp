@@ -39,17 +39,10 @@ const std::string& lineOf(const MenuBarItem& item, std::size_t index) {
     return index < item.lines.size() ? item.lines[index] : nothing;
 }
 
-std::string joined(const std::vector<std::string>& lines) {
-    std::string text;
-    for (const std::string& line : lines)
-        text += text.empty() ? line : ' ' + line;
-    return text;
-}
-
 double inlineValueWidth(const MenuBarItem& item, const MonospacedFont& font) {
     const auto count = static_cast<double>(item.lines.size());
     const double reserved = count * font.width(item.reference) + (count - 1.0) * font.width(" ");
-    return std::ceil(std::max(font.width(joined(item.lines)), reserved));
+    return std::ceil(std::max(font.width(valueText(item)), reserved));
 }
 
 double stackedValueWidth(const MenuBarItem& item, const MonospacedFont& font) {
@@ -92,7 +85,7 @@ class RowPainter {
     void drawInline(const MenuBarItem& item, const MenuBarRenderer::Layout& layout, double x) {
         const double base = (MenuBarRenderer::height - fonts().value.capHeight()) / 2.0;
         text(fonts().label, x, base, item.label, captionColor());
-        text(fonts().value, x + layout.labelWidth + labelGap, base, joined(item.lines), valueColor(item));
+        text(fonts().value, x + layout.labelWidth + labelGap, base, valueText(item), valueColor(item));
     }
 
     void drawStacked(const MenuBarItem& item, double columnWidth, double x) {

@@ -10,6 +10,8 @@
 #include <QWindow>
 
 #include "linux/status_area/click_anchor.h"
+#include "linux/status_area/mouse_click.h"
+#include "linux/status_area/panel_palette.h"
 #include "linux/status_area/xcb_support.h"
 #include "platform/appearance.h"
 #include "support/user_defaults.h"
@@ -147,7 +149,7 @@ void FloatingStrip::paintEvent(QPaintEvent*) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
     const QSize spare = (size() - row_.size()) / 2; // whole points keep the row sharp
     painter.translate(spare.width(), spare.height());
-    row_.paint(painter, dark ? MenuBarPalette::onDark() : MenuBarPalette::onLight());
+    row_.paint(painter, paletteForPanel(dark));
 }
 
 void FloatingStrip::mousePressEvent(QMouseEvent* event) {
@@ -179,15 +181,8 @@ void FloatingStrip::mouseReleaseEvent(QMouseEvent* event) {
     }
     if (dropped)
         return remember();
-    if (!rect().contains(event->position().toPoint()))
-        return;
-    StatusClick click;
-    if (event->button() == Qt::RightButton)
-        click.button = StatusClick::Button::right;
-    else if (event->button() == Qt::MiddleButton)
-        click.button = StatusClick::Button::middle;
-    click.control = event->modifiers().testFlag(Qt::ControlModifier);
-    clicked_(click);
+    if (rect().contains(event->position().toPoint()))
+        clicked_(clickOf(*event));
 }
 
 QRect FloatingStrip::anchor() const {

@@ -11,11 +11,8 @@ namespace {
 constexpr std::string_view gaugeSymbol = "gauge.with.dots.needle.33percent";
 constexpr double gaugeSide = 18.0; // the symbol within its square of 22 points
 
-QString joined(const MenuBarItem& item, const std::vector<std::string>& lines) {
-    QString text = QString::fromStdString(item.label);
-    for (const auto& line : lines)
-        text += QLatin1Char(' ') + QString::fromStdString(line);
-    return text;
+QString textOf(const MenuBarItem& item) {
+    return QString::fromStdString(itemText(item));
 }
 
 } // namespace
@@ -79,7 +76,7 @@ QString StatusRow::tileName(std::size_t index) const {
 QString StatusRow::tileText(std::size_t index) const {
     if (content_.items.empty())
         return text_;
-    return joined(content_.items[index], content_.items[index].lines);
+    return textOf(content_.items[index]);
 }
 
 bool StatusRow::sameTile(const StatusRow& other, std::size_t index) const {
@@ -93,14 +90,16 @@ bool StatusRow::sameTile(const StatusRow& other, std::size_t index) const {
 QString StatusRow::label() const {
     QStringList parts;
     for (const auto& item : content_.items)
-        parts << joined(item, item.lines);
+        parts << textOf(item);
     return parts.join(QStringLiteral("  "));
 }
 
 QString StatusRow::labelGuide() const {
     QStringList parts;
-    for (const auto& item : content_.items)
-        parts << joined(item, std::vector<std::string>(item.lines.size(), item.reference));
+    for (MenuBarItem item : content_.items) {
+        item.lines.assign(item.lines.size(), item.reference);
+        parts << textOf(item);
+    }
     return parts.join(QStringLiteral("  "));
 }
 

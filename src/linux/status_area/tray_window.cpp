@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include "linux/status_area/click_anchor.h"
+#include "linux/status_area/mouse_click.h"
 #include "linux/status_area/panel_palette.h"
 #include "linux/status_area/x11_tray.h"
 #include "linux/status_area/xcb_support.h"
@@ -29,16 +30,6 @@ constexpr double leastContrast = 0.35;
 /// Share of the row's size at which it fits a tray that is lower than the row.
 double scaleFor(int height) {
     return std::min(1.0, height / MenuBarRenderer::height);
-}
-
-StatusClick clickOf(const QMouseEvent& event) {
-    StatusClick click;
-    if (event.button() == Qt::RightButton)
-        click.button = StatusClick::Button::right;
-    else if (event.button() == Qt::MiddleButton)
-        click.button = StatusClick::Button::middle;
-    click.control = event.modifiers().testFlag(Qt::ControlModifier);
-    return click;
 }
 
 } // namespace
