@@ -17,6 +17,11 @@
 #include "macos/sensors/smc_connection.h"
 
 namespace vantrix {
+
+std::optional<std::string> unreadableRoot(const KernelRoots& /*roots*/) {
+    return std::nullopt; // this kernel shows itself in no folders
+}
+
 SamplingSources makeSamplingSources(const KernelRoots&) {
     SamplingSources sources;
     sources.clock = std::make_unique<MachClock>();

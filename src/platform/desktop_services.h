@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 
-#include "platform/sampling_sources.h"
 #include "support/user_defaults.h"
 
 class QSocketNotifier;
@@ -14,9 +13,6 @@ namespace vantrix {
 
 /// The settings of this user.
 std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();
-
-/// The first of the roots that this user cannot read, if any. A system without such trees misses none.
-std::optional<std::string> unreadableRoot(const KernelRoots& roots);
 
 /// Chooses the windowing system to draw on, unless there are several and the user chose one. Null when there is no
 /// display at all. Call before the application object exists, and keep what is returned until it does: an X server

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "accessories/accessories_sampler.h"
@@ -29,6 +30,9 @@ struct KernelRoots {
 
     bool operator==(const KernelRoots&) const = default;
 };
+
+/// The first of the roots that this user cannot read, if any. On a system without such trees there is none.
+std::optional<std::string> unreadableRoot(const KernelRoots& roots);
 
 /// Everything the samplers read from. What a system lacks is null: `gpu`, the three sources of sensors, `battery` and
 /// `accessories` without such devices' interfaces, `networkInfo` where nothing tells of the connection, `location`

@@ -44,8 +44,4 @@ bool windowsCanFade() {
     return true;
 }
 
-std::optional<std::string> unreadableRoot(const KernelRoots& /*roots*/) {
-    return std::nullopt; // there are no such folders here
-}
-
 } // namespace vantrix
