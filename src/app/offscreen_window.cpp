@@ -10,8 +10,9 @@
 namespace vantrix {
 namespace {
 
-constexpr int inchesPerMeter = 39; // 39.37, but pictures count whole dots
-constexpr int dotsPerInch = 72 * OffscreenWindow::scale;
+constexpr double metersPerInch = 0.0254;
+constexpr int dotsPerInch = 72 * OffscreenWindow::scale; // a point is a 72nd of an inch
+constexpr int dotsPerMeter = static_cast<int>(dotsPerInch / metersPerInch + 0.5);
 constexpr int cropMargin = 12 * OffscreenWindow::scale;
 constexpr int sampleStep = 3;
 constexpr double leastDifference = 0.02;
@@ -54,8 +55,8 @@ std::optional<QImage> OffscreenWindow::picture() {
 QImage makePicture(QSize size, const QColor& ground) {
     QImage image(size * OffscreenWindow::scale, QImage::Format_RGB32);
     image.setDevicePixelRatio(OffscreenWindow::scale);
-    image.setDotsPerMeterX(dotsPerInch * inchesPerMeter);
-    image.setDotsPerMeterY(dotsPerInch * inchesPerMeter);
+    image.setDotsPerMeterX(dotsPerMeter);
+    image.setDotsPerMeterY(dotsPerMeter);
     image.fill(ground);
     return image;
 }

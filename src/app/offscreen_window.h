@@ -10,7 +10,7 @@ namespace vantrix {
 
 class Theme;
 
-/// A borderless window that never comes to a screen: lays a view out at a fixed size and draws it.
+/// A borderless window that is never shown on a screen: lays out a view at a fixed size and draws it.
 class OffscreenWindow : public QWidget {
   public:
     /// Pixels per point of the pictures.
@@ -25,11 +25,12 @@ class OffscreenWindow : public QWidget {
     const Theme& theme_;
 };
 
-/// A picture of `size` points; null where there is no memory for it.
+/// A picture of `size` points, filled with `ground`; its resolution tells readers that size in points. Null where there
+/// is no memory for it.
 QImage makePicture(QSize size, const QColor& ground);
 
-/// The part of `image` from its top down to its lowest content and a margin. The ground is the colour near the lower
-/// left corner. All of it where that would not make it smaller.
+/// `image` cut off a margin below its lowest content, or unchanged where that would not make it smaller. The ground is
+/// the colour near the lower left corner; content is what differs from it.
 QImage croppedBelowContent(const QImage& image);
 
 } // namespace vantrix

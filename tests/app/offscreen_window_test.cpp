@@ -1,5 +1,7 @@
 #include "app/offscreen_window.h"
 
+#include <cmath>
+
 #include <QPainter>
 
 #include <gmock/gmock.h>
@@ -33,6 +35,15 @@ TEST(PopoverCrop, CutsBelowTheLowestContent) {
     for (const auto& c : cases)
         EXPECT_EQ(croppedBelowContent(c.image).size(), QSize(300, c.height)) << c.name;
     EXPECT_TRUE(croppedBelowContent(QImage()).isNull());
+}
+
+TEST(Picture, SaysHowManyPointsWideItIs) {
+    QImage picture = makePicture({340, 100}, Qt::black);
+    picture.setPixelColor(0, 20, Qt::white);
+    const QImage cropped = croppedBelowContent(picture);
+    EXPECT_LT(cropped.height(), picture.height());
+    for (const int dotsPerMeter : {cropped.dotsPerMeterX(), cropped.dotsPerMeterY()})
+        EXPECT_EQ(std::lround(cropped.width() / (dotsPerMeter / 100.0 * 2.54) * 72.0), 340) << dotsPerMeter;
 }
 
 } // namespace
