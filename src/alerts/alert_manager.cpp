@@ -19,7 +19,7 @@ using Kind = AlertManager::Kind;
 constexpr int lowBattery = 15;        // percent
 constexpr double hotProcessor = 95.0; // °C
 
-/// The kinds that are evaluated, in that order.
+/// The kinds that are evaluated, in this order.
 constexpr std::array evaluatedKinds{Kind::cpu, Kind::memory, Kind::disk, Kind::battery, Kind::temperature};
 
 constexpr std::size_t indexOf(Kind kind) {

@@ -32,14 +32,15 @@ class AlertManager : public QObject {
     /// `center` and `defaults` outlive the manager.
     AlertManager(NotificationCenter& center, const UserDefaults& defaults, WallClock clock = secondsSince2001);
 
-    /// To be called once after every pass: a condition's time is counted in passes, not by the clock.
+    /// To be called once after every pass. How long a condition has lasted is the sum of the intervals of the passes,
+    /// not the time on the clock.
     void evaluate(const Readings& readings);
 
-    /// Posts a notification at once; the next one of its kind takes its place.
+    /// Posts a notification at once, replacing the one of the same kind before.
     void send(Kind kind, const QString& title, const QString& body);
 
-    /// Posts the test notification if the system allows it. Calls `done`, perhaps much later, with a text on how that
-    /// went; never once the manager is gone.
+    /// Posts the test notification if the system allows it. `done` gets a text that says how it went, perhaps much
+    /// later, but never once the manager is gone.
     void sendTest(std::function<void(const QString& outcome)> done);
 
   private:

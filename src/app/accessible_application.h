@@ -2,8 +2,8 @@
 
 namespace vantrix {
 
-/// Shows assistive programs every visible window of the application, pop-ups included: the toolkit's own account of
-/// the application leaves those out, and with them the popover. Called once after the application object is made.
+/// Shows assistive programs every visible window of the application. The toolkit leaves out pop-ups, and the popover is
+/// one. Called once, after the application object is made.
 void installAccessibleApplication();
 
 } // namespace vantrix

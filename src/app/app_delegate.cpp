@@ -136,7 +136,7 @@ void AppDelegate::openSettings() {
     showSettings({});
 }
 
-/// `tab`: a blank and the tab's name, or nothing.
+/// `tab`: a blank and the tab's name, or empty for the tab that was shown last.
 void AppDelegate::showSettings(std::string_view tab) {
     const auto named = tab.starts_with(' ') ? choiceNamed(settingsTabs, tab.substr(1)) : std::nullopt;
     if (!named && !tab.empty())

@@ -45,7 +45,7 @@ class AppDelegate : public QObject {
     AppDelegate(Parts parts, UserDefaults& defaults);
     ~AppDelegate() override;
 
-    /// The launch sequence, from the registered defaults to the first picture.
+    /// Registers the defaults, starts the monitor and shows the status item.
     void applicationDidFinishLaunching();
 
     void statusItemClicked(const StatusClick& click);
@@ -54,8 +54,8 @@ class AppDelegate : public QObject {
     void openSettings();
     void quitApp();
 
-    /// A request of another process: "show-popover", "show-settings", that with a tab's name after a blank, or
-    /// "quit"; anything else is ignored.
+    /// A request from another process: "show-popover", "show-settings", "show-settings TAB" or "quit"; anything else is
+    /// ignored.
     void handleRequest(const std::string& request);
 
   private:

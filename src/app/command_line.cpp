@@ -20,7 +20,7 @@ std::optional<long> wholeNumber(const std::string& text) {
     return number;
 }
 
-/// Not from_chars: not every standard library reads fractions with it.
+/// Without from_chars, which cannot read fractions in every standard library.
 std::optional<double> fraction(const std::string& text) {
     std::istringstream stream(text);
     stream.imbue(std::locale::classic());
@@ -37,13 +37,13 @@ std::string withoutTrailingSlashes(std::string path) {
     return path;
 }
 
-/// Walks over the arguments; the first thing wrong ends the walk.
+/// Goes through the arguments up to the first mistake.
 class Parser {
   public:
     explicit Parser(const std::vector<std::string>& arguments) : arguments_(arguments) {}
 
     std::variant<CommandLine, std::string> parse() {
-        // Wherever it stands, and whatever else there is: scripts count on it.
+        // In any place and despite any other argument: scripts rely on that.
         const auto flag = std::find(arguments_.begin(), arguments_.end(), exportFlag);
         if (flag != arguments_.end() && flag + 1 != arguments_.end()) {
             result_.action = Action::exportScreenshots;
@@ -78,7 +78,7 @@ class Parser {
         else if (option == "-platform" || option == "--platform")
             value(option); // the windowing toolkit reads it itself
         else if (option == "-reverse" || option == exportFlag)
-            return; // the toolkit's, for a layout from right to left; and a flag that means nothing without its folder
+            return; // the toolkit's own, for a layout from right to left; and a flag without its folder
         else
             parseSetting(option);
     }

@@ -25,11 +25,12 @@ struct CommandLine {
     std::string exportFolder; ///< of `exportScreenshots`
     KernelRoots roots;        ///< without trailing slashes
 
-    /// False for a host that is watched from inside a container: what this machine's services tell is not of it.
+    /// False when the roots are those of a host watched from inside a container: the services here say nothing about
+    /// that host.
     bool watchesThisMachine() const { return roots == KernelRoots(); }
 };
 
-/// The parsed arguments (the program's own name left out), or one line that says what is wrong with them.
+/// The parsed arguments (without the program's name), or one line that says what is wrong with them.
 std::variant<CommandLine, std::string> parseCommandLine(const std::vector<std::string>& arguments);
 
 /// The text of --help.

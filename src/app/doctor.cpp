@@ -27,26 +27,26 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds betweenPasses{500}; // loads and rates need two looks at the counters
+constexpr milliseconds betweenPasses{500}; // loads and rates are differences between two readings
 constexpr milliseconds servicePatience{1000};
 constexpr milliseconds readPatience{2000};
 constexpr const char* bluetoothElsewhere = "Levels are only asked for on the machine itself, not through another root.";
 
-/// Of the terminal, within what can be read; 80 in a file, so that every report looks the same.
+/// The terminal's width, within limits that read well; 80 for a file, so that all reports look the same.
 int columns() {
     winsize size{};
     const bool isTerminal = ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 0;
     return isTerminal ? std::clamp<int>(size.ws_col, 72, 120) : 80;
 }
 
-/// A report in the making. What may hang is waited for with patience.
+/// Puts the report together. What may hang is asked on a thread of its own and waited for only so long.
 class Doctor {
   public:
     Doctor(const KernelRoots& roots, const char* version) : roots_(roots), version_(version) {}
 
     DoctorReport examine();
 
-    /// True when something still waits for what hangs.
+    /// True when a thread is still waiting for something that hangs.
     bool leftThreadBehind() const { return leftThreadBehind_; }
 
   private:
@@ -54,7 +54,7 @@ class Doctor {
     std::vector<SourceDiagnosis> askSources(const Findings& findings);
     std::vector<SourceDiagnosis> askServices();
 
-    /// What `ask` gives; absent when it hangs.
+    /// What `ask` returns; absent when it hangs.
     template<typename Answer>
     std::optional<Answer> inTime(std::function<Answer()> ask) {
         const auto answer = std::make_shared<Answer>();
@@ -75,7 +75,7 @@ void waitUntil(const QElapsedTimer& start, milliseconds time) {
     loop.exec();
 }
 
-/// A report is shown to others: it names the user's folders by what they are for.
+/// A report is shown to others, so it does not spell out the user's folders.
 void hidePrivateFolders(DoctorReport& report) {
     const QString home = QDir::homePath();
     for (const QString& path : {home, QFileInfo(home).canonicalFilePath()})
@@ -91,12 +91,12 @@ std::optional<DoctorInstance> Doctor::findInstance() {
         return std::nullopt;
     if (*pid == 0)
         return DoctorInstance();
-    // To read of its memory waits for whatever it is changing in its address space.
+    // Its memory figures cannot be read while it is changing its address space.
     auto statistics = inTime<Statistics>([pid = *pid] { return processStatistics(pid); });
     return DoctorInstance{*pid, statistics.value_or(std::nullopt)};
 }
 
-/// Where nothing is told of the sources, the readings stand alone.
+/// Where the sources cannot be told in time, the readings are listed without them.
 std::vector<SourceDiagnosis> Doctor::askSources(const Findings& findings) {
     using Rows = std::vector<SourceDiagnosis>;
     if (auto rows = inTime<Rows>([roots = roots_] { return diagnoseSources(roots); }))
@@ -128,7 +128,7 @@ DoctorReport Doctor::examine() {
     DoctorReport report;
     auto sources = makeSamplingSources(roots_);
     const auto information = std::move(sources.information);
-    report.instance = findInstance(); // before the rest costs the machine anything
+    report.instance = findInstance(); // first, so that this run does not count in its figures
     Examination examination(std::move(sources), readPatience);
     QElapsedTimer start;
     start.start();
@@ -159,13 +159,13 @@ int runDoctor(const CommandLine& commandLine, const char* version, int& argc, ch
     ignoreBrokenPipes();
     prepareTerminal();
     QCoreApplication application(argc, argv);
-    QLocale::setDefault(QLocale::c()); // a report is read by others than its user
+    QLocale::setDefault(QLocale::c()); // others than the user read the report
     Doctor doctor(commandLine.roots, version);
     const DoctorReport report = doctor.examine();
     const bool isJSON = commandLine.format == PrintFormat::json;
     const int status = writeOut(isJSON ? jsonReport(report) : textReport(report, columns())).value_or(0);
     if (doctor.leftThreadBehind())
-        std::_Exit(status); // ending in good order would take away what that thread still uses
+        std::_Exit(status); // an orderly exit would destroy what that thread still uses
     return status;
 }
 

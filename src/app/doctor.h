@@ -4,8 +4,8 @@
 
 namespace vantrix {
 
-/// Prints what every reading comes from and why one is missing. Needs neither a display nor a bus, changes nothing and
-/// wakes nothing; takes about a second, and a few where something hangs. Returns the exit status.
+/// Prints where every reading comes from, and why any is missing. Needs neither a display nor a bus, changes nothing
+/// and wakes no device. Takes about a second, a few more where something hangs. Returns the exit status.
 int runDoctor(const CommandLine& commandLine, const char* version, int& argc, char** argv);
 
 } // namespace vantrix

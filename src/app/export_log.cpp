@@ -12,7 +12,7 @@ void ExportLog::log(const QString& message) {
     QDir().mkpath(folder_);
     const QByteArray line = message.toUtf8() + '\n';
     std::fprintf(stderr, "   [export] %s", line.constData());
-    // Opened anew for each line, and not locked: the line that tells of a run that hangs must come through.
+    // Opened for each line and not locked, so that even a run that hangs can still report it.
     QFile file(folder_ + QStringLiteral("/export.log"));
     const auto mode = isFirst_.exchange(false) ? QIODevice::Truncate : QIODevice::Append;
     if (file.open(QIODevice::WriteOnly | mode))

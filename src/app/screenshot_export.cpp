@@ -29,7 +29,7 @@ constexpr QSize popoverCanvas(PopoverView::contentWidth, 2000);
 constexpr QSize rowPadding(12, 4);
 constexpr int timeoutStatus = 2;
 
-/// The user's settings with this run's own laid over them in memory.
+/// The user's settings; what this run changes is kept in memory only.
 class OverlayStore final : public DefaultsStore {
   public:
     explicit OverlayStore(std::unique_ptr<DefaultsStore> stored) : stored_(std::move(stored)) {}
@@ -45,7 +45,7 @@ class OverlayStore final : public DefaultsStore {
     QHash<QString, QVariant> own_;
 };
 
-/// The appearance of a picture; at rest, because pictures do not move.
+/// The appearance of a picture; without animations, which a picture would catch halfway.
 class FixedAppearance final : public AppearanceSource {
   public:
     explicit FixedAppearance(bool dark) : dark_(dark) {}
@@ -55,14 +55,14 @@ class FixedAppearance final : public AppearanceSource {
     bool dark_;
 };
 
-/// As on the machine of someone who likes the program.
+/// The switch is on in the pictures.
 class DemoLoginItem final : public LoginItem {
   public:
     bool isEnabled() const override { return true; }
     void setEnabled(bool) override {}
 };
 
-/// The machine that the demo readings are of.
+/// Describes the machine of the demo readings.
 class DemoInformation final : public SystemInformation {
   public:
     std::optional<std::int64_t> integer(std::string_view name) const override {

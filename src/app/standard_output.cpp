@@ -10,7 +10,7 @@ std::optional<int> writeOut(const std::string& text) {
     if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
         return std::nullopt;
     if (errno == EPIPE)
-        return 0; // a reader that went away is the usual end of a pipe, not a fault to report
+        return 0; // the reader has gone, which is how a pipe usually ends
     std::fprintf(stderr, "vantrix: cannot write: %s\n", std::strerror(errno));
     return 1;
 }

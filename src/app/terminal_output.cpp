@@ -15,9 +15,9 @@
 namespace vantrix {
 namespace {
 
-constexpr std::chrono::milliseconds firstLook{250}; // a load needs two looks at the counters
+constexpr std::chrono::milliseconds firstLook{250}; // a load is the difference between two readings
 
-/// Only JSON tells of accessories.
+/// Only the JSON format lists accessories.
 Bluetooth bluetoothFor(const CommandLine& commandLine) {
     const bool isWanted = commandLine.format == PrintFormat::json && commandLine.watchesThisMachine();
     return isWanted ? makeBluetooth() : Bluetooth();

@@ -18,14 +18,14 @@ namespace {
 
 constexpr auto english = "en"_L1;
 
-std::vector<std::unique_ptr<QTranslator>> tables; // those that know a text better come first
+std::vector<std::unique_ptr<QTranslator>> tables; // the first that has a text wins
 
 QString fileOf(const QString& table) {
     return u":/translations/"_s + table + u".qm"_s;
 }
 
-/// The table of a language as "pt-BR" or "zh-Hant-TW" names it; empty where there is none. A table for one script
-/// ("zh_Hans") does not serve readers of another.
+/// The table for a locale such as "pt-BR" or "zh-Hant-TW"; empty where there is none. A table for one script
+/// ("zh_Hans") is not used for another.
 QString tableFor(const QLocale& spoken) {
     const QString language = QLocale::languageToCode(spoken.language());
     QString ofScript = language + u'_' + QLocale::scriptToCode(spoken.script());
@@ -64,7 +64,7 @@ std::string translated(std::string_view text, std::optional<long long> count) {
     return source;
 }
 
-/// Digits of another script would stand in English words, beside the percentages, which have Western digits always.
+/// No digits of another script: the words around them would be English, and percentages always have Western digits.
 QLocale numberLocale(const QLocale& locale) {
     return locale.zeroDigit() == u"0"_s ? locale : QLocale(QLocale::English);
 }
@@ -79,7 +79,7 @@ void installTranslations(const QLocale& locale) {
         addTables(english);
     installTranslator(translated);
     QLocale::setDefault(numberLocale(locale));
-    // Follows the words, not the locale: an English interface is read from the left everywhere.
+    // Follows the language, not the locale: an English interface is read from the left everywhere.
     if (QLocale(language).textDirection() == Qt::RightToLeft)
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
 }

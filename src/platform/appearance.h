@@ -8,7 +8,7 @@
 
 namespace vantrix {
 
-/// Colours for shapes that a system names for all programs.
+/// Colours that the system defines for all programs.
 struct SystemColors {
     QColor orange;
     QColor red;
@@ -18,7 +18,7 @@ struct SystemColors {
     bool operator==(const SystemColors&) const = default;
 };
 
-/// How the desktop wishes programs to look.
+/// How programs on this desktop should look.
 struct Appearance {
     bool dark = false;
     std::optional<QColor> accent;            ///< the user's highlight colour; absent: the program's own

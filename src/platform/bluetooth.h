@@ -12,10 +12,10 @@ namespace vantrix {
 struct Bluetooth {
     std::unique_ptr<BluetoothCentral> central;
     std::unique_ptr<ClassicBluetoothDevices> classicDevices; ///< may be null
-    std::unique_ptr<RepeatingTimer> timer;                   ///< with a central never null
+    std::unique_ptr<RepeatingTimer> timer;                   ///< never null when there is a central
 };
 
-/// This machine's Bluetooth; empty where nothing could tell of it. Made after the application object; waits for
+/// This machine's Bluetooth; empty where there is no service to ask. Made after the application object; waits for
 /// nothing.
 Bluetooth makeBluetooth();
 

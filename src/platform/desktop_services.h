@@ -14,18 +14,18 @@ namespace vantrix {
 /// The settings of this user.
 std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();
 
-/// Chooses the windowing system to draw on, unless there are several and the user chose one. Null when there is no
-/// display at all. Call before the application object exists, and keep what is returned until it does: an X server
-/// that loses its only client starts over, and would refuse the next one meanwhile.
+/// Chooses the windowing system to draw on, unless there are several and the user has chosen one. Null when there is no
+/// display at all. Call before the application object exists, and keep the result until it does: an X server that loses
+/// its only client resets itself, and refuses connections meanwhile.
 std::shared_ptr<void> prepareDisplay(int argc, char** argv);
 
 /// Draws without any display from now on. Call before the application object exists.
 void drawOffscreen();
 
-/// Lets what the system tells a program reach one without windows, too. Call before its application object exists.
+/// Makes the system's events reach a program without windows too. Call before its application object exists.
 void prepareTerminal();
 
-/// Puts the program before all others, where its windows would else open behind theirs.
+/// Brings the program to the front, on systems where its windows would otherwise open behind those of others.
 void activateProgram();
 
 /// True when the display blends windows that have an alpha channel with what is behind them. May change at any time.
@@ -34,7 +34,7 @@ bool windowsAreBlended();
 /// True when a whole window can be made more or less opaque.
 bool windowsCanFade();
 
-/// Writing to a closed pipe gives an error from then on instead of ending the program.
+/// From now on, writing to a closed pipe is an error and does not end the program.
 void ignoreBrokenPipes();
 
 /// Calls `terminate` on the main thread when the system asks the program to end (SIGTERM, SIGINT, SIGHUP). Made after
@@ -48,7 +48,7 @@ class TerminationSignals {
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 
-/// Lets one instance per session run and others talk to it.
+/// Keeps a session to one running instance, and receives the requests of others that are started.
 class InstanceChannel {
   public:
     virtual ~InstanceChannel() = default;
@@ -62,8 +62,8 @@ std::unique_ptr<InstanceChannel> claimInstance();
 /// Hands `request` (one line) to the running instance; false when none answers within two seconds.
 bool sendToRunningInstance(const std::string& request);
 
-/// The process of the session's running instance, found without asking it anything; absent when none runs, 0 when it
-/// runs out of sight, in another namespace of processes.
+/// The process ID of the session's running instance, found without asking it anything. Absent when none runs; 0 when it
+/// runs in another process namespace, where it has no number here.
 std::optional<int> runningInstance();
 
 } // namespace vantrix

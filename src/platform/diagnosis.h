@@ -12,17 +12,17 @@
 
 namespace vantrix {
 
-/// What a user can be told of a source.
+/// What a user can be told about a source.
 enum class SourceState {
     ok,
     absent,  ///< this machine, or this desktop, has none
     asleep,  ///< its device sleeps and is left asleep
     denied,  ///< it is there, but this user may not read it
     silent,  ///< it is there, but does not answer
-    damaged, ///< it answers what cannot be used
+    damaged, ///< its answer cannot be used
 };
 
-/// The readings, by the names that people see; a source and its value are brought together by them.
+/// The names of the readings, as people see them. They also match a source with its value.
 namespace reading_name {
 inline constexpr std::string_view processor = "Processor";
 inline constexpr std::string_view memory = "Memory";
@@ -48,8 +48,8 @@ struct SourceDiagnosis {
     std::string name;   ///< of a reading or a service
     std::string source; ///< file, name on the bus, library or call
     SourceState state = SourceState::ok;
-    std::string value;  ///< of services alone; a reading's is measured
-    std::string reason; ///< why there is no more, and what to do about it; may be empty
+    std::string value;  ///< of services only; the value of a reading is measured
+    std::string reason; ///< what is missing, why, and what to do about it; may be empty
 
     bool operator==(const SourceDiagnosis&) const = default;
 };
@@ -62,15 +62,13 @@ std::vector<SourceDiagnosis> diagnoseSources(const KernelRoots& roots);
 class ServiceDiagnoses {
   public:
     virtual ~ServiceDiagnoses() = default;
-    /// Called once on the main thread, from the event loop: when all answered, or when those that did not within the
-    /// patience are known to be silent.
+    /// Called once on the main thread, from the event loop, when every service has answered or has run out of time.
     std::function<void(std::vector<SourceDiagnosis>)> finished;
     /// True when a bus or a display still keeps a thread waiting.
     bool leftThreadBehind = false;
 };
 
-/// Starts asking. Starts no service, and changes nothing. May wait for a bus that does not answer, as long as
-/// `patience` for each.
+/// Starts asking. Starts no service and changes nothing. May wait up to `patience` for each bus that does not answer.
 std::unique_ptr<ServiceDiagnoses> diagnoseServices(std::chrono::milliseconds patience);
 
 /// What a process has cost since it started. Linux: /proc/PID.
@@ -79,8 +77,8 @@ struct ProcessStatistics {
     double userTime = 0.0;                      ///< CPU seconds
     double systemTime = 0.0;                    ///< CPU seconds spent in the kernel for it
     std::optional<std::uint64_t> residentBytes; ///< in memory, shared pages included
-    std::optional<std::uint64_t> ownBytes;      ///< what would be free without it
-    std::optional<std::uint64_t> wakeUps;       ///< of the threads that still run
+    std::optional<std::uint64_t> ownBytes;      ///< what would be freed if it ended
+    std::optional<std::uint64_t> wakeUps;       ///< of the threads that are still running
     int threads = 0;
 
     bool operator==(const ProcessStatistics&) const = default;

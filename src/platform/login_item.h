@@ -10,7 +10,7 @@ class LoginItem {
     virtual ~LoginItem() = default;
     /// Read back from the system each time.
     virtual bool isEnabled() const = 0;
-    /// May fail without a word; `isEnabled` then tells the same as before.
+    /// May fail silently; `isEnabled` then returns what it did before.
     virtual void setEnabled(bool enabled) = 0;
 };
 

@@ -10,7 +10,7 @@ namespace vantrix {
 /// Where the system shows the program's notifications. Main thread only; never waits, and reports no failures.
 class NotificationCenter {
   public:
-    /// How a notification is shown that arrives while the program is in front.
+    /// How to show a notification that arrives while the program is in front.
     struct Presentation {
         bool banner = false;
         bool sound = false;
@@ -20,14 +20,14 @@ class NotificationCenter {
 
     virtual ~NotificationCenter() = default;
 
-    /// Shows plain texts with the default sound, in the place of what was posted under `identifier` before.
+    /// Shows plain texts with the default sound, replacing what was posted under `identifier` before.
     virtual void post(const QString& identifier, const QString& title, const QString& body) = 0;
 
-    /// Asks whether banners with sound may be shown, of the user where that is the system's custom. `answer` is called
-    /// later, on the main thread, and never once the centre is gone.
+    /// Asks the system, which may ask the user, whether banners with sound may be shown. `answer` is called later, on
+    /// the main thread, and never once the centre is gone.
     virtual void requestAuthorization(std::function<void(bool granted)> answer) = 0;
 
-    /// Asked by systems that leave it to the program. Set once, by the owner; without it nothing is shown then.
+    /// Called by systems that leave this to the program. Set once, by the owner; without it nothing is shown then.
     std::function<Presentation()> willPresent;
 };
 

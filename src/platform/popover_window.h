@@ -10,8 +10,8 @@ namespace vantrix {
 class StatusItem;
 class Theme;
 
-/// Shows the popover beside the status item. Its view is made when it is shown first, and is kept; closing only hides
-/// it. Main thread only.
+/// Shows the popover beside the status item. Its view is made when it is first shown, and kept; closing only hides it.
+/// Main thread only.
 class PopoverWindow {
   public:
     using MakeView = std::function<std::unique_ptr<QWidget>()>;
@@ -22,8 +22,8 @@ class PopoverWindow {
     virtual void show(const StatusItem& item) = 0;
     virtual void close() = 0;
 
-    /// Closes a popover that is shown, and opens one that is not: unless the very click that asks for it has just
-    /// closed it by landing outside.
+    /// Closes the popover if it is shown, else opens it; does nothing when the same click, landing outside, has just
+    /// closed it.
     virtual void toggle(const StatusItem& item) = 0;
 };
 

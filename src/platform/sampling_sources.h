@@ -21,7 +21,7 @@
 
 namespace vantrix {
 
-/// Where the kernel's file trees are mounted. Other roots serve a host watched from inside a container, and the
+/// Where the kernel's file trees are mounted. Other roots are for watching a host from inside a container and for the
 /// recorded machines of the tests. Only Linux has such trees.
 struct KernelRoots {
     // Without a slash at the end.
@@ -34,9 +34,9 @@ struct KernelRoots {
 /// The first of the roots that this user cannot read, if any. On a system without such trees there is none.
 std::optional<std::string> unreadableRoot(const KernelRoots& roots);
 
-/// Everything the samplers read from. What a system lacks is null: `gpu`, the three sources of sensors, `battery` and
-/// `accessories` without such devices' interfaces, `networkInfo` where nothing tells of the connection, `location`
-/// where network names are nobody's secret. The rest never is.
+/// Everything the samplers read from. Null where the system offers no way to read it: `gpu`, the three sources of
+/// sensors, `battery`, `accessories` and `networkInfo`; `location` where a network's name needs no permission.
+/// The others are never null.
 struct SamplingSources {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<SystemInformation> information;

@@ -55,20 +55,20 @@ class StatusItem {
     /// Draws and announces the content only where the picture or the text differs from what is shown.
     virtual void show(const StatusContent& content) = 0;
 
-    /// Where the popover and the menu belong: the item's rectangle on the screen, or the best guess at it, in
-    /// device-independent pixels. Never null once something was shown.
+    /// The item's rectangle on the screen, or the best guess at it, in device-independent pixels: the popover and the
+    /// menu open beside it. Never null once something was shown.
     virtual QRect anchor() const = 0;
 
-    /// Shows a menu of `entries` as the system's own items do, and returns when it has closed. False where the system
-    /// leaves its menus to the program.
+    /// Shows a menu of `entries` the way the system's own items do, and returns when it has closed. False where the
+    /// program has to draw its menus itself.
     virtual bool popUpMenu(const std::vector<StatusMenuEntry>& /*entries*/) { return false; }
 
     /// The item's own view, for the system's popover to point at (an NSView on a Mac); 0 where there is none.
     virtual WId nativeView() const { return 0; }
 };
 
-/// The status item of this system. `defaults` keeps what a user arranged by hand, such as the place of a floating
-/// strip; it and `appearance` outlive the item.
+/// The status item of this system. `defaults` stores what the user has arranged by hand, such as the place of a
+/// floating strip; both it and `appearance` outlive the item.
 std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& defaults,
                                            const AppearanceSource& appearance);
 

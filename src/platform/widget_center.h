@@ -11,11 +11,11 @@ class WidgetCenter {
   public:
     virtual ~WidgetCenter() = default;
 
-    /// Replaces what widgets read under `key` in the store of the program's group by a JSON value. What was stored
-    /// before stays where that fails.
+    /// Replaces what widgets read under `key` in the store of the program's group by a JSON value. On failure the old
+    /// value stays.
     virtual void store(std::string_view key, std::string_view json) = 0;
 
-    /// Tells every widget to read anew.
+    /// Tells every widget to read again.
     virtual void reloadAllTimelines() = 0;
 };
 

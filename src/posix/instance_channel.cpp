@@ -54,7 +54,7 @@ class SocketChannel final : public InstanceChannel {
     }
 
     ~SocketChannel() override {
-        // The lock file stays: removing it would let two instances lock two files of one name.
+        // The lock file stays: without it two instances could lock two files of the same name.
         if (const auto address = socketAddress(); address && listener_)
             ::unlink(address->sun_path);
     }
@@ -64,7 +64,7 @@ class SocketChannel final : public InstanceChannel {
         const FileDescriptor peer = acceptConnection(listener_.get());
         if (!peer)
             return;
-        // A request follows its connection at once; whoever dawdles is not served, for this is the main thread.
+        // A request follows its connection at once; the main thread cannot wait for a slow client.
         pollfd readable{peer.get(), POLLIN, 0};
         ::poll(&readable, 1, patience);
         char request[256];
@@ -107,7 +107,7 @@ std::unique_ptr<InstanceChannel> claimInstance() {
     if (lock && ::flock(lock.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
         return nullptr;
     const auto address = socketAddress();
-    // Without a place for the socket the program still runs; only others cannot talk to it.
+    // Without a place for the socket the program still runs, but others cannot talk to it.
     FileDescriptor listener = lock && address ? listenAt(*address) : FileDescriptor();
     return std::make_unique<SocketChannel>(std::move(lock), std::move(listener));
 }
@@ -120,7 +120,7 @@ bool sendToRunningInstance(const std::string& request) {
 
 std::optional<int> runningInstance() {
     const FileDescriptor socket = connectToInstance();
-    // The kernel remembers who listens; one that hangs can be found too.
+    // The kernel knows who listens, so even an instance that hangs is found.
     return socket ? peerProcess(socket.get()) : std::nullopt;
 }
 

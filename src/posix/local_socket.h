@@ -8,12 +8,12 @@
 
 namespace vantrix {
 
-// What systems do differently about sockets between processes of one machine. None of them outlives the execution of
-// another program; without a descriptor, errno says why.
+// What systems do differently about sockets between the processes of one machine. The descriptors are closed on exec;
+// where there is none, errno says why.
 
 FileDescriptor makeLocalSocket();
 
-/// One whose calls never wait.
+/// A socket whose calls never wait.
 FileDescriptor makeListeningSocket();
 
 /// The next connection; none when none waits.
@@ -22,11 +22,12 @@ FileDescriptor acceptConnection(int listener);
 /// False when it could not be sent; a peer that is gone raises no signal. `flags` are those of send(2).
 bool sendQuietly(int socket, std::string_view text, int flags = 0);
 
-/// The process at the other end; absent where the system does not tell, 0 when it runs out of sight.
+/// The process ID at the other end; absent where the system does not tell it, 0 when it is in another process
+/// namespace.
 std::optional<int> peerProcess(int socket);
 
-/// What the paths of this session's files begin with, in a folder that only this user can write to; empty when there
-/// is none.
+/// The beginning of the paths of this session's files, in a folder that only this user can write to; empty when there
+/// is no such folder.
 std::string instancePrefix();
 
 } // namespace vantrix

@@ -12,11 +12,11 @@ namespace {
 
 constexpr int terminating[] = {SIGTERM, SIGINT, SIGHUP};
 
-// All that a signal handler may do is to write; -1 while nobody listens.
+// A signal handler may do little more than write to a pipe. -1 while nobody listens.
 volatile std::sig_atomic_t writingEnd = -1;
 
 void tell(int) {
-    const int before = errno; // whatever was interrupted may be about to look at it
+    const int before = errno; // the interrupted code may be about to read it
     const char byte = 0;
     [[maybe_unused]] const ssize_t ignored = ::write(writingEnd, &byte, 1);
     errno = before;
@@ -39,7 +39,7 @@ TerminationSignals::TerminationSignals(std::function<void()> terminate) {
     writingEnd = ends[1];
     struct sigaction action {};
     action.sa_handler = tell;
-    // Should the orderly end hang, the next signal ends the program the hard way.
+    // If the orderly exit hangs, the next signal kills the program.
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     for (const int signal : terminating)
         ::sigaction(signal, &action, nullptr);

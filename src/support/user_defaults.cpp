@@ -42,7 +42,7 @@ std::optional<bool> asBoolean(const QVariant& value) {
     return std::nullopt;
 }
 
-/// The value as stores keep it: every number is a double. Invalid when it is of no kind that they keep.
+/// The value as stores keep it, numbers as doubles. Invalid when it is of a kind that they do not keep.
 QVariant storable(const QVariant& value) {
     switch (value.typeId()) {
     case QMetaType::Bool:

@@ -19,9 +19,9 @@ class DefaultsStore {
     virtual QVariant value(const QString& key) const = 0;
     /// Stores the value, or removes the key when `value` is invalid.
     virtual void setValue(const QString& key, const QVariant& value) = 0;
-    /// Writes at once what may still be waiting to be written.
+    /// Writes at once what is still waiting to be written.
     virtual void flush() {}
-    /// Called whenever stored values changed behind this program's back. Set once, by the owner.
+    /// Called when something other than this program has changed stored values. Set once, by the owner.
     std::function<void()> changedOutside;
 };
 
@@ -32,7 +32,7 @@ class UserDefaults : public QObject {
   public:
     explicit UserDefaults(std::unique_ptr<DefaultsStore> store);
 
-    /// Registered values are never stored; they answer for keys that are not, and for stored values of a kind that
+    /// Registered values are never stored. They stand in for keys that are not stored, and for stored values that
     /// cannot be read as the kind asked for.
     void registerDefaults(const QHash<QString, QVariant>& defaults);
 
@@ -44,16 +44,16 @@ class UserDefaults : public QObject {
     /// registered value, else false.
     bool boolean(const QString& key) const;
 
-    /// Stores a boolean, a finite number or a text, and announces it; a value of any other kind is dropped. Setting
-    /// what is stored already does nothing.
+    /// Stores a boolean, a finite number or a text, and announces it; any other value is ignored. Setting what is
+    /// already stored does nothing.
     void set(const QString& key, const QVariant& value);
     /// Back to the registered value.
     void remove(const QString& key);
-    /// Writes at once what may still be waiting to be written.
+    /// Writes at once what is still waiting to be written.
     void synchronize() { store_->flush(); }
 
   Q_SIGNALS:
-    /// Some value may have changed, by this program or from outside.
+    /// Some value may have changed, here or from outside.
     void changed();
 
   private:

@@ -38,7 +38,8 @@ void BluezCentral::connect(BluetoothPeripheral& peripheral) {
 }
 
 void BluezCentral::objectChanged(const QString& path) {
-    for (const auto& [known, peripheral] : std::map(peripherals_)) // an answer may ask for the list anew
+    for (const auto& [known, peripheral] :
+         std::map(peripherals_)) // a copy, because an answer may ask for the list again
         if (const auto alive = peripheral.lock())
             alive->objectChanged(path);
     auto listed = listedNow();

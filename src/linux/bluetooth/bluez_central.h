@@ -14,8 +14,8 @@
 
 namespace vantrix {
 
-/// BlueZ's LE devices. Connects nothing: what the system is connected to can be asked. Tells its state anew when
-/// devices come or go, so that nobody has to wait for them.
+/// BlueZ's LE devices. Connects to nothing itself, only asks devices that the system is connected to. Also announces
+/// its state when devices come or go, which makes the reader list them again.
 class BluezCentral : public QObject, public BluetoothCentral {
   public:
     explicit BluezCentral(std::shared_ptr<BluezWatch> watch);
@@ -25,11 +25,11 @@ class BluezCentral : public QObject, public BluetoothCentral {
     void connect(BluetoothPeripheral& peripheral) override;
 
   private:
-    /// What makes the lists of devices, here and of the classic ones, be other lists.
+    /// What counts as a change in the lists of devices, LE and classic.
     struct Listed {
         QString path;
         bool isPeripheral = false;
-        std::optional<uchar> level; ///< of classic devices, which tell of it in no other way
+        std::optional<uchar> level; ///< of classic devices, which announce it in no other way
 
         bool operator==(const Listed&) const = default;
     };
@@ -42,7 +42,7 @@ class BluezCentral : public QObject, public BluetoothCentral {
     std::map<QString, std::weak_ptr<BluezPeripheral>> peripherals_; // handed out, by path
 };
 
-/// BlueZ's classic devices, with the level that their profiles tell.
+/// BlueZ's classic devices, with the level that their profiles report.
 class BluezClassicDevices : public ClassicBluetoothDevices {
   public:
     explicit BluezClassicDevices(std::shared_ptr<BluezWatch> watch) : watch_(std::move(watch)) {}

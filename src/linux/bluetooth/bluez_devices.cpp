@@ -22,7 +22,7 @@ bool isPeripheral(const BluezObjects& objects, const QString& path) {
 
 QString nameOf(const BluezObjects& objects, const QString& path) {
     QString alias = objects.value<QString>(path, device, "Alias").value_or(QString());
-    // Of a device without a name the alias is the address with dashes.
+    // The alias of a device without a name is its address with dashes.
     if (!alias.isEmpty() && alias != addressOf(objects, path).replace(u':', u'-'))
         return alias;
     return objects.value<QString>(path, device, "Name").value_or(QString());

@@ -42,7 +42,7 @@ bool isKept(const QString& interface) {
            interface == bluez::gattService || interface == bluez::gattCharacteristic;
 }
 
-/// Takes what is kept of `changed`; false when that is no news.
+/// Takes over what is kept of `changed`; false when nothing is new.
 bool take(QVariantMap& known, const QString& interface, const QVariantMap& changed) {
     bool isNews = false;
     for (auto entry = changed.begin(); entry != changed.end(); ++entry) {

@@ -18,15 +18,15 @@ inline const QString gattCharacteristic = QStringLiteral("org.bluez.GattCharacte
 
 } // namespace bluez
 
-/// What BlueZ has told of its objects, as far as batteries need it. Of everything else, and of values of another type
-/// than agreed, nothing is kept.
+/// What BlueZ has reported of its objects, as far as batteries need it. Anything else is dropped, and so are values of
+/// another type than BlueZ documents.
 class BluezObjects {
   public:
     using Interfaces = QMap<QString, QVariantMap>; ///< properties by interface
 
     void clear() { objects_.clear(); }
 
-    // Each is false where nothing came of it that is kept.
+    // Each is false where nothing that is kept has changed.
     bool add(const QString& path, const Interfaces& interfaces);
     bool remove(const QString& path, const QStringList& interfaces);
     bool change(const QString& path, const QString& interface, const QVariantMap& changed,

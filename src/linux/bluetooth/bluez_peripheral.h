@@ -10,15 +10,15 @@
 
 namespace vantrix {
 
-/// An LE device of BlueZ. The service usually keeps the battery service to itself and tells the level through
-/// org.bluez.Battery1: then the device itself stands for that service and its characteristic, of one byte. Otherwise
-/// the exported GATT objects do.
+/// An LE device of BlueZ, which usually keeps the GATT battery service to itself and reports the level through
+/// org.bluez.Battery1: the device then stands in for that service and its characteristic, of one byte. Otherwise the
+/// exported GATT objects are used.
 class BluezPeripheral final : public BluetoothPeripheral, public std::enable_shared_from_this<BluezPeripheral> {
   public:
     BluezPeripheral(std::shared_ptr<BluezWatch> watch, const QString& path);
 
     std::string identifier() const override { return path_.toStdString(); }
-    /// Stays what it was when the service goes, as the level does.
+    /// Kept when BlueZ goes away, as the level is.
     std::optional<std::string> name() const override { return name_; }
     std::string address() const override { return address_; }
     bool isConnected() const override;
@@ -30,7 +30,7 @@ class BluezPeripheral final : public BluetoothPeripheral, public std::enable_sha
     void subscribe(const BluetoothAttribute& characteristic) override;
 
     const QString& path() const { return path_; }
-    /// To be told of every change of an object.
+    /// To be called for every change of an object.
     void objectChanged(const QString& path);
 
   private:

@@ -24,11 +24,11 @@ const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 
 constexpr std::chrono::seconds busPatience{2};
 constexpr int usualTimeout = -1;
-// A slow service's objects are welcome whenever they come: nobody asks again.
+// Nobody would ask again, so the objects of a slow service may come at any time.
 constexpr int noTimeout = std::numeric_limits<int>::max();
 
-/// The interfaces whose properties are followed on every object. Changes of all the others, such as the position of
-/// music that plays, never wake the program.
+/// The interfaces whose properties are followed on every object. Changes of others, such as the position in a song,
+/// do not wake the program.
 const QStringList& followedInterfaces() {
     static const QStringList interfaces{bluez::adapter, bluez::device, bluez::battery};
     return interfaces;
@@ -52,7 +52,7 @@ BluezWatch::BluezWatch(const QString& address, std::chrono::milliseconds retry) 
 void BluezWatch::takeBus() {
     if (!connection_ || !connection_->isConnected())
         return settle(Phase::absent);
-    // Given the service's name as the sender, the toolkit would wait for the bus to tell who owns it.
+    // Without the service's name as the sender: the toolkit would wait for the bus to say who owns it.
     connection_->bus().connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName},
                                QString(), this, SLOT(ownerChanged(QString, QString, QString)));
     connection_->bus().connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
@@ -62,7 +62,7 @@ void BluezWatch::takeBus() {
     message << serviceName;
     call(message, usualTimeout, [this](const QDBusMessage& reply) {
         const bool isOwned = reply.type() == QDBusMessage::ReplyMessage && reply.signature() == u"s";
-        if (phase_ == Phase::starting) // else a signal has told already
+        if (phase_ == Phase::starting) // else a signal was faster
             follow(isOwned ? reply.arguments().constFirst().toString() : QString());
     });
 }
@@ -83,7 +83,7 @@ void BluezWatch::follow(const QString& owner) {
     if (owner_.isEmpty())
         return settle(Phase::absent);
     phase_ = Phase::loading;
-    // The unique name as the sender keeps everybody else's signals away.
+    // With the unique name as the sender, nobody else's signals arrive.
     QDBusConnection& bus = connection_->bus();
     bus.connect(owner_, QString(), managerInterface, QStringLiteral("InterfacesAdded"), this,
                 SLOT(interfacesAdded(QDBusMessage)));
@@ -133,7 +133,7 @@ void BluezWatch::takeObjects(const QDBusMessage& reply) {
     settle(Phase::loaded);
 }
 
-/// A service that has only just started may be short of something.
+/// A service that has only just started may not be ready yet.
 void BluezWatch::tryAgainLater() {
     QTimer::singleShot(retry_, this, [this, owner = owner_] {
         if (owner == owner_ && phase_ == Phase::absent)
@@ -172,7 +172,7 @@ void BluezWatch::announceState() {
 }
 
 void BluezWatch::interfacesAdded(const QDBusMessage& signal) {
-    // Until the objects are loaded, what is told of them comes with them.
+    // Before the objects are loaded, the reply that brings them includes this change.
     if (phase_ != Phase::loaded || signal.signature() != u"oa{sa{sv}}")
         return;
     const QString path = signal.arguments().constFirst().value<QDBusObjectPath>().path();

@@ -15,28 +15,28 @@
 
 namespace vantrix {
 
-/// Follows org.bluez on a bus: who owns the name, and its objects, kept current by its signals alone. Never waits,
-/// not even for the bus, and never starts the service.
+/// Follows org.bluez on a bus: who owns the name, and its objects, which are kept current by signals alone. Never
+/// waits, not even for the bus, and never starts the service.
 class BluezWatch : public QObject {
     Q_OBJECT
   public:
-    /// How long after a failed question for the objects the next one is.
+    /// How long to wait before asking for the objects again when that failed.
     static constexpr std::chrono::milliseconds usualRetry = std::chrono::minutes(1);
 
-    /// Connects to the bus at `address` away from the main thread.
+    /// Connects to the bus at `address` on another thread.
     explicit BluezWatch(const QString& address, std::chrono::milliseconds retry = usualRetry);
 
-    /// `unknown` until the service, or its absence, is known. On when any adapter is.
+    /// `unknown` until it is known whether the service runs. On when any adapter is.
     BluetoothState state() const;
     const BluezObjects& objects() const { return objects_; }
 
     /// Asks for a characteristic's value; `take` gets nothing on failure.
     void readCharacteristic(const QString& path, std::function<void(std::optional<QByteArray>)> take);
-    /// Lets changes of a characteristic's value show in `objects`, while the service has it.
+    /// Keeps a characteristic's value in `objects` current for as long as the service has it.
     void followCharacteristic(const QString& path);
 
   Q_SIGNALS:
-    /// `state` is another, or the service is.
+    /// `state` has changed, or another process is the service now.
     void stateChanged();
     /// What is kept of the object at `path` changed.
     void objectChanged(const QString& path);

@@ -21,7 +21,7 @@ struct SocketAddress {
     socklen_t length = 0;
 };
 
-/// Of the first of the addresses in the list. Absent when it is no Unix socket.
+/// The first address in the list. Absent when it is no Unix socket.
 std::optional<SocketAddress> socketAddress(const QString& list) {
     const QString first = list.section(u';', 0, 0);
     const qsizetype colon = first.indexOf(u':');

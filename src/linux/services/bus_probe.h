@@ -6,10 +6,9 @@
 
 namespace vantrix {
 
-/// Asks the daemon at `address` for a first word, which any that works has within `patience`. The toolkit makes every
-/// connection of a program on one thread and waits for the daemon without end: one that is frozen would freeze the
-/// others, so it is better not asked at all. May be called on any thread. Addresses other than Unix sockets count as
-/// answering.
+/// True when the bus daemon at `address` answers within `patience`. To be asked before connecting: the toolkit makes
+/// all connections of a program on one thread and waits for each daemon without limit, so a frozen one would block them
+/// all. May be called on any thread. Addresses other than Unix sockets count as answering.
 bool busAnswers(const QString& address, std::chrono::milliseconds patience);
 
 } // namespace vantrix

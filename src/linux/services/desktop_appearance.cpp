@@ -21,7 +21,7 @@ const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Setting
 
 Appearance appearanceAfter(const DesktopWishes& wishes) {
     const QColor window = QGuiApplication::palette().color(QPalette::Window);
-    // Only a highlight that a desktop's theme has set: the toolkit's own says nothing about the user.
+    // Only a highlight colour that a theme has set: the toolkit's default says nothing about the user.
     const QPalette palette = QGuiApplication::palette();
     const bool themed = palette.isBrushSet(QPalette::Active, QPalette::Highlight);
     const auto highlight = themed ? std::optional(palette.color(QPalette::Highlight)) : std::nullopt;
@@ -70,7 +70,7 @@ void DesktopAppearance::settingChanged(const QDBusMessage& signal) {
 void DesktopAppearance::readSettings() {
     auto message = QDBusMessage::createMethodCall(portalName, portalPath, settingsInterface, QStringLiteral("ReadAll"));
     message << DesktopWishes::groups();
-    // Where no portal runs the palette does; starting one costs far more than it tells.
+    // Without a portal the palette is good enough; starting one would cost too much.
     message.setAutoStartService(false);
     auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {

@@ -10,8 +10,8 @@
 
 namespace vantrix {
 
-/// The appearance after org.freedesktop.portal.Settings and, while nobody answers there or there is no preference,
-/// after the application's palette. Never waits, and never starts the portal.
+/// The appearance that org.freedesktop.portal.Settings reports; while nobody answers there, or there is no preference,
+/// that of the application's palette. Never waits, and never starts the portal.
 class DesktopAppearance : public AppearanceSource {
     Q_OBJECT
   public:

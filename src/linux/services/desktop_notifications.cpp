@@ -24,7 +24,7 @@ QVariantMap hints() {
     };
 }
 
-/// The one argument of a reply that has the form asked for.
+/// The only argument of a reply; absent when the reply is an error or has another signature.
 template<typename T>
 std::optional<T> answerOf(const QDBusMessage& reply, QStringView signature) {
     if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != signature)
@@ -35,7 +35,7 @@ std::optional<T> answerOf(const QDBusMessage& reply, QStringView signature) {
 } // namespace
 
 DesktopNotifications::DesktopNotifications(const std::optional<QDBusConnection>& bus) : bus_(bus) {
-    // Given the service's name as the sender, the toolkit would wait for the bus to tell who owns it.
+    // Without the service's name as the sender: the toolkit would wait for the bus to say who owns it.
     if (bus_)
         bus_->connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName}, QString(), this,
                       SLOT(serviceOwnerChanged(QString, QString, QString)));
@@ -68,7 +68,7 @@ void DesktopNotifications::takeAnswer(const QString& identifier, const QDBusMess
     Posted& posted = posted_[identifier];
     posted.isUnanswered = false;
     const auto id = answerOf<uint>(reply, u"u");
-    // One that was replaced as the service meanwhile numbers notifications that its successor knows nothing of.
+    // When another process has become the service meanwhile, the number means nothing to it.
     if (id && isCurrent)
         posted.id = *id;
     if (const auto next = std::exchange(posted.next, std::nullopt))
@@ -77,7 +77,7 @@ void DesktopNotifications::takeAnswer(const QString& identifier, const QDBusMess
 
 void DesktopNotifications::serviceOwnerChanged(const QString&, const QString& oldOwner, const QString&) {
     if (oldOwner.isEmpty())
-        return; // one that is started by what it is asked will give the answer
+        return; // the service has just started, perhaps for our call, which it will answer
     ++resignations_;
     for (Posted& posted : posted_)
         posted.id = 0;

@@ -25,7 +25,7 @@ class DesktopNotifications : public QObject, public NotificationCenter {
 
     void post(const QString& identifier, const QString& title, const QString& body) override;
 
-    /// Granted when a notification service runs or can be started: Linux desktops ask nobody.
+    /// Granted when a notification service runs or can be started: Linux desktops do not ask the user.
     void requestAuthorization(std::function<void(bool granted)> answer) override;
 
   private Q_SLOTS:
@@ -45,13 +45,13 @@ class DesktopNotifications : public QObject, public NotificationCenter {
     };
 
     void notify(const QString& identifier, const Texts& texts);
-    /// `isCurrent`: no service has resigned since it was asked.
+    /// `isCurrent`: the service is still the one that was asked.
     void takeAnswer(const QString& identifier, const QDBusMessage& reply, bool isCurrent);
     void askBus(const QString& method, const QVariantList& arguments, std::function<void(const QDBusMessage&)> take);
     void call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> take);
 
     std::optional<QDBusConnection> bus_;
-    int resignations_ = 0; ///< how often a service has stopped being it; not every toolkit tells who sent a reply
+    int resignations_ = 0; ///< counts the services that have gone; not every toolkit version says who sent a reply
     QHash<QString, Posted> posted_;
 };
 

@@ -13,7 +13,7 @@ const QString commonGroup = QStringLiteral("org.freedesktop.appearance");
 const QString gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
 const QString kdeGroup = QStringLiteral("org.kde.kdeglobals.KDE");
 
-// Some answers of the portal are wrapped in one variant more than its signal's values.
+// Values in some of the portal's replies are wrapped in one more variant than those in its signal.
 QVariant unwrapped(QVariant value) {
     while (value.metaType() == QMetaType::fromType<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
@@ -39,7 +39,7 @@ std::optional<QColor> colorOf(const QVariant& value) {
     for (double& part : rgb)
         *argument >> part;
     argument->endStructure();
-    // Out of range is the portal's way to say that the user chose none.
+    // The portal sends values out of range when the user has chosen no colour.
     if (!std::all_of(rgb.begin(), rgb.end(), [](double part) { return part >= 0.0 && part <= 1.0; }))
         return std::nullopt;
     return QColor::fromRgbF(static_cast<float>(rgb[0]), static_cast<float>(rgb[1]), static_cast<float>(rgb[2]));

@@ -8,21 +8,21 @@
 
 namespace vantrix {
 
-/// What the settings portal (org.freedesktop.portal.Settings) has told of the user's wishes. A value of another type
-/// or range than agreed counts as not told.
+/// The user's preferences as the settings portal (org.freedesktop.portal.Settings) reports them. A value of the wrong
+/// type or out of range counts as not reported.
 class DesktopWishes {
   public:
-    /// The groups whose settings are understood.
+    /// The groups that hold the settings below.
     static QStringList groups();
 
-    /// Takes one setting; any other than those understood is ignored.
+    /// Takes over one setting; unknown ones are ignored.
     void take(const QString& group, const QString& key, const QVariant& value);
 
     /// color-scheme; absent: no preference.
     std::optional<bool> dark() const { return dark_; }
     /// accent-color, in sRGB.
     std::optional<QColor> accent() const { return accent_; }
-    /// Asked of all desktops' settings, then of GNOME's, then of KDE's.
+    /// From the setting that all desktops share, else from GNOME's, else from KDE's.
     bool reducesMotion() const;
 
   private:

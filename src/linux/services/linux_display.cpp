@@ -26,8 +26,8 @@ std::shared_ptr<void> connectToX11() {
     return xcb_connection_has_error(connection.get()) == 0 ? connection : nullptr;
 }
 
-/// A Wayland session is of use only where the toolkit's plug-in for it is installed too; asking the toolkit itself
-/// would end the program.
+/// A Wayland session is of use only with the toolkit's plug-in for it, which is looked for here because the toolkit
+/// ends the program when it is missing.
 bool waylandIsUsable() {
     if (!qEnvironmentVariableIsSet("WAYLAND_DISPLAY") && !qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
         return false;
@@ -45,7 +45,7 @@ std::shared_ptr<void> prepareDisplay(int argc, char** argv) {
     const auto nothingToKeep = std::make_shared<bool>(true);
     if (userChosePlatform(argc, argv))
         return nothingToKeep;
-    // Under Wayland a program cannot place its own windows; through the X11 bridge it can, and it may dock as well.
+    // X11 first, even under Wayland, where a program can neither place its windows nor dock them.
     if (auto connection = connectToX11()) {
         qputenv("QT_QPA_PLATFORM", "xcb");
         return connection;
@@ -62,7 +62,7 @@ void drawOffscreen() {
 
 void prepareTerminal() {}
 
-void activateProgram() {} // a window that is activated is enough
+void activateProgram() {} // to activate a window is enough
 
 bool windowsAreBlended() {
     xcb_connection_t* connection = xcbConnection();

@@ -21,7 +21,7 @@ std::string runtimeFolder() {
     return mine ? folder : std::string();
 }
 
-/// Two graphical sessions of one user each have an instance of their own.
+/// Part of the names of the socket and the lock, because each graphical session of a user has an instance of its own.
 std::string sessionName() {
     std::string name;
     for (const char* variable : {"WAYLAND_DISPLAY", "DISPLAY"})

@@ -21,7 +21,7 @@ QDBusMessage call(const QString& service, const QString& path, const QString& in
                   const QVariantList& arguments = {}) {
     auto message = QDBusMessage::createMethodCall(service, path, interface, method);
     message.setArguments(arguments);
-    message.setAutoStartService(false); // to look must not change what is looked at
+    message.setAutoStartService(false); // a diagnosis must not change what it describes
     return message;
 }
 

@@ -10,7 +10,7 @@
 
 namespace vantrix {
 
-/// Where the buses are; absent where there is none.
+/// The addresses of the buses; absent where there is none.
 struct BusAddresses {
     std::optional<QString> session;
     std::optional<QString> system;
@@ -22,7 +22,7 @@ struct BusAddresses {
 /// The files behind settings, widgets and the login item.
 std::vector<SourceDiagnosis> diagnoseOwnFiles();
 
-/// Puts the questions to all services at once. Each has the patience to answer.
+/// Asks all services at once; each may take up to `patience` to answer.
 class LinuxServiceDiagnoses : public QObject, public ServiceDiagnoses {
     Q_OBJECT
   public:

@@ -12,7 +12,7 @@ namespace vantrix {
 /// $XDG_RUNTIME_DIR/vantrix/defaults.json, or in $XDG_STATE_HOME where there is no such folder.
 QString widgetStorePath();
 
-/// The group's store as a file, and its announcements as a signal on the session bus.
+/// Keeps the group's store in a file and announces it by a signal on the session bus.
 class LinuxWidgetCenter final : public WidgetCenter {
   public:
     /// Without a bus nothing is announced.

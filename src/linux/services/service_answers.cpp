@@ -37,7 +37,7 @@ SourceState stateOfError(const QDBusMessage& error) {
                                                                              : SourceState::damaged;
 }
 
-/// Where an answer is as it should be, `ok`; its arguments are then of `signature`.
+/// `ok` when there is an answer whose arguments have that signature.
 SourceState stateOf(const ServiceAnswers& answers, Question question, QStringView signature) {
     const auto answer = answers.find(question);
     if (answer == answers.end())
@@ -47,12 +47,12 @@ SourceState stateOf(const ServiceAnswers& answers, Question question, QStringVie
     return answer->second.signature() == signature ? SourceState::ok : SourceState::damaged;
 }
 
-/// Only of an answer whose state is `ok`.
+/// Only for an answer whose state is `ok`.
 QVariantList argumentsOf(const ServiceAnswers& answers, Question question) {
     return answers.at(question).arguments();
 }
 
-/// What to say of a service that runs but is of no use.
+/// Why a service that runs is of no use.
 std::string usualReason(SourceState state) {
     switch (state) {
     case SourceState::denied:
@@ -71,7 +71,7 @@ bool canBeStarted(const ServiceAnswers& answers, const QString& name) {
            argumentsOf(answers, Question::startableServices).constFirst().toStringList().contains(name);
 }
 
-/// The name of the process that owns the watcher, "waybar"; empty when it cannot be told.
+/// The name of the process that owns the watcher, "waybar"; empty when that cannot be found out.
 std::string notifierProcess(const ServiceAnswers& answers) {
     if (stateOf(answers, Question::notifierProcess, u"u") != SourceState::ok)
         return {};
@@ -80,7 +80,7 @@ std::string notifierProcess(const ServiceAnswers& answers) {
     return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed().toStdString() : std::string();
 }
 
-/// The row of a status area with a watcher, which may be one without a panel.
+/// The row of a status area that has a watcher, though perhaps no panel.
 SourceDiagnosis watchedStatusArea(const ServiceAnswers& answers, SourceDiagnosis row) {
     const std::string process = notifierProcess(answers);
     const auto answer = argumentsOf(answers, Question::notifierHost).constFirst().value<QDBusVariant>();

@@ -10,7 +10,7 @@
 
 namespace vantrix {
 
-/// The questions that services are diagnosed by.
+/// The questions that services are asked.
 enum class ServiceQuestion {
     notificationServer, ///< org.freedesktop.Notifications: GetServerInformation
     startableServices,  ///< the session bus: ListActivatableNames
@@ -20,14 +20,14 @@ enum class ServiceQuestion {
     bluetoothObjects,   ///< org.bluez: GetManagedObjects
 };
 
-/// Replies and errors. A question that could not be put, for want of a bus, has no entry.
+/// Replies and errors. A question that could not be asked, because there is no bus, has no entry.
 using ServiceAnswers = std::map<ServiceQuestion, QDBusMessage>;
 
-/// What an X server tells of its system tray.
+/// What an X server says about its system tray.
 enum class TrayAnswer { noServer, noTray, tray, silent };
 
 SourceDiagnosis diagnoseNotifications(const ServiceAnswers& answers);
-/// `hasWayland`: the session has a display that is no X server.
+/// `hasWayland`: the session is a Wayland one.
 SourceDiagnosis diagnoseStatusArea(const ServiceAnswers& answers, TrayAnswer tray, bool hasWayland);
 SourceDiagnosis diagnosePortal(const ServiceAnswers& answers);
 SourceDiagnosis diagnoseBluetooth(const ServiceAnswers& answers);

@@ -8,13 +8,13 @@
 namespace vantrix {
 
 /// Address of the user's session bus: `DBUS_SESSION_BUS_ADDRESS`, else the socket `$XDG_RUNTIME_DIR/bus`. Absent when
-/// there is neither: asking the D-Bus library then would start a stray daemon.
+/// there is neither; the D-Bus library would then start a daemon of its own, so it must not be asked.
 std::optional<QString> sessionBusAddress();
 
 /// Address of the machine's bus: `DBUS_SYSTEM_BUS_ADDRESS`, else its usual socket. Absent when there is neither.
 std::optional<QString> systemBusAddress();
 
-/// A connection of its own to the bus at `address`, dropped with the object.
+/// A separate connection to the bus at `address`, closed with the object.
 class BusConnection {
   public:
     explicit BusConnection(const QString& address);

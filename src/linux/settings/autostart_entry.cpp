@@ -53,7 +53,7 @@ QString AutostartEntry::systemFile() const {
 }
 
 bool AutostartEntry::isEnabled() const {
-    // The user's file stands for the system's, however it looks.
+    // The user's file overrides the system's even when it is broken.
     const QString path = QFile::exists(userFile()) ? userFile() : systemFile();
     const auto entry = DesktopEntry::parse(path.isEmpty() ? QByteArray() : contentsOf(path));
     return entry && entry->startsSomething();

@@ -11,7 +11,7 @@ namespace {
 
 constexpr QLatin1StringView quotedOnly("\"`$\\"); // need a backslash between double quotes
 
-/// Undoes the escapes that every value of the file has, whatever its meaning.
+/// Undoes the escapes that any value in the file may have.
 QString unescaped(const QString& value) {
     static const QHash<QChar, QChar> meanings{
         {u's', u' '}, {u'n', u'\n'}, {u't', u'\t'}, {u'r', u'\r'}, {u'\\', u'\\'}};

@@ -8,21 +8,21 @@
 
 namespace vantrix {
 
-/// What of a desktop entry file decides whether a session starts it.
+/// The parts of a desktop entry file that decide whether a session starts its program.
 struct DesktopEntry {
     QString exec;
     QString tryExec;
     bool hidden = false;
-    bool enabled = true; ///< by the GNOME session's own switch
+    bool enabled = true; ///< GNOME's own switch
     QStringList onlyShowIn;
     QStringList notShowIn;
 
     /// Absent when the text is no desktop entry of an application.
     static std::optional<DesktopEntry> parse(const QByteArray& text);
 
-    /// True when the entry is meant for one of these desktops.
+    /// True when the entry is for one of these desktops.
     bool isFor(const QStringList& desktops) const;
-    /// True when a session that follows the entry finds a program to start.
+    /// True when a session would start a program by this entry.
     bool startsSomething() const;
 };
 

@@ -22,9 +22,9 @@ namespace {
 using namespace std::chrono_literals;
 using State = SettingsFile::State;
 
-/// The user's moves of one slider become one write.
+/// Long enough for the moves of a slider to become one write.
 constexpr auto writeDelay = 200ms;
-/// Editors write in several steps; the file is read after the last of them.
+/// Long enough for an editor, which may write in several steps, to finish.
 constexpr auto rereadDelay = 50ms;
 
 QString nearestFolder(const QString& file) {
@@ -58,7 +58,7 @@ FileDefaultsStore::FileDefaultsStore(const QString& path) : path_(path), target_
 }
 
 FileDefaultsStore::~FileDefaultsStore() {
-    // The owner is going too, and must not be called any more.
+    // The owner is being destroyed too and must not be called any more.
     changedOutside = nullptr;
     flush();
 }
@@ -162,7 +162,7 @@ bool FileDefaultsStore::mayWrite() {
         return false;
     if (file_.state == State::missing && target_ == path_)
         makePrivateFolder(QFile::encodeName(QFileInfo(path_).path()).toStdString());
-    // Replacing needs leave for the folder only, but a file made read-only is meant to stay as it is.
+    // Replacing a file needs permission for the folder only, but a read-only file is meant to stay as it is.
     if (file_.state == State::good && !allowed(target_, W_OK)) {
         complainOnce(complainedOfWriting_, "is read-only", "changes are kept in memory only");
         return false;
@@ -171,7 +171,7 @@ bool FileDefaultsStore::mayWrite() {
 }
 
 void FileDefaultsStore::watch() {
-    // Watches hold to a file, not to its name: after each replacement they are on the wrong one.
+    // A watch follows the file, not its name, so after a replacement it is on the old one.
     const QStringList stale = watcher_.files() + watcher_.directories();
     if (!stale.isEmpty())
         watcher_.removePaths(stale);
@@ -182,7 +182,7 @@ void FileDefaultsStore::watch() {
     if (QFileInfo(target).isFile())
         paths.append(target);
     paths.removeDuplicates();
-    // What cannot be watched would be polled every second instead.
+    // The toolkit would poll what it cannot watch every second.
     paths.removeIf([](const QString& each) { return !allowed(each, R_OK); });
     if (!paths.isEmpty())
         watcher_.addPaths(paths);

@@ -12,9 +12,9 @@ namespace vantrix {
 
 /// Settings in one file: a flat JSON object that a person may edit at any time, with the program running or not.
 ///
-/// Writes are gathered for a moment and laid over what the file holds by then, so that neither an edit by hand nor
-/// an entry this program does not know is lost. A damaged file is set aside before it is replaced. Whatever cannot
-/// be written stays in memory, and is tried again with the next write.
+/// Writes are gathered for a moment and merged into what the file holds by then, so that neither an edit by hand nor
+/// an entry this program does not know is lost. A damaged file is set aside before it is replaced. What cannot be
+/// written stays in memory and is tried again with the next write.
 class FileDefaultsStore final : public DefaultsStore {
   public:
     /// Reads the file at once; it need not exist. New files are for the user's eyes only (0600).
@@ -30,7 +30,7 @@ class FileDefaultsStore final : public DefaultsStore {
     void flush() override;
 
   private:
-    /// The stored entries as they shall be once everything is written.
+    /// The entries as they will be once everything is written.
     QJsonObject entries() const;
     void load();
     /// True when the file had changed and entries differ from before.

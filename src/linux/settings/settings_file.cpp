@@ -77,7 +77,7 @@ bool setAside(const QByteArray& path) {
         if (number > 1)
             copy += '-' + QByteArray::number(number);
         struct stat status {};
-        // Some file systems cannot rename without replacing, so the name's being free is looked up.
+        // Checked first, because not every file system can rename without replacing.
         if (::lstat(copy.constData(), &status) == 0)
             continue;
         return errno == ENOENT && ::rename(path.constData(), copy.constData()) == 0;
@@ -86,7 +86,7 @@ bool setAside(const QByteArray& path) {
     return false;
 }
 
-/// False for a device, a folder and all else that a settings file must never take the place of.
+/// False for a device, a folder and anything else that a settings file must never replace.
 bool replaceable(const QByteArray& path) {
     struct stat status {};
     if (::lstat(path.constData(), &status) != 0)
@@ -129,7 +129,7 @@ SettingsFile readSettingsFile(const QString& path) {
         return failed(std::move(result), State::blocked, "cannot be reached");
     }
     result.stamp = stampOf(status);
-    // Looked at before opening: merely opening a device may act on it, and opening a pipe may wait.
+    // Checked before opening, because opening a device may have effects and opening a pipe may wait.
     if (!S_ISREG(status.st_mode))
         return failed(std::move(result), State::blocked, "is not a regular file");
     result.mode = (status.st_mode & 0777) | 0600;
@@ -139,7 +139,7 @@ SettingsFile readSettingsFile(const QString& path) {
         return failed(std::move(result), State::damaged, "cannot be read");
     if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
         return failed(std::move(result), State::blocked, "is not a regular file");
-    // Of the file that is open, taken before reading: an edit while reading is then seen as a change.
+    // Taken from the open file before reading it, so that an edit made meanwhile is seen as a change.
     result.stamp = stampOf(status);
     return parsed(std::move(result), readUpTo(SettingsFile::sizeLimit + 1, file));
 }

@@ -31,7 +31,7 @@ struct SettingsFile {
         missing,
         good,
         damaged, ///< a file without readable settings; may be replaced once it was set aside
-        blocked, ///< something that is no regular file, or that cannot even be looked at; must be left alone
+        blocked, ///< no regular file, or out of reach; must be left alone
     };
 
     /// A larger file is no settings file.
@@ -39,7 +39,7 @@ struct SettingsFile {
 
     State state = State::missing;
     std::optional<FileStamp> stamp;
-    mode_t mode = 0600;       ///< permissions that its replacement shall have
+    mode_t mode = 0600;       ///< permissions for its replacement
     QJsonObject values;       ///< empty unless good
     const char* problem = ""; ///< what is wrong when damaged or blocked, to follow the file's name
 };
@@ -47,7 +47,7 @@ struct SettingsFile {
 /// Reads the file without ever waiting for another process, whatever stands at `path`.
 SettingsFile readSettingsFile(const QString& path);
 
-/// `path`, or the file it leads to when it is a symbolic link, whether that file exists or not.
+/// `path`, or the file it points to when it is a symbolic link, whether that file exists or not.
 QString linkTarget(const QString& path);
 
 /// How a file is to be replaced.

@@ -61,7 +61,7 @@ std::optional<QRect> panelRectAt(QPoint point) {
 bool isOnScreenEdge(QPoint point) {
     const QScreen* screen = QGuiApplication::screenAt(point);
     if (screen == nullptr || point == screen->geometry().topLeft())
-        return false; // hosts that know no place say 0, 0
+        return false; // hosts that do not know the place send 0, 0
     const QRect free = screen->availableGeometry();
     if (free != screen->geometry() && !free.contains(point))
         return true;

@@ -15,15 +15,15 @@ QPoint fromNativePoint(QPoint point);
 /// Same for a rectangle.
 QRect fromNativeRect(QRect rect);
 
-/// The stretch of panel around `point`, as thick as the panel itself where the screen tells how thick that is.
-/// Absent where no screen has the point.
+/// The part of a panel around `point`, as thick as the panel where the screen says how thick that is. Absent when the
+/// point is on no screen.
 std::optional<QRect> panelRectAt(QPoint point);
 
-/// True when a point told by a host can be a click on a panel: it lies on the edge of a screen.
+/// True when a point that a host sent can be a click on a panel: it lies near the edge of a screen.
 bool isOnScreenEdge(QPoint point);
 
-/// Where a panel keeps its status area when nothing better is known: the far end of the panel that the primary screen
-/// has, else the screen's top right corner. `width` is the item's own.
+/// A guess at where the status area is: the right end of the primary screen's panel, else that screen's top right
+/// corner. `width` is the item's own.
 QRect panelCorner(int width);
 
 } // namespace vantrix

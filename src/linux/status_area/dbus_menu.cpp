@@ -36,7 +36,7 @@ QDBusMessage unknownId(const QDBusMessage& message) {
     return message.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("No such menu entry"));
 }
 
-// Modifiers and keys go by the names that GTK gives them.
+// By the names that GTK has for modifiers and keys.
 QStringList keyNames(QKeyCombination keys) {
     QStringList names;
     const auto modifiers = keys.keyboardModifiers();
@@ -137,7 +137,7 @@ QDBusMessage DBusMenu::answerProperties(const QDBusMessage& message) const {
     return message.createErrorReply(QDBusError::InvalidArgs, message.member());
 }
 
-/// Asks for the entries anew; true when they differ from those the host knows.
+/// Asks for the entries again; true when they differ from those the host knows.
 bool DBusMenu::refresh() {
     auto entries = source_.entries();
     const bool changed = revision_ == 0 || !sameEntries(entries, entries_);

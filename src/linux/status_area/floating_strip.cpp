@@ -42,7 +42,7 @@ Qt::WindowFlags stripFlags() {
 std::optional<QPoint> keptPlace(const UserDefaults& defaults) {
     if (!defaults.string(placeX) || !defaults.string(placeY))
         return std::nullopt;
-    // Far beyond any screen, yet far from where adding to it would overflow.
+    // Beyond any screen, yet small enough that sums with it do not overflow.
     const auto coordinate = [&](const QString& key) {
         return static_cast<int>(std::lround(std::clamp(defaults.number(key), -1e5, 1e5)));
     };
@@ -121,7 +121,7 @@ void FloatingStrip::place() {
 
 void FloatingStrip::remember() {
     const QRect here = anchor();
-    // Dropped half beyond an edge it belongs to the screen that it left last.
+    // A strip whose centre is on no screen stays with the screen that it was on.
     const QScreen* under = QGuiApplication::screenAt(here.center());
     const QScreen* dropped = under != nullptr ? under : screen();
     const QRect area = dropped->availableGeometry();
@@ -140,7 +140,7 @@ void FloatingStrip::resizeEvent(QResizeEvent* event) {
 void FloatingStrip::paintEvent(QPaintEvent*) {
     const bool dark = appearance_.appearance().dark;
     QPainter painter(this);
-    // Nothing blends the soft corners there: the mask alone cuts them, and what it leaves must not shine through black.
+    // There is a mask where nothing blends windows; without a solid ground what is translucent would look black there.
     if (!mask().isEmpty())
         painter.fillRect(rect(), dark ? QColor(32, 33, 36) : QColor(250, 250, 250));
     painter.setRenderHint(QPainter::Antialiasing);
@@ -164,7 +164,7 @@ void FloatingStrip::mouseMoveEvent(QMouseEvent* event) {
     if (!dragging_ && distance.manhattanLength() < QApplication::startDragDistance())
         return;
     dragging_ = true;
-    // A Wayland compositor alone may move windows; the place is then its own to keep.
+    // On Wayland only the compositor moves windows, and only it knows where they are.
     if (xcbConnection() == nullptr && windowHandle()->startSystemMove()) {
         grabbed_.reset();
         dragging_ = false;
@@ -191,7 +191,7 @@ QRect FloatingStrip::anchor() const {
     xcb_connection_t* connection = xcbConnection();
     if (connection == nullptr)
         return geometry();
-    // Not every window manager tells a dock where it stands.
+    // Not every window manager tells a dock its position.
     const QRect place = xcbRootRect(connection, static_cast<xcb_window_t>(winId()));
     return place.isEmpty() ? geometry() : fromNativeRect(place);
 }

@@ -29,14 +29,14 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
     }
     if (xcbConnection() != nullptr) {
         tray_ = std::make_unique<X11Tray>();
-        // Later: the event that tells of it is still on its way through Qt.
+        // Queued, because Qt is still handling the event that caused this.
         connect(tray_.get(), &X11Tray::ownerChanged, this, &LinuxStatusItem::trayChanged, Qt::QueuedConnection);
         connect(tray_.get(), &X11Tray::looksChanged, this, &LinuxStatusItem::redraw);
     }
     stripTimer_.setSingleShot(true);
     connect(&stripTimer_, &QTimer::timeout, this, [this] {
         if (kind_ != Kind::none || candidate_ || !row_)
-            return; // or a tray is still to show how much room it grants
+            return; // something is shown, or a tray is being tried
         std::fputs("vantrix: no status area answers on this desktop; showing a strip instead\n", stderr);
         use(Kind::strip, std::make_unique<FloatingStrip>(handlers_.clicked, appearance_, defaults_));
     });

@@ -19,10 +19,10 @@ class StatusBackend;
 class TrayWindow;
 class X11Tray;
 
-/// What the status item finds around it; tests arrange their own.
+/// What the status item finds on the desktop; tests set up their own.
 struct StatusSurroundings {
     std::optional<QString> busAddress = sessionBusAddress();
-    /// How long a desktop may take to bring up its status area before the strip steps in.
+    /// How long a desktop may take to bring up its status area before the strip is shown.
     std::chrono::milliseconds stripDelay{4000};
     NotifierWatch::HostOfProcess hostOfProcess = notifierHostOfProcess;
 };
@@ -60,7 +60,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
     std::unique_ptr<NotifierWatch> watch_;
     std::unique_ptr<X11Tray> tray_;
 
-    std::unique_ptr<TrayWindow> candidate_; ///< in the tray, but its room is not known yet
+    std::unique_ptr<TrayWindow> candidate_; ///< in the tray; whether there is room for it is not known yet
     std::unique_ptr<StatusBackend> backend_;
     Kind kind_ = Kind::none;
     std::uint32_t rejectedTray_ = 0; ///< owner of a tray that has no room for the row

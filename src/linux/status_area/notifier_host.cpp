@@ -14,9 +14,9 @@ struct KnownHost {
     bool isPrefix = false;
 };
 
-// Panels of gnome-shell, waybar and swaybar are dark unless a user restyles them by hand, which nothing tells us.
-// plasmashell and lxqt-panel lose memory with every signal: they hear less often. Plasma's watcher lives in kded.
-// waybar fetches everything on any signal, but takes over only what the signal names.
+// Panels of gnome-shell, waybar and swaybar are dark unless the user has restyled them, which cannot be found out.
+// plasmashell and lxqt-panel leak memory with every signal, so they get fewer. Plasma's watcher runs in kded.
+// waybar fetches everything on any signal, but uses only what the signal names.
 constexpr NotifierHost waybar{.layout = NotifierLayout::wide, .darkPanel = true, .tellsClickPoint = false};
 constexpr NotifierHost mate{.layout = NotifierLayout::wide, .fetchesAll = true, .tellsClickPoint = false};
 constexpr NotifierHost gnomeShell{.layout = NotifierLayout::labelled, .darkPanel = true, .clickOpensMenu = true};

@@ -5,31 +5,31 @@
 
 namespace vantrix {
 
-/// What a StatusNotifier host makes of the pictures it gets.
+/// How a StatusNotifier host shows the pictures it gets.
 enum class NotifierLayout {
     wide,     ///< shows a picture at its full width
     labelled, ///< squashes pictures into a square, but shows a text beside it
     tiles,    ///< shows squares only
 };
 
-/// How to treat one host. The defaults suit a host that nobody knows.
+/// How to treat one host. The defaults are for unknown hosts.
 struct NotifierHost {
     NotifierLayout layout = NotifierLayout::tiles;
     /// Least time between two signals for one item.
     std::chrono::milliseconds pace{2000};
     /// The panel is dark whatever the desktop's colour scheme says.
     bool darkPanel = false;
-    /// Fetches everything anew on any signal, so that one signal tells all.
+    /// Fetches everything again on any signal, so that one signal is enough.
     bool fetchesAll = false;
     /// Puts each new item before those it has.
     bool newestFirst = false;
     /// The coordinates of a click are those of the root window.
     bool tellsClickPoint = true;
-    /// A plain click opens the menu, which therefore begins with an entry that does what a click does elsewhere.
+    /// A left click opens the menu, which therefore begins with an entry that does what the click does elsewhere.
     bool clickOpensMenu = false;
 };
 
-/// The host whose watcher is the process of that name (as in `/proc/PID/comm`, which cuts at 15 characters).
+/// The host whose watcher is a process of that name (as in `/proc/PID/comm`, which cuts it at 15 characters).
 NotifierHost notifierHostNamed(std::string_view processName);
 
 } // namespace vantrix

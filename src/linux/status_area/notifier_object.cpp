@@ -128,7 +128,7 @@ QDBusMessage NotifierObject::answerItem(const QDBusMessage& message) {
         if (message.signature() != QStringLiteral("ii"))
             return invalidArguments(message);
         const QPoint point(message.arguments()[0].toInt(), message.arguments()[1].toInt());
-        // Answer first: what a click does may take long, or end the program.
+        // Answered first, because a click may take long or end the program.
         QMetaObject::invokeMethod(
             this,
             [this, button = *click, point] {
@@ -137,7 +137,7 @@ QDBusMessage NotifierObject::answerItem(const QDBusMessage& message) {
             Qt::QueuedConnection);
         return message.createReply();
     }
-    // Scroll comes in differing units from host to host; there is nothing here to scroll anyway.
+    // Scroll is ignored: there is nothing to scroll.
     if (member == QStringLiteral("ProvideXdgActivationToken") || member == QStringLiteral("Scroll"))
         return message.createReply();
     return message.createErrorReply(QDBusError::UnknownMethod, member);

@@ -19,7 +19,7 @@ struct NotifierContent {
     QString title;
     QString toolTip;
     /// A text that some hosts show beside the icon, and the widest it gets. The properties exist only where this is
-    /// set: other hosts hide the icon for the sake of a label, even of an empty one.
+    /// set, because other hosts hide the icon when there is a label, even an empty one.
     std::optional<QString> label;
     QString labelGuide;
 
@@ -36,7 +36,7 @@ class NotifierObject : public QDBusVirtualObject {
     NotifierObject(const QDBusConnection& bus, QString path, QString id, const QString& menuPath, Clicked clicked);
     ~NotifierObject() override;
 
-    /// Takes the content over without a signal.
+    /// Replaces the content without a signal.
     void set(const NotifierContent& content);
 
     /// Emits a signal of the item's interface.
@@ -49,7 +49,7 @@ class NotifierObject : public QDBusVirtualObject {
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
   Q_SIGNALS:
-    /// A host asks for the properties.
+    /// A host has asked for the properties.
     void asked();
 
   private:

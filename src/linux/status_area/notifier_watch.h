@@ -26,7 +26,7 @@ class NotifierWatch : public QObject {
     const std::optional<NotifierHost>& host() const { return host_; }
 
   Q_SIGNALS:
-    /// A watcher appeared or went. One that took the place of another shows as both, in turn.
+    /// A watcher appeared or went away. When one replaces another, both are announced in turn.
     void changed();
 
   private Q_SLOTS:

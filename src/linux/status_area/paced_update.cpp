@@ -11,7 +11,7 @@ PacedUpdate::PacedUpdate(std::chrono::milliseconds pace, std::function<void()> u
 void PacedUpdate::request() {
     if (timer_.isActive())
         return;
-    // A tenth of leeway: a pass that comes a moment early must not cost a wake-up of its own.
+    // A tenth of leeway, so that a pass that comes a moment early does not cost a wake-up of its own.
     const auto least = pace_ - pace_ / 10;
     if (!sinceLast_.isValid() || sinceLast_.elapsed() >= least.count())
         return runNow();

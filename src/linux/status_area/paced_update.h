@@ -8,14 +8,15 @@
 
 namespace vantrix {
 
-/// Runs an update at once, or later where the last one was less than `pace` ago; requests in between become one.
+/// Runs an update at once, or, where the last one was less than `pace` ago, when that time is over; requests made
+/// meanwhile are merged into one.
 class PacedUpdate {
   public:
     PacedUpdate(std::chrono::milliseconds pace, std::function<void()> update);
 
     void request();
 
-    /// Runs at once whatever the pace, in place of an update that waits.
+    /// Runs the update at once, also in place of one that is waiting.
     void runNow();
 
   private:

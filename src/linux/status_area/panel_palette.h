@@ -9,7 +9,7 @@ namespace vantrix {
 /// How light a colour looks, 0 to 1.
 double perceivedLightness(const QColor& color);
 
-/// The row's colours for a panel that writes in `text`: light text means a dark panel.
+/// The row's colours for a panel whose own text has the colour `text`: light text means a dark panel.
 MenuBarPalette paletteForText(const QColor& text);
 
 /// The row's colours for a dark or a light panel.

@@ -6,8 +6,7 @@ namespace vantrix {
 
 class StatusRow;
 
-/// One way to put the row on the screen. Where it lives while it exists is its own affair: destroying it takes the
-/// row away. Main thread only.
+/// One way to put the row on the screen. Destroying it takes the row away. Main thread only.
 class StatusBackend {
   public:
     virtual ~StatusBackend() = default;
@@ -15,7 +14,7 @@ class StatusBackend {
     /// Shows `row`; also called with an unchanged row after the desktop's colours changed.
     virtual void show(const StatusRow& row) = 0;
 
-    /// Where popover and menu belong, in device-independent pixels.
+    /// The rectangle beside which the popover and the menu open, in device-independent pixels.
     virtual QRect anchor() const = 0;
 };
 

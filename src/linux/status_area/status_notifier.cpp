@@ -16,7 +16,7 @@ namespace {
 const QString firstItemPath = QStringLiteral("/StatusNotifierItem");
 const QString menuPath = QStringLiteral("/StatusNotifierItem/Menu");
 
-// A tooltip is looked at now and then; hosts that fetch it apart from the icon need not do so with every pass.
+// Tooltips are looked at rarely, so hosts that fetch them separately need not do so on every pass.
 constexpr int toolTipPaceFactor = 3;
 
 constexpr auto registrationPatience = std::chrono::milliseconds(300);
@@ -60,7 +60,7 @@ void StatusNotifier::show(const StatusRow& row) {
     registerFirst();
 }
 
-/// The identifiers of the items; hosts remember by them what a user hid or moved.
+/// The identifiers of the items, by which hosts remember what a user has hidden or moved.
 QStringList StatusNotifier::wantedIds() const {
     if (single())
         return {QStringLiteral("vantrix")};
@@ -70,7 +70,7 @@ QStringList StatusNotifier::wantedIds() const {
     return ids;
 }
 
-/// Hosts let go of an item only when its connection ends: another set of items takes another connection.
+/// Hosts drop an item only when its connection ends, so a new set of items needs a new connection.
 void StatusNotifier::connectItems() {
     staleToolTips_.clear();
     published_.reset();
@@ -95,8 +95,8 @@ void StatusNotifier::connectItems() {
     }
 }
 
-/// The first item goes by a bus name, as the protocol has it; a name has one item, so the others go by their path.
-/// The bus keeps messages in order: when the watcher hears of the name, it is ours.
+/// The first item is registered by a bus name, as the protocol asks; a name stands for one item only, so the others
+/// are registered by path. The bus keeps messages in order: by the time the watcher hears of the name, it is ours.
 void StatusNotifier::registerFirst() {
     const QString service = nextServiceName();
     auto request =
@@ -109,7 +109,7 @@ void StatusNotifier::registerFirst() {
     registration_.start(registrationPatience);
 }
 
-/// Hosts line items up in the order in which they finish reading them: each one waits until the one before was read.
+/// Hosts order items by when they finish reading them, so each is registered once the one before it has been read.
 void StatusNotifier::registerNext() {
     if (registered_ >= objects_.size())
         return registration_.stop();
@@ -118,7 +118,7 @@ void StatusNotifier::registerNext() {
     registration_.start(registrationPatience);
 }
 
-/// The row's tile that object `index` shows; objects stand in the order in which they register.
+/// The row's tile that object `index` shows; objects are in the order of their registration.
 std::size_t StatusNotifier::tileOf(std::size_t index) const {
     const auto count = static_cast<std::size_t>(ids_.size());
     return host_.newestFirst ? count - 1 - index : index;
@@ -146,13 +146,13 @@ void StatusNotifier::update(std::size_t index, const MenuBarPalette& palette) {
         return;
     object.set(content);
     if (!published_)
-        return; // not registered yet: nobody listens
+        return; // not registered yet, so nobody listens
     const bool newIcon = content.icon != before.icon;
     if (newIcon)
         object.announce(QStringLiteral("NewIcon"));
     if (content.label != before.label)
         object.announce(QStringLiteral("XAyatanaNewLabel"), {*content.label, content.labelGuide});
-    // A host that shows a label shows no tooltip; one that fetches everything has it already.
+    // Hosts that show labels show no tooltips; those that fetch everything already have it.
     if (content.toolTip == before.toolTip || content.label || (newIcon && host_.fetchesAll))
         return;
     staleToolTips_.insert(&object);
@@ -163,8 +163,7 @@ NotifierContent StatusNotifier::contentOf(std::size_t index, const MenuBarPalett
     const std::size_t tile = tileOf(index);
     NotifierContent content;
     content.icon = samePixmaps(tile, palette) ? objects_[index]->content().icon : pixmapsOf(tile, palette);
-    // The first tile speaks for the row; the other squares for themselves, or every one of them would have to be sent
-    // whenever any changes.
+    // Only the first tile has the text of the whole row: if all had, all would have to be sent whenever one changes.
     content.title = tile == 0 ? row_.text() : row_.tileText(tile);
     content.toolTip = content.title;
     if (host_.layout == NotifierLayout::labelled) {
@@ -188,7 +187,7 @@ NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const MenuBarPalette
     return pixmaps;
 }
 
-/// True when the pictures that the host has need not be drawn anew.
+/// True when the pictures that the host has are still right.
 bool StatusNotifier::samePixmaps(std::size_t tile, const MenuBarPalette& palette) const {
     if (!published_ || publishedPalette_ != palette)
         return false;

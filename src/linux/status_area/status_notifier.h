@@ -24,7 +24,7 @@ class AppearanceSource;
 class StatusNotifier : public QObject, public StatusBackend {
     Q_OBJECT
   public:
-    /// The colour of the panel's texts, where something tells it.
+    /// The colour of the panel's own text, where it is known.
     using PanelText = std::function<std::optional<QColor>()>;
 
     StatusNotifier(QString busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,

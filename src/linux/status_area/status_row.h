@@ -11,7 +11,7 @@
 
 namespace vantrix {
 
-/// The status item's content as every back end draws it: the row of items or, without any, the gauge. A value.
+/// The status item's content the way every back end draws it: the row of items or, without any, the gauge.
 class StatusRow {
   public:
     StatusRow() = default;
@@ -26,13 +26,13 @@ class StatusRow {
     /// The row on a transparent ground; `scale` is pixels per point.
     QImage image(const MenuBarPalette& palette, int scale) const;
 
-    /// Number of squares that stand for the row where only squares are shown; at least 1.
+    /// The number of squares that replace the row where only squares are shown; at least 1.
     std::size_t tileCount() const;
 
     /// Square `index` < `tileCount()`, `side` pixels wide.
     QImage tile(std::size_t index, const MenuBarPalette& palette, int side) const;
 
-    /// What square `index` stands for: "cpu". Does not change with what it shows.
+    /// The name of what square `index` shows: "cpu". Always the same for one module.
     QString tileName(std::size_t index) const;
 
     /// What square `index` shows, as text: "CPU 12%".

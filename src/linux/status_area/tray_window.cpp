@@ -21,13 +21,13 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto embeddingPatience = 3s;
-// Trays take a window in at its own size and cut it in a later pass of their layout.
+// Trays embed a window at its own size and cut it later, when they lay out their contents.
 constexpr auto layoutPatience = 500ms;
 constexpr auto backgroundDelay = 60ms;
 constexpr double leastShare = 0.9; // of the row's width
 constexpr double leastContrast = 0.35;
 
-/// Share of the row's size at which it fits a tray that is lower than the row.
+/// The factor by which the row is scaled down to fit a tray that is not as high.
 double scaleFor(int height) {
     return std::min(1.0, height / MenuBarRenderer::height);
 }
@@ -71,7 +71,7 @@ void TrayWindow::dock() {
     docked_ = true;
     resize(row_.size());
     const auto window = static_cast<xcb_window_t>(winId());
-    setMinimumSize(row_.size()); // now that there is a window to carry the hint, which trays read when they take it
+    setMinimumSize(row_.size()); // after winId(): trays read this hint from the window when they embed it
     if (!alpha_) {
         const std::uint32_t parentRelative = XCB_BACK_PIXMAP_PARENT_RELATIVE;
         xcb_change_window_attributes(xcbConnection(), window, XCB_CW_BACK_PIXMAP, &parentRelative);
@@ -84,14 +84,14 @@ void TrayWindow::reparented(std::uint32_t window, std::uint32_t parent) {
     if (!docked_ || window != winId())
         return;
     embedded_ = parent != 0;
-    // Not before: mapped on its way in, it would flash in a corner of the screen, and GTK's trays would take it for
-    // withdrawn. Thrown out, nobody wants to see it loose on the screen either.
+    // Shown only while embedded: any earlier it would flash in a corner of the screen, and GTK's trays would take it
+    // for withdrawn; thrown out, it would be left lying on the screen.
     setVisible(embedded_);
     backgroundTimer_.start(backgroundDelay);
     verdict_.start(layoutPatience);
 }
 
-/// Trays take the wish for room from the window's size hints, or from its size.
+/// Some trays go by the window's size hints, others by its size, so both are set.
 void TrayWindow::askForRoom() {
     const int width = static_cast<int>(std::ceil(row_.size().width() * scaleFor(height())));
     if (minimumWidth() == width)
@@ -127,7 +127,7 @@ void TrayWindow::takeBackground() {
     update();
 }
 
-/// The tray's own text colour, unless it could not be read on the panel's background.
+/// In the tray's own text colour, unless that is too close to the panel's background.
 MenuBarPalette TrayWindow::rowPalette() const {
     std::optional<double> ground;
     if (!background_.isNull())

@@ -12,8 +12,8 @@ namespace vantrix {
 class AppearanceSource;
 class X11Tray;
 
-/// The row as a window of its own inside the X11 system tray. Trays differ in how much room they grant, and tell it
-/// by resizing the window: `settled` says whether the row can be read there.
+/// The row as a window embedded in the X11 system tray. Trays grant more or less room, by resizing the window;
+/// `settled` says whether it is enough to read the row.
 class TrayWindow : public QWidget, public StatusBackend {
     Q_OBJECT
   public:
@@ -23,7 +23,7 @@ class TrayWindow : public QWidget, public StatusBackend {
     QRect anchor() const override;
 
   Q_SIGNALS:
-    /// `readable` false: the tray does not take the window in, cut it, or threw it out.
+    /// `readable` is false when the tray did not embed the window, cut it, or threw it out.
     void settled(bool readable);
 
   protected:

@@ -65,7 +65,7 @@ void X11Tray::dock(std::uint32_t window) const {
 }
 
 void X11Tray::findOwner() {
-    // Grabbed, so that the owner cannot go between the question and the wish to hear of its end.
+    // Grabbed, so that the owner cannot go away before its end is being watched for.
     xcb_grab_server(connection_);
     const auto cookie = xcb_get_selection_owner(connection_, selection_);
     const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(connection_, cookie, nullptr));

@@ -12,8 +12,8 @@ struct xcb_connection_t;
 
 namespace vantrix {
 
-/// The X11 system tray of the default screen: who runs it, and what it says about itself. Talks to the X server over
-/// Qt's own connection; a query takes one round trip. Exists only on the X11 platform.
+/// The X11 system tray of the default screen: its owner, and what it wants of windows. Talks to the X server over Qt's
+/// own connection; a query takes one round trip. To be made on the X11 platform only.
 class X11Tray : public QObject, public QAbstractNativeEventFilter {
     Q_OBJECT
   public:
@@ -26,16 +26,16 @@ class X11Tray : public QObject, public QAbstractNativeEventFilter {
     /// True when the tray wants windows with an alpha channel.
     bool wantsAlpha() const;
 
-    /// The colour of the panel's texts, where the tray tells it.
+    /// The colour of the panel's text, where the tray tells it.
     const std::optional<QColor>& foreground() const { return foreground_; }
 
-    /// Asks the tray to take `window` in.
+    /// Asks the tray to embed `window`.
     void dock(std::uint32_t window) const;
 
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
   Q_SIGNALS:
-    /// The tray went, or another one took over.
+    /// The tray went away, or another one took over.
     void ownerChanged();
     /// The tray's colours may have changed.
     void looksChanged();

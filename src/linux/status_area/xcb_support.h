@@ -34,11 +34,12 @@ std::vector<std::uint32_t> xcbValues(xcb_connection_t* connection, xcb_window_t 
 /// The window's place on the root window, in device pixels; empty when it is gone.
 QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window);
 
-/// What is on the screen where the window is, once it shows its parent's background; null when that cannot be read.
+/// Clears the window to its parent's background and returns what the screen then shows there; null when that cannot be
+/// read.
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size);
 
-/// Has window managers treat a window that is not shown yet as a dock: above windows on every desktop, but not above
-/// one that fills the screen, and without an entry in task bars.
+/// Makes window managers treat a window as a dock: on every desktop, above all windows but those that fill the screen,
+/// without an entry in task bars. To be called before the window is shown.
 void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window);
 
 /// True when windows with an alpha channel are blended with what is behind them.
