@@ -2,21 +2,11 @@
 
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/kernel/kernel_tree.h"
-#include "linux/power_supply/power_supply.h"
 #include "linux/sensors/hwmon_chips.h"
+#include "linux/sensors/supply_kind.h"
 
 namespace vantrix {
 namespace {
-
-std::vector<std::string> suppliesOf(const std::string& sys, SupplyKind kind) {
-    const std::string folder = sys + "/class/power_supply";
-    auto entries = entriesStartingWith(folder, "");
-    std::erase_if(entries, [&](const std::string& entry) {
-        return entry.starts_with('.') || supplyKind(folder + '/' + entry) != kind;
-    });
-    std::sort(entries.begin(), entries.end());
-    return entries;
-}
 
 /// The counters of energy whose name begins with `prefix`, sorted.
 std::vector<std::string> countersNamed(const std::string& sys, std::string_view prefix) {

@@ -4,6 +4,7 @@
 #include "linux/kernel/device_rest.h"
 #include "linux/power_supply/power_supply_accessories.h"
 #include "linux/sensors/hwmon_chips.h"
+#include "linux/sensors/supply_kind.h"
 #include "linux/sensors/thermal_zones.h"
 #include "support/text_format.h"
 
@@ -30,14 +31,10 @@ struct Chips {
     }
 };
 
-bool isAccessory(const HwmonChip& chip) {
-    return readName(chip.device + "/scope") == "Device";
-}
-
 Chips chipsWith(const std::string& sys, std::string_view prefix) {
     Chips chips;
     for (const HwmonChip& chip : findHwmonChips(sys)) {
-        if (!sensorNumbers(chip.folder, prefix, "_input").empty() && !isAccessory(chip))
+        if (!sensorNumbers(chip.folder, prefix, "_input").empty() && supplyKind(chip.device) != SupplyKind::accessory)
             chips.add(chip);
     }
     return chips;

@@ -47,8 +47,8 @@ class LinuxGPUSource : public GPUSampler::Source {
 
     std::optional<std::span<const Properties>> read() override;
 
-    /// That of NVIDIA's GPUs as of the last reading.
-    std::shared_ptr<const NvidiaTemperature> nvidiaTemperature() const { return nvidiaGPUs_.temperature(); }
+    /// °C of the hottest of NVIDIA's GPUs, as of the last reading.
+    std::shared_ptr<const TimedValue> nvidiaTemperature() const { return nvidiaGPUs_.temperature(); }
 
   private:
     void findGPUs();

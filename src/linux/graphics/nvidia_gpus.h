@@ -7,7 +7,7 @@
 
 #include "linux/graphics/gpu_power.h"
 #include "linux/graphics/nvidia_job.h"
-#include "linux/graphics/nvidia_temperature.h"
+#include "linux/kernel/timed_value.h"
 
 namespace vantrix {
 
@@ -27,8 +27,8 @@ class NvidiaGPUs {
     /// Appends the load of each GPU in percent, absent where it cannot be told; `now` in seconds.
     void read(double now, std::vector<std::optional<double>>& loads);
 
-    /// That of the last reading.
-    std::shared_ptr<const NvidiaTemperature> temperature() const { return temperature_; }
+    /// °C of the hottest, as of the last reading. NVIDIA's driver puts no temperature into <sys>.
+    std::shared_ptr<const TimedValue> temperature() const { return temperature_; }
 
   private:
     struct GPU {
@@ -50,7 +50,7 @@ class NvidiaGPUs {
 
     std::shared_ptr<NvidiaJob> job_; // shared with a thread that may outlive this
     std::shared_ptr<Background> background_;
-    std::shared_ptr<NvidiaTemperature> temperature_ = std::make_shared<NvidiaTemperature>();
+    std::shared_ptr<TimedValue> temperature_ = std::make_shared<TimedValue>();
     std::vector<std::string> addresses_;
     std::vector<GPU> gpus_;
     bool areNew_ = false; // the job does not know of them yet

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "linux/sensors/supply_power.h"
+
 namespace vantrix {
 namespace {
 
@@ -70,11 +72,8 @@ std::optional<Energy> sumOfEnergy(std::span<const SupplyState> packs) {
 
 /// Power in µW, positive into the pack. Drivers differ on the sign; the status decides where it says a direction.
 std::optional<double> flowInto(const SupplyState& pack) {
-    std::optional<double> flow;
-    if (pack[SupplyState::powerNow])
-        flow = valueOf(pack[SupplyState::powerNow]);
-    else if (pack[SupplyState::currentNow] && pack[SupplyState::voltageNow])
-        flow = valueOf(pack[SupplyState::currentNow]) * valueOf(pack[SupplyState::voltageNow]) / 1e6;
+    const auto flow =
+        supplyFlow(pack[SupplyState::powerNow], pack[SupplyState::currentNow], pack[SupplyState::voltageNow]);
     if (flow && pack.status == Status::charging)
         return std::abs(*flow);
     if (flow && pack.status == Status::discharging)

@@ -1,6 +1,7 @@
 #include "linux/power_supply/linux_battery_source.h"
 
 #include "linux/kernel/background_thread.h"
+#include "linux/sensors/supply_kind.h"
 
 namespace vantrix {
 

@@ -1,7 +1,6 @@
 #include "linux/power_supply/power_supply.h"
 
 #include "linux/kernel/kernel_number.h"
-#include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
 #include "support/ascii_case.h"
 
@@ -67,17 +66,6 @@ void store(SupplyState& state, std::string_view name, std::string_view value) {
 }
 
 } // namespace
-
-SupplyKind supplyKind(const std::string& folder) {
-    const auto type = readStart(folder + "/type", 64);
-    if (!type)
-        return SupplyKind::other;
-    const bool isAccessory = readStart(folder + "/scope", 64) == "Device\n";
-    if (*type == "Battery\n")
-        return isAccessory ? SupplyKind::accessory : SupplyKind::battery;
-    return *type == "Mains\n" || *type == "Wireless\n" || type->starts_with("USB") ? SupplyKind::external
-                                                                                   : SupplyKind::other;
-}
 
 std::optional<SupplyState> parseSupply(std::string_view uevent) {
     SupplyState state;

@@ -11,17 +11,6 @@
 
 namespace vantrix {
 
-/// What an entry of /sys/class/power_supply is.
-enum class SupplyKind {
-    battery,   ///< a pack of the machine
-    external,  ///< the mains, or a port that takes power
-    accessory, ///< the battery of a keyboard, mouse, …
-    other,
-};
-
-/// From the entry's files type and scope, which do not change while a battery lives.
-SupplyKind supplyKind(const std::string& folder);
-
 /// The present state of one entry. Units are the kernel's: µWh, µAh, µV, µA, µW, tenths of a degree Celsius, seconds.
 /// A value is absent when the driver does not tell it, or tells one that nothing this side of a power station reaches.
 struct SupplyState {

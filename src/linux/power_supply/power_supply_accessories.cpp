@@ -6,7 +6,7 @@
 #include "linux/kernel/kernel_number.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
-#include "linux/power_supply/power_supply.h"
+#include "linux/sensors/supply_kind.h"
 #include "support/ascii_case.h"
 #include "support/utf8.h"
 
@@ -83,11 +83,9 @@ std::optional<int> percentOfLevel(std::string_view word) {
 AccessoriesSampler::Scan PowerSupplyAccessories::scan() {
     Scan scan;
     std::vector<std::string> others;
-    auto entries = entriesStartingWith(folder_, "");
-    std::sort(entries.begin(), entries.end()); // the same order in every scan
-    for (const std::string& entry : entries) {
-        const std::string supply = folder_ + '/' + entry;
-        if (entry.starts_with('.') || supplyKind(supply) != SupplyKind::accessory || !isThere(supply))
+    for (const std::string& entry : suppliesOf(sys_, SupplyKind::accessory)) {
+        const std::string supply = sys_ + "/class/power_supply/" + entry;
+        if (!isThere(supply))
             continue;
         std::string name = nameOf(supply, entry);
         const auto level = levelOf(supply);

@@ -18,12 +18,12 @@ std::optional<int> percentOfLevel(std::string_view word);
 /// device. A scan may wait for answers over USB or radio.
 class PowerSupplyAccessories : public AccessoriesSampler {
   public:
-    explicit PowerSupplyAccessories(const std::string& sys) : folder_(sys + "/class/power_supply") {}
+    explicit PowerSupplyAccessories(std::string sys) : sys_(std::move(sys)) {}
 
     Scan scan() override;
 
   private:
-    std::string folder_;
+    std::string sys_;
 };
 
 } // namespace vantrix

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "linux/kernel/background_thread.h"
+#include "linux/sensors/supply_kind.h"
 #include "linux/sensors/thermal_zones.h"
 
 namespace vantrix {
@@ -30,7 +31,7 @@ bool FrozenWatch::isFrozen(double value, double now) {
 }
 
 LinuxTemperatures::LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
-                                     std::shared_ptr<const NvidiaTemperature> nvidia)
+                                     std::shared_ptr<const TimedValue> nvidia)
     : sys_(std::move(sys)), clock_(std::move(clock)), nvidia_(std::move(nvidia)),
       schedule_({sys_ + "/class/hwmon", sys_ + "/class/thermal"}) {}
 
@@ -98,16 +99,15 @@ void LinuxTemperatures::search() {
 
 void LinuxTemperatures::findInputs(const HwmonChip& chip, Found& found) const {
     const auto numbers = sensorNumbers(chip.folder, "temp", "_input");
-    const bool isBattery = readName(chip.device + "/type") == "Battery";
-    // Mice and headsets have batteries too, which are not this machine's.
-    if (numbers.empty() || (isBattery && readName(chip.device + "/scope") == "Device"))
+    const SupplyKind kind = supplyKind(chip.device); // of a battery's chip
+    if (numbers.empty() || kind == SupplyKind::accessory)
         return;
     const bool isDrive = chip.name == "drivetemp";
     const std::string model = isDrive || chip.name == "nvme" ? readName(chip.device + "/model") : std::string();
     for (const int number : numbers) {
         const std::string input = chip.folder + "/temp" + std::to_string(number);
         found.temperatures.push_back({chip.name, readName(input + "_label"), model, numbers.size() > 1 ? number : 0,
-                                      isBattery, found.chips.size()});
+                                      kind == SupplyKind::battery, found.chips.size()});
         found.places.push_back({input + "_input", input + "_fault", found.chips.size()});
     }
     found.chips.push_back({DeviceRest(chip.device, isDrive, intervalOf(chip.name)), {}});

@@ -4,9 +4,9 @@
 #include <string>
 #include <vector>
 
-#include "linux/graphics/nvidia_temperature.h"
 #include "linux/kernel/device_rest.h"
 #include "linux/kernel/rescan_schedule.h"
+#include "linux/kernel/timed_value.h"
 #include "linux/sensors/hwmon_chips.h"
 #include "linux/sensors/temperature_names.h"
 #include "sensors/hid_temperature_sampler.h"
@@ -24,11 +24,11 @@ class FrozenWatch {
 };
 
 /// Temperatures of <sys>/class/hwmon, and of <sys>/class/thermal where no chip is the processor's. Devices that sleep
-/// are not asked, nor are those that are to have their rest. "GPU NVIDIA" ends the list where that is told.
+/// are not asked, nor are those that are to have their rest. "GPU NVIDIA" ends the list while `nvidia` has a value.
 class LinuxTemperatures : public HIDTemperatureSampler::Source {
   public:
     LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
-                      std::shared_ptr<const NvidiaTemperature> nvidia = nullptr);
+                      std::shared_ptr<const TimedValue> nvidia = nullptr);
 
     bool read(std::vector<HIDTemperatureSampler::Service>& services) override;
 
@@ -64,7 +64,7 @@ class LinuxTemperatures : public HIDTemperatureSampler::Source {
 
     std::string sys_;
     std::shared_ptr<const Clock> clock_;
-    std::shared_ptr<const NvidiaTemperature> nvidia_; // may be null
+    std::shared_ptr<const TimedValue> nvidia_; // may be null
     RescanSchedule schedule_;
     std::vector<Chip> chips_;
     std::vector<Sensor> sensors_;

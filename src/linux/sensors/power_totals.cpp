@@ -6,7 +6,8 @@
 
 #include "linux/kernel/background_thread.h"
 #include "linux/kernel/kernel_tree.h"
-#include "linux/power_supply/supply_power.h"
+#include "linux/sensors/supply_kind.h"
+#include "linux/sensors/supply_power.h"
 
 namespace vantrix {
 namespace {
@@ -111,27 +112,26 @@ void PowerTotals::findMeters(std::vector<KeptSensor>& system, std::vector<KeptSe
     }
 }
 
-void PowerTotals::findSupplies(std::vector<KeptSensor>& adapter, std::vector<KeptSensor>& batteries) {
+void PowerTotals::findSupplies(std::vector<KeptSensor>& adapters, std::vector<KeptSensor>& batteries) {
     const std::string root = sys_ + "/class/power_supply/";
-    auto entries = entriesStartingWith(root, "");
-    std::sort(entries.begin(), entries.end());
-    for (const std::string& entry : entries) {
-        const std::string folder = resolvedPath(root + entry);
-        const std::string type = readName(folder + "/type");
-        const bool isBattery = type == "Battery" && readName(folder + "/scope") != "Device";
+    for (const std::string& entry : suppliesOf(sys_, SupplyKind::battery))
+        batteries.push_back(findSupply(batteries_, root + entry, entry, "status", "Discharging"));
+    for (const std::string& entry : suppliesOf(sys_, SupplyKind::external)) {
+        const std::string type = readName(root + entry + "/type");
         // USB ports tell what was agreed upon, not what flows, unless they measure power itself.
-        const bool isAdapter = type == "Mains" || (type == "USB" && pathExists(folder + "/power_now"));
-        if (!isBattery && !isAdapter)
-            continue;
-        auto& known = isBattery ? batteries_ : adapters_;
-        auto& list = isBattery ? batteries : adapter;
-        list.push_back(takeOrMake(known, folder, entry, [&] {
-            auto probe = isBattery ? std::make_unique<SupplyPower>(folder, "status", "Discharging")
-                                   : std::make_unique<SupplyPower>(folder, "online", "1");
-            return KeptSensor{folder, entry,
-                              TimedSensor(std::move(probe), std::make_shared<BackgroundThread>(), clock_)};
-        }));
+        if (type == "Mains" || (type == "USB" && pathExists(root + entry + "/power_now")))
+            adapters.push_back(findSupply(adapters_, root + entry, entry, "online", "1"));
     }
+}
+
+KeptSensor PowerTotals::findSupply(std::vector<KeptSensor>& known, const std::string& entry, const std::string& name,
+                                   const std::string& stateFile, const std::string& state) const {
+    const std::string folder = resolvedPath(entry);
+    return takeOrMake(known, folder, name, [&] {
+        return KeptSensor{folder, name,
+                          TimedSensor(std::make_unique<SupplyPower>(folder, stateFile, state),
+                                      std::make_shared<BackgroundThread>(), clock_)};
+    });
 }
 
 } // namespace vantrix

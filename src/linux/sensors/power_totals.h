@@ -34,7 +34,9 @@ class PowerTotals {
     void search();
     void findPlatform();
     void findMeters(std::vector<KeptSensor>& system, std::vector<KeptSensor>& adapter);
-    void findSupplies(std::vector<KeptSensor>& adapter, std::vector<KeptSensor>& batteries);
+    void findSupplies(std::vector<KeptSensor>& adapters, std::vector<KeptSensor>& batteries);
+    KeptSensor findSupply(std::vector<KeptSensor>& known, const std::string& entry, const std::string& name,
+                          const std::string& stateFile, const std::string& state) const;
     std::optional<double> platformPower();
     std::optional<double> sum(std::vector<KeptSensor>& sensors);
 

@@ -268,8 +268,8 @@ TEST_F(LinuxGPUSourceTest, NvidiaLibraryIsAskedOnlyOfGPUsAwake) {
     }
 }
 
-TEST(NvidiaTemperature, IsForgottenAfterAMinute) {
-    NvidiaTemperature temperature;
+TEST(TimedValue, IsForgottenAfterAMinute) {
+    TimedValue temperature;
     EXPECT_EQ(temperature.value(0.0), std::nullopt);
     temperature.set(50.0, 100.0);
     EXPECT_EQ(temperature.value(159.0), 50.0);

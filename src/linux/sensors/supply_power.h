@@ -7,6 +7,11 @@
 
 namespace vantrix {
 
+/// Microwatts through a supply, with the sign that its driver gives them: `power` (µW) where that is told, else what
+/// `current` (µA) and `voltage` (µV) make.
+std::optional<double> supplyFlow(std::optional<double> power, std::optional<double> current,
+                                 std::optional<double> voltage);
+
 /// Watts through one entry of <sys>/class/power_supply, from power_now or else current_now and voltage_now, whatever
 /// their sign; absent unless the file `stateFile` holds `state`: a battery is drained while "status" is "Discharging",
 /// an adapter delivers while "online" is "1".
