@@ -27,20 +27,22 @@
 namespace vantrix {
 namespace {
 
-std::unique_ptr<NetworkSampler::Source> makeNetworkSource(const KernelRoots& roots) {
+std::unique_ptr<NetworkSampler::Source> makeNetworkSource(const KernelRoots& roots,
+                                                          const std::shared_ptr<RtnetlinkSubscriber>& news) {
     auto sysfs = std::make_unique<SysfsLinks>(roots.sys);
     if (roots != KernelRoots())
         return std::make_unique<NetDevSource>(netFolder(roots) + "/dev", std::move(sysfs), nullptr);
-    return std::make_unique<NetDevSource>(roots.proc + "/net/dev", std::make_unique<RtnetlinkLinks>(roots.sys),
+    return std::make_unique<NetDevSource>(roots.proc + "/net/dev", std::make_unique<RtnetlinkLinks>(news, roots.sys),
                                           std::move(sysfs));
 }
 
-std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRoots& roots) {
+std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRoots& roots,
+                                                                  const std::shared_ptr<RtnetlinkSubscriber>& news) {
     if (roots != KernelRoots())
         return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<ProcNetRoutes>(netFolder(roots)), nullptr,
                                                   nullptr);
     auto wifi = std::make_unique<Nl80211Reader>(std::make_unique<NetlinkSocket>(NETLINK_GENERIC));
-    return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<RtnetlinkRoutes>(),
+    return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<RtnetlinkRoutes>(news),
                                               std::make_unique<ProcNetRoutes>(roots.proc + "/net"), std::move(wifi));
 }
 
@@ -52,8 +54,9 @@ SamplingSources makeSamplingSources(const KernelRoots& roots) {
     sources.information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys);
     sources.cpu = std::make_unique<ProcStatSource>(roots.proc);
     sources.memory = std::make_unique<LinuxMemorySource>(roots.proc, roots.sys);
-    sources.network = makeNetworkSource(roots);
-    sources.networkInfo = makeNetworkInfoSource(roots);
+    const auto news = std::make_shared<RtnetlinkSubscriber>(); // opens nothing until it is asked
+    sources.network = makeNetworkSource(roots, news);
+    sources.networkInfo = makeNetworkInfoSource(roots, news);
     sources.disks = std::make_unique<DiskStatsSource>(roots.proc, roots.sys);
     sources.volume = std::make_unique<VolumeStatistics>(rootVolume(roots.proc));
     auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());

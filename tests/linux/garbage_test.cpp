@@ -9,10 +9,10 @@
 #include "linux/disks/proc_diskstats.h"
 #include "linux/graphics/gpu_meter.h"
 #include "linux/memory/linux_memory_source.h"
+#include "linux/network/link_messages.h"
 #include "linux/network/proc_net_dev.h"
 #include "linux/network/proc_net_route.h"
 #include "linux/network/route_messages.h"
-#include "linux/network/rtnetlink_messages.h"
 #include "linux/network/sysfs_links.h"
 #include "linux/power_supply/battery_packs.h"
 #include "linux/power_supply/power_supply_accessories.h"
@@ -98,10 +98,9 @@ void parseWithEverything(const std::string& text) {
     if (const auto pack = parseSupply(text))
         combinePacks({&*pack, 1}, std::nullopt);
     std::string_view datagram = text;
-    while (takeLinkMessage(datagram)) {
-    }
-    datagram = text;
-    while (takeRouteMessage(datagram)) {
+    while (const auto message = takeNetlinkMessage(datagram)) {
+        parseLinkMessage(*message);
+        parseRouteMessage(*message);
     }
     EXPECT_LT(parseDefaultRoute(text).size() + parseDefaultIPv6Route(text).size(), text.size() + 1);
 }

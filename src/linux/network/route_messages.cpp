@@ -1,11 +1,6 @@
 #include "linux/network/route_messages.h"
 
-#include <cerrno>
-#include <cstdlib>
-
 #include <sys/socket.h>
-
-#include "linux/kernel/netlink_records.h"
 
 namespace vantrix {
 namespace {
@@ -46,30 +41,29 @@ RouteAttributes readRoute(const rtmsg& route, std::string_view attributes) {
     return found;
 }
 
-void parseRoute(RouteMessage& message, std::string_view body) {
+std::optional<RouteMessage> parseRoute(std::string_view body) {
     const auto route = recordAt<rtmsg>(body);
     // Clones are the cache's, and a type of service asks for a route of its own.
     if (!route || route->rtm_dst_len != 0 || route->rtm_tos != 0 || (route->rtm_flags & RTM_F_CLONED) != 0)
-        return;
+        return std::nullopt;
     const auto attributes = readRoute(*route, attributesAfter<rtmsg>(body));
     if (attributes.table != RT_TABLE_MAIN)
-        return;
-    message.kind = RouteMessage::Kind::defaultRoute;
-    message.family = route->rtm_family;
-    message.metric = attributes.metric;
+        return std::nullopt;
+    RouteMessage message{.family = route->rtm_family, .metric = attributes.metric};
     if (route->rtm_type != RTN_UNICAST)
-        return;
+        return message;
     if (attributes.link > 0 && (route->rtm_flags & leadsNowhere) == 0)
         message.index = attributes.link;
     else if (attributes.hop > 0)
         message.index = attributes.hop;
+    return message;
 }
 
-void parseAddress(RouteMessage& message, std::string_view body) {
+std::optional<RouteMessage> parseAddress(std::string_view body) {
     const auto header = recordAt<ifaddrmsg>(body);
     if (!header || header->ifa_family != AF_INET)
-        return;
-    message.kind = RouteMessage::Kind::address;
+        return std::nullopt;
+    RouteMessage message{.kind = RouteMessage::Kind::address};
     auto attributes = attributesAfter<ifaddrmsg>(body);
     bool isOwn = false;
     while (const auto attribute = takeAttribute(attributes)) {
@@ -81,44 +75,25 @@ void parseAddress(RouteMessage& message, std::string_view body) {
         message.address = *address;
         message.index = static_cast<int>(header->ifa_index);
     }
-}
-
-void parseBody(RouteMessage& message, std::uint16_t type, std::string_view body) {
-    switch (type) {
-    case RTM_NEWROUTE:
-    case RTM_DELROUTE:
-        return parseRoute(message, body);
-    case RTM_NEWADDR:
-    case RTM_DELADDR:
-        return parseAddress(message, body);
-    case RTM_NEWLINK:
-    case RTM_DELLINK:
-        message.kind = RouteMessage::Kind::link;
-        return;
-    case NLMSG_DONE:
-        message.kind = RouteMessage::Kind::done;
-        return;
-    case NLMSG_ERROR:
-        message.kind = RouteMessage::Kind::failed;
-        message.error = std::abs(recordAt<int>(body).value_or(-EBADMSG));
-        return;
-    default:
-        return;
-    }
+    return message;
 }
 
 } // namespace
 
-std::optional<RouteMessage> takeRouteMessage(std::string_view& datagram) {
-    const auto taken = takeNetlinkMessage(datagram);
-    if (!taken)
+std::optional<RouteMessage> parseRouteMessage(const NetlinkMessage& message) {
+    switch (message.header.nlmsg_type) {
+    case RTM_NEWROUTE:
+    case RTM_DELROUTE:
+        return parseRoute(message.body);
+    case RTM_NEWADDR:
+    case RTM_DELADDR:
+        return parseAddress(message.body);
+    case RTM_NEWLINK:
+    case RTM_DELLINK:
+        return RouteMessage{.kind = RouteMessage::Kind::link};
+    default:
         return std::nullopt;
-    RouteMessage message;
-    message.sequence = taken->header.nlmsg_seq;
-    message.isListed = (taken->header.nlmsg_flags & NLM_F_MULTI) != 0;
-    message.isInterrupted = (taken->header.nlmsg_flags & NLM_F_DUMP_INTR) != 0;
-    parseBody(message, taken->header.nlmsg_type, taken->body);
-    return message;
+    }
 }
 
 } // namespace vantrix

@@ -3,27 +3,20 @@
 #include <string>
 #include <vector>
 
-#include "linux/kernel/netlink_socket.h"
 #include "linux/network/link_states.h"
-#include "linux/network/rtnetlink_messages.h"
+#include "linux/network/rtnetlink_subscriber.h"
 
 namespace vantrix {
 
-/// The links of this network namespace, as told by rtnetlink messages.
-class LinkTable {
+/// The links of this network namespace.
+class RtnetlinkLinks : public LinkStates, private RtnetlinkTable {
   public:
     /// `sys` is the root under which it is looked up, once per link and name, whether a link is hardware.
-    explicit LinkTable(std::string sys) : sys_(std::move(sys)) {}
+    RtnetlinkLinks(std::shared_ptr<RtnetlinkSubscriber> subscriber, std::string sys)
+        : RtnetlinkTable(std::move(subscriber)), sys_(std::move(sys)) {}
 
-    void put(const LinkMessage& message);
-    void remove(int index);
-
-    /// Around a full list: what was not put in between is gone.
-    void beginList();
-    void endList();
-
-    /// All zero for a link that was not told of.
-    LinkState state(std::string_view name, std::size_t place);
+    bool refresh() override { return subscriber().refresh() && hasList_; }
+    LinkState state(std::string_view name, std::size_t place) override;
 
   private:
     struct Entry {
@@ -33,31 +26,15 @@ class LinkTable {
         bool isListed = false;
     };
 
+    std::span<const List> lists() const override;
+    void beginLists() override;
+    void takeListed(const NetlinkMessage& message) override { takeNews(message); }
+    void endLists(bool areWhole) override;
+    bool takeNews(const NetlinkMessage& message) override;
     std::vector<Entry>::iterator find(int index);
 
     std::string sys_;
     std::vector<Entry> entries_; // takes on the order in which states are asked for
-};
-
-/// States of links from a subscription to the kernel's news, so that nothing is asked on a pass without news.
-class RtnetlinkLinks : public LinkStates {
-  public:
-    explicit RtnetlinkLinks(std::string sys);
-
-    bool refresh() override;
-    LinkState state(std::string_view name, std::size_t place) override { return table_.state(name, place); }
-
-  private:
-    bool takeNews();
-    bool askForList();
-    bool readList();
-    bool applyList(std::string_view datagram, bool& isComplete);
-    void apply(const LinkMessage& message);
-
-    LinkTable table_;
-    NetlinkSocket socket_;
-    std::uint32_t sequence_ = 0;
-    bool isListDue_ = true;
     bool hasList_ = false;
 };
 

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "linux/kernel/netlink_socket.h"
 #include "linux/network/default_routes.h"
 #include "linux/network/route_messages.h"
+#include "linux/network/rtnetlink_subscriber.h"
 
 namespace vantrix {
 
@@ -33,33 +33,28 @@ class RouteList {
     std::vector<Address> addresses_;
 };
 
-/// Default routes from a subscription to the kernel's news: on a pass without news nothing is asked. After news about
-/// default routes, addresses or links the short lists are read anew, as the kernel drops routes without a word when
-/// their link goes down.
-class RtnetlinkRoutes : public DefaultRoutes {
+/// Default routes of this network namespace. After news about default routes, addresses or links the short lists are
+/// read anew, as the kernel drops routes without a word when their link goes down.
+class RtnetlinkRoutes : public DefaultRoutes, private RtnetlinkTable {
   public:
-    RtnetlinkRoutes();
+    explicit RtnetlinkRoutes(std::shared_ptr<RtnetlinkSubscriber> subscriber) : RtnetlinkTable(std::move(subscriber)) {}
 
     bool refresh() override;
     std::uint64_t generation() const override { return generation_; }
     const DefaultRoute* primary(Family family) const override;
 
   private:
-    bool takeNews();
-    void startOver();
-    void noteNews(std::string_view datagram);
-    bool readLists();
-    bool readList(std::uint16_t type, unsigned char family);
-    void applyList(std::string_view datagram, bool& isComplete);
+    std::span<const List> lists() const override;
+    void beginLists() override { list_.clear(); }
+    void takeListed(const NetlinkMessage& message) override;
+    void endLists(bool areWhole) override;
+    bool takeNews(const NetlinkMessage& message) override;
     std::optional<DefaultRoute> routeOver(int index) const;
 
-    NetlinkSocket socket_;
     RouteList list_;
     std::optional<DefaultRoute> ipv4_;
     std::optional<DefaultRoute> ipv6_;
     std::uint64_t generation_ = 0;
-    std::uint32_t sequence_ = 0;
-    bool areListsDue_ = true;
 };
 
 } // namespace vantrix

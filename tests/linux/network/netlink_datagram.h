@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cerrno>
+#include <deque>
 #include <string>
 #include <string_view>
 
-#include <linux/netlink.h>
+#include "linux/kernel/netlink_records.h"
+#include "linux/kernel/netlink_socket.h"
 
 namespace vantrix {
 
@@ -37,5 +40,37 @@ inline std::string message(int type, const std::string& body, int flags = 0, std
     header.nlmsg_seq = sequence;
     return padded(bytesOf(header) + body);
 }
+
+/// A conversation with a kernel that tells what is in the queue.
+struct FakeNetlink : NetlinkChannel {
+    struct Turn {
+        Received kind;
+        std::string datagram;
+    };
+    std::deque<Turn> queue;
+    std::string current;
+    bool canOpen = true;
+    int closings = 0;
+
+    void tell(const std::string& datagram) { queue.push_back({Received::datagram, datagram}); }
+
+    bool open() override {
+        errno = EPERM;
+        return canOpen;
+    }
+    void close() override {
+        ++closings;
+        queue.clear();
+    }
+    Received receive(std::string_view& datagram) override {
+        if (queue.empty())
+            return Received::nothing;
+        const auto kind = queue.front().kind;
+        current = std::move(queue.front().datagram);
+        queue.pop_front();
+        datagram = current;
+        return kind;
+    }
+};
 
 } // namespace vantrix

@@ -1,7 +1,6 @@
 #include "linux/network/nl80211_reader.h"
 
 #include <cerrno>
-#include <deque>
 #include <map>
 #include <vector>
 
@@ -10,7 +9,6 @@
 
 #include <gtest/gtest.h>
 
-#include "linux/kernel/netlink_records.h"
 #include "linux/network/netlink_datagram.h"
 
 namespace vantrix {
@@ -117,30 +115,16 @@ TEST(Nl80211Messages, NoDamageHarms) {
 }
 
 /// A kernel that answers from a list of attributes for each command.
-struct FakeKernel : NetlinkChannel {
+struct FakeKernel : FakeNetlink {
     std::map<int, std::vector<std::string>> answers; // by NL80211_CMD_GET_…
     std::map<int, int> errors;
     std::map<int, int> questions;
     bool hasFamily = true;
     bool isMute = false;
-    bool canOpen = true;
-    int closings = 0;
-    std::deque<std::string> queue;
-    std::string current;
-
-    bool open() override {
-        errno = EPERM;
-        return canOpen;
-    }
-    void close() override {
-        ++closings;
-        queue.clear();
-    }
-
     bool send(std::string_view question) override {
         const auto taken = takeNetlinkMessage(question);
         const int command = recordAt<genlmsghdr>(taken->body)->cmd;
-        queue.push_back(message(family, "a stray answer", 0, taken->header.nlmsg_seq - 1));
+        tell(message(family, "a stray answer", 0, taken->header.nlmsg_seq - 1));
         if (!isMute)
             answer(taken->header, command);
         return true;
@@ -152,31 +136,21 @@ struct FakeKernel : NetlinkChannel {
         EXPECT_EQ(header.nlmsg_type, family);
         ++questions[command];
         if (const int error = errors[command]; error != 0)
-            return queue.push_back(message(NLMSG_ERROR, bytesOf(nlmsgerr{-error, {}}), 0, header.nlmsg_seq));
+            return tell(message(NLMSG_ERROR, bytesOf(nlmsgerr{-error, {}}), 0, header.nlmsg_seq));
         const bool isDump = (header.nlmsg_flags & NLM_F_DUMP) != 0;
         for (const std::string& attributes : answers[command])
-            queue.push_back(
-                message(family, bytesOf(genlmsghdr{}) + attributes, isDump ? NLM_F_MULTI : 0, header.nlmsg_seq));
+            tell(message(family, bytesOf(genlmsghdr{}) + attributes, isDump ? NLM_F_MULTI : 0, header.nlmsg_seq));
         if (isDump)
-            queue.push_back(message(NLMSG_DONE, bytesOf(0), NLM_F_MULTI, header.nlmsg_seq));
+            tell(message(NLMSG_DONE, bytesOf(0), NLM_F_MULTI, header.nlmsg_seq));
     }
 
     void answerFamily(std::uint32_t sequence) {
         if (!hasFamily)
-            return queue.push_back(message(NLMSG_ERROR, bytesOf(nlmsgerr{-ENOENT, {}}), 0, sequence));
-        queue.push_back(message(GENL_ID_CTRL,
-                                bytesOf(genlmsghdr{CTRL_CMD_NEWFAMILY, 2, 0}) +
-                                    numberAttribute(CTRL_ATTR_FAMILY_ID, static_cast<std::uint16_t>(family)),
-                                0, sequence));
-    }
-
-    Received receive(std::string_view& datagram) override {
-        if (queue.empty())
-            return Received::nothing;
-        current = std::move(queue.front());
-        queue.pop_front();
-        datagram = current;
-        return Received::datagram;
+            return tell(message(NLMSG_ERROR, bytesOf(nlmsgerr{-ENOENT, {}}), 0, sequence));
+        tell(message(GENL_ID_CTRL,
+                     bytesOf(genlmsghdr{CTRL_CMD_NEWFAMILY, 2, 0}) +
+                         numberAttribute(CTRL_ATTR_FAMILY_ID, static_cast<std::uint16_t>(family)),
+                     0, sequence));
     }
 };
 

@@ -1,0 +1,369 @@
+#include <chrono>
+#include <cstdlib>
+#include <map>
+
+#include <sched.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <gtest/gtest.h>
+
+#include "linux/network/link_messages.h"
+#include "linux/network/netlink_datagram.h"
+#include "linux/network/rtnetlink_links.h"
+#include "linux/network/rtnetlink_routes.h"
+#include "linux/temporary_folder.h"
+
+namespace vantrix {
+namespace {
+
+using Family = DefaultRoutes::Family;
+using Received = NetlinkChannel::Received;
+
+rtmsg defaultRoute() {
+    rtmsg route{};
+    route.rtm_family = AF_INET;
+    route.rtm_table = RT_TABLE_MAIN;
+    route.rtm_type = RTN_UNICAST;
+    return route;
+}
+
+std::string overLink(int index, std::uint32_t metric = 100) {
+    return numberAttribute(RTA_OIF, index) + numberAttribute(RTA_PRIORITY, metric);
+}
+
+std::string hop(int index, int flags) {
+    rtnexthop hop{};
+    hop.rtnh_len = sizeof hop + 8;
+    hop.rtnh_ifindex = index;
+    hop.rtnh_flags = static_cast<unsigned char>(flags);
+    return bytesOf(hop) + numberAttribute(RTA_GATEWAY, 0x0100000a);
+}
+
+TEST(ParseRouteMessage, KnowsWhichRoutesLeadSomewhere) {
+    struct Row {
+        const char* name;
+        void (*change)(rtmsg&);
+        std::string attributes;
+        int index; ///< -1: not told of
+    };
+    const Row rows[] = {
+        {"plain", [](rtmsg&) {}, overLink(2), 2},
+        {"to a net", [](rtmsg& r) { r.rtm_dst_len = 24; }, overLink(2), -1},
+        {"of another table", [](rtmsg& r) { r.rtm_table = 51; }, overLink(2), -1},
+        {"of a table past 255", [](rtmsg&) {}, numberAttribute(RTA_TABLE, 51820) + overLink(2), -1},
+        {"main table as an attribute", [](rtmsg& r) { r.rtm_table = RT_TABLE_COMPAT; },
+         numberAttribute(RTA_TABLE, RT_TABLE_MAIN) + overLink(2), 2},
+        {"blackhole", [](rtmsg& r) { r.rtm_type = RTN_BLACKHOLE; }, overLink(1), 0},
+        {"unreachable", [](rtmsg& r) { r.rtm_type = RTN_UNREACHABLE; }, overLink(1), 0},
+        {"no carrier", [](rtmsg& r) { r.rtm_flags = RTNH_F_LINKDOWN; }, overLink(2), 0},
+        {"dead", [](rtmsg& r) { r.rtm_flags = RTNH_F_DEAD; }, overLink(2), 0},
+        {"cached", [](rtmsg& r) { r.rtm_flags = RTM_F_CLONED; }, overLink(2), -1},
+        {"several hops, the first unplugged", [](rtmsg&) {},
+         attribute(RTA_MULTIPATH, hop(3, RTNH_F_LINKDOWN) + hop(4, 0)), 4},
+        {"several hops, all unplugged", [](rtmsg&) {},
+         attribute(RTA_MULTIPATH, hop(3, RTNH_F_LINKDOWN) + hop(4, RTNH_F_DEAD)), 0},
+    };
+    for (const Row& row : rows) {
+        rtmsg route = defaultRoute();
+        row.change(route);
+        const std::string bytes = message(RTM_NEWROUTE, bytesOf(route) + row.attributes);
+        std::string_view datagram = bytes;
+        const auto parsed = parseRouteMessage(*takeNetlinkMessage(datagram));
+        EXPECT_EQ(parsed ? parsed->index : -1, row.index) << row.name;
+    }
+}
+
+std::string linkMessage(int type, int index, unsigned flags, const std::string& name, int messageFlags = 0,
+                        std::uint32_t sequence = 0) {
+    ifinfomsg link{};
+    link.ifi_index = index;
+    link.ifi_flags = flags;
+    const std::string oddLength = attribute(IFLA_MTU, "\1\2");
+    return message(type, bytesOf(link) + oddLength + (name.empty() ? "" : attribute(IFLA_IFNAME, name + '\0')),
+                   messageFlags, sequence);
+}
+
+std::string addressMessage(int index, int messageFlags = 0, std::uint32_t sequence = 0) {
+    // On a point-to-point link the own end is the local one.
+    return message(RTM_NEWADDR,
+                   bytesOf(ifaddrmsg{AF_INET, 32, 0, 0, static_cast<std::uint32_t>(index)}) +
+                       numberAttribute(IFA_LOCAL, 0x0200000a) + numberAttribute(IFA_ADDRESS, 0x0100000a),
+                   messageFlags, sequence);
+}
+
+TEST(RtnetlinkMessages, EndAtEveryCutAndWrongLength) {
+    const std::string texts[] = {
+        linkMessage(RTM_NEWLINK, 7, 0x41, "eth0"), addressMessage(7),
+        message(RTM_NEWROUTE, bytesOf(defaultRoute()) + overLink(2) + attribute(RTA_MULTIPATH, hop(3, 1) + hop(4, 0)))};
+    for (const std::string& whole : texts) {
+        for (std::size_t place = 0; place < whole.size(); ++place) {
+            const std::string cut = whole.substr(0, place);
+            std::string_view datagram = cut;
+            EXPECT_FALSE(takeNetlinkMessage(datagram)) << place;
+            for (const char value : {'\0', '\1', '\5', '\x7f', '\xff'}) {
+                std::string bytes = whole;
+                bytes[place] = value;
+                datagram = bytes;
+                RouteList list;
+                while (const auto taken = takeNetlinkMessage(datagram)) {
+                    EXPECT_LT(parseLinkMessage(*taken).value_or(LinkMessage()).name.size(), 16u);
+                    list.add(parseRouteMessage(*taken).value_or(RouteMessage()));
+                }
+                EXPECT_GE(list.bestLink(AF_INET), 0);
+            }
+        }
+    }
+}
+
+/// A kernel with links and one default route over the loopback, which exists on any machine.
+struct FakeKernel : FakeNetlink {
+    std::map<int, std::string> links = {{1, "lo"}, {2, "eth0"}};
+    std::string questions; ///< "L" links, "4" and "6" routes, "A" addresses
+    std::map<char, int> refusals;
+    int interruptions = 0;
+
+    bool send(std::string_view question) override {
+        const auto taken = takeNetlinkMessage(question);
+        const char kind = kindOf(*taken);
+        const auto sequence = taken->header.nlmsg_seq;
+        const int flags = NLM_F_MULTI | (interruptions > 0 && interruptions-- > 0 ? NLM_F_DUMP_INTR : 0);
+        questions += kind;
+        tell("");                                                              // from somebody else
+        tell(linkMessage(RTM_DELLINK, 1, 0, "lo", NLM_F_MULTI, sequence - 1)); // of another list
+        if (refusals[kind] != 0) {
+            tell(message(NLMSG_ERROR, bytesOf(nlmsgerr{-refusals[kind], {}}), 0, sequence));
+            return true;
+        }
+        if (kind == 'L') {
+            for (const auto& [index, name] : links)
+                tell(linkMessage(RTM_NEWLINK, index, 0x41, name, flags, sequence));
+        } else if (kind == '4') {
+            tell(message(RTM_NEWROUTE, bytesOf(defaultRoute()) + overLink(1), flags, sequence));
+        } else if (kind == 'A') {
+            tell(addressMessage(1, flags, sequence));
+        }
+        tell(message(NLMSG_DONE, bytesOf(0), flags, sequence));
+        return true;
+    }
+
+    static char kindOf(const NetlinkMessage& question) {
+        if (question.header.nlmsg_type == RTM_GETLINK)
+            return 'L';
+        if (question.header.nlmsg_type == RTM_GETADDR)
+            return 'A';
+        return recordAt<unsigned char>(question.body) == AF_INET6 ? '6' : '4';
+    }
+};
+
+struct RtnetlinkTest : ::testing::Test {
+    TemporaryFolder folder;
+    FakeKernel* kernel = new FakeKernel;
+    std::shared_ptr<RtnetlinkSubscriber> subscriber =
+        std::make_shared<RtnetlinkSubscriber>(std::unique_ptr<NetlinkChannel>(kernel));
+    std::unique_ptr<RtnetlinkLinks> links = std::make_unique<RtnetlinkLinks>(subscriber, folder.path(""));
+    RtnetlinkRoutes routes{subscriber};
+
+    RtnetlinkTest() { folder.write("class/net/eth0/device/vendor", "1\n"); }
+
+    /// What is asked on a pass.
+    std::string pass() {
+        kernel->questions.clear();
+        EXPECT_TRUE(links->refresh());
+        EXPECT_TRUE(routes.refresh());
+        return kernel->questions;
+    }
+    bool has(const char* name) { return links->state(name, 0).flags != 0; }
+};
+
+TEST_F(RtnetlinkTest, AsksOnceAndThenFollowsTheNews) {
+    EXPECT_EQ(pass(), "L46A");
+    EXPECT_EQ(pass(), "");
+    EXPECT_TRUE(links->state("eth0", 1).isHardware);
+    EXPECT_FALSE(links->state("lo", 9).isHardware);
+    ASSERT_NE(routes.primary(Family::ipv4), nullptr);
+    EXPECT_EQ(routes.primary(Family::ipv4)->ipv4Address, "10.0.0.2");
+    EXPECT_EQ(routes.primary(Family::ipv6), nullptr);
+    kernel->tell(linkMessage(RTM_NEWLINK, 2, 0x1, "")); // news need not repeat the name
+    EXPECT_EQ(pass(), "46A");
+    EXPECT_EQ(links->state("eth0", 1).flags, 0x1u);
+    kernel->tell(linkMessage(RTM_NEWLINK, 2, 0x1, "wan") + linkMessage(RTM_NEWLINK, 3, 0x1, "") +
+                 linkMessage(RTM_DELLINK, 99, 0, ""));
+    pass();
+    EXPECT_FALSE(has("eth0"));
+    EXPECT_TRUE(has("wan"));
+    EXPECT_FALSE(links->state("wan", 1).isHardware);
+    // A port that leaves its bridge is told of like a link that goes, but in another family.
+    ifinfomsg port{};
+    port.ifi_family = AF_BRIDGE;
+    port.ifi_index = 2;
+    kernel->tell(message(RTM_DELLINK, bytesOf(port)));
+    pass();
+    EXPECT_TRUE(has("wan"));
+    kernel->tell(linkMessage(RTM_DELLINK, 2, 0, "wan"));
+    pass();
+    EXPECT_FALSE(has("wan"));
+    kernel->tell(message(RTM_NEWROUTE, bytesOf(defaultRoute()) + overLink(2)));
+    EXPECT_EQ(pass(), "46A");
+}
+
+TEST_F(RtnetlinkTest, LostNewsMeanThatAllIsAskedAnew) {
+    pass();
+    kernel->links.erase(2);
+    kernel->queue.push_back({Received::lost, ""});
+    EXPECT_EQ(pass(), "L46A");
+    EXPECT_FALSE(has("eth0"));
+    EXPECT_TRUE(has("lo"));
+}
+
+TEST_F(RtnetlinkTest, InterruptedListsAreReadAgainAndDropNothing) {
+    pass();
+    kernel->links.erase(2);
+    kernel->queue.push_back({Received::lost, ""});
+    kernel->interruptions = 2;
+    EXPECT_EQ(pass(), "LLL46A");
+    EXPECT_FALSE(has("eth0"));
+    kernel->links[2] = "eth0";
+    kernel->queue.push_back({Received::lost, ""});
+    pass();
+    kernel->links.erase(2);
+    kernel->queue.push_back({Received::lost, ""});
+    kernel->interruptions = 1000;
+    EXPECT_EQ(pass(), "LLL46A46A46ALLL46A46A46A"); // by each of the two
+    EXPECT_TRUE(has("eth0"));
+    EXPECT_EQ(routes.primary(Family::ipv4)->interface, "lo");
+    kernel->interruptions = 0;
+    EXPECT_EQ(pass(), "L46A");
+    EXPECT_FALSE(has("eth0"));
+}
+
+TEST_F(RtnetlinkTest, AListThatTheKernelDoesNotKnowIsEmpty) {
+    kernel->refusals['6'] = EAFNOSUPPORT;
+    EXPECT_EQ(pass(), "L46A");
+    EXPECT_EQ(kernel->closings, 0);
+    EXPECT_NE(routes.primary(Family::ipv4), nullptr);
+}
+
+TEST_F(RtnetlinkTest, ARefusalSparesTheOtherTable) {
+    kernel->refusals['4'] = EPERM;
+    EXPECT_TRUE(links->refresh());
+    EXPECT_FALSE(routes.refresh());
+    EXPECT_GT(kernel->closings, 0);
+    kernel->refusals.clear();
+    kernel->refusals['L'] = EPERM;
+    EXPECT_TRUE(links->refresh()); // as of the first list
+    EXPECT_TRUE(has("eth0"));
+}
+
+TEST_F(RtnetlinkTest, WithoutAnAnswerRoutesStandAndLinksAreLearntInAnotherWay) {
+    pass();
+    kernel->queue.push_back({Received::failed, ""});
+    EXPECT_FALSE(links->refresh());
+    EXPECT_EQ(kernel->closings, 1);
+    links.reset(); // nobody hands it anything any more
+    kernel->canOpen = false;
+    EXPECT_TRUE(routes.refresh());
+    EXPECT_NE(routes.primary(Family::ipv4), nullptr);
+    kernel->canOpen = true;
+    kernel->questions.clear();
+    EXPECT_TRUE(routes.refresh());
+    EXPECT_EQ(kernel->questions, "46A");
+}
+
+/// Links and default routes of a network that this process has for itself.
+class OwnNetwork {
+  public:
+    explicit OwnNetwork(const std::string& sys) : links_(subscriber_, sys), routes_(subscriber_) {}
+
+    /// Runs `commands`, then waits until the default routes and the links are those, as "eth0 10.0.0.2 / eth1".
+    bool becomes(const std::string& commands, const std::string& expected) {
+        if (std::system(("set -e; " + commands).c_str()) != 0)
+            _exit(77);
+        // The kernel settles carriers in the background.
+        const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+        while (shown() != expected) {
+            if (std::chrono::steady_clock::now() > deadline) {
+                std::fprintf(stderr, "%s: \"%s\", not \"%s\"\n", commands.c_str(), shown().c_str(), expected.c_str());
+                return false;
+            }
+            sched_yield();
+        }
+        return true;
+    }
+
+  private:
+    std::string shown() {
+        if (!links_.refresh() || !routes_.refresh())
+            return "not working";
+        std::string text = route(Family::ipv4) + " / " + route(Family::ipv6) + ';';
+        for (const char* name : {"lo", "eth0", "lan0", "b150"}) {
+            const auto [isHardware, flags] = links_.state(name, 1);
+            if ((flags & 0x41) == 0x41)
+                text += ' ' + std::string(name) + (isHardware ? "!" : "");
+        }
+        return text;
+    }
+
+    std::string route(Family family) {
+        const DefaultRoute* route = routes_.primary(family);
+        if (route == nullptr)
+            return "none";
+        return route->interface + (route->ipv4Address ? ' ' + *route->ipv4Address : std::string());
+    }
+
+    std::shared_ptr<RtnetlinkSubscriber> subscriber_ = std::make_shared<RtnetlinkSubscriber>();
+    RtnetlinkLinks links_;
+    RtnetlinkRoutes routes_;
+};
+
+/// Exits with the number of the step that failed, 77 where the machine forbids such namespaces.
+int followOwnNetwork(const std::string& sys) {
+    const std::string user = "0 " + std::to_string(getuid()) + " 1";
+    if (unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0 || !(std::ofstream("/proc/self/uid_map") << user << std::flush))
+        return 77;
+    OwnNetwork network(sys);
+    const std::pair<const char*, const char*> steps[] = {
+        {"true", "none / none;"},
+        {"for n in 0 1; do ip link add eth$n type veth peer name peer$n; ip link set eth$n up; ip link set peer$n up;"
+         " ip addr add 10.0.$n.2/24 dev eth$n; done; ip route add default via 10.0.0.1 metric 200",
+         "eth0 10.0.0.2 / none; eth0!"},
+        {"ip route add default via 10.0.1.1 dev eth1 metric 100; ip link set lo up", "eth1 10.0.1.2 / none; lo eth0!"},
+        {"ip route add blackhole default metric 50", "eth1 10.0.1.2 / none; lo eth0!"},
+        {"ip link set peer1 down", "eth0 10.0.0.2 / none; lo eth0!"}, // the cable of eth1 is out
+        {"ip link set peer1 up", "eth1 10.0.1.2 / none; lo eth0!"},
+        {"ip link set eth1 down", "eth0 10.0.0.2 / none; lo eth0!"}, // takes its route along without a word
+        {"ip -6 addr add fd00::2/64 dev eth0 nodad; ip -6 route add default via fd00::1 dev eth0",
+         "eth0 10.0.0.2 / eth0 10.0.0.2; lo eth0!"},
+        {"ip addr add 10.0.0.9/24 dev eth0; ip addr del 10.0.0.2/24 dev eth0", "none / eth0; lo eth0!"},
+        {"ip addr add 10.0.0.7/24 dev eth0", "none / eth0 10.0.0.7; lo eth0!"},
+        {"ip link set eth0 name lan0", "none / lan0 10.0.0.7; lo lan0"},
+        {"(for i in $(seq 150); do echo link add a$i type veth peer name b$i; done; echo link set a150 up;"
+         " echo link set b150 up; echo route add default via 10.0.0.1) | ip -b -",
+         "lan0 10.0.0.7 / lan0 10.0.0.7; lo lan0 b150"}, // more news than the socket holds
+        {"ip link del lan0", "none / none; lo b150"},
+    };
+    int number = 1;
+    for (const auto& [commands, expected] : steps) {
+        if (!network.becomes(commands, expected))
+            return number;
+        ++number;
+    }
+    return 0;
+}
+
+TEST(Rtnetlink, FollowsTheKernel) {
+    const TemporaryFolder folder;
+    folder.write("class/net/eth0/device/vendor", "1\n");
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(followOwnNetwork(folder.path("")));
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFEXITED(status));
+    if (WEXITSTATUS(status) == 77)
+        GTEST_SKIP() << "no network namespaces here";
+    EXPECT_EQ(WEXITSTATUS(status), 0);
+}
+
+} // namespace
+} // namespace vantrix

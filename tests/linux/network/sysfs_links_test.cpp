@@ -1,0 +1,45 @@
+#include "linux/network/sysfs_links.h"
+
+#include <gtest/gtest.h>
+
+#include "linux/temporary_folder.h"
+
+namespace vantrix {
+namespace {
+
+TEST(SysfsLinks, DerivesRunningFromTheOperationalState) {
+    struct Row {
+        const char* name;
+        const char* flags;
+        const char* operState; // empty: no such file
+        const char* carrier;
+        std::uint32_t expected;
+    };
+    const Row rows[] = {
+        {"up", "0x1003\n", "up\n", "1\n", 0x1043},
+        {"driver that does not tell", "0x1003\n", "unknown\n", "", 0x1043},
+        {"unplugged", "0x1003\n", "down\n", "0\n", 0x1003},
+        {"not associated yet", "0x1003\n", "dormant\n", "1\n", 0x1003},
+        {"switched off", "0x1002\n", "up\n", "1\n", 0x1002},
+        {"carrier alone", "0x1003\n", "", "1\n", 0x1043},
+        {"no carrier", "0x1003\n", "", "0\n", 0x1003},
+        {"garbled flags", "1003\n", "up\n", "1\n", 0},
+        {"flags cut short", "0x10", "up\n", "1\n", 0},
+        {"flags past 32 bits", "0x100000003\n", "up\n", "1\n", 0},
+    };
+    for (const Row& row : rows) {
+        const TemporaryFolder folder;
+        folder.write("class/net/eth0/device/vendor", "1\n");
+        folder.write("class/net/eth0/flags", row.flags);
+        if (*row.operState != '\0')
+            folder.write("class/net/eth0/operstate", row.operState);
+        folder.write("class/net/eth0/carrier", row.carrier);
+        SysfsLinks links(folder.path(""));
+        EXPECT_EQ(links.state("eth0", 0).flags, row.expected) << row.name;
+        EXPECT_FALSE(links.state("../net/eth0", 0).isHardware);
+        EXPECT_TRUE(links.state("eth0", 3).isHardware);
+    }
+}
+
+} // namespace
+} // namespace vantrix
