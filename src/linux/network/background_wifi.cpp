@@ -2,96 +2,63 @@
 
 #include <condition_variable>
 #include <mutex>
-#include <system_error>
 
 namespace vantrix {
 
-struct BackgroundWiFi::Shared {
-    std::unique_ptr<WiFiReader> reader; // the thread's alone once it runs
+struct BackgroundWiFi::Questions : Background::Job {
+    explicit Questions(std::unique_ptr<WiFiReader> source) : reader(std::move(source)) {}
+
+    /// Answers the question that was asked last, until there is no newer one.
+    void perform() override {
+        std::unique_lock lock(mutex);
+        while (isAsked) {
+            const int link = wantedLink;
+            isAsked = false;
+            lock.unlock();
+            reader->read(link, reading);
+            lock.lock();
+            answeredLink = link;
+            std::swap(answer, reading);
+        }
+        isUnderWay = false;
+        answered.notify_all();
+    }
+
+    std::unique_ptr<WiFiReader> reader; // for the performing thread alone, like `reading`
+    WiFiReading reading;
     std::mutex mutex;
-    std::condition_variable asked;
     std::condition_variable answered;
     bool isAsked = false;
-    bool isReading = false;
-    bool isStopping = false;
+    bool isUnderWay = false;
     int wantedLink = 0;
     int answeredLink = 0;
     WiFiReading answer;
 };
 
-BackgroundWiFi::BackgroundWiFi(std::unique_ptr<WiFiReader> reader) : shared_(std::make_shared<Shared>()) {
-    shared_->reader = std::move(reader);
-}
-
-BackgroundWiFi::~BackgroundWiFi() {
-    if (!thread_.joinable())
-        return;
-    bool isBusy = false;
-    {
-        const std::lock_guard lock(shared_->mutex);
-        shared_->isStopping = true;
-        isBusy = shared_->isReading;
-    }
-    shared_->asked.notify_one();
-    // A driver that hangs may not keep the program from ending.
-    if (isBusy)
-        thread_.detach();
-    else
-        thread_.join();
-}
+BackgroundWiFi::BackgroundWiFi(std::unique_ptr<WiFiReader> reader)
+    : questions_(std::make_shared<Questions>(std::move(reader))) {}
 
 const WiFiReading& BackgroundWiFi::read(int link) {
-    if (!start()) {
-        current_.fail("no thread for nl80211");
-        return current_;
-    }
-    std::unique_lock lock(shared_->mutex);
+    std::unique_lock lock(questions_->mutex);
     const bool isFirst = link_ != link;
     link_ = link;
     if (isFirst)
-        shared_->answeredLink = 0;
-    unanswered_ = !isFirst && (shared_->isAsked || shared_->isReading) ? unanswered_ + 1 : 0;
-    shared_->wantedLink = link;
-    shared_->isAsked = true;
-    shared_->asked.notify_one();
+        questions_->answeredLink = 0;
+    unanswered_ = !isFirst && questions_->isUnderWay ? unanswered_ + 1 : 0;
+    questions_->wantedLink = link;
+    questions_->isAsked = true;
+    if (!questions_->isUnderWay && !background_.run(questions_)) {
+        current_.fail("no thread for nl80211");
+        return current_;
+    }
+    questions_->isUnderWay = true;
     if (isFirst)
-        shared_->answered.wait_for(lock, patience, [&] { return !shared_->isAsked && !shared_->isReading; });
-    if (shared_->answeredLink == link && unanswered_ < questionsUntilStale)
-        current_ = shared_->answer;
+        questions_->answered.wait_for(lock, patience, [&] { return !questions_->isUnderWay; });
+    if (questions_->answeredLink == link && unanswered_ < questionsUntilStale)
+        current_ = questions_->answer;
     else
         current_.fail("nl80211 does not answer");
     return current_;
-}
-
-bool BackgroundWiFi::start() {
-    if (thread_.joinable())
-        return true;
-    try {
-        thread_ = std::thread([shared = shared_] { answerQuestions(*shared); });
-    } catch (const std::system_error&) {
-        return false;
-    }
-    return true;
-}
-
-void BackgroundWiFi::answerQuestions(Shared& shared) {
-    WiFiReading reading;
-    std::unique_lock lock(shared.mutex);
-    for (;;) {
-        shared.asked.wait(lock, [&] { return shared.isAsked || shared.isStopping; });
-        if (shared.isStopping)
-            return;
-        const int link = shared.wantedLink;
-        shared.isAsked = false;
-        shared.isReading = true;
-        lock.unlock();
-        shared.reader->read(link, reading);
-        lock.lock();
-        shared.isReading = false;
-        shared.answeredLink = link;
-        std::swap(shared.answer, reading);
-        shared.answered.notify_all();
-    }
 }
 
 } // namespace vantrix

@@ -2,14 +2,13 @@
 
 #include <chrono>
 #include <memory>
-#include <thread>
 
+#include "linux/kernel/background_thread.h"
 #include "linux/network/wifi_reader.h"
 
 namespace vantrix {
 
-/// Reads Wi-Fi details on a thread of its own, as a driver may have to wait for its device. The thread starts with the
-/// first question: machines without Wi-Fi have none.
+/// Reads Wi-Fi details in the background, as a driver may have to wait for its device.
 class BackgroundWiFi {
   public:
     /// How long the first question about a link waits for its answer. Others take the last one.
@@ -18,9 +17,6 @@ class BackgroundWiFi {
     static constexpr int questionsUntilStale = 5;
 
     explicit BackgroundWiFi(std::unique_ptr<WiFiReader> reader);
-    ~BackgroundWiFi();
-    BackgroundWiFi(const BackgroundWiFi&) = delete;
-    BackgroundWiFi& operator=(const BackgroundWiFi&) = delete;
 
     /// The latest reading of a link, whose next one is asked for by this; holds until the next call. One caller at a
     /// time.
@@ -30,13 +26,10 @@ class BackgroundWiFi {
     void forget() { link_ = 0; }
 
   private:
-    struct Shared;
+    struct Questions;
 
-    static void answerQuestions(Shared& shared);
-    bool start();
-
-    std::shared_ptr<Shared> shared_; // outlives this while a driver hangs
-    std::thread thread_;
+    std::shared_ptr<Questions> questions_; // shared with a thread that may outlive this
+    BackgroundThread background_;
     WiFiReading current_;
     int link_ = 0;
     int unanswered_ = 0;
