@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "linux/graphics/gpu_names.h"
+#include "linux/kernel/kernel_tree.h"
 
 namespace vantrix {
+
 KernelGPU::KernelGPU(std::string card, std::string device)
     : card_(std::move(card)), device_(std::move(device)), power_(device_), rest_(device_) {}
 
@@ -30,16 +32,12 @@ std::optional<double> KernelGPU::percent(double now) {
 LinuxGPUSource::LinuxGPUSource(const std::string& sys, std::unique_ptr<Clock> clock,
                                std::unique_ptr<NvidiaLibrary> library, int listingPeriod,
                                std::shared_ptr<Background> background)
-    : clock_(std::move(clock)), cards_(sys + "/class/drm", listingPeriod),
-      frequencies_(sys + "/class/devfreq", listingPeriod),
-      nvidiaDevices_(sys + "/bus/pci/drivers/nvidia", listingPeriod),
+    : clock_(std::move(clock)),
+      schedule_({sys + "/class/drm", sys + "/class/devfreq", sys + "/bus/pci/drivers/nvidia"}, {listingPeriod, 0}),
       nvidiaGPUs_(std::move(library), std::move(background)) {}
 
 std::optional<std::span<const Properties>> LinuxGPUSource::read() {
-    const bool areCardsNew = cards_.refresh();
-    const bool areFrequenciesNew = frequencies_.refresh();
-    const bool areNvidiaDevicesNew = nvidiaDevices_.refresh();
-    if (areCardsNew || areFrequenciesNew || areNvidiaDevicesNew)
+    if (schedule_.isDue())
         findGPUs();
     const double now = clock_->uptime();
     loads_.clear();
@@ -56,20 +54,24 @@ std::optional<std::span<const Properties>> LinuxGPUSource::read() {
 }
 
 void LinuxGPUSource::findGPUs() {
+    const KernelFolder& cards = schedule_.folders()[0];
+    const KernelFolder& frequencies = schedule_.folders()[1];
+    const KernelFolder& nvidiaDevices = schedule_.folders()[2];
     std::vector<KernelGPU> found;
-    for (const std::string& name : cards_.names()) {
+    for (const std::string& name : cards.names()) {
+        const std::string card = pathBelow(cards.path(), name);
         if (isGPUCard(name))
-            findKernelGPU(cards_.path() + '/' + name, cards_.path() + '/' + name + "/device", found);
+            findKernelGPU(card, card + "/device", found);
     }
-    for (const std::string& name : frequencies_.names()) {
+    for (const std::string& name : frequencies.names()) {
         if (isGPUFrequency(name))
-            findKernelGPU("", frequencies_.path() + '/' + name + "/device", found);
+            findKernelGPU("", pathBelow(frequencies.path(), name) + "/device", found);
     }
     gpus_ = std::move(found);
     std::vector<std::string> addresses;
-    std::copy_if(nvidiaDevices_.names().begin(), nvidiaDevices_.names().end(), std::back_inserter(addresses),
+    std::copy_if(nvidiaDevices.names().begin(), nvidiaDevices.names().end(), std::back_inserter(addresses),
                  isPCIAddress);
-    nvidiaGPUs_.set(nvidiaDevices_.path(), std::move(addresses));
+    nvidiaGPUs_.set(nvidiaDevices.path(), std::move(addresses));
 }
 
 /// One that is known already is kept with what was counted of it: most of what comes and goes are its screens.

@@ -8,7 +8,7 @@
 #include "linux/graphics/gpu_power.h"
 #include "linux/graphics/nvidia_gpus.h"
 #include "linux/kernel/background_thread.h"
-#include "linux/kernel/kernel_folder.h"
+#include "linux/kernel/rescan_schedule.h"
 #include "samplers/gpu_sampler.h"
 #include "support/clock.h"
 
@@ -42,7 +42,7 @@ class KernelGPU {
 class LinuxGPUSource : public GPUSampler::Source {
   public:
     LinuxGPUSource(const std::string& sys, std::unique_ptr<Clock> clock, std::unique_ptr<NvidiaLibrary> library,
-                   int listingPeriod = KernelFolder::usualPeriod,
+                   int listingPeriod = RescanSchedule::quick.passesPerListing,
                    std::shared_ptr<Background> background = std::make_shared<BackgroundThread>());
 
     std::optional<std::span<const Properties>> read() override;
@@ -55,9 +55,7 @@ class LinuxGPUSource : public GPUSampler::Source {
     void findKernelGPU(const std::string& card, const std::string& device, std::vector<KernelGPU>& found);
 
     std::unique_ptr<Clock> clock_;
-    KernelFolder cards_;
-    KernelFolder frequencies_;
-    KernelFolder nvidiaDevices_;
+    RescanSchedule schedule_;
     std::vector<KernelGPU> gpus_;
     NvidiaGPUs nvidiaGPUs_;
     std::vector<std::optional<double>> loads_;

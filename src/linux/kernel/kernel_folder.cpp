@@ -2,13 +2,6 @@
 
 namespace vantrix {
 
-bool KernelFolder::refresh() {
-    if (passesToListing_-- > 0)
-        return false;
-    passesToListing_ = period_ - 1;
-    return list();
-}
-
 bool KernelFolder::list() {
     if (stream_)
         rewinddir(stream_.get());

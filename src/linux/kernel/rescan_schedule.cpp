@@ -1,48 +1,34 @@
 #include "linux/kernel/rescan_schedule.h"
 
-#include <functional>
-#include <memory>
-#include <string_view>
-
-#include <dirent.h>
-
 namespace vantrix {
-namespace {
 
-constexpr int passesBetweenComparisons = 60;
-constexpr int leastPassesBetweenSearches = 5;
-constexpr int comparisonsBetweenSearches = 10; // a device may be named late, or have been misread
-
-} // namespace
+RescanSchedule::RescanSchedule(std::vector<std::string> folders, Pace pace) : pace_(pace) {
+    for (std::string& folder : folders)
+        folders_.emplace_back(std::move(folder));
+}
 
 bool RescanSchedule::isDue() {
+    constexpr int passesPerFailure = 5;
     ++passes_;
-    const bool isFailureDue = hasFailure_ && passes_ >= leastPassesBetweenSearches;
-    if (hasSearched_ && !isFailureDue && passes_ < passesBetweenComparisons)
+    const bool isFailureDue = hasFailure_ && passes_ >= passesPerFailure;
+    if (!isFirst_ && !isFailureDue && passes_ < pace_.passesPerListing)
         return false;
     passes_ = 0;
-    const auto names = listing();
-    const bool isOld = ++comparisons_ >= comparisonsBetweenSearches;
-    const bool isSearchDue = !hasSearched_ || names != lastListing_ || isFailureDue || isOld;
+    ++listings_;
+    const bool isChanged = list();
+    const bool isSearchDue = isChanged || isFirst_ || isFailureDue || listings_ == pace_.listingsPerSearch;
     if (isSearchDue)
-        comparisons_ = 0;
-    lastListing_ = names;
-    hasSearched_ = true;
+        listings_ = 0;
+    isFirst_ = false;
     hasFailure_ = false;
     return isSearchDue;
 }
 
-/// A sum over the names, which the folder gives in no order. Nothing is kept or allocated of them.
-std::uint64_t RescanSchedule::listing() const {
-    std::uint64_t sum = 0;
-    for (const std::string& folder : folders_) {
-        const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
-        if (!stream)
-            continue;
-        while (const dirent* entry = readdir(stream.get()))
-            sum += std::hash<std::string_view>()(entry->d_name) | 1;
-    }
-    return sum;
+bool RescanSchedule::list() {
+    bool isChanged = false;
+    for (KernelFolder& folder : folders_)
+        isChanged = folder.list() || isChanged;
+    return isChanged;
 }
 
 } // namespace vantrix

@@ -1,17 +1,27 @@
 #pragma once
 
-#include <cstdint>
 #include <string>
 #include <vector>
 
+#include "linux/kernel/kernel_folder.h"
+
 namespace vantrix {
 
-/// When devices are looked for again. Every 60 passes the names in their folders are compared with those of the last
-/// search, and every 600 they are searched anyway; a sensor that stops answering asks for one at once, though not more
-/// often than every 5 passes.
+/// When devices are looked for again. Their folders are listed every so many passes, since the kernel's class folders
+/// tell nobody of a new device; a sensor that stops answering asks for that at once, though not more often than every
+/// 5 passes.
 class RescanSchedule {
   public:
-    explicit RescanSchedule(std::vector<std::string> folders) : folders_(std::move(folders)) {}
+    struct Pace {
+        int passesPerListing = 0;
+        int listingsPerSearch = 0; ///< that often is searched though no name is new; 0 for never
+    };
+    /// For devices that may be named late, or be misread.
+    static constexpr Pace usual{60, 10};
+    /// For those that people plug in and watch for. Listing costs as much as reading several files.
+    static constexpr Pace quick{5, 0};
+
+    explicit RescanSchedule(std::vector<std::string> folders, Pace pace = usual);
 
     /// Asked once at the beginning of each pass; true on the first. Whoever is told true searches.
     bool isDue();
@@ -19,14 +29,17 @@ class RescanSchedule {
     /// Tells that a sensor that used to answer does not.
     void noteFailure() { hasFailure_ = true; }
 
-  private:
-    std::uint64_t listing() const;
+    /// As they were last listed, in the given order.
+    const std::vector<KernelFolder>& folders() const { return folders_; }
 
-    std::vector<std::string> folders_;
-    std::uint64_t lastListing_ = 0;
-    int passes_ = 0;      // since the last search or comparison
-    int comparisons_ = 0; // since the last search
-    bool hasSearched_ = false;
+  private:
+    bool list();
+
+    std::vector<KernelFolder> folders_;
+    Pace pace_;
+    int passes_ = 0;   // since the last listing
+    int listings_ = 0; // since the last search
+    bool isFirst_ = true;
     bool hasFailure_ = false;
 };
 

@@ -1,12 +1,13 @@
 #include "linux/power_supply/linux_battery_source.h"
 
 #include "linux/kernel/background_thread.h"
+#include "linux/kernel/kernel_tree.h"
 #include "linux/sensors/supply_kind.h"
 
 namespace vantrix {
 
 std::optional<std::span<const Properties>> LinuxBatterySource::powerSources() {
-    if (folder_.refresh())
+    if (schedule_.isDue())
         findSupplies();
     combined_.reset();
     if (!sensor_ || !sensor_->value())
@@ -25,8 +26,9 @@ const Properties* LinuxBatterySource::smartBattery() {
 void LinuxBatterySource::findSupplies() {
     std::vector<std::string> packs;
     std::vector<std::string> externals;
-    for (const std::string& name : folder_.names()) {
-        const std::string supply = folder_.path() + '/' + name;
+    const KernelFolder& folder = schedule_.folders().front();
+    for (const std::string& name : folder.names()) {
+        const std::string supply = pathBelow(folder.path(), name);
         const auto kind = supplyKind(supply);
         if (kind == SupplyKind::battery)
             packs.push_back(supply);

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string>
 
-#include "linux/kernel/kernel_folder.h"
+#include "linux/kernel/rescan_schedule.h"
 #include "linux/power_supply/battery_packs.h"
 #include "linux/power_supply/supply_reading.h"
 #include "samplers/battery_sampler.h"
@@ -16,8 +16,8 @@ namespace vantrix {
 class LinuxBatterySource : public BatterySampler::Source {
   public:
     LinuxBatterySource(const std::string& sys, std::shared_ptr<const Clock> clock,
-                       int listingPeriod = KernelFolder::usualPeriod)
-        : clock_(std::move(clock)), folder_(sys + "/class/power_supply", listingPeriod) {}
+                       int listingPeriod = RescanSchedule::quick.passesPerListing)
+        : clock_(std::move(clock)), schedule_({sys + "/class/power_supply"}, {listingPeriod, 0}) {}
 
     std::optional<std::span<const Properties>> powerSources() override;
     const Properties* smartBattery() override;
@@ -26,7 +26,7 @@ class LinuxBatterySource : public BatterySampler::Source {
     void findSupplies();
 
     std::shared_ptr<const Clock> clock_;
-    KernelFolder folder_;
+    RescanSchedule schedule_;
     std::shared_ptr<SharedSupplyReading> shared_;
     std::optional<TimedSensor> sensor_; // absent on a machine without packs
     SupplyReading reading_;

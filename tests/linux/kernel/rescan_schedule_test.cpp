@@ -1,5 +1,7 @@
 #include "linux/kernel/rescan_schedule.h"
 
+#include <functional>
+
 #include <gtest/gtest.h>
 
 #include "linux/temporary_folder.h"
@@ -7,53 +9,36 @@
 namespace vantrix {
 namespace {
 
-struct RescanScheduleTest : ::testing::Test {
+TEST(RescanSchedule, SearchesAfterChangesAndFailuresAndNowAndThen) {
     TemporaryFolder folder;
-    RescanSchedule schedule{{folder.path("hwmon"), folder.path("thermal")}};
-
-    RescanScheduleTest() { schedule.isDue(); }
-
-    /// The pass that searches, of the next `limit`; 0 for none.
-    int searchWithin(int limit) {
-        for (int i = 1; i <= limit; ++i) {
-            if (schedule.isDue())
-                return i;
-        }
-        return 0;
+    RescanSchedule schedule({folder.path("hwmon"), folder.path("thermal")}, {60, 10});
+    struct Step {
+        const char* name;
+        std::function<void()> change;
+        int pass; ///< of the next 1000, the one that searches
+    };
+    const Step steps[] = {
+        {"the first pass", [] {}, 1},
+        {"a folder comes", [&] { folder.write("hwmon/hwmon0", ""); }, 60},
+        {"nothing new", [] {}, 600},
+        {"a device of another folder", [&] { folder.write("thermal/thermal_zone0", ""); }, 60},
+        {"one goes", [&] { folder.remove("thermal/thermal_zone0"); }, 60},
+        {"one is given another number",
+         [&] {
+             folder.remove("hwmon/hwmon0");
+             folder.write("hwmon/hwmon2", "");
+         },
+         60},
+        {"a failure soon after a search", [&] { schedule.noteFailure(); }, 5},
+        {"the failure is forgotten", [] {}, 600},
+    };
+    for (const Step& step : steps) {
+        step.change();
+        int pass = 1;
+        while (!schedule.isDue() && pass < 1000)
+            ++pass;
+        EXPECT_EQ(pass, step.pass) << step.name;
     }
-};
-
-TEST_F(RescanScheduleTest, SearchesOnTheFirstPass) {
-    EXPECT_TRUE(RescanSchedule({}).isDue());
-}
-
-TEST_F(RescanScheduleTest, UnchangedFoldersAreSearchedRarely) {
-    folder.write("hwmon/hwmon0", "");
-    EXPECT_EQ(searchWithin(60), 60);
-    EXPECT_EQ(searchWithin(1000), 600);
-    EXPECT_EQ(searchWithin(1000), 600);
-}
-
-TEST_F(RescanScheduleTest, DevicesThatComeGoAndAreRenumberedAreNoticed) {
-    folder.write("hwmon/hwmon0", "");
-    folder.write("hwmon/hwmon1", "");
-    EXPECT_EQ(searchWithin(60), 60);
-    folder.remove("hwmon/hwmon1");
-    EXPECT_EQ(searchWithin(60), 60);
-    folder.remove("hwmon/hwmon0");
-    folder.write("hwmon/hwmon2", "");
-    EXPECT_EQ(searchWithin(60), 60);
-    folder.write("thermal/thermal_zone0", "");
-    EXPECT_EQ(searchWithin(60), 60);
-}
-
-TEST_F(RescanScheduleTest, AFailureIsLookedIntoSoonButNotOnEveryPass) {
-    EXPECT_EQ(searchWithin(10), 0);
-    schedule.noteFailure();
-    EXPECT_EQ(searchWithin(60), 1);
-    schedule.noteFailure();
-    EXPECT_EQ(searchWithin(60), 5);
-    EXPECT_EQ(searchWithin(590), 0);
 }
 
 } // namespace

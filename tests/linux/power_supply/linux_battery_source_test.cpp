@@ -123,9 +123,9 @@ TEST_F(LinuxBatterySourceTest, TheFolderIsListedOnlyNowAndThenAndPacksAreNoticed
     setPack("BAT0", "STATUS=Unknown CAPACITY=50");
     EXPECT_EQ(passesUntil(50), 1);
     folder.remove(supplies + "BAT0");
-    EXPECT_LE(passesUntil(-1), KernelFolder::usualPeriod);
+    EXPECT_LE(passesUntil(-1), RescanSchedule::quick.passesPerListing);
     setPack("BAT1", "STATUS=Unknown CAPACITY=70");
-    EXPECT_EQ(passesUntil(70), KernelFolder::usualPeriod);
+    EXPECT_EQ(passesUntil(70), RescanSchedule::quick.passesPerListing);
 }
 
 /// On this clock every read takes very long.
