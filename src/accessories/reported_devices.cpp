@@ -1,10 +1,10 @@
 #include "accessories/reported_devices.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "accessories/accessory_levels.h"
 #include "accessories/accessory_symbol.h"
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -13,13 +13,10 @@ namespace {
 std::optional<int> parsePercent(std::optional<std::string_view> text) {
     if (!text)
         return std::nullopt;
-    const char* const last = text->data() + text->size();
-    int percent = 0;
-    const auto [end, error] = std::from_chars(text->data(), last, percent);
-    std::string_view rest(end, static_cast<std::size_t>(last - end));
-    rest.remove_prefix(std::min(rest.find_first_not_of(' '), rest.size()));
-    const bool isPercent = error == std::errc() && percent >= 0 && (rest.empty() || rest == "%");
-    return isPercent ? std::optional(percent) : std::nullopt;
+    const auto percent = takeInteger<int>(*text);
+    text->remove_prefix(std::min(text->find_first_not_of(' '), text->size()));
+    const bool isPercent = percent.value_or(-1) >= 0 && (text->empty() || *text == "%");
+    return isPercent ? percent : std::nullopt;
 }
 
 void add(ReportedDevices& devices, const std::string& name, std::string_view kind, std::string_view address,

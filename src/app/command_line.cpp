@@ -1,9 +1,10 @@
 #include "app/command_line.h"
 
 #include <algorithm>
-#include <charconv>
 #include <locale>
 #include <sstream>
+
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -11,14 +12,6 @@ namespace {
 constexpr std::string_view exportFlag = "-exportScreenshots";
 constexpr double leastInterval = 0.5;
 constexpr double mostInterval = 3600.0;
-
-std::optional<long> wholeNumber(const std::string& text) {
-    long number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc{} || end != text.data() + text.size())
-        return std::nullopt;
-    return number;
-}
 
 /// Without from_chars, which cannot read fractions in every standard library.
 std::optional<double> fraction(const std::string& text) {
@@ -136,7 +129,7 @@ class Parser {
     }
 
     void parseCount(const std::string& option) {
-        const auto count = wholeNumber(value(option));
+        const auto count = parseInteger<long>(value(option));
         if (error_.empty() && !(count && *count >= 1))
             error_ = "--count takes a whole number from 1";
         result_.count = count;

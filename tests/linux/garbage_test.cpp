@@ -19,7 +19,6 @@
 #include "linux/processor/cpu_topology.h"
 #include "linux/processor/proc_stat.h"
 #include "linux/processor/processor_brand.h"
-#include "linux/sensors/sensor_files.h"
 
 namespace vantrix {
 namespace {
@@ -89,7 +88,6 @@ void parseWithEverything(const std::string& text) {
     }
     parseZramMemory(text);
     parseLinkFlags(text);
-    parseSensorValue(text);
     EXPECT_LE(parseCPUList(text).value_or(std::vector<int>()).size(), 65536u);
     EXPECT_NE(parseModelName(text), "");
     parseLoad(text);

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "linux/kernel/kernel_number.h"
 #include "linux/kernel/kernel_tree.h"
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -43,7 +43,7 @@ std::vector<std::string> idleFilesOfXe(const std::string& device) {
 } // namespace
 
 std::optional<double> parseLoad(std::string_view text) {
-    const auto percent = takeNumber(text);
+    const auto percent = takeInteger(text);
     if (!percent || !(text.empty() || text.front() == '\n' || text.front() == '@'))
         return std::nullopt;
     return static_cast<double>(*percent);
@@ -67,7 +67,7 @@ std::optional<double> IdleResidency::percent(double now) {
     std::optional<double> busiest;
     for (Part& part : parts_) {
         const auto text = part.file.read();
-        const auto idle = text ? parseNumber(*text) : std::nullopt;
+        const auto idle = text ? parseIntegerLine(*text) : std::nullopt;
         if (idle && part.idle && *idle >= *part.idle) {
             const double share = (static_cast<double>(*idle) - static_cast<double>(*part.idle)) / elapsed;
             busiest = std::max(busiest.value_or(0.0), 100.0 * (1.0 - share));

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "linux/kernel/kernel_number.h"
 #include "linux/kernel/kernel_tree.h"
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -43,7 +43,7 @@ std::optional<double> AutosuspendGrid::readDelay() {
     if (control_.read() != "auto\n" || drivesScreen())
         return std::nullopt;
     const auto text = delay_.read();
-    const auto milliseconds = text ? parseNumber(*text) : std::nullopt;
+    const auto milliseconds = text ? parseIntegerLine(*text) : std::nullopt;
     if (!milliseconds)
         return usualDelay_;
     return *milliseconds < 0 ? std::nullopt : std::optional(static_cast<double>(*milliseconds) / 1000.0);

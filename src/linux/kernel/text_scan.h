@@ -1,10 +1,11 @@
 #pragma once
 
-#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
+
+#include "support/integer.h"
 
 namespace vantrix {
 
@@ -62,9 +63,7 @@ class Fields {
         }
         if (field.length <= alwaysFits)
             return field.length > 0 ? std::optional(field.value) : std::nullopt;
-        std::uint64_t value = 0;
-        const auto result = std::from_chars(at_ - field.length, at_, value);
-        return result.ec == std::errc() ? std::optional(value) : std::nullopt;
+        return parseInteger<std::uint64_t>({at_ - field.length, static_cast<std::size_t>(field.length)});
     }
 
   private:

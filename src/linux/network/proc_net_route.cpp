@@ -1,12 +1,12 @@
 #include "linux/network/proc_net_route.h"
 
 #include <array>
-#include <charconv>
 
 #include <linux/route.h>
 
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -19,14 +19,6 @@ std::array<std::string_view, count> firstFields(std::string_view line) {
     for (auto& text : texts)
         text = fields.next();
     return texts;
-}
-
-std::optional<std::uint32_t> number(std::string_view text, int base) {
-    std::uint32_t value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value, base);
-    if (error != std::errc() || end != text.data() + text.size())
-        return std::nullopt;
-    return value;
 }
 
 bool isZero(std::string_view digits) {
@@ -45,17 +37,17 @@ bool isUsable(std::optional<std::uint32_t> flags) {
 /// Interface, destination, gateway, flags, two counts, metric, mask.
 std::optional<Route> ipv4Route(std::string_view line) {
     const auto fields = firstFields<8>(line);
-    if (!isZero(fields[1]) || !isZero(fields[7]) || !isUsable(number(fields[3], 16)))
+    if (!isZero(fields[1]) || !isZero(fields[7]) || !isUsable(parseInteger<std::uint32_t>(fields[3], {}, 16)))
         return std::nullopt;
-    return Route{fields[0], number(fields[6], 10).value_or(0)};
+    return Route{fields[0], parseInteger<std::uint32_t>(fields[6]).value_or(0)};
 }
 
 /// Destination, its length, source, its length, gateway, metric, two counts, flags, interface.
 std::optional<Route> ipv6Route(std::string_view line) {
     const auto fields = firstFields<10>(line);
-    if (!isZero(fields[0]) || !isZero(fields[1]) || !isUsable(number(fields[8], 16)))
+    if (!isZero(fields[0]) || !isZero(fields[1]) || !isUsable(parseInteger<std::uint32_t>(fields[8], {}, 16)))
         return std::nullopt;
-    return Route{fields[9], number(fields[5], 16).value_or(0)};
+    return Route{fields[9], parseInteger<std::uint32_t>(fields[5], {}, 16).value_or(0)};
 }
 
 std::string_view bestInterface(std::string_view text, std::optional<Route> (*parse)(std::string_view)) {

@@ -1,10 +1,9 @@
 #include "linux/network/sysfs_links.h"
 
-#include <charconv>
-
 #include <net/if.h>
 
 #include "linux/kernel/kernel_tree.h"
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -23,11 +22,7 @@ std::optional<std::uint32_t> parseLinkFlags(std::string_view text) {
     if (!text.starts_with("0x"))
         return std::nullopt;
     text.remove_prefix(2);
-    std::uint32_t flags = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), flags, 16);
-    if (error != std::errc() || std::string_view(end, text.data() + text.size()) != "\n")
-        return std::nullopt;
-    return flags;
+    return parseInteger<std::uint32_t>(text, "\n", 16);
 }
 
 std::uint32_t SysfsLinks::Port::readFlags() {

@@ -1,8 +1,8 @@
 #include "linux/power_supply/power_supply.h"
 
-#include "linux/kernel/kernel_number.h"
 #include "linux/kernel/text_scan.h"
 #include "support/ascii_case.h"
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -60,7 +60,7 @@ void store(SupplyState& state, std::string_view name, std::string_view value) {
     for (const Key& key : keys) {
         if (name.size() != key.name.size() || name != key.name)
             continue;
-        state.numbers[key.number] = plausible(parseNumber(value));
+        state.numbers[key.number] = plausible(parseInteger(value));
         return;
     }
 }

@@ -3,11 +3,11 @@
 #include <algorithm>
 
 #include "accessories/accessory_symbol.h"
-#include "linux/kernel/kernel_number.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
 #include "linux/sensors/supply_kind.h"
 #include "support/ascii_case.h"
+#include "support/integer.h"
 #include "support/utf8.h"
 
 namespace vantrix {
@@ -42,7 +42,7 @@ std::string addressOf(const std::string& supply, const std::string& entry) {
 }
 
 std::optional<int> levelOf(const std::string& supply) {
-    if (const auto percent = parseNumber(readWord(supply + "/capacity")))
+    if (const auto percent = parseInteger(readWord(supply + "/capacity")))
         return boundedPercent(*percent);
     return percentOfLevel(readWord(supply + "/capacity_level"));
 }

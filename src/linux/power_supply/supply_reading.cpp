@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "linux/kernel/kernel_number.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/power_supply/battery_packs.h"
+#include "support/integer.h"
 
 namespace vantrix {
 
@@ -61,7 +61,7 @@ std::optional<bool> SupplyProbe::External::isOnline() {
     const auto text = online.read();
     if (!text || (scope && scope->read() == "Device\n"))
         return std::nullopt;
-    return parseNumber(*text).value_or(0) > 0; // 2 is a port that adapts its voltage
+    return parseIntegerLine(*text).value_or(0) > 0; // 2 is a port that adapts its voltage
 }
 
 } // namespace vantrix

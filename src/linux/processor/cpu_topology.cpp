@@ -1,10 +1,10 @@
 #include "linux/processor/cpu_topology.h"
 
 #include <algorithm>
-#include <charconv>
 
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
+#include "support/integer.h"
 
 namespace vantrix {
 namespace {
@@ -12,12 +12,8 @@ namespace {
 constexpr int coreLimit = 65536;
 
 std::optional<int> parseCore(std::string_view text) {
-    int core = 0;
-    const char* const textEnd = text.data() + text.size();
-    const auto [end, error] = std::from_chars(text.data(), textEnd, core);
-    if (error != std::errc() || end != textEnd || core < 0 || core >= coreLimit)
-        return std::nullopt;
-    return core;
+    const auto core = parseInteger<int>(text);
+    return core && *core >= 0 && *core < coreLimit ? core : std::nullopt;
 }
 
 bool addRange(std::string_view text, std::vector<int>& cores) {

@@ -1,10 +1,10 @@
 #include "linux/sensors/hwmon_chips.h"
 
 #include <algorithm>
-#include <charconv>
 #include <tuple>
 
 #include "linux/kernel/kernel_tree.h"
+#include "support/integer.h"
 
 namespace vantrix {
 
@@ -32,11 +32,9 @@ std::vector<HwmonChip> findHwmonChips(const std::string& sys) {
 std::vector<int> sensorNumbers(const std::string& folder, std::string_view prefix, std::string_view suffix) {
     std::vector<int> numbers;
     for (const std::string& entry : entriesStartingWith(folder, prefix)) {
-        int number = 0;
-        const char* const textEnd = entry.data() + entry.size();
-        const auto [end, error] = std::from_chars(entry.data() + prefix.size(), textEnd, number);
-        if (error == std::errc() && number >= 0 && std::string_view(end, textEnd) == suffix)
-            numbers.push_back(number);
+        const auto number = parseInteger<int>(std::string_view(entry).substr(prefix.size()), suffix);
+        if (number && *number >= 0)
+            numbers.push_back(*number);
     }
     std::sort(numbers.begin(), numbers.end());
     return numbers;

@@ -1,22 +1,13 @@
 #include "linux/sensors/sensor_files.h"
 
 #include <algorithm>
-#include <charconv>
 #include <filesystem>
 
 #include "linux/kernel/kernel_tree.h"
+#include "support/integer.h"
 #include "support/utf8.h"
 
 namespace vantrix {
-
-std::optional<std::int64_t> parseSensorValue(std::string_view text) {
-    std::int64_t value = 0;
-    const char* const textEnd = text.data() + text.size();
-    const auto [end, error] = std::from_chars(text.data(), textEnd, value);
-    if (error != std::errc() || std::string_view(end, textEnd) != "\n")
-        return std::nullopt;
-    return value;
-}
 
 std::string readName(const std::string& path) {
     constexpr std::size_t longest = 64;
@@ -49,7 +40,7 @@ std::optional<double> FileProbe::read() {
 
 std::optional<double> readNumber(KernelFile& file) {
     const auto text = file.read();
-    const auto value = text ? parseSensorValue(*text) : std::nullopt;
+    const auto value = text ? parseInteger(*text, "\n") : std::nullopt;
     return value ? std::optional(static_cast<double>(*value)) : std::nullopt;
 }
 

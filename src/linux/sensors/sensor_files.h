@@ -1,17 +1,12 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "linux/kernel/kernel_file.h"
 #include "linux/kernel/timed_sensor.h"
 
 namespace vantrix {
-
-/// The number of a file that holds one, "-4500\n".
-std::optional<std::int64_t> parseSensorValue(std::string_view text);
 
 /// The first line of a file that names something, read once: valid UTF-8 without control characters and blanks at its
 /// ends, at most 64 bytes. Empty when there is none.
@@ -33,6 +28,7 @@ class FileProbe : public TimedSensor::Probe {
     std::optional<KernelFile> fault_;
 };
 
+/// The number of a file that holds one, "-4500\n".
 std::optional<double> readNumber(KernelFile& file);
 
 } // namespace vantrix
