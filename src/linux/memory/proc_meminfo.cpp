@@ -1,6 +1,6 @@
 #include "linux/memory/proc_meminfo.h"
 
-#include <array>
+#include <algorithm>
 #include <iterator>
 
 #include "linux/kernel/text_scan.h"
@@ -13,51 +13,29 @@ struct Line {
     MemInfo::Value MemInfo::*value;
 };
 
-// By length of the name, so that few have to be compared with any line.
 constexpr Line lines[] = {
-    {"Zswap", &MemInfo::zswap},
-    {"Shmem", &MemInfo::shmem},
-    {"Cached", &MemInfo::cached},
-    {"Percpu", &MemInfo::percpu},
-    {"MemFree", &MemInfo::memFree},
-    {"Buffers", &MemInfo::buffers},
-    {"Mlocked", &MemInfo::mlocked},
-    {"Hugetlb", &MemInfo::hugetlb},
     {"MemTotal", &MemInfo::memTotal},
-    {"SwapFree", &MemInfo::swapFree},
-    {"SwapTotal", &MemInfo::swapTotal},
-    {"AnonPages", &MemInfo::anonPages},
-    {"SUnreclaim", &MemInfo::sUnreclaim},
-    {"PageTables", &MemInfo::pageTables},
-    {"Unevictable", &MemInfo::unevictable},
-    {"KernelStack", &MemInfo::kernelStack},
+    {"MemFree", &MemInfo::memFree},
     {"MemAvailable", &MemInfo::memAvailable},
+    {"Buffers", &MemInfo::buffers},
+    {"Cached", &MemInfo::cached},
     {"Active(anon)", &MemInfo::activeAnon},
-    {"SReclaimable", &MemInfo::sReclaimable},
-    {"SecPageTables", &MemInfo::secPageTables},
     {"Inactive(anon)", &MemInfo::inactiveAnon},
+    {"Unevictable", &MemInfo::unevictable},
+    {"Mlocked", &MemInfo::mlocked},
+    {"SwapTotal", &MemInfo::swapTotal},
+    {"SwapFree", &MemInfo::swapFree},
+    {"Zswap", &MemInfo::zswap},
+    {"AnonPages", &MemInfo::anonPages},
+    {"Shmem", &MemInfo::shmem},
+    {"SReclaimable", &MemInfo::sReclaimable},
+    {"SUnreclaim", &MemInfo::sUnreclaim},
+    {"KernelStack", &MemInfo::kernelStack},
+    {"PageTables", &MemInfo::pageTables},
+    {"SecPageTables", &MemInfo::secPageTables},
+    {"Percpu", &MemInfo::percpu},
+    {"Hugetlb", &MemInfo::hugetlb},
 };
-constexpr std::size_t longestName = std::rbegin(lines)->name.size();
-
-/// Where the names of each length begin; the last entry ends the list.
-constexpr auto placesByLength = [] {
-    std::array<std::uint8_t, longestName + 2> places{};
-    for (const Line& line : lines) {
-        for (std::size_t length = line.name.size() + 1; length < places.size(); ++length)
-            ++places[length];
-    }
-    return places;
-}();
-
-const Line* findLine(std::string_view name) {
-    if (name.size() > longestName)
-        return nullptr;
-    for (auto i = placesByLength[name.size()]; i < placesByLength[name.size() + 1]; ++i) {
-        if (lines[i].name == name)
-            return &lines[i];
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -67,8 +45,10 @@ std::optional<MemInfo> parseMemInfo(std::string_view text) {
         const auto colon = line->find(':');
         if (colon == std::string_view::npos)
             continue;
-        const Line* const known = findLine(line->substr(0, colon));
-        if (known == nullptr)
+        const auto name = line->substr(0, colon);
+        const auto known =
+            std::find_if(std::begin(lines), std::end(lines), [&](const Line& other) { return other.name == name; });
+        if (known == std::end(lines))
             continue;
         const auto value = Fields(line->substr(colon + 1)).number();
         if (value && *value <= largestMemory)
