@@ -125,20 +125,13 @@ void SensorsSampler::deriveTemperatures(const std::vector<TemperatureReading>& r
     sample_.battery = battery.mean();
 }
 
-/// Hottest first, equal values in the order of the list. An insertion sort, which starts from the order of the last
-/// pass: few places change from one pass to the next.
+/// Hottest first, equal values in the order of the list.
 void SensorsSampler::sortByValue(const std::vector<TemperatureReading>& readings) {
-    if (order_.size() != readings.size()) {
-        order_.resize(readings.size());
-        std::iota(order_.begin(), order_.end(), std::size_t{0});
-    }
-    const auto isBefore = [&](std::size_t a, std::size_t b) {
+    order_.resize(readings.size());
+    std::iota(order_.begin(), order_.end(), std::size_t{0});
+    std::sort(order_.begin(), order_.end(), [&](std::size_t a, std::size_t b) {
         return readings[a].value != readings[b].value ? readings[a].value > readings[b].value : a < b;
-    };
-    for (auto next = order_.begin(); next != order_.end(); ++next) {
-        if (next != order_.begin() && isBefore(*next, *(next - 1)))
-            std::rotate(std::upper_bound(order_.begin(), next, *next, isBefore), next, next + 1);
-    }
+    });
     std::size_t longest = 0;
     for (const TemperatureReading& reading : readings)
         longest = std::max(longest, reading.name.size());
