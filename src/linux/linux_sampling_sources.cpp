@@ -6,7 +6,7 @@
 #include "linux/disks/volume.h"
 #include "linux/graphics/linux_gpu_source.h"
 #include "linux/graphics/nvidia_library.h"
-#include "linux/kernel/kernel_roots.h"
+#include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/linux_clock.h"
 #include "linux/memory/linux_memory_source.h"
 #include "linux/network/linux_network_info.h"

@@ -3,7 +3,6 @@
 
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/graphics/gpu_meter.h"
-#include "linux/graphics/gpu_names.h"
 #include "linux/graphics/gpu_power.h"
 #include "linux/graphics/nvidia_library.h"
 #include "linux/kernel/kernel_tree.h"

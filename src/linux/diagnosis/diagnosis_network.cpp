@@ -1,7 +1,6 @@
 #include <algorithm>
 
 #include "linux/diagnosis/diagnosis_parts.h"
-#include "linux/kernel/kernel_roots.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/network/sysfs_links.h"
 

@@ -42,6 +42,19 @@ std::vector<std::string> idleFilesOfXe(const std::string& device) {
 
 } // namespace
 
+bool isGPUCard(std::string_view name) {
+    return name.size() > 4 && name.starts_with("card") &&
+           name.find_first_not_of("0123456789", 4) == std::string_view::npos;
+}
+
+bool isGPUFrequency(std::string_view name) {
+    return name.find("gpu") != std::string_view::npos || name.find("mali") != std::string_view::npos;
+}
+
+bool isPCIAddress(std::string_view name) {
+    return std::count(name.begin(), name.end(), ':') == 2;
+}
+
 std::optional<double> parseLoad(std::string_view text) {
     const auto percent = takeInteger(text);
     if (!percent || !(text.empty() || text.front() == '\n' || text.front() == '@'))

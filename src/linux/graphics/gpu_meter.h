@@ -10,6 +10,15 @@
 
 namespace vantrix {
 
+/// An entry of <sys>/class/drm that is a GPU: "card0", but not its connectors "card0-HDMI-A-1".
+bool isGPUCard(std::string_view name);
+
+/// An entry of <sys>/class/devfreq that is a GPU: memory controllers and buses scale their frequency too.
+bool isGPUFrequency(std::string_view name);
+
+/// An entry of a PCI driver's folder that is a device, "0000:01:00.0".
+bool isPCIAddress(std::string_view name);
+
 /// A driver's way to tell the load of a GPU that is awake.
 class GPUMeter {
   public:

@@ -16,7 +16,14 @@ class GPUPowerFile {
   public:
     explicit GPUPowerFile(const std::string& device) : status_(device + "/power/runtime_status") {}
 
-    GPUPower read();
+    GPUPower read() {
+        const auto status = status_.read();
+        if (status == "active\n")
+            return GPUPower::awake;
+        if (status == "suspended\n" || status == "suspending\n")
+            return GPUPower::asleep;
+        return GPUPower::unknown; // above all "unsupported": without runtime power management
+    }
 
   private:
     KernelFile status_;

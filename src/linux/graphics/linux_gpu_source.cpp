@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "linux/graphics/gpu_names.h"
 #include "linux/kernel/kernel_tree.h"
 
 namespace vantrix {

@@ -6,6 +6,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 
+#include "platform/sampling_sources.h"
 #include "posix/file_descriptor.h"
 
 namespace vantrix {
@@ -56,6 +57,20 @@ std::vector<std::string> entriesStartingWith(const std::string& folder, std::str
             names.emplace_back(entry->d_name);
     }
     return names;
+}
+
+std::string netFolder(const KernelRoots& roots) {
+    std::string foreign = roots.proc + "/1/net";
+    return roots != KernelRoots() && pathExists(foreign + "/dev") ? foreign : roots.proc + "/net";
+}
+
+std::optional<std::string> unreadableRoot(const KernelRoots& roots) {
+    for (const std::string& root : {roots.proc, roots.sys}) {
+        const std::string inside = root + "/."; // of folders alone
+        if (access(inside.c_str(), R_OK | X_OK) != 0)
+            return root;
+    }
+    return std::nullopt;
 }
 
 } // namespace vantrix

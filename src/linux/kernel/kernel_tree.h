@@ -7,6 +7,8 @@
 
 namespace vantrix {
 
+struct KernelRoots;
+
 /// Questions put to a kernel file tree once, not on every pass.
 
 /// The first `limit` bytes of a file; absent when it cannot be read.
@@ -22,5 +24,9 @@ bool isEntryName(std::string_view name);
 
 /// Names in `folder` that begin with `prefix`, in no order; empty when the folder cannot be read.
 std::vector<std::string> entriesStartingWith(const std::string& folder, std::string_view prefix);
+
+/// The folder with the machine's network tables. "net" in a tree of processes means the reader's own network
+/// namespace, "1/net" that of the tree's machine.
+std::string netFolder(const KernelRoots& roots);
 
 } // namespace vantrix
