@@ -38,6 +38,11 @@ struct BackgroundWiFi::Questions : Background::Job {
 BackgroundWiFi::BackgroundWiFi(std::unique_ptr<WiFiReader> reader)
     : questions_(std::make_shared<Questions>(std::move(reader))) {}
 
+BackgroundWiFi::~BackgroundWiFi() {
+    const std::lock_guard lock(questions_->mutex);
+    questions_->isAsked = false; // nobody waits for another answer
+}
+
 const WiFiReading& BackgroundWiFi::read(int link) {
     std::unique_lock lock(questions_->mutex);
     const bool isFirst = link_ != link;

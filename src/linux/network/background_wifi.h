@@ -17,6 +17,9 @@ class BackgroundWiFi {
     static constexpr int questionsUntilStale = 5;
 
     explicit BackgroundWiFi(std::unique_ptr<WiFiReader> reader);
+    ~BackgroundWiFi();
+    BackgroundWiFi(const BackgroundWiFi&) = delete;
+    BackgroundWiFi& operator=(const BackgroundWiFi&) = delete;
 
     /// The latest reading of a link, whose next one is asked for by this; holds until the next call. One caller at a
     /// time.

@@ -24,11 +24,7 @@ TEST(RescanSchedule, SearchesAfterChangesAndFailuresAndNowAndThen) {
         {"a device of another folder", [&] { folder.write("thermal/thermal_zone0", ""); }, 60},
         {"one goes", [&] { folder.remove("thermal/thermal_zone0"); }, 60},
         {"one is given another number",
-         [&] {
-             folder.remove("hwmon/hwmon0");
-             folder.write("hwmon/hwmon2", "");
-         },
-         60},
+         [&] { std::filesystem::rename(folder.path("hwmon/hwmon0"), folder.path("hwmon/hwmon2")); }, 60},
         {"a failure soon after a search", [&] { schedule.noteFailure(); }, 5},
         {"the failure is forgotten", [] {}, 600},
     };

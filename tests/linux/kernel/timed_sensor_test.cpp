@@ -1,8 +1,7 @@
 #include "linux/kernel/timed_sensor.h"
 
 #include <chrono>
-#include <condition_variable>
-#include <mutex>
+#include <future>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -46,44 +45,38 @@ struct FakeProbe : TimedSensor::Probe {
 struct TimedSensorTest : ::testing::Test {
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<FakeBackground> background = std::make_shared<FakeBackground>();
-    FakeProbe* probe = new FakeProbe(*clock);
-    TimedSensor sensor{std::unique_ptr<TimedSensor::Probe>(probe), background, clock};
+    FakeProbe* probe = nullptr;
+    TimedSensor sensor = make(probe);
 
-    std::optional<double> valueAfter(double seconds) {
+    TimedSensor make(FakeProbe*& made) {
+        made = new FakeProbe(*clock);
+        return {std::unique_ptr<TimedSensor::Probe>(made), background, clock};
+    }
+    std::optional<double> valueAfter(double seconds, double duration = 0.0) {
         clock->now += seconds;
+        probe->duration = duration;
         return sensor.value();
     }
-    void becomeSlow() {
-        probe->duration = 0.021;
-        sensor.value();
-    }
+    void becomeSlow() { valueAfter(0.0, 0.021); }
 };
 
-TEST_F(TimedSensorTest, QuickSensorsAreReadOnEveryPass) {
-    probe->duration = 0.0019;
-    for (int i = 1; i <= 3; ++i) {
-        probe->next = i;
-        EXPECT_EQ(valueAfter(2.0), i);
-        EXPECT_EQ(probe->reads, i);
-    }
-    probe->next.reset();
-    EXPECT_EQ(valueAfter(2.0), std::nullopt);
-}
-
-TEST_F(TimedSensorTest, AReadThatTheMachineHeldUpIsForgiven) {
-    for (const double duration : {0.003, 0.001, 0.003, 0.003}) {
-        probe->duration = duration;
+TEST_F(TimedSensorTest, ASensorIsSlowOnceTheMachineCannotHaveHeldItUp) {
+    for (const double duration : {0.0019, 0.003, 0.001, 0.003, 0.003}) {
+        EXPECT_EQ(valueAfter(2.0, duration), 1.0);
         EXPECT_TRUE(background->jobs.empty());
-        sensor.value();
     }
-    EXPECT_EQ(probe->reads, 4);
-    sensor.value(); // two in a row were its own
-    EXPECT_EQ(probe->reads, 4);
+    EXPECT_EQ(probe->reads, 5);
+    probe->next.reset();
+    EXPECT_EQ(valueAfter(2.0), 1.0); // two in a row were its own
+    EXPECT_EQ(probe->reads, 5);
     EXPECT_EQ(background->jobs.size(), 1u);
 }
 
 TEST_F(TimedSensorTest, SlowSensorsNeverDelayAPassAgain) {
     becomeSlow();
+    background->canRun = false; // no thread is to be had
+    EXPECT_EQ(valueAfter(1.0), 1.0);
+    background->canRun = true;
     probe->next = 2.0;
     EXPECT_EQ(valueAfter(2.0), 1.0);
     EXPECT_EQ(valueAfter(2.0), 1.0);
@@ -111,12 +104,12 @@ TEST_F(TimedSensorTest, AHangingSensorIsAbsentUntilItAnswers) {
 }
 
 TEST_F(TimedSensorTest, OtherSensorsOfAVerySlowDeviceBeginInTheBackground) {
-    auto* const known = new FakeProbe(*clock);
-    TimedSensor wellKnown(std::unique_ptr<TimedSensor::Probe>(known), background, clock);
+    FakeProbe* known = nullptr;
+    TimedSensor wellKnown = make(known);
     wellKnown.value();
     becomeSlow();
-    auto* const sibling = new FakeProbe(*clock);
-    TimedSensor other(std::unique_ptr<TimedSensor::Probe>(sibling), background, clock);
+    FakeProbe* sibling = nullptr;
+    TimedSensor other = make(sibling);
     EXPECT_EQ(other.value(), std::nullopt);
     EXPECT_EQ(sibling->reads, 0);
     background->performAll();
@@ -127,26 +120,14 @@ TEST_F(TimedSensorTest, OtherSensorsOfAVerySlowDeviceBeginInTheBackground) {
 
 TEST_F(TimedSensorTest, IsReadDirectlyAgainOnceItWasTheMachineThatWasSlow) {
     becomeSlow();
-    probe->duration = 0.0;
-    for (int i = 0; i < TimedSensor::quickReadsToReturn; ++i) {
-        sensor.value();
+    for (int i = 0; i <= TimedSensor::quickReadsToReturn; ++i) {
+        valueAfter(0.0);
         background->performAll();
     }
-    sensor.value();
-    background->performAll();
     const int reads = probe->reads;
-    sensor.value();
+    valueAfter(0.0);
     EXPECT_EQ(probe->reads, reads + 1);
     EXPECT_TRUE(background->jobs.empty());
-}
-
-TEST_F(TimedSensorTest, TriesAgainWhenNoThreadIsToBeHad) {
-    becomeSlow();
-    background->canRun = false;
-    EXPECT_EQ(valueAfter(1.0), 1.0);
-    background->canRun = true;
-    sensor.value();
-    EXPECT_EQ(background->jobs.size(), 1u);
 }
 
 TEST_F(TimedSensorTest, TheLastValueCostsNoRead) {
@@ -159,49 +140,37 @@ TEST_F(TimedSensorTest, TheLastValueCostsNoRead) {
     EXPECT_EQ(probe->reads, 1);
 }
 
-/// A job that hangs until the gate opens, as a driver may.
-struct GatedJob : Background::Job {
-    std::mutex mutex;
-    std::condition_variable changed;
-    bool isOpen = false;
-    bool hasBegun = false;
-    bool isDone = false;
+/// A job that hangs until it is let go, as a driver may.
+struct HangingJob : Background::Job {
+    std::promise<void> begun, released, done;
 
     void perform() override {
-        std::unique_lock lock(mutex);
-        hasBegun = true;
-        changed.notify_all();
-        changed.wait(lock, [this] { return isOpen; });
-        isDone = true;
-        changed.notify_all();
-    }
-    void open() {
-        const std::lock_guard lock(mutex);
-        isOpen = true;
-        changed.notify_all();
-    }
-    bool comesTrue(const bool& condition) {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, std::chrono::seconds(10), [&] { return condition; });
+        begun.set_value();
+        released.get_future().wait();
+        done.set_value();
     }
 };
 
+bool comes(std::promise<void>& promise) {
+    return promise.get_future().wait_for(std::chrono::seconds(10)) == std::future_status::ready;
+}
+
 TEST(BackgroundThread, PerformsJobsAndNeverWaitsForOneThatHangs) {
-    const auto hanging = std::make_shared<GatedJob>();
-    const auto dropped = std::make_shared<GatedJob>();
+    const auto hanging = std::make_shared<HangingJob>();
+    const auto dropped = std::make_shared<HangingJob>();
     {
         BackgroundThread thread;
-        const auto quick = std::make_shared<GatedJob>();
-        quick->isOpen = true;
+        const auto quick = std::make_shared<HangingJob>();
+        quick->released.set_value();
         ASSERT_TRUE(thread.run(quick));
-        EXPECT_TRUE(quick->comesTrue(quick->isDone));
+        EXPECT_TRUE(comes(quick->done));
         ASSERT_TRUE(thread.run(hanging));
         ASSERT_TRUE(thread.run(dropped));
-        EXPECT_TRUE(hanging->comesTrue(hanging->hasBegun));
+        EXPECT_TRUE(comes(hanging->begun));
     }
     EXPECT_EQ(dropped.use_count(), 1); // only its owner has it still
-    hanging->open();
-    EXPECT_TRUE(hanging->comesTrue(hanging->isDone));
+    hanging->released.set_value();
+    EXPECT_TRUE(comes(hanging->done));
 }
 
 } // namespace

@@ -29,16 +29,9 @@ TEST(ReadInterfaceKind, TellsInterfacesApartAsPeopleDo) {
     const Row rows[] = {
         {"Wi-Fi of a driver with its phy", {ethernet, device, {"phy80211/index", "0\n"}}, Type::ieee80211, "Wi-Fi"},
         {"Wi-Fi of an old driver", {ethernet, device, {"wireless/status", "0\n"}}, Type::ieee80211, "Wi-Fi"},
-        {"Wi-Fi by its uevent alone",
-         {ethernet, device, {"uevent", "DEVTYPE=wlan\nINTERFACE=w\n"}},
-         Type::ieee80211,
-         "Wi-Fi"},
+        {"Wi-Fi by its uevent", {ethernet, {"uevent", "DEVTYPE=wlan\nINTERFACE=w\n"}}, Type::ieee80211, "Wi-Fi"},
         {"a port", {ethernet, device, {"uevent", "INTERFACE=x\nIFINDEX=2\n"}}, Type::ethernet, "Ethernet"},
-        {"modem", {ethernet, device, {"uevent", "DEVTYPE=wwan\n"}}, Type::other, "Mobile broadband"},
-        {"modem, raw",
-         {{"type", "519\n"}, device, {"uevent", "INTERFACE=x\nDEVTYPE=wwan"}},
-         Type::other,
-         "Mobile broadband"},
+        {"cut short", {{"type", "519\n"}, {"uevent", "INTERFACE=x\nDEVTYPE=wwan"}}, Type::other, "Mobile broadband"},
         {"tunnel", {{"type", "65534\n"}, {"tun_flags", "0x1001\n"}}, Type::other, "VPN"},
         {"tap", {ethernet, {"tun_flags", "0x1002\n"}}, Type::other, "VPN"},
         {"WireGuard", {{"type", "65534\n"}, {"uevent", "DEVTYPE=wireguard\n"}}, Type::other, "VPN"},
@@ -63,7 +56,7 @@ TEST(ReadInterfaceKind, TellsInterfacesApartAsPeopleDo) {
 TEST(ReadInterfaceKind, KnowsPortsOnUSB) {
     const TemporaryFolder folder;
     folder.write("class/net/x/type", "1\n");
-    folder.write("class/net/x/device/vendor", "1\n");
+    std::filesystem::create_directory(folder.path("class/net/x/device"));
     std::filesystem::create_symlink("../../../../bus/usb", folder.path("class/net/x/device/subsystem"));
     EXPECT_EQ(readInterfaceKind(folder.path(""), "x")->name, "USB Ethernet");
 }
@@ -91,23 +84,32 @@ TEST(ParseDefaultRoute, TakesTheLowestMetricThatLeadsSomewhere) {
               "wlan0");
 }
 
-TEST(LinuxNetworkInfo, FollowsTheTreesOfAnotherMachine) {
-    const TemporaryFolder folder;
-    folder.write("proc/net/route", heading + route("wlan0", "00000000", "0003", "600"));
+struct LinuxNetworkInfoTest : ::testing::Test {
+    TemporaryFolder folder;
+
+    void setRoute(const char* name) {
+        folder.write("proc/net/route", heading + route(name, "00000000", "0003", "100"));
+    }
+    void addPort(const std::string& name) {
+        folder.write("sys/class/net/" + name + "/device/vendor", "1\n");
+        folder.write("sys/class/net/" + name + "/type", "1\n");
+    }
+};
+
+TEST_F(LinuxNetworkInfoTest, FollowsTheTreesOfAnotherMachine) {
+    setRoute("wlan0");
     folder.write("sys/class/net/wlan0/phy80211/index", "0\n");
-    folder.write("sys/class/net/eth0/type", "1\n");
-    folder.write("sys/class/net/eth0/device/vendor", "1\n");
+    addPort("eth0");
     const auto sources = makeSamplingSources({folder.path("proc"), folder.path("sys")});
     NetworkInfoSampler sampler(*sources.networkInfo);
     NetworkInfo expected{NetworkInfo::Kind::wifi, "wlan0", "Wi-Fi"};
     expected.debug = "no CoreWLAN interface for wlan0: Wi-Fi details are only asked for on the machine itself";
     EXPECT_EQ(sampler.sample(true, 3), expected);
-    folder.write("proc/net/route", heading + route("eth0", "00000000", "0003", "100"));
+    setRoute("eth0");
     EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::ethernet, "eth0", "Ethernet"}));
-    folder.write("proc/net/route", heading + route("usb0", "00000000", "0003", "100"));
+    setRoute("usb0");
     EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::other, "usb0"})); // its folder is late
-    folder.write("sys/class/net/usb0/device/vendor", "1\n");
-    folder.write("sys/class/net/usb0/type", "1\n");
+    addPort("usb0");
     for (int pass = 0; pass < 5; ++pass)
         sampler.sample(true, 3);
     EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::ethernet, "usb0", "Ethernet"}));
@@ -116,13 +118,14 @@ TEST(LinuxNetworkInfo, FollowsTheTreesOfAnotherMachine) {
     EXPECT_EQ(NetworkInfoSampler(*gone.networkInfo).sample(true, 3), NetworkInfo());
 }
 
-struct RouteOverWiFi : DefaultRoutes {
-    explicit RouteOverWiFi(std::shared_ptr<std::uint64_t> count) : news(std::move(count)) {}
-    std::shared_ptr<std::uint64_t> news;
+struct FakeRoutes : DefaultRoutes {
+    const std::uint64_t& news;
+    bool works;
     DefaultRoute route{3, "wlan0", "192.0.2.1"};
 
-    bool refresh() override { return true; }
-    std::uint64_t generation() const override { return *news; }
+    explicit FakeRoutes(const std::uint64_t& count, bool doesWork = true) : news(count), works(doesWork) {}
+    bool refresh() override { return works; }
+    std::uint64_t generation() const override { return news; }
     const DefaultRoute* primary(Family) const override { return &route; }
 };
 
@@ -133,41 +136,31 @@ struct HangingReader : WiFiReader {
     void read(int, WiFiReading& reading) override {
         while (*hangs)
             std::this_thread::yield();
-        reading = WiFiReading();
-        reading.signal = -50;
-        reading.ssid = "Home";
+        reading = WiFiReading{.signal = -50, .ssid = "Home"};
     }
 };
 
-TEST(LinuxNetworkInfo, NewsOfOtherLinksKeepWhatWiFiTold) {
-    const TemporaryFolder folder;
-    folder.write("class/net/wlan0/phy80211/index", "0\n");
-    const auto news = std::make_shared<std::uint64_t>(1);
+TEST_F(LinuxNetworkInfoTest, NewsOfOtherLinksKeepWhatWiFiTold) {
+    folder.write("sys/class/net/wlan0/phy80211/index", "0\n");
+    std::uint64_t news = 1;
     const auto hangs = std::make_shared<std::atomic<bool>>(false);
-    LinuxNetworkInfo source(folder.path(""), std::make_unique<RouteOverWiFi>(news), nullptr,
+    LinuxNetworkInfo source(folder.path("sys"), std::make_unique<FakeRoutes>(news), nullptr,
                             std::make_unique<HangingReader>(hangs));
     NetworkInfoSampler sampler(source);
     const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     while (sampler.sample(true, 3).ssid != "Home" && std::chrono::steady_clock::now() < deadline)
         std::this_thread::yield();
     *hangs = true;
-    ++*news;
+    ++news;
     EXPECT_EQ(sampler.sample(true, 3).ssid, "Home");
     *hangs = false;
 }
 
-/// Routes that work, or worked once.
-struct FailingRoutes : RouteOverWiFi {
-    explicit FailingRoutes(std::uint64_t generation) : RouteOverWiFi(std::make_shared<std::uint64_t>(generation)) {}
-    bool refresh() override { return false; }
-};
-
-TEST(LinuxNetworkInfo, FallsBackForGoodOnlyWhereTheRoutesNeverWorked) {
-    const TemporaryFolder folder;
-    folder.write("net/route", heading + route("eth0", "00000000", "0003", "100"));
+TEST_F(LinuxNetworkInfoTest, FallsBackForGoodOnlyWhereTheRoutesNeverWorked) {
+    setRoute("eth0");
     for (const std::uint64_t generation : {0, 1}) {
-        LinuxNetworkInfo source(folder.path(""), std::make_unique<FailingRoutes>(generation),
-                                std::make_unique<ProcNetRoutes>(folder.path("net")), nullptr);
+        LinuxNetworkInfo source(folder.path("sys"), std::make_unique<FakeRoutes>(generation, false),
+                                std::make_unique<ProcNetRoutes>(folder.path("proc/net")), nullptr);
         EXPECT_EQ(NetworkInfoSampler(source).sample(true, 3).interface.has_value(), generation == 0);
     }
 }

@@ -17,10 +17,6 @@ namespace {
 constexpr int family = 28;
 constexpr int link = 3;
 
-std::string flagAttribute(int type) {
-    return attribute(type, {});
-}
-
 std::string stationFlags(std::uint32_t set) {
     return attribute(NL80211_STA_INFO_STA_FLAGS, bytesOf(nl80211_sta_flag_update{set, set}));
 }
@@ -45,7 +41,7 @@ std::string bitRate(std::uint16_t shortRate, std::uint32_t longRate) {
 
 std::string survey(int noise, bool isInUse) {
     return attribute(NL80211_ATTR_SURVEY_INFO | NLA_F_NESTED,
-                     (isInUse ? flagAttribute(NL80211_SURVEY_INFO_IN_USE) : std::string()) +
+                     (isInUse ? attribute(NL80211_SURVEY_INFO_IN_USE, {}) : std::string()) +
                          signal(NL80211_SURVEY_INFO_NOISE, noise));
 }
 

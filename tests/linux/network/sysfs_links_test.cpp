@@ -29,11 +29,11 @@ TEST(SysfsLinks, DerivesRunningFromTheOperationalState) {
     };
     for (const Row& row : rows) {
         const TemporaryFolder folder;
-        folder.write("class/net/eth0/device/vendor", "1\n");
-        folder.write("class/net/eth0/flags", row.flags);
-        if (*row.operState != '\0')
-            folder.write("class/net/eth0/operstate", row.operState);
-        folder.write("class/net/eth0/carrier", row.carrier);
+        std::filesystem::create_directories(folder.path("class/net/eth0/device"));
+        for (const auto& [file, text] :
+             {std::pair("flags", row.flags), {"operstate", row.operState}, {"carrier", row.carrier}})
+            if (*text != '\0')
+                folder.write("class/net/eth0/" + std::string(file), text);
         SysfsLinks links(folder.path(""));
         EXPECT_EQ(links.state("eth0", 0).flags, row.expected) << row.name;
         EXPECT_FALSE(links.state("../net/eth0", 0).isHardware);
