@@ -17,7 +17,7 @@ struct DiskStatsLine {
     std::string_view counters; ///< what follows the name
 };
 
-/// Sectors moved since start-up. They are of 512 bytes, whatever the device's own.
+/// Sectors moved since start-up. They are of 512 bytes, whatever the device's own size.
 struct DiskSectors {
     std::optional<std::uint64_t> read;
     std::optional<std::uint64_t> written;

@@ -29,7 +29,7 @@ class GPUPowerFile {
     KernelFile status_;
 };
 
-/// Rest for an idle GPU: one that has nothing to do is asked only at the lines of its grid.
+/// Leaves an idle GPU alone between the lines of its grid.
 class GPURest {
   public:
     static constexpr double idle = 0.5; ///< percent; below this nothing is done
@@ -41,7 +41,8 @@ class GPURest {
         const bool isBetweenLines = grid_.isBetweenLines(now);
         return isIdle_ && isBetweenLines;
     }
-    /// Takes note of the load, in percent, that was just read. A GPU that goes on not telling it has its rest, too.
+    /// Takes note of the load, in percent, that was just read. A GPU that does not tell it twice in a row counts as
+    /// idle.
     void note(std::optional<double> percent) {
         isIdle_ = percent ? *percent < idle : isSilent_;
         isSilent_ = !percent;

@@ -11,9 +11,9 @@
 
 namespace vantrix {
 
-/// The GPUs that NVIDIA's own driver runs. The library is asked about a GPU only while the kernel does not call that
-/// asleep, and is started only while none is, for it may touch each on its way. It is stopped when none is at work. All
-/// of that happens in the background: a pass takes the last answer.
+/// The GPUs that NVIDIA's own driver runs. The library is asked about a GPU only while the kernel does not call it
+/// asleep, and is started only while no GPU is asleep, since it may touch them all. It is stopped when none is at work.
+/// All of that happens in the background: a pass takes the last answer.
 class NvidiaGPUs {
   public:
     static constexpr double staleAfter = 10.0; ///< seconds without an answer

@@ -11,8 +11,8 @@
 
 namespace vantrix {
 
-/// What one pass wants of NVIDIA's library, and its answers. From the time it is given away until `isDone` it belongs
-/// to the thread that performs it.
+/// What a pass asks NVIDIA's library, and the answers. From when it is handed over until `isDone` it belongs to the
+/// thread that performs it.
 class NvidiaJob : public Background::Job {
   public:
     struct GPU {

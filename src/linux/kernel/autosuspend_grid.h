@@ -8,19 +8,19 @@
 
 namespace vantrix {
 
-/// When a device that falls asleep by itself is asked. Every question starts its autosuspend delay anew, so all who
-/// have questions keep to the lines of one grid of time, between which the device can reach the end of its delay.
+/// When to ask a device that falls asleep by itself. Every question restarts its autosuspend delay, so everybody asks
+/// at the same points in time, the lines of a grid, which are far enough apart for the delay to run out.
 class AutosuspendGrid {
   public:
     static constexpr double longestPeriod = 12.0; ///< seconds from line to line
 
-    /// `device` is its folder, of which nothing is opened yet. Without a `usualDelay`, in seconds, a device that tells
-    /// no delay needs no grid.
+    /// `device` is its folder; nothing in it is opened yet. `usualDelay`, in seconds, is taken for a device that does
+    /// not tell its delay; without it, such a device is taken to stay awake.
     explicit AutosuspendGrid(const std::string& device, std::optional<double> usualDelay = {});
 
     /// Asked once on each pass that finds the device awake; `now` in seconds. True when the device may fall asleep and
-    /// no line was passed since the last call. Its power settings are read where one was, and so are boot_vga and the
-    /// states of the screens: a GPU that drives one stays awake anyhow. None of them reach the device.
+    /// no line was passed since the last call. When one was, its power settings, boot_vga and the states of its screens
+    /// are read, since a GPU that drives a screen stays awake anyhow; none of these files reaches the device.
     bool isBetweenLines(double now);
 
     /// As of the last line.

@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// Runs what may take long away from the sampling pass.
+/// Runs what may take long off the sampling thread.
 class Background {
   public:
     class Job {
@@ -14,11 +14,11 @@ class Background {
     };
 
     virtual ~Background() = default;
-    /// Performs the job later, once, after those given before it. False when it cannot.
+    /// Queues the job, to be performed once. False when that is impossible.
     virtual bool run(const std::shared_ptr<Job>& job) = 0;
 
-    /// A sensor that this serves was very slow: others of its device that were never read begin here. For the sampling
-    /// thread alone.
+    /// Remembers that a sensor read here was very slow: others of its device that were never read then begin here, too.
+    /// For the sampling thread alone.
     void noteSlowDevice() { isDeviceSlow_ = true; }
     bool isDeviceSlow() const { return isDeviceSlow_; }
 

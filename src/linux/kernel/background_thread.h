@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// A thread that exists only once there was something to do.
+/// A thread that is started with the first job.
 class BackgroundThread : public Background {
   public:
     /// Never waits for a job: a driver that hangs must not keep the program from ending. Jobs that have not begun are

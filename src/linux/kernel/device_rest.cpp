@@ -54,7 +54,7 @@ bool DeviceRest::isIdleDisk() {
     const auto text = statistics_->read();
     if (!text)
         return true;
-    // A disk that stopped spinning on its own says so nowhere; one that was never seen at work counts as idle.
+    // Nothing tells that a disk has stopped spinning on its own; one that was never seen at work counts as idle.
     const bool hasWorked = !lastStatistics_.empty() && lastStatistics_ != *text;
     lastStatistics_ = *text;
     return !hasWorked;

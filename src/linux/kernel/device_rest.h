@@ -18,15 +18,16 @@ class DeviceRest {
         asleep, ///< or gone
     };
 
-    /// Seconds that the last value of an idle device counts.
+    /// Seconds for which the last value of an idle device still counts.
     static constexpr double longestBridge = 60.0;
 
-    /// `device` is the folder of the device behind a chip. One whose questions are commands to it is asked only every
-    /// `interval` seconds. A spinning disk is asked only after it did something, so as not to put off its rest.
+    /// `device` is the folder of the device behind a chip. One that has to carry out a command for each question is
+    /// asked only every `interval` seconds. A spinning disk is asked only after it did something, so that it may spin
+    /// down.
     explicit DeviceRest(const std::string& device, bool isDrive = false, double interval = 0.0);
 
-    /// Reads power states, a drive's SCSI state and a spinning disk's statistics, none of which reach the device.
-    /// Asked once on each pass; `now` in seconds. Whoever is told `awake` asks the device.
+    /// Reads power states, a drive's SCSI state and a spinning disk's statistics, none of which reach the device. Asked
+    /// once on each pass; `now` in seconds. A caller that is told `awake` asks the device.
     State look(double now);
 
   private:

@@ -9,7 +9,7 @@ namespace vantrix {
 
 struct KernelRoots;
 
-/// Questions put to a kernel file tree once, not on every pass.
+/// Looks into a kernel file tree; too slow for every pass.
 
 /// The first `limit` bytes of a file; absent when it cannot be read.
 std::optional<std::string> readStart(const std::string& path, std::size_t limit = 4096);
@@ -25,8 +25,8 @@ bool isEntryName(std::string_view name);
 /// Names in `folder` that begin with `prefix`, in no order; empty when the folder cannot be read.
 std::vector<std::string> entriesStartingWith(const std::string& folder, std::string_view prefix);
 
-/// The folder with the machine's network tables. "net" in a tree of processes means the reader's own network
-/// namespace, "1/net" that of the tree's machine.
+/// The folder with the machine's network tables. <proc>/net is that of the reader's own network namespace, <proc>/1/net
+/// that of the machine whose tree it is.
 std::string netFolder(const KernelRoots& roots);
 
 } // namespace vantrix

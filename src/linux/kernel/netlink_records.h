@@ -41,7 +41,7 @@ inline std::optional<NetlinkMessage> takeNetlinkMessage(std::string_view& datagr
     return NetlinkMessage{*header, body};
 }
 
-/// What follows a body's record of a fixed size.
+/// The attributes behind the fixed record that a body begins with.
 template<typename Record>
 std::string_view attributesAfter(std::string_view body) {
     removeAligned(body, sizeof(Record));

@@ -8,7 +8,7 @@
 namespace vantrix {
 namespace {
 
-constexpr std::size_t largestDatagram = 32768; // what the kernel packs into one at most
+constexpr std::size_t largestDatagram = 32768; // the most that the kernel packs into one
 
 } // namespace
 

@@ -9,7 +9,7 @@
 namespace vantrix {
 
 /// A conversation with the kernel in datagrams of netlink messages. Nothing here waits: the kernel answers a question
-/// while it is sent, and goes on with a long answer while it is read.
+/// while it is sent, and continues a long answer as it is read.
 class NetlinkChannel {
   public:
     enum class Received {
@@ -20,13 +20,13 @@ class NetlinkChannel {
     };
 
     virtual ~NetlinkChannel() = default;
-    /// True also when open already. Else errno tells why.
+    /// True, too, when it is open already. On failure errno tells why.
     virtual bool open() = 0;
     /// Drops what is left of the conversation.
     virtual void close() = 0;
-    /// False when not taken whole; errno tells why.
+    /// False unless it was sent whole; errno tells why.
     virtual bool send(std::string_view question) = 0;
-    /// `datagram` holds until the next call; it is empty when somebody else than the kernel sent it.
+    /// `datagram` holds until the next call; it is empty when somebody other than the kernel sent it.
     virtual Received receive(std::string_view& datagram) = 0;
 };
 

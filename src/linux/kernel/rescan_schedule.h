@@ -23,10 +23,10 @@ class RescanSchedule {
 
     explicit RescanSchedule(std::vector<std::string> folders, Pace pace = usual);
 
-    /// Asked once at the beginning of each pass; true on the first. Whoever is told true searches.
+    /// Asked once at the beginning of each pass; true on the first. A caller that is told true searches.
     bool isDue();
 
-    /// Tells that a sensor that used to answer does not.
+    /// To be called when a sensor stops answering.
     void noteFailure() { hasFailure_ = true; }
 
     /// As they were last listed, in the given order.

@@ -31,7 +31,7 @@ inline std::string_view ueventValue(std::string_view text, std::string_view key)
     return {};
 }
 
-/// Walks the fields of one line, which blanks and tabs separate.
+/// Walks over the fields of one line, which are separated by blanks and tabs.
 class Fields {
   public:
     explicit Fields(std::string_view line) : at_(line.data()), end_(line.data() + line.size()) {}
@@ -45,7 +45,7 @@ class Fields {
         return {begin, static_cast<std::size_t>(at_ - begin)};
     }
 
-    /// What has not been walked yet.
+    /// What has not been walked over yet.
     std::string_view rest() const { return {at_, static_cast<std::size_t>(end_ - at_)}; }
 
     void skip(int count) {

@@ -8,10 +8,10 @@
 
 namespace vantrix {
 
-/// A sensor whose reads are timed. One that took longer than 2 ms twice in a row, or 20 ms once, is read in the
-/// background from then on, so that it never delays a pass again; after those 20 ms its device's other sensors, which
-/// have the same background, begin there. It returns to the direct way only after many quick reads in a row: then it
-/// was not the sensor that was slow, but the machine that was busy.
+/// A sensor whose reads are timed. One that takes longer than 2 ms twice in a row, or 20 ms once, is read in the
+/// background from then on, so that it never delays a pass again. After those 20 ms, other sensors of its device, which
+/// share the background, begin there. After many quick reads in a row it is read directly again: the machine had been
+/// busy, the sensor was not slow.
 class TimedSensor {
   public:
     class Probe {
@@ -26,14 +26,14 @@ class TimedSensor {
     static constexpr double staleAfter = 10.0;     ///< seconds
     static constexpr int quickReadsToReturn = 100; ///< in a row
 
-    /// A read that hangs may outlive the sensor, hence the shared clock, which any thread may ask.
+    /// The clock is shared since a read that hangs may outlive the sensor. Any thread may ask it.
     TimedSensor(std::unique_ptr<Probe> probe, std::shared_ptr<Background> background,
                 std::shared_ptr<const Clock> clock);
 
     /// The value now, or, of a slow sensor, the one that its last finished read gave. Absent when that read gave none,
     /// and when a slow sensor was asked more than 10 s ago and has not answered yet.
     std::optional<double> value();
-    /// The same for one sensor after another, at less cost: `now` is the clock's time, and moves on with the reads.
+    /// The same, at less cost when many sensors are read in turn: `now` is the clock's time, which each read moves on.
     std::optional<double> value(double& now);
 
     /// The last value without asking the sensor; absent when it is more than `age` seconds old.

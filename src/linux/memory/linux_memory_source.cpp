@@ -11,8 +11,8 @@ std::uint64_t internalMemory(const MemInfo& info) {
     return info.anonPages.value_or(0) + info.shmem.value_or(0);
 }
 
-/// Memory that cannot be evicted and is not anonymous. Locked anonymous pages leave the lists of active and inactive
-/// ones, so what those lists lack of the internal memory is counted there already.
+/// Memory that cannot be evicted and is not anonymous. Locked anonymous pages are on neither the active nor the
+/// inactive list, but are counted as internal memory already.
 std::uint64_t lockedFileMemory(const MemInfo& info) {
     const auto unevictable = info.unevictable.value_or(info.mlocked.value_or(0));
     const auto listed = info.activeAnon.value_or(0) + info.inactiveAnon.value_or(0);

@@ -33,10 +33,10 @@ struct MemInfo {
     Value hugetlb;
 };
 
-/// The largest memory believed, in KiB (1 EiB).
+/// The largest plausible memory, in KiB (1 EiB).
 constexpr std::uint64_t largestMemory = std::uint64_t{1} << 50;
 
-/// Absent when the total is missing, 0 or past belief, or the text is cut short.
+/// Absent when the total is missing, 0 or implausible, or the text is cut short.
 std::optional<MemInfo> parseMemInfo(std::string_view text);
 
 } // namespace vantrix

@@ -21,11 +21,10 @@ class BackgroundWiFi {
     BackgroundWiFi(const BackgroundWiFi&) = delete;
     BackgroundWiFi& operator=(const BackgroundWiFi&) = delete;
 
-    /// The latest reading of a link, whose next one is asked for by this; holds until the next call. One caller at a
-    /// time.
+    /// The latest reading of a link, which holds until the next call. Asks for the next reading. One caller at a time.
     const WiFiReading& read(int link);
 
-    /// The next question is a first one: what was read before belongs to another time.
+    /// Makes the next question a first one: what was read before is out of date.
     void forget() { link_ = 0; }
 
   private:

@@ -8,7 +8,7 @@
 
 namespace vantrix {
 
-/// Where the connections of a family leave the machine.
+/// The default route of one address family.
 struct DefaultRoute {
     int index = 0; ///< of the link; 0 when not known
     std::string interface;
@@ -21,11 +21,11 @@ class DefaultRoutes {
     using Family = NetworkInfoSampler::AddressFamily;
 
     virtual ~DefaultRoutes() = default;
-    /// Called once before the routes of a pass are asked for. False when this way of knowing does not work here.
+    /// Called once per pass, before the routes are asked for. False when they cannot be learnt in this way here.
     virtual bool refresh() = 0;
     /// Changes whenever routes, or the links below them, may have changed.
     virtual std::uint64_t generation() const = 0;
-    /// The one of lowest metric; null without any.
+    /// The route of lowest metric; null without any.
     virtual const DefaultRoute* primary(Family family) const = 0;
 };
 

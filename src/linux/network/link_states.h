@@ -11,11 +11,11 @@ struct LinkState {
     std::uint32_t flags = 0; ///< IFF_…; only meaningful for hardware
 };
 
-/// What there is to know of a network interface besides its counters.
+/// What its counters do not tell of a network interface.
 class LinkStates {
   public:
     virtual ~LinkStates() = default;
-    /// Called once before the states of a pass are asked for. False when this way of knowing does not work here.
+    /// Called once per pass, before the states are asked for. False when they cannot be learnt in this way here.
     virtual bool refresh() = 0;
     /// `place` is the interface's place in the list, where the search for it begins.
     virtual LinkState state(std::string_view name, std::size_t place) = 0;

@@ -62,7 +62,7 @@ std::optional<NetworkInfoSampler::Interface> LinuxNetworkInfo::describe(std::str
 }
 
 void LinuxNetworkInfo::lookUp(std::string_view interface) {
-    // News come with every scan and every container's link; what Wi-Fi told last stands as long as it is the same link.
+    // Every scan and every container's link brings news; the last Wi-Fi reading stands as long as the link is the same.
     const DefaultRoute* route = routeOver(interface);
     const int index = route != nullptr ? route->index : 0;
     if (wifi_ && (described_ != interface || describedIndex_ != index))

@@ -8,11 +8,11 @@
 
 namespace vantrix {
 
-/// The connection as the routes, <sys>/class/net and nl80211 tell of it.
+/// The connection, from the default routes, <sys>/class/net and nl80211.
 class LinuxNetworkInfo : public NetworkInfoSampler::Source {
   public:
-    /// Without `wifi`, as for another machine's trees, no Wi-Fi details are asked for. `fallback` takes over for good
-    /// when `routes` does not work from the start; either may be all there is.
+    /// `fallback`, which may be null, takes over for good when `routes` does not work from the start. `wifi` is null
+    /// for another machine's trees; Wi-Fi details are then not asked for.
     LinuxNetworkInfo(std::string sys, std::unique_ptr<DefaultRoutes> routes, std::unique_ptr<DefaultRoutes> fallback,
                      std::unique_ptr<WiFiReader> wifi);
 
@@ -34,7 +34,7 @@ class LinuxNetworkInfo : public NetworkInfoSampler::Source {
     std::unique_ptr<BackgroundWiFi> wifi_;
     std::string_view reason_;
 
-    // What the interface described last is; looked up anew after each change of routes or links, and now and then
+    // The interface described last. It is looked up anew after each change of routes or links, and every few passes
     // while there is no such link.
     std::string described_;
     int describedIndex_ = 0;

@@ -26,7 +26,7 @@ struct GenericAnswer {
 /// Takes the next message off the front of `datagram`. Absent when none is left or the rest makes no sense.
 std::optional<GenericAnswer> takeGenericAnswer(std::string_view& datagram);
 
-/// The questions, in the form that the kernel takes; empty when memory is short. Their number is still 0.
+/// The questions as the kernel takes them, but for their sequence number; empty when memory is short.
 std::string nl80211FamilyQuestion();
 /// `command` is one of NL80211_CMD_GET_…; a dump lists all there are for the link.
 std::string nl80211Question(std::uint16_t family, std::uint8_t command, int link, bool isDump);
@@ -40,7 +40,7 @@ struct WiFiStation {
 
 /// Each takes the attributes of one answer; absent when they lack what is asked for, or are garbled.
 
-/// The number by which nl80211 goes in this boot.
+/// The number that the kernel gave nl80211 when it started.
 std::optional<std::uint16_t> parseFamilyNumber(std::string_view attributes);
 /// The network's name, as raw bytes, of an interface.
 std::optional<std::string_view> parseInterfaceName(std::string_view attributes);

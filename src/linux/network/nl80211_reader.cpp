@@ -27,7 +27,7 @@ void Nl80211Reader::read(int link, WiFiReading& reading) {
     if (error == 0)
         error = readStation(reading);
     if (error != 0) {
-        // Numbers and questions may not outlive what went wrong, say a driver that was loaded anew.
+        // The number in the questions may no longer be right, say after a driver was reloaded.
         channel_->close();
         family_ = 0;
         link_ = 0;
@@ -86,7 +86,7 @@ int Nl80211Reader::readStation(WiFiReading& reading) {
     return 0;
 }
 
-/// Drivers need not know any of these.
+/// A driver may answer none of these.
 void Nl80211Reader::readDetails() {
     ssid_.clear();
     noise_ = 0;

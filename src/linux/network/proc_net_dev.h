@@ -19,8 +19,8 @@ struct NetDevLine {
 /// Replaces `lines` by the interfaces of /proc/net/dev. False when the text is cut short.
 bool parseNetDev(std::string_view text, std::vector<NetDevLine>& lines);
 
-/// Replaces `shown` by the name under which the sampler finds exactly the hardware ports, by their prefix "en": they
-/// get it where they lack it, and whatever else has it by chance is marked.
+/// Replaces `shown` by a name for the sampler, which counts what begins with "en". Hardware ports get that prefix where
+/// they lack it; anything else that has it by chance gets another character before it.
 void nameLink(std::string_view name, bool isHardware, std::string& shown);
 
 /// Counters from /proc/net/dev, joined with the state of each link.

@@ -43,7 +43,7 @@ RouteAttributes readRoute(const rtmsg& route, std::string_view attributes) {
 
 std::optional<RouteMessage> parseRoute(std::string_view body) {
     const auto route = recordAt<rtmsg>(body);
-    // Clones are the cache's, and a type of service asks for a route of its own.
+    // Clones belong to the cache; a route for one type of service is no default for the rest.
     if (!route || route->rtm_dst_len != 0 || route->rtm_tos != 0 || (route->rtm_flags & RTM_F_CLONED) != 0)
         return std::nullopt;
     const auto attributes = readRoute(*route, attributesAfter<rtmsg>(body));

@@ -9,8 +9,7 @@
 
 namespace vantrix {
 
-/// One rtnetlink message, as far as it matters to the default route. Whether something is new, changed or gone, it
-/// does not tell.
+/// What an rtnetlink message tells of default routes, but for whether something is new, changed or gone.
 struct RouteMessage {
     enum class Kind {
         defaultRoute, ///< of the main table

@@ -11,7 +11,7 @@ namespace vantrix {
 /// The links of this network namespace.
 class RtnetlinkLinks : public LinkStates, private RtnetlinkTable {
   public:
-    /// `sys` is the root under which it is looked up, once per link and name, whether a link is hardware.
+    /// Whether a link is hardware is looked up under the root `sys`, once per link and name.
     RtnetlinkLinks(std::shared_ptr<RtnetlinkSubscriber> subscriber, std::string sys)
         : RtnetlinkTable(std::move(subscriber)), sys_(std::move(sys)) {}
 

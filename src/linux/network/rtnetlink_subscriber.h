@@ -12,8 +12,8 @@ namespace vantrix {
 
 class RtnetlinkSubscriber;
 
-/// What a part of the program keeps of the kernel's lists of links, addresses or routes. Follows the subscriber's news
-/// for as long as it lives.
+/// A copy of some of the kernel's lists of links, addresses and routes. It follows the subscriber's news for as long as
+/// it lives.
 class RtnetlinkTable {
   public:
     struct List {
@@ -26,16 +26,16 @@ class RtnetlinkTable {
     RtnetlinkTable(const RtnetlinkTable&) = delete;
     RtnetlinkTable& operator=(const RtnetlinkTable&) = delete;
 
-    /// The lists that it is made of.
+    /// The lists that it is a copy of.
     virtual std::span<const List> lists() const = 0;
 
-    /// Around the messages of all lists; an `endLists` may fail to come. The lists are not `whole` when something
-    /// changed while they were made: they are then read anew.
+    /// Called around the messages of all lists; the end does not come when reading them fails. They are not whole when
+    /// something changed while they were made, and are then read anew.
     virtual void beginLists() = 0;
     virtual void takeListed(const NetlinkMessage& message) = 0;
     virtual void endLists(bool areWhole) = 0;
 
-    /// Takes what changed, whatever it is about. True when the lists have to be read anew because of it.
+    /// Takes news of whatever sort. True when the lists have to be read anew because of it.
     virtual bool takeNews(const NetlinkMessage& message) = 0;
 
   protected:
@@ -53,8 +53,8 @@ class RtnetlinkSubscriber {
     /// `channel` talks to NETLINK_ROUTE.
     explicit RtnetlinkSubscriber(std::unique_ptr<NetlinkChannel> channel) : channel_(std::move(channel)) {}
 
-    /// Hands the news to the tables and reads the lists that are due. False while the kernel cannot be heard; what the
-    /// tables hold may then be old. Any of the tables may call it, on the same pass too.
+    /// Hands the news to the tables and reads the lists that are due. False while the kernel cannot be heard; the
+    /// tables may then be out of date. Each of them may call it on the same pass.
     bool refresh();
 
   private:

@@ -5,7 +5,7 @@
 
 namespace vantrix {
 
-/// What one question about a Wi-Fi link gave.
+/// The answer to one question about a Wi-Fi link.
 struct WiFiReading {
     int signal = 0;       ///< dBm; 0 when not known
     int noise = 0;        ///< dBm; 0 when not known
@@ -13,7 +13,7 @@ struct WiFiReading {
     std::string ssid;     ///< in UTF-8; empty when not known
     std::string problem;  ///< why there is no answer; empty when there is one
 
-    /// Turns this into no answer at all, in the memory that it has.
+    /// Turns this into a failure, and keeps its memory.
     void fail(std::string_view why) {
         signal = 0;
         noise = 0;

@@ -11,8 +11,8 @@
 
 namespace vantrix {
 
-/// The present state of one entry. Units are the kernel's: µWh, µAh, µV, µA, µW, tenths of a degree Celsius, seconds.
-/// A value is absent when the driver does not tell it, or tells one that nothing this side of a power station reaches.
+/// The present state of one entry. Units are the kernel's: µWh, µAh, µV, µA, µW, tenths of a degree Celsius, seconds. A
+/// value is absent when the driver does not tell it, or tells an implausible one.
 struct SupplyState {
     enum Number {
         present,
@@ -45,8 +45,8 @@ struct SupplyState {
 /// The state as the file uevent of an entry tells it. Absent when it is no such text.
 std::optional<SupplyState> parseSupply(std::string_view uevent);
 
-/// Reads an entry on every pass: all its values with one read. Where the driver fails at a single one and so spoils
-/// that read, value by value.
+/// Reads an entry on every pass: all its values with one read. Where the driver fails that read because of a single
+/// one, value by value.
 class PowerSupply {
   public:
     explicit PowerSupply(std::string folder);

@@ -20,7 +20,7 @@ struct SupplyReading {
 /// The last finished look, which another thread may have taken.
 class SharedSupplyReading {
   public:
-    /// Takes what is new out of `reading` and leaves what was there in it.
+    /// Swaps it with `reading`, so that neither allocates.
     void exchange(SupplyReading& reading);
     void copyTo(SupplyReading& reading) const;
 
@@ -29,7 +29,7 @@ class SharedSupplyReading {
     SupplyReading reading_;
 };
 
-/// Looks at every pack and adapter, as one sensor: behind any of these files the firmware may ask a slow controller.
+/// Looks at all packs and adapters as one sensor: behind any of their files the firmware may ask a slow controller.
 class SupplyProbe : public TimedSensor::Probe {
   public:
     /// `packs` and `externals` are entries' folders.

@@ -75,7 +75,7 @@ std::optional<ProcessStatistics> processStatistics(int pid, const std::string& p
         if (thread.starts_with('.'))
             continue;
         const auto status = readStart(pathBelow(threads, thread) + "/status", longest);
-        // A thread goes to sleep as often as it wakes up; the other switches are those of a busy machine.
+        // A thread wakes up as often as it goes to sleep. Other switches come from a busy machine.
         const auto switches = status ? sumOf(*status, {"voluntary_ctxt_switches:"}) : std::nullopt;
         if (!switches)
             continue; // it just ended

@@ -26,7 +26,7 @@ bool parseProcStat(std::string_view text, std::vector<CoreTicks>& cores);
 class SteadyCounter {
   public:
     std::uint32_t advance(std::uint64_t raw);
-    /// Goes on from the value last given with the counter of something else.
+    /// Goes on from the last value with the counter of something else.
     void restart(std::uint64_t raw);
 
   private:

@@ -34,7 +34,7 @@ std::optional<std::string> tidiedName(std::string_view raw) {
 }
 
 std::optional<std::string> processorBrand(const std::string& proc, const std::string& sys) {
-    // The first processor is described well within this; the whole text may be long and slow to make.
+    // Enough for the first processor; the whole text may be long, and slow to make.
     const auto cpuInfo = readStart(proc + "/cpuinfo", 8192);
     if (auto name = cpuInfo ? parseModelName(*cpuInfo) : std::nullopt)
         return name;

@@ -21,7 +21,7 @@ std::vector<HwmonChip> findHwmonChips(const std::string& sys);
 /// The numbers n of the files <prefix><n><suffix> in `folder`, ascending.
 std::vector<int> sensorNumbers(const std::string& folder, std::string_view prefix, std::string_view suffix);
 
-/// A sensor that is kept through searches while its file and name stay the same.
+/// A sensor that outlives a new search as long as its file and name stay the same.
 struct KeptSensor {
     std::string path;
     std::string name;

@@ -9,7 +9,7 @@
 
 namespace vantrix {
 
-/// Answers the keys of a controller that this machine has not: "FNum", "F0Ac", "F0Mn", "F0Mx" and so on from its fans,
+/// Answers the keys of a controller that this machine lacks: "FNum", "F0Ac", "F0Mn", "F0Mx" and so on from its fans,
 /// "PSTR" from the power it draws, "PDTR" from that of its adapter. "FNum" begins a pass. Temperatures have no keys
 /// here: they are all in the list of sensors.
 class LinuxSensorKeys : public SensorKeys {

@@ -24,7 +24,7 @@ class FrozenWatch {
 };
 
 /// Temperatures of <sys>/class/hwmon, and of <sys>/class/thermal where no chip is the processor's. Devices that sleep
-/// are not asked, nor are those that are to have their rest. "GPU NVIDIA" ends the list while `nvidia` has a value.
+/// are not asked, nor are idle ones that are to fall asleep. "GPU NVIDIA" ends the list while `nvidia` has a value.
 class LinuxTemperatures : public HIDTemperatureSampler::Source {
   public:
     LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,

@@ -20,7 +20,7 @@ class PowerTotals {
     void beginPass();
 
     /// From the first of these that answers: the processor's counter for the platform ("psys"), a power meter of the
-    /// board, and what its batteries give, with what an adapter that cannot keep up is known to deliver.
+    /// board, and what the batteries give together with what the adapter is known to deliver.
     std::optional<double> system();
     std::optional<double> adapter();
 

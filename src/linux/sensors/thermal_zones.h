@@ -11,8 +11,8 @@ struct ThermalZone {
     std::string folder; ///< resolved
 };
 
-/// The zones that stand in, sorted by type, for what the hwmon `chips` with temperatures, by their names, leave out:
-/// none where one of them is the processor's, nor those that are such a chip as well.
+/// The zones that are worth reading beside the hwmon chips with temperatures, whose names are `chips`; sorted by type.
+/// None where one of the chips is the processor's; never one that is a chip as well.
 std::vector<ThermalZone> findThermalZones(const std::string& sys, const std::vector<std::string>& chips);
 
 } // namespace vantrix
