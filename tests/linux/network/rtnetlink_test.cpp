@@ -132,8 +132,8 @@ struct FakeKernel : FakeNetlink {
     }
 
     void answer(char kind, std::uint32_t sequence, int flags) {
-        tell("");                                                              // from somebody else
-        tell(linkMessage(RTM_DELLINK, 1, 0, "lo", NLM_F_MULTI, sequence - 1)); // of another list
+        tell("");                                                         // from somebody else
+        tell(message(NLMSG_DONE, bytesOf(0), NLM_F_MULTI, sequence - 1)); // of another list
         if (refusals[kind] != 0)
             return tell(message(NLMSG_ERROR, bytesOf(nlmsgerr{-refusals[kind], {}}), 0, sequence));
         if (kind == '4')
