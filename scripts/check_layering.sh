@@ -26,7 +26,7 @@ popover:popover|views|monitor|menubar|$rules|platform/status_item.h|platform/pop
 settings:settings|views|monitor|menubar|support|platform/login_item.h
 alerts:alerts|monitor|menubar|support|samplers|accessories|platform/notification_center.h
 widget:widget|monitor|menubar|support|samplers|accessories|platform/widget_center.h
-doctor:doctor|$rules|platform/diagnosis.h|platform/sampling_sources.h
+doctor:doctor|$rules|monitor/samplers.h|platform/diagnosis.h|platform/sampling_sources.h
 posix:posix|platform/desktop_services.h
 linux/power_supply:linux/(power_supply|$middle|kernel)|$rules
 linux/diagnosis:linux/(diagnosis|power_supply|$middle|kernel)|platform/diagnosis.h|$rules

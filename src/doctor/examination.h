@@ -3,22 +3,12 @@
 #include <chrono>
 #include <map>
 #include <memory>
-#include <optional>
-#include <string>
 #include <vector>
 
+#include "doctor/probes.h"
 #include "doctor/report.h"
-#include "platform/sampling_sources.h"
 
 namespace vantrix {
-
-/// What was measured of one reading.
-struct Finding {
-    std::string value;                  ///< empty when there is none now
-    std::string note;                   ///< to be added to what its source is told to be
-    std::optional<double> microseconds; ///< of one read; absent where another reading's read gives this one too
-    bool isSilent = false;              ///< a read did not end in time
-};
 
 /// By names of `reading_name`.
 using Findings = std::map<std::string_view, Finding>;
@@ -38,15 +28,9 @@ class Examination {
     bool leftThreadBehind() const;
 
   private:
-    struct Machine;
-    struct Probe;
-    struct Measured;
+    std::vector<Finding> measure(std::size_t probe);
 
-    static const std::vector<Probe>& probes();
-
-    std::optional<Measured> measure(std::size_t probe);
-
-    std::shared_ptr<Machine> machine_; // shared with reads that hang
+    std::shared_ptr<Samplers> samplers_; // shared with reads that hang
     std::chrono::milliseconds patience_;
     std::vector<bool> hangs_; // by probe
 };

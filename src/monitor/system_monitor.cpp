@@ -16,17 +16,8 @@ constexpr double accessoriesScanInterval = 30.0; // seconds
 SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaults,
                              std::unique_ptr<RepeatingTimer> timer, std::unique_ptr<TaskRunner> background,
                              Bluetooth bluetooth)
-    : defaults_(defaults), sources_(std::move(sources)), accessoriesSampler_(std::move(sources_.accessories)),
-      cpuSampler_(*sources_.cpu), memorySampler_(*sources_.memory), networkSampler_(*sources_.network, *sources_.clock),
-      location_(std::move(sources_.location)), diskSampler_(*sources_.disks, *sources_.volume, *sources_.clock),
-      sensorsSampler_(sources_.sensorKeys.get(), sources_.temperatures.get(), sources_.energy.get(), *sources_.clock),
-      timer_(std::move(timer)), background_(std::move(background)) {
-    if (sources_.networkInfo)
-        networkInfoSampler_.emplace(*sources_.networkInfo);
-    if (sources_.gpu)
-        gpuSampler_.emplace(*sources_.gpu);
-    if (sources_.battery)
-        batterySampler_.emplace(*sources_.battery);
+    : defaults_(defaults), samplers_(std::move(sources)), accessoriesSampler_(std::move(samplers_.sources.accessories)),
+      location_(std::move(samplers_.sources.location)), timer_(std::move(timer)), background_(std::move(background)) {
     if (bluetooth.central) {
         bluetooth_.emplace(std::move(bluetooth.central), std::move(bluetooth.classicDevices),
                            std::move(bluetooth.timer));
@@ -35,9 +26,9 @@ SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaul
         };
     }
     location_.onChange = [this] { // the monitor owns what calls it
-        if (!networkInfoSampler_)
+        if (!samplers_.networkInfo)
             return;
-        networkInfoSampler_->renewWiFiClient();
+        samplers_.networkInfo->renewWiFiClient();
         sampleNetworkInfo();
     };
 }
@@ -95,16 +86,16 @@ void SystemMonitor::sample() {
 }
 
 void SystemMonitor::sampleCPU() {
-    const CPUSample* sample = cpuSampler_.sample();
+    const CPUSample* sample = samplers_.cpu.sample();
     // A baseline says nothing about the load: showing its zeros would be a lie.
-    if (!sample || cpuSampler_.isBaseline())
+    if (!sample || samplers_.cpu.isBaseline())
         return;
     store(&Readings::cpu, *sample, Reading::cpu);
     appendTo(&Readings::cpuHistory, sample->total, Reading::cpuHistory);
 }
 
 void SystemMonitor::sampleMemory() {
-    const auto sample = memorySampler_.sample();
+    const auto sample = samplers_.memory.sample();
     if (!sample)
         return;
     store(&Readings::memory, *sample, Reading::memory);
@@ -112,7 +103,7 @@ void SystemMonitor::sampleMemory() {
 }
 
 void SystemMonitor::sampleNetwork() {
-    const auto sample = networkSampler_.sample();
+    const auto sample = samplers_.network.sample();
     if (!sample)
         return;
     store(&Readings::network, *sample, Reading::network);
@@ -121,22 +112,22 @@ void SystemMonitor::sampleNetwork() {
 }
 
 void SystemMonitor::sampleNetworkInfo() {
-    if (networkInfoSampler_ && !isDemo_)
-        store(&Readings::networkInfo, networkInfoSampler_->sample(location_.isAuthorized(), location_.status()),
+    if (samplers_.networkInfo && !isDemo_)
+        store(&Readings::networkInfo, samplers_.networkInfo->sample(location_.isAuthorized(), location_.status()),
               Reading::networkInfo);
 }
 
 void SystemMonitor::sampleDisk() {
-    const DiskSample sample = diskSampler_.sample();
+    const DiskSample sample = samplers_.disk.sample();
     store(&Readings::disk, sample, Reading::disk);
     appendTo(&Readings::diskReadHistory, sample.readRate.value_or(0.0), Reading::diskReadHistory);
     appendTo(&Readings::diskWriteHistory, sample.writeRate.value_or(0.0), Reading::diskWriteHistory);
 }
 
 void SystemMonitor::sampleGPU() {
-    if (!gpuSampler_)
+    if (!samplers_.gpu)
         return;
-    const std::optional<double> load = gpuSampler_->sample();
+    const std::optional<double> load = samplers_.gpu->sample();
     if (load != readings_.gpu)
         store(&Readings::gpu, load, Reading::gpu);
     if (load)
@@ -144,7 +135,7 @@ void SystemMonitor::sampleGPU() {
 }
 
 void SystemMonitor::sampleSensors() {
-    const SensorsSample& sample = sensorsSampler_.sample();
+    const SensorsSample& sample = samplers_.sensors.sample();
     store(&Readings::sensors, sample, Reading::sensors);
     if (sample.cpu)
         appendTo(&Readings::cpuTemperatureHistory, *sample.cpu, Reading::cpuTemperatureHistory);
@@ -153,14 +144,14 @@ void SystemMonitor::sampleSensors() {
 }
 
 void SystemMonitor::sampleBattery() {
-    if (batterySampler_)
-        store(&Readings::battery, batterySampler_->sample(), Reading::battery);
+    if (samplers_.battery)
+        store(&Readings::battery, samplers_.battery->sample(), Reading::battery);
 }
 
 void SystemMonitor::sampleAccessories() {
     if (!accessoriesSampler_ || isSamplingAccessories_)
         return;
-    const double now = sources_.clock->uptime();
+    const double now = samplers_.sources.clock->uptime();
     if (lastAccessoriesSample_ && now - *lastAccessoriesSample_ < accessoriesScanInterval)
         return;
     lastAccessoriesSample_ = now;

@@ -9,10 +9,9 @@
 #include "accessories/bluetooth_battery_reader.h"
 #include "monitor/qt_repeating_timer.h"
 #include "monitor/readings.h"
+#include "monitor/samplers.h"
 #include "monitor/task_runner.h"
 #include "platform/bluetooth.h"
-#include "platform/sampling_sources.h"
-#include "sensors/sensors_sampler.h"
 
 namespace vantrix {
 
@@ -71,17 +70,9 @@ class SystemMonitor : public QObject {
     void store(T Readings::*field, const T& value, Reading reading);
 
     const UserDefaults& defaults_;
-    SamplingSources sources_;
+    Samplers samplers_;
     std::shared_ptr<AccessoriesSampler> accessoriesSampler_; // shared with a scan under way
-    CPUSampler cpuSampler_;
-    MemorySampler memorySampler_;
-    NetworkSampler networkSampler_;
-    std::optional<NetworkInfoSampler> networkInfoSampler_; // absent where nothing tells of the connection
     LocationAccess location_;
-    DiskSampler diskSampler_;
-    std::optional<GPUSampler> gpuSampler_; // absent with its source
-    SensorsSampler sensorsSampler_;
-    std::optional<BatterySampler> batterySampler_; // absent with its source
 
     Readings readings_;
     std::unique_ptr<RepeatingTimer> timer_;

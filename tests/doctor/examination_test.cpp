@@ -46,6 +46,7 @@ TEST(Examination, TakesLoadsAndRatesBetweenItsPasses) {
 TEST(Examination, ASourceThatHangsIsLeftBehindAlone) {
     struct Hanging : MemorySampler::Source {
         std::shared_future<void> end;
+        explicit Hanging(std::promise<void>& promise) : end(promise.get_future().share()) {}
         std::optional<MemorySampler::Statistics> read() override {
             end.wait();
             return std::nullopt;
@@ -54,9 +55,7 @@ TEST(Examination, ASourceThatHangsIsLeftBehindAlone) {
     std::promise<void> end;
     fakes::FakeMachine machine;
     auto sources = machine.makeSources();
-    auto hanging = std::make_unique<Hanging>();
-    hanging->end = end.get_future().share();
-    sources.memory = std::move(hanging);
+    sources.memory = std::make_unique<Hanging>(end);
     Findings findings;
     {
         Examination examination(std::move(sources), std::chrono::milliseconds(1000));

@@ -1,7 +1,5 @@
 #include "doctor/report.h"
 
-#include <sstream>
-
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -9,7 +7,6 @@
 #include <gmock/gmock.h>
 
 #include "doctor/instance_facts.h"
-#include "doctor/wrapped_text.h"
 
 namespace vantrix {
 namespace {
@@ -33,14 +30,6 @@ DoctorReport aReport() {
     report.services = {{{"Notifications", "bus", SourceState::ok, "a daemon with a long name 1.2", ""}, {}}};
     report.instance = DoctorInstance{77, ProcessStatistics{7200.0, 3.0, 1.0, 50'331'648, 10'485'760, 14400, 4}};
     return report;
-}
-
-std::vector<std::string> linesOf(const std::string& text) {
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    for (std::string line; std::getline(stream, line);)
-        lines.push_back(line);
-    return lines;
 }
 
 TEST(DoctorText, PutsRowsInColumnsAndTheRestBelow) {
@@ -70,16 +59,6 @@ TEST(DoctorText, PutsRowsInColumnsAndTheRestBelow) {
               "  Wake-ups  14400, 2.0 per second, 4 threads\n");
 }
 
-TEST(DoctorText, KeepsToTheWidth) {
-    for (const int width : {76, 80, 120}) {
-        for (const std::string& line : linesOf(textReport(aReport(), width))) {
-            EXPECT_LE(lengthOf(line), static_cast<std::size_t>(width)) << line;
-            EXPECT_FALSE(line.ends_with(' ')) << '"' << line << '"';
-        }
-    }
-    EXPECT_THAT(textReport(aReport(), 120), HasSubstr("123  /sys/class/drm/card0")); // room for it in its column
-}
-
 TEST(DoctorText, WordsOfServicesCannotCommandTheTerminal) {
     auto report = aReport();
     report.services.front().diagnosis.value = "\x1b[31mred\nline";
@@ -97,38 +76,28 @@ TEST(DoctorText, TellsOfInstancesOutOfSight) {
 }
 
 TEST(DoctorText, UptimesAreShort) {
-    const std::pair<double, const char*> rows[] = {{0.4, "0 s"},
-                                                   {59.9, "59 s"},
-                                                   {3599, "59 min"},
-                                                   {3600, "1 h"},
-                                                   {3660, "1 h 1 min"},
-                                                   {86400, "1 d"},
-                                                   {86400 * 9 + 7200, "9 d 2 h"}};
-    for (const auto& [seconds, text] : rows)
-        EXPECT_EQ(uptimeText(seconds), text);
+    EXPECT_EQ(uptimeText(59.9), "59 s");
+    EXPECT_EQ(uptimeText(3599), "59 min");
+    EXPECT_EQ(uptimeText(3600), "1 h");
+    EXPECT_EQ(uptimeText(86399), "23 h 59 min");
+    EXPECT_EQ(uptimeText(86400 * 9 + 7200), "9 d 2 h");
 }
 
 TEST(DoctorJSON, HoldsWhatTheTextDoes) {
     auto report = aReport();
     report.services.front().diagnosis.value = "quoted \" and \\ and \n and \xc2\xb5";
-    QJsonParseError error;
-    const auto object = QJsonDocument::fromJson(QByteArray::fromStdString(jsonReport(report)), &error).object();
-    ASSERT_EQ(error.error, QJsonParseError::NoError);
+    const auto object = QJsonDocument::fromJson(QByteArray::fromStdString(jsonReport(report))).object();
     EXPECT_EQ(object[u"system"][u"session"], u"GNOME"_s);
-    const auto readings = object[u"readings"].toArray();
-    ASSERT_EQ(readings.size(), 4);
-    EXPECT_EQ(readings[0].toObject(), (QJsonObject{{u"name"_s, u"Processor"_s},
-                                                   {u"source"_s, u"/proc/stat"_s},
-                                                   {u"state"_s, u"ok"_s},
-                                                   {u"value"_s, u"12%"_s},
-                                                   {u"microseconds"_s, 4.2}}));
-    EXPECT_EQ(readings[2][u"state"], u"denied"_s);
-    EXPECT_FALSE(readings[2].toObject().contains(u"value"_s));
+    EXPECT_EQ(object[u"readings"].toArray().size(), 4);
+    EXPECT_EQ(object[u"readings"][0].toObject(), (QJsonObject{{u"name"_s, u"Processor"_s},
+                                                              {u"source"_s, u"/proc/stat"_s},
+                                                              {u"state"_s, u"ok"_s},
+                                                              {u"value"_s, u"12%"_s},
+                                                              {u"microseconds"_s, 4.2}}));
+    EXPECT_FALSE(object[u"readings"][2].toObject().contains(u"value"_s));
     EXPECT_EQ(object[u"services"][0][u"value"], u"quoted \" and \\ and \n and µ"_s);
     EXPECT_EQ(object[u"instance"][u"wakeUps"], 14400);
     EXPECT_EQ(object[u"passMicroseconds"], 127.6);
-    report.instance.reset();
-    EXPECT_EQ(jsonReport(report).find("instance"), std::string::npos);
 }
 
 TEST(DoctorReport, FoldersAreRenamedWhole) {
