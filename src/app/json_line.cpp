@@ -13,25 +13,29 @@ using namespace Qt::StringLiterals;
 namespace vantrix {
 namespace {
 
+/// A field of this value is left out of its object.
+constexpr auto absent = QJsonValue::Undefined;
+
 /// JSON has no unsigned 64-bit numbers in Qt; byte counts past 2^63 do not exist.
-qint64 bytes(std::uint64_t count) {
-    return static_cast<qint64>(std::min<std::uint64_t>(count, std::numeric_limits<qint64>::max()));
+QJsonValue json(std::uint64_t bytes) {
+    return static_cast<qint64>(std::min<std::uint64_t>(bytes, std::numeric_limits<qint64>::max()));
+}
+
+QJsonValue json(const std::string& text) {
+    return QString::fromStdString(text);
 }
 
 template<typename T>
-void putPresent(QJsonObject& object, const char* key, const std::optional<T>& value) {
-    if (value)
-        object[QLatin1StringView(key)] = *value;
+QJsonValue json(const std::optional<T>& value) {
+    return value ? QJsonValue(*value) : absent;
 }
 
-void putPresent(QJsonObject& object, const char* key, const std::optional<std::string>& value) {
-    if (value)
-        object[QLatin1StringView(key)] = QString::fromStdString(*value);
+QJsonValue json(const std::optional<std::string>& text) {
+    return text ? json(*text) : absent;
 }
 
-void putPresent(QJsonObject& object, const char* key, const QJsonObject& value) {
-    if (!value.isEmpty())
-        object[QLatin1StringView(key)] = value;
+QJsonValue unlessEmpty(const QJsonObject& object) {
+    return object.isEmpty() ? absent : QJsonValue(object);
 }
 
 QJsonObject toJson(const CPUSample& cpu) {
@@ -42,144 +46,123 @@ QJsonObject toJson(const CPUSample& cpu) {
 }
 
 QJsonObject toJson(const MemorySample& memory) {
-    return {{u"total"_s, bytes(memory.total)},       {u"app"_s, bytes(memory.app)},
-            {u"wired"_s, bytes(memory.wired)},       {u"compressed"_s, bytes(memory.compressed)},
-            {u"swapUsed"_s, bytes(memory.swapUsed)}, {u"pressure"_s, QLatin1StringView(wordOf(memory.pressure))}};
+    return {{u"total"_s, json(memory.total)},       {u"app"_s, json(memory.app)},
+            {u"wired"_s, json(memory.wired)},       {u"compressed"_s, json(memory.compressed)},
+            {u"swapUsed"_s, json(memory.swapUsed)}, {u"pressure"_s, QLatin1StringView(wordOf(memory.pressure))}};
+}
+
+QJsonObject toJson(const NetworkSample& network) {
+    return {{u"download"_s, network.download}, {u"upload"_s, network.upload}};
 }
 
 QJsonObject toJson(const NetworkInfo& info) {
-    QJsonObject object{{u"kind"_s, QLatin1StringView(wordOf(info.kind))}};
-    putPresent(object, "interface", info.interface);
-    putPresent(object, "displayName", info.displayName);
-    putPresent(object, "localIP", info.localIP);
-    putPresent(object, "ssid", info.ssid);
-    putPresent(object, "rssi", info.rssi);
-    putPresent(object, "noise", info.noise);
-    putPresent(object, "linkSpeedMbps", info.linkSpeedMbps);
-    if (info.ssidHiddenByPrivacy)
-        object[u"ssidHiddenByPrivacy"_s] = true;
-    putPresent(object, "debug", info.debug);
-    return object;
+    return {{u"kind"_s, QLatin1StringView(wordOf(info.kind))},
+            {u"interface"_s, json(info.interface)},
+            {u"displayName"_s, json(info.displayName)},
+            {u"localIP"_s, json(info.localIP)},
+            {u"ssid"_s, json(info.ssid)},
+            {u"rssi"_s, json(info.rssi)},
+            {u"noise"_s, json(info.noise)},
+            {u"linkSpeedMbps"_s, json(info.linkSpeedMbps)},
+            {u"ssidHiddenByPrivacy"_s, info.ssidHiddenByPrivacy ? QJsonValue(true) : absent},
+            {u"debug"_s, json(info.debug)}};
 }
 
 QJsonObject toJson(const DiskSample& disk) {
-    QJsonObject object{{u"total"_s, bytes(disk.total)}, {u"available"_s, bytes(disk.available)}};
-    putPresent(object, "readRate", disk.readRate);
-    putPresent(object, "writeRate", disk.writeRate);
-    return object;
+    return {{u"total"_s, json(disk.total)},
+            {u"available"_s, json(disk.available)},
+            {u"readRate"_s, json(disk.readRate)},
+            {u"writeRate"_s, json(disk.writeRate)}};
 }
 
 QJsonObject toJson(const FanReading& fan) {
-    QJsonObject object{{u"id"_s, fan.id}, {u"rpm"_s, fan.rpm}};
-    putPresent(object, "minRPM", fan.minRPM);
-    putPresent(object, "maxRPM", fan.maxRPM);
-    return object;
+    return {{u"id"_s, fan.id}, {u"rpm"_s, fan.rpm}, {u"minRPM"_s, json(fan.minRPM)}, {u"maxRPM"_s, json(fan.maxRPM)}};
 }
 
 QJsonObject toJson(const ComponentPower& power) {
-    QJsonObject object;
-    putPresent(object, "cpu", power.cpu);
-    putPresent(object, "gpu", power.gpu);
-    putPresent(object, "ane", power.ane);
-    putPresent(object, "dram", power.dram);
-    return object;
+    return {{u"cpu"_s, json(power.cpu)},
+            {u"gpu"_s, json(power.gpu)},
+            {u"ane"_s, json(power.ane)},
+            {u"dram"_s, json(power.dram)}};
 }
 
 QJsonObject toJson(const TemperatureReading& reading) {
-    return {{u"name"_s, QString::fromStdString(reading.name)}, {u"value"_s, reading.value}};
+    return {{u"name"_s, json(reading.name)}, {u"value"_s, reading.value}};
 }
 
 QJsonObject toJson(const AccessoryBattery& accessory) {
-    return {{u"name"_s, QString::fromStdString(accessory.name)},
+    return {{u"name"_s, json(accessory.name)},
             {u"percent"_s, accessory.percent},
             {u"isCharging"_s, accessory.isCharging},
-            {u"symbol"_s, QString::fromStdString(accessory.symbol)}};
+            {u"symbol"_s, json(accessory.symbol)}};
 }
 
 template<typename Record>
-void putList(QJsonObject& object, const char* key, const std::vector<Record>& records) {
-    if (records.empty())
-        return;
+QJsonValue unlessEmpty(const std::vector<Record>& records) {
     QJsonArray array;
     for (const Record& record : records)
         array.append(toJson(record));
-    object[QLatin1StringView(key)] = array;
+    return records.empty() ? absent : QJsonValue(array);
 }
 
 QJsonObject toJson(const SensorsSample& sensors) {
-    QJsonObject object;
-    putPresent(object, "cpu", sensors.cpu);
-    putPresent(object, "cpuHottest", sensors.cpuHottest);
-    putPresent(object, "gpu", sensors.gpu);
-    putPresent(object, "soc", sensors.soc);
-    putPresent(object, "ssd", sensors.ssd);
-    putPresent(object, "battery", sensors.battery);
-    putList(object, "all", sensors.all);
-    putList(object, "fans", sensors.fans);
-    putPresent(object, "systemPower", sensors.systemPower);
-    putPresent(object, "adapterPower", sensors.adapterPower);
-    if (sensors.components)
-        putPresent(object, "components", toJson(*sensors.components));
-    return object;
+    return {{u"cpu"_s, json(sensors.cpu)},
+            {u"cpuHottest"_s, json(sensors.cpuHottest)},
+            {u"gpu"_s, json(sensors.gpu)},
+            {u"soc"_s, json(sensors.soc)},
+            {u"ssd"_s, json(sensors.ssd)},
+            {u"battery"_s, json(sensors.battery)},
+            {u"all"_s, unlessEmpty(sensors.all)},
+            {u"fans"_s, unlessEmpty(sensors.fans)},
+            {u"systemPower"_s, json(sensors.systemPower)},
+            {u"adapterPower"_s, json(sensors.adapterPower)},
+            {u"components"_s, unlessEmpty(toJson(sensors.components.value_or(ComponentPower())))}};
 }
 
 QJsonObject toJson(const BatterySample& battery) {
-    QJsonObject object{{u"percent"_s, battery.percent},
-                       {u"isCharging"_s, battery.isCharging},
-                       {u"isPluggedIn"_s, battery.isPluggedIn}};
-    putPresent(object, "minutesRemaining", battery.minutesRemaining);
-    putPresent(object, "cycleCount", battery.cycleCount);
-    putPresent(object, "healthPercent", battery.healthPercent);
-    putPresent(object, "temperature", battery.temperature);
-    putPresent(object, "watts", battery.watts);
-    return object;
+    return {{u"percent"_s, battery.percent},
+            {u"isCharging"_s, battery.isCharging},
+            {u"isPluggedIn"_s, battery.isPluggedIn},
+            {u"minutesRemaining"_s, json(battery.minutesRemaining)},
+            {u"cycleCount"_s, json(battery.cycleCount)},
+            {u"healthPercent"_s, json(battery.healthPercent)},
+            {u"temperature"_s, json(battery.temperature)},
+            {u"watts"_s, json(battery.watts)}};
 }
 
-/// The records behind one module; none when they were never read.
-void putModule(QJsonObject& object, MenuBarModule module, const Readings& readings) {
-    switch (module) {
-    case MenuBarModule::cpu:
-        if (!readings.cpuHistory.empty())
-            object[u"cpu"_s] = toJson(readings.cpu);
-        return;
-    case MenuBarModule::memory:
-        if (!readings.memoryHistory.empty())
-            object[u"memory"_s] = toJson(readings.memory);
-        return;
-    case MenuBarModule::network:
-        if (!readings.downloadHistory.empty())
-            object[u"network"_s] =
-                QJsonObject{{u"download"_s, readings.network.download}, {u"upload"_s, readings.network.upload}};
-        object[u"networkInfo"_s] = toJson(readings.networkInfo);
-        return;
-    case MenuBarModule::disk:
-        object[u"disk"_s] = toJson(readings.disk);
-        return;
-    case MenuBarModule::gpu:
-        putPresent(object, "gpu", readings.gpu);
-        return;
-    case MenuBarModule::temperature:
-        putPresent(object, "sensors", toJson(readings.sensors));
-        return;
-    case MenuBarModule::battery:
-        if (readings.battery)
-            object[u"battery"_s] = toJson(*readings.battery);
-        return;
-    }
+/// A field of the line.
+struct Field {
+    std::optional<MenuBarModule> module; ///< whose field it is; absent: only told where all modules are
+    QString key;
+    QJsonValue value;
+};
+
+/// Records that were never read are absent.
+std::vector<Field> fieldsOf(const Readings& readings) {
+    using Module = MenuBarModule;
+    const auto ifRead = [](const History& history, const auto& record) {
+        return history.empty() ? absent : QJsonValue(toJson(record));
+    };
+    return {{Module::cpu, u"cpu"_s, ifRead(readings.cpuHistory, readings.cpu)},
+            {Module::memory, u"memory"_s, ifRead(readings.memoryHistory, readings.memory)},
+            {Module::network, u"network"_s, ifRead(readings.downloadHistory, readings.network)},
+            {Module::network, u"networkInfo"_s, toJson(readings.networkInfo)},
+            {Module::disk, u"disk"_s, toJson(readings.disk)},
+            {Module::gpu, u"gpu"_s, json(readings.gpu)},
+            {Module::temperature, u"sensors"_s, unlessEmpty(toJson(readings.sensors))},
+            {Module::battery, u"battery"_s, readings.battery ? QJsonValue(toJson(*readings.battery)) : absent},
+            {std::nullopt, u"accessories"_s, unlessEmpty(readings.accessories)},
+            {std::nullopt, u"accessoriesDiagnostics"_s,
+             readings.accessoriesDiagnostics.empty() ? absent : json(readings.accessoriesDiagnostics)}};
 }
 
 } // namespace
 
 std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules) {
     QJsonObject object{{u"interval"_s, readings.interval}};
-    for (const auto& choice : menuBarModules)
-        if (!modules || std::ranges::find(*modules, choice.value) != modules->end())
-            putModule(object, choice.value, readings);
-    if (!modules) {
-        putList(object, "accessories", readings.accessories);
-        if (!readings.accessoriesDiagnostics.empty())
-            object[u"accessoriesDiagnostics"_s] = QString::fromStdString(readings.accessoriesDiagnostics);
-    }
+    for (const auto& [module, key, value] : fieldsOf(readings))
+        if (!modules || (module && std::ranges::find(*modules, *module) != modules->end()))
+            object.insert(key, value);
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
 }
 
