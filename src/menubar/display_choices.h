@@ -28,7 +28,7 @@ struct Choice {
     std::string_view symbolName; ///< empty where the choice has no symbol
 };
 
-inline constexpr std::array<Choice<MenuBarModule>, 7> menuBarModules{{
+inline constexpr auto menuBarModules = std::to_array<Choice<MenuBarModule>>({
     {MenuBarModule::cpu, "cpu", "CPU", "cpu"},
     {MenuBarModule::memory, "memory", "Memory", "memorychip"},
     {MenuBarModule::network, "network", "Network", "arrow.up.arrow.down"},
@@ -36,15 +36,15 @@ inline constexpr std::array<Choice<MenuBarModule>, 7> menuBarModules{{
     {MenuBarModule::gpu, "gpu", "GPU", "display"},
     {MenuBarModule::temperature, "temperature", "CPU temperature", "thermometer.medium"},
     {MenuBarModule::battery, "battery", "Battery", "battery.75percent"},
-}};
+});
 
-inline constexpr std::array<Choice<MenuBarStyle>, 3> menuBarStyles{{
+inline constexpr auto menuBarStyles = std::to_array<Choice<MenuBarStyle>>({
     {MenuBarStyle::inlined, "inline", "Inline", ""},
     {MenuBarStyle::stacked, "stacked", "Stacked", ""},
     {MenuBarStyle::graph, "graph", "With graph", ""},
-}};
+});
 
-inline constexpr std::array<Choice<PopoverCard>, 8> popoverCards{{
+inline constexpr auto popoverCards = std::to_array<Choice<PopoverCard>>({
     {PopoverCard::cpu, "cpu", "CPU", "cpu"},
     {PopoverCard::memory, "memory", "Memory", "memorychip"},
     {PopoverCard::network, "network", "Network", "network"},
@@ -53,14 +53,14 @@ inline constexpr std::array<Choice<PopoverCard>, 8> popoverCards{{
     {PopoverCard::sensors, "sensors", "Sensors", "thermometer.medium"},
     {PopoverCard::battery, "battery", "Battery", "battery.75percent"},
     {PopoverCard::accessories, "accessories", "Bluetooth accessories", "dot.radiowaves.left.and.right"},
-}};
+});
 
-inline constexpr std::array<Choice<SettingsTab>, 4> settingsTabs{{
+inline constexpr auto settingsTabs = std::to_array<Choice<SettingsTab>>({
     {SettingsTab::general, "general", "General", "gearshape"},
     {SettingsTab::menuBar, "menuBar", "Menu Bar", "menubar.rectangle"},
     {SettingsTab::popover, "popover", "Popover", "rectangle.stack"},
     {SettingsTab::alerts, "alerts", "Alerts", "bell.badge"},
-}};
+});
 
 /// The case whose raw value is exactly `rawValue`, letter case included.
 template<typename Case, std::size_t N>

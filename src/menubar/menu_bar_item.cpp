@@ -1,6 +1,7 @@
 #include "menubar/menu_bar_item.h"
 
 #include <algorithm>
+#include <array>
 
 #include "menubar/preferences.h"
 #include "monitor/readings.h"
@@ -36,27 +37,27 @@ MenuBarItem percentItem(std::string label, double fraction, MenuBarSeverity seve
     return {std::move(label), {compactPercent(fraction)}, severity, std::move(history), fraction, "100%"};
 }
 
-MenuBarItem cpuItem(const Readings& readings, const UserDefaults& defaults) {
+std::optional<MenuBarItem> cpuItem(const Readings& readings, const UserDefaults& defaults) {
     const double load = readings.cpu.total;
     return percentItem("CPU", load, severityOf(load, defaults), readings.cpuHistory);
 }
 
-MenuBarItem memoryItem(const Readings& readings) {
+std::optional<MenuBarItem> memoryItem(const Readings& readings, const UserDefaults&) {
     // Only the system knows when memory is scarce: a full one may well be healthy.
     const auto severity = static_cast<MenuBarSeverity>(readings.memory.pressure);
     return percentItem("RAM", usedFraction(readings.memory), severity, readings.memoryHistory);
 }
 
-MenuBarItem networkItem(const Readings& readings) {
+std::optional<MenuBarItem> networkItem(const Readings& readings, const UserDefaults&) {
     double scale = leastNetworkScale;
     for (double rate : readings.downloadHistory)
         scale = std::max(scale, rate);
-    return {"NET",
-            {"↓" + compactRate(readings.network.download), "↑" + compactRate(readings.network.upload)},
-            MenuBarSeverity::normal,
-            scaledHistory(readings.downloadHistory, scale),
-            0.0,
-            "↓99M"};
+    return MenuBarItem{"NET",
+                       {"↓" + compactRate(readings.network.download), "↑" + compactRate(readings.network.upload)},
+                       MenuBarSeverity::normal,
+                       scaledHistory(readings.downloadHistory, scale),
+                       0.0,
+                       "↓99M"};
 }
 
 std::optional<MenuBarItem> diskItem(const Readings& readings, const UserDefaults& defaults) {
@@ -73,7 +74,7 @@ std::optional<MenuBarItem> gpuItem(const Readings& readings, const UserDefaults&
     return percentItem("GPU", *readings.gpu, severityOf(*readings.gpu, defaults), readings.gpuHistory);
 }
 
-std::optional<MenuBarItem> temperatureItem(const Readings& readings) {
+std::optional<MenuBarItem> temperatureItem(const Readings& readings, const UserDefaults&) {
     if (!readings.sensors.cpu)
         return std::nullopt;
     const double celsius = *readings.sensors.cpu;
@@ -93,7 +94,7 @@ MenuBarSeverity severityOf(const BatterySample& battery) {
     return battery.percent <= batteryLow ? MenuBarSeverity::warning : MenuBarSeverity::normal;
 }
 
-std::optional<MenuBarItem> batteryItem(const Readings& readings) {
+std::optional<MenuBarItem> batteryItem(const Readings& readings, const UserDefaults&) {
     if (!readings.battery)
         return std::nullopt;
     const BatterySample& battery = *readings.battery;
@@ -105,25 +106,9 @@ std::optional<MenuBarItem> batteryItem(const Readings& readings) {
                        "100%"};
 }
 
-std::optional<MenuBarItem> readItem(MenuBarModule module, const Readings& readings, const UserDefaults& defaults) {
-    switch (module) {
-    case MenuBarModule::cpu:
-        return cpuItem(readings, defaults);
-    case MenuBarModule::memory:
-        return memoryItem(readings);
-    case MenuBarModule::network:
-        return networkItem(readings);
-    case MenuBarModule::disk:
-        return diskItem(readings, defaults);
-    case MenuBarModule::gpu:
-        return gpuItem(readings, defaults);
-    case MenuBarModule::temperature:
-        return temperatureItem(readings);
-    case MenuBarModule::battery:
-        return batteryItem(readings);
-    }
-    return std::nullopt;
-}
+/// In the order of the modules. An item is absent when there is nothing to show.
+constexpr std::array itemMakers{cpuItem, memoryItem, networkItem, diskItem, gpuItem, temperatureItem, batteryItem};
+static_assert(itemMakers.size() == menuBarModules.size());
 
 } // namespace
 
@@ -133,20 +118,17 @@ MenuBarSeverity severityOf(double fraction, const UserDefaults& defaults) {
     return reached(fraction, critical, warning);
 }
 
-std::optional<MenuBarItem> menuBarItem(MenuBarModule module, const Readings& readings, const UserDefaults& defaults) {
-    std::optional<MenuBarItem> item = readItem(module, readings, defaults);
-    if (item)
-        item->module = module;
-    return item;
-}
-
 std::vector<MenuBarItem> menuBarItems(const std::vector<MenuBarModule>& modules, const Readings& readings,
                                       const UserDefaults& defaults) {
     std::vector<MenuBarItem> items;
     items.reserve(modules.size());
-    for (MenuBarModule module : modules)
-        if (auto item = menuBarItem(module, readings, defaults))
-            items.push_back(std::move(*item));
+    for (MenuBarModule module : modules) {
+        auto item = itemMakers[static_cast<std::size_t>(module)](readings, defaults);
+        if (!item)
+            continue;
+        item->module = module;
+        items.push_back(std::move(*item));
+    }
     return items;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,9 +29,6 @@ struct MenuBarItem {
 /// Critical when `fraction` reaches the stored `criticalThreshold`, else warning when it reaches `warningThreshold`.
 /// The thresholds are read on every call and may stand in any order.
 MenuBarSeverity severityOf(double fraction, const UserDefaults& defaults);
-
-/// Absent when the module's source has nothing to show.
-std::optional<MenuBarItem> menuBarItem(MenuBarModule module, const Readings& readings, const UserDefaults& defaults);
 
 /// The items of `modules` that have something to show, in that order.
 std::vector<MenuBarItem> menuBarItems(const std::vector<MenuBarModule>& modules, const Readings& readings,
