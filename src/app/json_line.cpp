@@ -16,7 +16,7 @@ namespace {
 /// A field of this value is left out of its object.
 constexpr auto absent = QJsonValue::Undefined;
 
-/// JSON has no unsigned 64-bit numbers in Qt; byte counts past 2^63 do not exist.
+/// Qt's JSON has no unsigned 64-bit numbers; no machine counts more than 2^63 bytes.
 QJsonValue json(std::uint64_t bytes) {
     return static_cast<qint64>(std::min<std::uint64_t>(bytes, std::numeric_limits<qint64>::max()));
 }
@@ -130,14 +130,14 @@ QJsonObject toJson(const BatterySample& battery) {
             {u"watts"_s, json(battery.watts)}};
 }
 
-/// A field of the line.
+/// One field of the line.
 struct Field {
-    std::optional<MenuBarModule> module; ///< whose field it is; absent: only told where all modules are
+    std::optional<MenuBarModule> module; ///< what it belongs to; absent: in the full line alone
     QString key;
     QJsonValue value;
 };
 
-/// Records that were never read are absent.
+/// Every field. Those never read are absent.
 std::vector<Field> fieldsOf(const Readings& readings) {
     using Module = MenuBarModule;
     const auto ifRead = [](const History& history, const auto& record) {

@@ -13,18 +13,18 @@ namespace vantrix {
 /// By names of `reading_name`.
 using Findings = std::map<std::string_view, Finding>;
 
-/// Two passes through the real samplers, as the running program makes them. Each reads on a thread of its own, so that
-/// a driver that hangs costs no more than the patience, and what the same read would have given.
+/// Two passes through the real samplers, as the running program makes them. Each read has a thread of its own, so a
+/// driver that hangs costs no more than the patience and the values of that read.
 class Examination {
   public:
     Examination(SamplingSources sources, std::chrono::milliseconds patience);
 
-    /// Sets what loads and rates are measured from.
+    /// Takes the baseline of loads and rates.
     void beginPass();
-    /// Some time after it: a finding for every reading, and the median cost of a few reads.
+    /// To be called some time later: a finding for every reading, with the median cost of a few reads.
     Findings finish();
 
-    /// True when a read still goes on: the program must not end in good order then, below its feet.
+    /// True while a read hangs: the program must then end without taking down what that thread uses.
     bool leftThreadBehind() const;
 
   private:
@@ -35,8 +35,8 @@ class Examination {
     std::vector<bool> hangs_; // by probe
 };
 
-/// The rows of the readings: each diagnosis with what was found. The first row of a reading that can have a value has
-/// it; a source that should give one and does not is called silent.
+/// Each diagnosis with what was found. Of several rows of one reading, the first that can have a value gets it; a
+/// source that should give one but does not is called silent.
 std::vector<DoctorRow> joined(const std::vector<SourceDiagnosis>& diagnoses, const Findings& findings);
 
 } // namespace vantrix

@@ -12,8 +12,8 @@ namespace vantrix {
 /// What was measured of one reading.
 struct Finding {
     std::string value;                  ///< in a few English words, without anything private; empty when there is none
-    std::string note;                   ///< to be added to what its source is told to be
-    std::optional<double> microseconds; ///< of one read; absent where another reading's read gives this one too
+    std::string note;                   ///< added to the reason its source gives
+    std::optional<double> microseconds; ///< of one read; absent when the read belongs to another reading
     bool isSilent = false;              ///< a read did not end in time
 };
 

@@ -41,8 +41,8 @@ std::string textReport(const DoctorReport& report, int width);
 /// For scripts: one JSON object, indented.
 std::string jsonReport(const DoctorReport& report);
 
-/// Says `name` in place of the folder `folder` wherever the report begins a path with it: "~" for the home folder,
-/// which holds the user's name.
+/// Writes `name` for `folder` wherever a path in the report begins with it: "~" for the home folder, which holds the
+/// user's name.
 void renameFolder(DoctorReport& report, const std::string& folder, const std::string& name);
 
 } // namespace vantrix

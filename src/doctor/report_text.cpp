@@ -52,7 +52,7 @@ class Table {
             cost_ = std::max(cost_, lengthOf("µs"));
     }
 
-    /// Room for a cost below the rows as well.
+    /// Makes room for a cost below the rows.
     void fit(const std::string& cost) { cost_ = std::max(cost_, lengthOf(cost)); }
 
     std::string text() const {

@@ -23,7 +23,7 @@ namespace {
 
 namespace name = reading_name;
 
-/// Appends rows, each with the state that a question to its source gives.
+/// Collects rows, each with the state that asking its source gives.
 class Rows {
   public:
     void add(std::string_view name, std::string_view source, bool answers, std::string_view reason,
@@ -105,7 +105,7 @@ void addSupplies(Rows& rows) {
 
 } // namespace
 
-/// Asks sources of its own: it may be called on any thread, and a manager of location access may not be made on one.
+/// Makes sources of its own, and no location manager: this may run on any thread, and that belongs to the main one.
 std::vector<SourceDiagnosis> diagnoseSources(const KernelRoots&) {
     Rows rows;
     for (const auto add : {addCounters, addNetwork, addDisks, addSensors, addSupplies})

@@ -21,11 +21,11 @@ SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaul
     if (bluetooth.central) {
         bluetooth_.emplace(std::move(bluetooth.central), std::move(bluetooth.classicDevices),
                            std::move(bluetooth.timer));
-        bluetooth_->onChange = [this] { // merged once whatever told of the change is done
+        bluetooth_->onChange = [this] { // merged after the call that told of the change
             QMetaObject::invokeMethod(this, &SystemMonitor::mergeAccessories, Qt::QueuedConnection);
         };
     }
-    location_.onChange = [this] { // the monitor owns what calls it
+    location_.onChange = [this] { // the monitor owns the caller
         if (!samplers_.networkInfo)
             return;
         samplers_.networkInfo->renewWiFiClient();

@@ -64,7 +64,7 @@ class ServiceDiagnoses {
     virtual ~ServiceDiagnoses() = default;
     /// Called once on the main thread, from the event loop, when every service has answered or has run out of time.
     std::function<void(std::vector<SourceDiagnosis>)> finished;
-    /// True when a bus or a display still keeps a thread waiting.
+    /// True while a thread still waits for a bus or a display.
     bool leftThreadBehind = false;
 };
 

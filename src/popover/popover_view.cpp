@@ -100,7 +100,7 @@ void PopoverView::addShortcuts(const std::vector<StatusMenuEntry>& entries) {
             connect(new QShortcut(entry.shortcut, this), &QShortcut::activated, this, entry.action);
 }
 
-/// The column is all there is to scroll, so its keys need no focus of its own.
+/// The keys work without focus: nothing else scrolls.
 void PopoverView::addScrollKeys(QScrollBar& bar) {
     using Step = QAbstractSlider;
     const std::pair<Qt::Key, QAbstractSlider::SliderAction> keys[] = {

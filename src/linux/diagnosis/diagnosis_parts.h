@@ -15,7 +15,7 @@ enum class Reach { readable, missing, denied };
 /// Asked of the file system's permissions alone: opening a device's file might wake it.
 Reach reachOf(const std::string& path);
 
-/// What the sources of a machine are diagnosed with; functions so that tests answer for other users and machines.
+/// What a diagnosis asks. Through the functions, tests answer for other users and machines.
 struct DiagnosisTools {
     KernelRoots roots;
     std::function<Reach(const std::string& path)> reach = reachOf;

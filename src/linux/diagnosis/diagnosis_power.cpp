@@ -19,7 +19,7 @@ std::vector<std::string> countersNamed(const std::string& sys, std::string_view 
     return files;
 }
 
-/// How a user gets at the counters, and why the kernel keeps them: their course gives away what is computed.
+/// How a user gets at the counters. The kernel guards them because they give away what is being computed.
 std::string grant(const std::string& sys) {
     return "Only the administrator may read it. To let a group read it, put this line into "
            "/etc/tmpfiles.d/energy.conf: z " +

@@ -11,7 +11,7 @@
 namespace vantrix {
 namespace {
 
-/// How many chips of one kind there are, and which of them are not asked.
+/// The chips with one kind of sensor, and those that are not asked.
 struct Chips {
     int count = 0;
     std::vector<std::string> asleep;
