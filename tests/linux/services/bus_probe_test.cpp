@@ -4,10 +4,6 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
 #include "linux/bluetooth/bluez_watch.h"
 #include "linux/services/private_bus.h"
 #include "posix/file_descriptor.h"

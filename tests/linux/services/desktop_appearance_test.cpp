@@ -6,8 +6,6 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include <gtest/gtest.h>
-
 #include "linux/services/fake_portal.h"
 #include "linux/services/private_bus.h"
 
@@ -15,7 +13,6 @@ namespace vantrix {
 namespace {
 
 using namespace Qt::StringLiterals;
-using Manner = FakePortal::Manner;
 
 const QString common = u"org.freedesktop.appearance"_s;
 const QString gnome = u"org.gnome.desktop.interface"_s;
@@ -33,8 +30,6 @@ class DesktopAppearanceTest : public testing::Test {
   protected:
     DesktopAppearanceTest() { QGuiApplication::setPalette(QPalette(QColor(239, 239, 239))); }
     ~DesktopAppearanceTest() override { QGuiApplication::setPalette(QPalette()); }
-
-    void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon"; }
 
     void start() {
         source = std::make_unique<DesktopAppearance>(connection.bus());
@@ -105,11 +100,9 @@ TEST_F(DesktopAppearanceTest, UnderstandsWhatDesktopsTell) {
         {"a scheme of another type", scheme(u"1"_s), light},
         {"wrapped once more", scheme(QVariant::fromValue(QDBusVariant(1U))), still},
         {"an accent", shade(color(1.0, 0.5, 0.0)), {.dark = true, .accent = QColor::fromRgbF(1.0F, 0.5F, 0.0F)}},
-        {"a black accent", shade(color(0.0, 0.0, 0.0)), {.dark = true, .accent = QColor(Qt::black)}},
         {"no accent chosen", shade(color(-1.0, -1.0, -1.0)), plain},
         {"an accent out of range", shade(color(0.2, 1.1, 0.2)), plain},
         {"an accent that is no number", shade(color(nan, 0.2, 0.2)), plain},
-        {"an accent of another type", shade(u"#ff8800"_s), plain},
         {"an accent as a list", shade(QVariant::fromValue(QList<double>{0.1, 0.2, 0.3})), plain},
         {"reduced motion", motion(1U, true, 1.0), still},
         {"motion, whatever the other two say", motion(0U, false, 0.0), plain},
@@ -117,9 +110,7 @@ TEST_F(DesktopAppearanceTest, UnderstandsWhatDesktopsTell) {
         {"GNOME with animations", motion(none, true, 0.0), plain},
         {"KDE without animations", motion(none, none, 0.0), still},
         {"KDE without animations, as a text", motion(none, none, u"0"_s), still},
-        {"KDE with slow animations", motion(none, none, u"2.5"_s), plain},
         {"KDE with nonsense", motion(none, none, u"fast"_s), plain},
-        {"KDE with another type", motion(none, none, false), plain},
     };
     for (const Row& row : table) {
         SCOPED_TRACE(row.name);
@@ -127,7 +118,7 @@ TEST_F(DesktopAppearanceTest, UnderstandsWhatDesktopsTell) {
         start();
         EXPECT_TRUE(becomes(row.expected));
         EXPECT_EQ(portal.asked.size(), 1u);
-        portal.leave();
+        portal.resign();
         stop();
     }
 }
@@ -166,23 +157,26 @@ TEST_F(DesktopAppearanceTest, FollowsChangesAndTellsEachOnce) {
 }
 
 TEST_F(DesktopAppearanceTest, IsNotHeldUpByAPortalThatDoesNotAnswer) {
-    FakePortal portal(bus.address(), dark(), Manner::hangs);
+    FakePortal portal(bus.address(), dark());
+    portal.hangs = true;
     start();
     ASSERT_TRUE(spinUntil([&] { return portal.asked.size() == 1; }));
     EXPECT_EQ(source->appearance(), Appearance());
-    portal.wakeUp();
+    portal.answer(portal.asked[0]);
     EXPECT_TRUE(becomes({.dark = true}));
 }
 
 TEST_F(DesktopAppearanceTest, SurvivesWrongAnswers) {
-    for (const Manner manner : {Manner::repliesNonsense, Manner::refuses}) {
-        FakePortal portal(bus.address(), dark(), manner);
+    for (const bool refuses : {false, true}) {
+        FakePortal portal(bus.address(), dark());
+        portal.nonsense = {u"no settings"_s, 7};
+        portal.error = refuses ? QDBusError::AccessDenied : QDBusError::NoError;
         changes = 0;
         start();
         settle(portal);
         EXPECT_EQ(source->appearance(), (Appearance{.reducesMotion = true}));
         EXPECT_EQ(changes, 1);
-        portal.leave();
+        portal.resign();
         stop();
     }
 }

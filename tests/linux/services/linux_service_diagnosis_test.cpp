@@ -2,14 +2,10 @@
 
 #include <sys/prctl.h>
 
-#include <QDBusMetaType>
-#include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <QDir>
 
-#include <gmock/gmock.h>
-
-#include "linux/services/fake_answerer.h"
+#include "linux/bluetooth/fake_bluez.h"
 #include "linux/services/fake_portal.h"
 #include "linux/services/private_bus.h"
 
@@ -19,20 +15,8 @@ namespace {
 using namespace Qt::StringLiterals;
 using ::testing::HasSubstr;
 
-using Interfaces = QMap<QString, QVariantMap>;
-using Objects = QMap<QDBusObjectPath, Interfaces>;
-
-const QString notifications = QStringLiteral("org.freedesktop.Notifications");
-const QString notificationsPath = QStringLiteral("/org/freedesktop/Notifications");
-
 class ServiceDiagnosisTest : public testing::Test {
   protected:
-    void SetUp() override {
-        ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon";
-        qDBusRegisterMetaType<Interfaces>();
-        qDBusRegisterMetaType<Objects>();
-    }
-
     /// The rows by name; one bus serves as both.
     std::map<std::string, SourceDiagnosis> ask(const BusAddresses& addresses,
                                                std::chrono::milliseconds patience = std::chrono::seconds(20)) {
@@ -48,12 +32,31 @@ class ServiceDiagnosisTest : public testing::Test {
     }
     std::map<std::string, SourceDiagnosis> ask() { return ask({bus.address(), bus.address()}); }
 
-    FakeAnswerer answerer(const QString& name, const QString& path, const QVariantList& arguments) const {
-        return FakeAnswerer(bus.address(), name, path,
-                            [arguments](const QDBusMessage& call) { return call.createReply(arguments); });
-    }
-
     PrivateBus bus;
+    FakeBluez bluez{bus.address()};
+};
+
+/// Answers every call with the same values.
+class FakeAnswerer : public FakeService {
+  public:
+    FakeAnswerer(const PrivateBus& bus, const QString& name, const QString& path, const QVariantList& arguments)
+        : FakeService(bus.address(), name, path,
+                      [arguments](const QDBusMessage& call) { return call.createReply(arguments); }) {
+        appear();
+    }
+};
+
+class FakeDaemon : public FakeAnswerer {
+  public:
+    FakeDaemon(const PrivateBus& bus, const QVariantList& information)
+        : FakeAnswerer(bus, u"org.freedesktop.Notifications"_s, u"/org/freedesktop/Notifications"_s, information) {}
+};
+
+class FakeWatcher : public FakeAnswerer {
+  public:
+    FakeWatcher(const PrivateBus& bus, bool hasHost)
+        : FakeAnswerer(bus, u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s,
+                       {QVariant::fromValue(QDBusVariant(hasHost))}) {}
 };
 
 TEST_F(ServiceDiagnosisTest, WithoutABusItSaysSo) {
@@ -66,9 +69,8 @@ TEST_F(ServiceDiagnosisTest, WithoutABusItSaysSo) {
 }
 
 TEST_F(ServiceDiagnosisTest, TellsOfEachServiceThatAnswers) {
-    const auto daemon = answerer(notifications, notificationsPath, {u"dunst"_s, u"people"_s, u"1.9"_s, u"1.2"_s});
-    const auto watcher = answerer(u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s,
-                                  {QVariant::fromValue(QDBusVariant(true))});
+    const FakeDaemon daemon(bus, {u"dunst"_s, u"people"_s, u"1.9"_s, u"1.2"_s});
+    const FakeWatcher watcher(bus, true);
     const FakePortal portal(bus.address(), {{u"org.freedesktop.appearance"_s, {{u"color-scheme"_s, QVariant(1U)}}}});
     const auto rows = ask();
     EXPECT_EQ(rows.at("Session bus").value, "connected");
@@ -79,8 +81,7 @@ TEST_F(ServiceDiagnosisTest, TellsOfEachServiceThatAnswers) {
 }
 
 TEST_F(ServiceDiagnosisTest, AWatcherWithoutAPanelIsNoStatusArea) {
-    const auto watcher = answerer(u"org.kde.StatusNotifierWatcher"_s, u"/StatusNotifierWatcher"_s,
-                                  {QVariant::fromValue(QDBusVariant(false))});
+    const FakeWatcher watcher(bus, false);
     auto row = ask().at("Status area");
     EXPECT_EQ(row.state, SourceState::absent);
     EXPECT_THAT(row.reason, HasSubstr("app_tests keeps the list"));
@@ -91,18 +92,18 @@ TEST_F(ServiceDiagnosisTest, AWatcherWithoutAPanelIsNoStatusArea) {
 }
 
 TEST_F(ServiceDiagnosisTest, AServiceThatHangsIsSilentAndKeepsNobodyWaiting) {
-    const FakeAnswerer daemon(bus.address(), notifications, notificationsPath);
-    const FakePortal portal(bus.address(), {});
+    FakeDaemon daemon(bus, {});
+    daemon.hangs = true;
+    const FakePortal portal(bus.address());
     const auto rows = ask({bus.address(), std::nullopt}, std::chrono::milliseconds(1500));
     EXPECT_EQ(rows.at("Notifications").state, SourceState::silent);
     EXPECT_EQ(rows.at("Appearance").value, "no preference");
 }
 
 TEST_F(ServiceDiagnosisTest, NonsenseAndRefusalsAreToldApart) {
-    const auto daemon = answerer(notifications, notificationsPath, {42});
-    const FakeAnswerer bluez(bus.address(), u"org.bluez"_s, u"/"_s, [](const QDBusMessage& call) {
-        return call.createErrorReply(QDBusError::AccessDenied, u"no"_s);
-    });
+    const FakeDaemon daemon(bus, {42});
+    bluez.error = QDBusError::AccessDenied;
+    bluez.appear();
     const auto rows = ask();
     EXPECT_EQ(rows.at("Notifications").state, SourceState::damaged);
     EXPECT_EQ(rows.at("Bluetooth").state, SourceState::denied);
@@ -110,36 +111,22 @@ TEST_F(ServiceDiagnosisTest, NonsenseAndRefusalsAreToldApart) {
 }
 
 TEST_F(ServiceDiagnosisTest, BluetoothIsToldByItsAdaptersAndBatteries) {
-    const auto adapter = [](bool isOn) { return Interfaces{{u"org.bluez.Adapter1"_s, {{u"Powered"_s, isOn}}}}; };
-    const Interfaces headset{{u"org.bluez.Battery1"_s, {{u"Percentage"_s, QVariant::fromValue(uchar{70})}}},
-                             {u"org.bluez.Device1"_s, {{u"Alias"_s, u"Ann's headset"_s}}}};
-    const QDBusObjectPath hci(u"/org/bluez/hci0"_s);
-    const struct {
-        const char* name;
-        Objects objects;
-        SourceState state;
-        const char* value;
-    } rows[] = {
-        {"no adapter", {}, SourceState::absent, ""},
-        {"off", {{hci, adapter(false)}}, SourceState::ok, "off"},
-        {"on", {{hci, adapter(true)}, {QDBusObjectPath(u"/d"_s), headset}}, SourceState::ok, "on, 1 level"},
+    const auto told = [this] {
+        const SourceDiagnosis row = ask().at("Bluetooth");
+        return std::pair(row.state, row.value);
     };
-    EXPECT_EQ(ask().at("Bluetooth").state, SourceState::absent);
-    for (const auto& row : rows) {
-        const auto bluez = answerer(u"org.bluez"_s, u"/"_s, {QVariant::fromValue(row.objects)});
-        const auto told = ask().at("Bluetooth");
-        EXPECT_EQ(told.state, row.state) << row.name;
-        EXPECT_EQ(told.value, row.value) << row.name;
-    }
+    EXPECT_EQ(told(), std::pair(SourceState::absent, std::string())) << "no service";
+    bluez.appear();
+    EXPECT_EQ(told(), std::pair(SourceState::absent, std::string())) << "no adapter";
+    bluez.put(u"/org/bluez/hci0"_s, bluez::adapter, {{u"Powered"_s, false}});
+    EXPECT_EQ(told(), std::pair(SourceState::ok, std::string("off")));
+    bluez.put(u"/org/bluez/hci0"_s, bluez::adapter, {{u"Powered"_s, true}});
+    bluez.put(u"/d"_s, bluez::battery, {{u"Percentage"_s, QVariant::fromValue(uchar{70})}});
+    EXPECT_EQ(told(), std::pair(SourceState::ok, std::string("on, 1 level")));
 }
 
 TEST_F(ServiceDiagnosisTest, AServiceThatTheBusCanStartIsNotStarted) {
-    QTemporaryDir services;
-    QFile file(services.filePath(u"n.service"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[D-BUS Service]\nName=org.freedesktop.Notifications\nExec=/bin/false\n");
-    file.close();
-    const PrivateBus starting("<servicedir>" + QFile::encodeName(services.path()) + "</servicedir>");
+    const PrivateBus starting("org.freedesktop.Notifications");
     const auto row = ask({starting.address(), std::nullopt}).at("Notifications");
     EXPECT_EQ(row.state, SourceState::ok);
     EXPECT_EQ(row.value, "started when needed");

@@ -1,55 +1,43 @@
 #pragma once
 
-#include <chrono>
 #include <csignal>
 #include <sys/prctl.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include <gtest/gtest.h>
+
+#include "posix/spin_until.h"
+
 namespace vantrix {
 
-/// Runs the event loop until `done` holds; false when it does not come to hold in time.
-template<typename Condition>
-bool spinUntil(Condition done, std::chrono::milliseconds patience = std::chrono::seconds(20)) {
-    const QDeadlineTimer deadline(patience);
-    while (!done()) {
-        if (deadline.hasExpired())
-            return false;
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
-    }
-    return true;
-}
-
-/// A message bus of the test's own, which starts no services but those that `more` configures; gone with the object.
+/// A message bus of the test's own; gone with the object. It starts no service but one that is `startable`, and of
+/// that a program which leaves it to the test to take the name.
 class PrivateBus {
   public:
-    explicit PrivateBus(const QByteArray& more = {}) {
-        QFile config(folder_.filePath(QStringLiteral("bus.conf")));
-        if (!config.open(QIODevice::WriteOnly))
-            return;
-        config.write("<busconfig><type>session</type><listen>unix:dir=" + QFile::encodeName(folder_.path()) +
-                     "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
-                     "<allow eavesdrop=\"true\"/></policy>" +
-                     more + "</busconfig>\n");
-        config.close();
+    explicit PrivateBus(const QByteArray& startable = {}) {
+        const QByteArray folder = QFile::encodeName(folder_.path());
+        put("startable.service", "[D-BUS Service]\nName=" + startable + "\nExec=/bin/sleep 20\n");
+        put("bus.conf", "<busconfig><type>session</type><listen>unix:dir=" + folder +
+                            "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
+                            "<allow eavesdrop=\"true\"/></policy>" +
+                            (startable.isEmpty() ? "" : "<servicedir>" + folder + "</servicedir>") + "</busconfig>\n");
         // Not left behind by a test that crashes.
         daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         daemon_.setStandardErrorFile(QProcess::nullDevice());
         daemon_.start(QStringLiteral("dbus-daemon"),
-                      {QStringLiteral("--config-file=") + config.fileName(), QStringLiteral("--print-address"),
-                       QStringLiteral("--nofork"), QStringLiteral("--nopidfile")});
+                      {QStringLiteral("--config-file=") + folder_.filePath(QStringLiteral("bus.conf")),
+                       QStringLiteral("--print-address"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile")});
         while (!daemon_.canReadLine() && daemon_.waitForReadyRead())
             continue;
         address_ = QString::fromLocal8Bit(daemon_.readLine()).trimmed();
+        EXPECT_FALSE(address_.isEmpty()) << "no dbus-daemon";
     }
 
     ~PrivateBus() { kill(); }
 
-    /// Empty when no dbus-daemon could be started.
     const QString& address() const { return address_; }
 
     void kill() {
@@ -58,6 +46,12 @@ class PrivateBus {
     }
 
   private:
+    void put(const char* name, const QByteArray& contents) const {
+        QFile file(folder_.filePath(QString::fromLatin1(name)));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(contents);
+    }
+
     QTemporaryDir folder_;
     QProcess daemon_;
     QString address_;

@@ -2,8 +2,8 @@
 
 #include <cstdio>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
+#include <sys/stat.h>
+
 #include <QDir>
 #include <QFile>
 #include <QJsonDocument>
@@ -12,7 +12,9 @@
 
 #include <gtest/gtest.h>
 
-/// What the tests of the settings file share.
+#include "posix/spin_until.h"
+
+/// What the tests of files in folders share.
 namespace vantrix::settings_folder {
 
 inline QString text(const char* value) {
@@ -22,15 +24,6 @@ inline QString text(const char* value) {
 inline const QString key = QStringLiteral("key");
 inline const QString other = QStringLiteral("other");
 
-/// Handles events until the condition holds; false when it does not within the time.
-template<typename Condition>
-bool becomes(Condition condition, int milliseconds = 5000) {
-    QDeadlineTimer deadline(milliseconds);
-    while (!condition() && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 20);
-    return condition();
-}
-
 /// Writes the file in place, as most editors do not.
 inline void put(const QString& path, const QByteArray& contents) {
     QFile file(path);
@@ -38,9 +31,31 @@ inline void put(const QString& path, const QByteArray& contents) {
     file.write(contents);
 }
 
+inline QByteArray read(const QString& path) {
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("<cannot be opened>");
+}
+
 /// Replaces `to`.
 inline void rename(const QString& from, const QString& to) {
     ASSERT_EQ(std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()), 0);
+}
+
+inline mode_t modeOf(const QString& path) {
+    struct stat status {};
+    return ::stat(QFile::encodeName(path).constData(), &status) == 0 ? status.st_mode & 07777 : 0;
+}
+
+inline void setMode(const QString& path, mode_t mode) {
+    ASSERT_EQ(::chmod(QFile::encodeName(path).constData(), mode), 0);
+}
+
+inline QJsonObject parsed(const QByteArray& json) {
+    return QJsonDocument::fromJson(json).object();
+}
+
+inline QStringList names(const QString& folder) {
+    return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 
 class FileDefaultsStoreTest : public testing::Test {
@@ -48,14 +63,7 @@ class FileDefaultsStoreTest : public testing::Test {
     QString at(const char* name) const { return folder_.filePath(text(name)); }
 
     void write(const QByteArray& bytes) const { put(path_, bytes); }
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("<cannot be opened>");
-    }
-    QJsonObject object() const { return QJsonDocument::fromJson(read(path_)).object(); }
-    QStringList names() const {
-        return QDir(folder_.path()).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
+    QJsonObject object() const { return parsed(read(path_)); }
 
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(QStringLiteral("settings.json"));

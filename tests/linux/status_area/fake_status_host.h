@@ -1,7 +1,7 @@
 #pragma once
 
 #include <algorithm>
-#include <memory>
+#include <optional>
 #include <vector>
 
 #include <QDBusArgument>
@@ -23,27 +23,17 @@ class FakeStatusHost : public QDBusVirtualObject {
     struct Item {
         QString service;
         QString path;
-
-        bool operator==(const Item&) const = default;
-    };
-
-    struct Signal {
-        QString path;
-        QString name;
-        QVariantList arguments;
     };
 
     explicit FakeStatusHost(const QString& busAddress) : busAddress_(busAddress) { start(); }
-    ~FakeStatusHost() override { stop(); }
 
     /// Takes the watcher's name on a connection of its own, as a freshly started panel does; behind
     /// another that has it.
     void start() {
-        connection_ = std::make_unique<BusConnection>(busAddress_);
-        QDBusConnection& bus = connection_->bus();
+        QDBusConnection& bus = connection_.emplace(busAddress_).bus();
         bus.registerVirtualObject(QStringLiteral("/StatusNotifierWatcher"), this);
-        for (const char* interface : {"org.kde.StatusNotifierItem", "com.canonical.dbusmenu"})
-            bus.connect({}, {}, QString::fromLatin1(interface), {}, this, SLOT(heard(QDBusMessage)));
+        for (const QString& interface : {itemInterface, menuInterface})
+            bus.connect({}, {}, interface, {}, this, SLOT(heard(QDBusMessage)));
         bus.interface()->registerService(watcherName, QDBusConnectionInterface::QueueService);
     }
 
@@ -52,15 +42,18 @@ class FakeStatusHost : public QDBusVirtualObject {
     /// Gives the name up but stays on the bus.
     void release() { connection_->bus().unregisterService(watcherName); }
 
+    /// Starts anew, and forgets who registered before.
+    void restart() {
+        stop();
+        items.clear();
+        start();
+    }
+
     /// Calls and waits for the answer, whatever it is.
     QDBusMessage call(const Item& item, const QString& interface, const QString& member,
                       const QVariantList& arguments = {}) {
         auto message = QDBusMessage::createMethodCall(item.service, item.path, interface, member);
         message.setArguments(arguments);
-        return call(message);
-    }
-
-    QDBusMessage call(const QDBusMessage& message) {
         // The item lives in this very thread: a blocking call would wait for itself.
         const QDBusPendingCall pending = connection_->bus().asyncCall(message);
         spinUntil([&] { return pending.isFinished(); });
@@ -68,13 +61,13 @@ class FakeStatusHost : public QDBusVirtualObject {
     }
 
     QVariantMap properties(const Item& item) {
-        const QDBusMessage reply = call(item, propertiesInterface, QStringLiteral("GetAll"), {itemInterface});
-        return reply.arguments().isEmpty() ? QVariantMap() : qdbus_cast<QVariantMap>(reply.arguments()[0]);
+        return qdbus_cast<QVariantMap>(
+            call(item, propertiesInterface, QStringLiteral("GetAll"), {itemInterface}).arguments().value(0));
     }
 
-    QVariant property(const Item& item, const QString& name) {
-        const QDBusMessage reply = call(item, propertiesInterface, QStringLiteral("Get"), {itemInterface, name});
-        return reply.arguments().isEmpty() ? QVariant() : reply.arguments()[0].value<QDBusVariant>().variant();
+    QVariant property(const Item& item, const QString& name, const QString& interface = itemInterface) {
+        const QDBusMessage reply = call(item, propertiesInterface, QStringLiteral("Get"), {interface, name});
+        return reply.arguments().value(0).value<QDBusVariant>().variant();
     }
 
     /// Waits until everything sent to this host so far has arrived.
@@ -83,15 +76,15 @@ class FakeStatusHost : public QDBusVirtualObject {
         QCoreApplication::processEvents();
     }
 
-    qsizetype count(const QString& signal) const {
+    qsizetype count(QStringView signal) const {
         return std::count_if(signalsHeard.begin(), signalsHeard.end(),
-                             [&](const Signal& s) { return s.name == signal; });
+                             [&](const QDBusMessage& message) { return message.member() == signal; });
     }
 
     QString introspect(const QString&) const override { return {}; }
 
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
-        if (message.member() != QStringLiteral("RegisterStatusNotifierItem") || !answers)
+        if (message.member() != u"RegisterStatusNotifierItem" || !answers)
             return true; // no word
         const QString what = message.arguments().value(0).toString();
         items.push_back(what.startsWith(u'/') ? Item{message.service(), what}
@@ -112,16 +105,14 @@ class FakeStatusHost : public QDBusVirtualObject {
     bool answers = true; ///< takes registrations in
     bool reads = true;   ///< fetches the properties of what registers
     std::vector<Item> items;
-    std::vector<Signal> signalsHeard;
+    std::vector<QDBusMessage> signalsHeard;
 
   public Q_SLOTS:
-    void heard(const QDBusMessage& message) {
-        signalsHeard.push_back({message.path(), message.member(), message.arguments()});
-    }
+    void heard(const QDBusMessage& message) { signalsHeard.push_back(message); }
 
   private:
     QString busAddress_;
-    std::unique_ptr<BusConnection> connection_;
+    std::optional<BusConnection> connection_;
 };
 
 } // namespace vantrix

@@ -33,25 +33,18 @@ class StatusItemOnBus : public ::testing::Test {
     using Kind = LinuxStatusItem::Kind;
     using Item = FakeStatusHost::Item;
 
-    void SetUp() override { ASSERT_FALSE(bus.address().isEmpty()) << "no dbus-daemon"; }
-
-    void start(const StatusContent& content = rowOf(12)) {
-        surroundings.busAddress = busAddress.value_or(bus.address());
-        surroundings.hostOfProcess = [this](uint) { return layout; };
-        item = std::make_unique<LinuxStatusItem>(handlers(), defaults, appearance, surroundings);
-        item->show(content);
-    }
-
-    StatusItem::Handlers handlers() {
-        return {.clicked = [this](const StatusClick& click) { clicks.push_back(click.button); },
-                .menu = [this] { return entries; },
-                .menuWillOpen = [this] { ++menusOpened; }};
+    void start() {
+        StatusItem::Handlers handlers{.clicked = [this](const StatusClick& click) { clicks.push_back(click.button); },
+                                      .menu = [this] { return entries; },
+                                      .menuWillOpen = [this] { ++menusOpened; }};
+        item = std::make_unique<LinuxStatusItem>(std::move(handlers), defaults, appearance, surroundings);
+        item->show(rowOf(12));
     }
 
     /// Starts on a host of that kind and waits for `count` items.
-    std::vector<Item> startOn(const NotifierHost& host, std::size_t count = 1, const StatusContent& row = rowOf(12)) {
+    std::vector<Item> startOn(const NotifierHost& host, std::size_t count = 1) {
         layout = host;
-        start(row);
+        start();
         EXPECT_TRUE(awaitItems(count));
         std::vector<Item> items = this->host.items;
         items.resize(count);
@@ -66,7 +59,7 @@ class StatusItemOnBus : public ::testing::Test {
         return spinUntil([&] { return item->kind() == kind; });
     }
 
-    bool awaitSignals(const QString& name, qsizetype count) {
+    bool awaitSignals(QStringView name, qsizetype count) {
         return spinUntil([&] { return host.count(name) >= count; });
     }
 
@@ -78,9 +71,10 @@ class StatusItemOnBus : public ::testing::Test {
     FakeStatusHost host{bus.address()};
     fakes::FakeDefaults defaults;
     fakes::FakeAppearance appearance;
-    std::optional<QString> busAddress; ///< where the bus is not the test's own
-    StatusSurroundings surroundings{.stripDelay = std::chrono::milliseconds(30)};
-    NotifierHost layout;
+    NotifierHost layout; ///< of every process
+    StatusSurroundings surroundings{.busAddress = bus.address(),
+                                    .stripDelay = std::chrono::milliseconds(30),
+                                    .hostOfProcess = [this](uint) { return layout; }};
     std::vector<StatusMenuEntry> entries;
     std::vector<StatusClick::Button> clicks;
     int menusOpened = 0;
