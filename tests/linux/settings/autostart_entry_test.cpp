@@ -1,32 +1,24 @@
 #include "linux/settings/autostart_entry.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-
-#include <gmock/gmock.h>
+#include <QFileInfo>
 
 #include "linux/settings/desktop_entry.h"
+#include "linux/settings/settings_folder.h"
 
 namespace vantrix {
 namespace {
 
+using namespace settings_folder;
+
 class AutostartEntryTest : public ::testing::Test {
   protected:
-    AutostartEntryTest() { put(program, "", true); }
+    AutostartEntryTest() {
+        for (const QString& file : {program, userFile, systemFile})
+            QDir().mkpath(QFileInfo(file).path());
+        put(program, "");
+        setMode(program, 0700);
+    }
 
-    static void put(const QString& path, const QByteArray& contents, bool executable = false) {
-        QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        ASSERT_TRUE(file.open(QFile::WriteOnly | QFile::Truncate));
-        file.write(contents);
-        if (executable)
-            file.setPermissions(file.permissions() | QFile::ExeOwner | QFile::ExeUser);
-    }
-    static QByteArray read(const QString& path) {
-        QFile file(path);
-        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray("<none>");
-    }
     QByteArray entry(const QByteArray& more = {}) const {
         return "[Desktop Entry]\nType=Application\nExec=" + execValue(program).toUtf8() + '\n' + more;
     }
@@ -41,14 +33,13 @@ class AutostartEntryTest : public ::testing::Test {
 };
 
 TEST_F(AutostartEntryTest, IsOnWhenAnEffectiveEntryStartsAProgramThatExists) {
-    struct Case {
+    const QByteArray gone = "[Desktop Entry]\nType=Application\nExec=/nowhere/vantrix\n";
+    const struct {
         const char* name;
         QByteArray user; ///< empty: no file
         QByteArray system;
         bool enabled;
-    };
-    const QByteArray gone = "[Desktop Entry]\nType=Application\nExec=/nowhere/vantrix\n";
-    const Case cases[] = {
+    } cases[] = {
         {"nothing", "", "", false},
         {"the user's", entry(), "", true},
         {"the system's", "", entry(), true},
@@ -66,13 +57,12 @@ TEST_F(AutostartEntryTest, IsOnWhenAnEffectiveEntryStartsAProgramThatExists) {
         {"a test for a program that is gone", entry("TryExec=/nowhere/vantrix\n"), "", false},
         {"a test for a program", entry("TryExec=sh\n"), "", true},
     };
-    for (const Case& c : cases) {
-        QFile::remove(userFile);
-        QFile::remove(systemFile);
-        if (!c.user.isEmpty())
-            put(userFile, c.user);
-        if (!c.system.isEmpty())
-            put(systemFile, c.system);
+    const auto putOrRemove = [](const QString& path, const QByteArray& contents) {
+        contents.isEmpty() ? void(QFile::remove(path)) : put(path, contents);
+    };
+    for (const auto& c : cases) {
+        putOrRemove(userFile, c.user);
+        putOrRemove(systemFile, c.system);
         EXPECT_EQ(item().isEnabled(), c.enabled) << c.name;
     }
 }
@@ -81,7 +71,7 @@ TEST_F(AutostartEntryTest, TurnsOnAndOff) {
     AutostartEntry entry = item();
     entry.setEnabled(true);
     EXPECT_TRUE(entry.isEnabled()) << "whatever characters the path has";
-    EXPECT_EQ(QDir(user).entryList(QDir::Files), QStringList{QStringLiteral("vantrix.desktop")});
+    EXPECT_EQ(names(user), QStringList{QStringLiteral("vantrix.desktop")});
     entry.setEnabled(false);
     EXPECT_FALSE(entry.isEnabled());
     EXPECT_FALSE(QFile::exists(userFile)) << "leaves nothing behind";
@@ -99,19 +89,19 @@ TEST_F(AutostartEntryTest, HidesTheSystemsEntryRatherThanFailing) {
 }
 
 TEST_F(AutostartEntryTest, AFailureLeavesEverythingAsItWas) {
-    put(folder.filePath(QStringLiteral("config")), "a file where the folder would be");
+    ASSERT_TRUE(QDir(user).removeRecursively());
+    put(user, "a file where the folder would be");
     AutostartEntry entry = item();
     entry.setEnabled(true);
     EXPECT_FALSE(entry.isEnabled());
 }
 
 TEST(DesktopEntry, QuotesAProgramsPathByTheRules) {
-    struct Case {
+    const struct {
         const char* name;
         const char* program;
         const char* value;
-    };
-    const Case cases[] = {
+    } cases[] = {
         {"plain", "/usr/bin/vantrix", R"("/usr/bin/vantrix")"},
         {"a blank", "/opt/my apps/v", R"("/opt/my apps/v")"},
         {"a percent sign", "/a%b", R"("/a%%b")"},
@@ -119,7 +109,7 @@ TEST(DesktopEntry, QuotesAProgramsPathByTheRules) {
         {"a double quote", "/a\"b", R"("/a\\"b")"},
         {"a backslash", "/a\\b", R"("/a\\\\b")"},
     };
-    for (const Case& c : cases)
+    for (const auto& c : cases)
         EXPECT_EQ(execValue(QString::fromUtf8(c.program)), QString::fromUtf8(c.value)) << c.name;
 }
 

@@ -1,10 +1,10 @@
 #include "linux/settings/file_defaults_store.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
 #include <functional>
-#include <sstream>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -33,18 +33,11 @@ class OrdinaryUser {
     OrdinaryUser& operator=(const OrdinaryUser&) = delete;
 };
 
-/// What was complained of since this began, a line each.
-class Complaints {
-  public:
-    Complaints() { testing::internal::CaptureStderr(); }
-    std::vector<std::string> take() {
-        std::istringstream text(testing::internal::GetCapturedStderr());
-        std::vector<std::string> lines;
-        for (std::string line; std::getline(text, line);)
-            lines.push_back(line);
-        return lines;
-    }
-};
+/// How many lines were printed since they were captured.
+long capturedLines() {
+    const std::string text = testing::internal::GetCapturedStderr();
+    return std::count(text.begin(), text.end(), '\n');
+}
 
 TEST_F(FileDefaultsStoreTest, DamagedFileIsSetAsideBeforeItIsReplaced) {
     const struct {
@@ -66,7 +59,7 @@ TEST_F(FileDefaultsStoreTest, DamagedFileIsSetAsideBeforeItIsReplaced) {
         QFile::remove(at("settings.json.damaged-2"));
         put(at("settings.json.damaged"), "an older copy");
         write(damage.bytes);
-        Complaints complaints;
+        testing::internal::CaptureStderr();
         {
             FileDefaultsStore store(path_);
             EXPECT_FALSE(store.value(key).isValid());
@@ -75,7 +68,7 @@ TEST_F(FileDefaultsStoreTest, DamagedFileIsSetAsideBeforeItIsReplaced) {
             store.flush();
             store.setValue(key, 2.0);
         }
-        EXPECT_THAT(complaints.take(), testing::ElementsAre(testing::StartsWith("vantrix: " + path_.toStdString())));
+        EXPECT_EQ(capturedLines(), 1);
         EXPECT_EQ(object().value(key).toInt(), 2);
         EXPECT_EQ(read(at("settings.json.damaged")), "an older copy");
         EXPECT_EQ(names(folder_.path()).size(), damage.copied ? 3 : 2);
@@ -90,13 +83,13 @@ TEST_F(FileDefaultsStoreTest, DamageWhileRunningKeepsTheLastValues) {
     FileDefaultsStore store(path_);
     int outside = 0;
     store.changedOutside = [&] { ++outside; };
-    Complaints complaints;
+    testing::internal::CaptureStderr();
     put(path_, "{\"key\":");
     EXPECT_FALSE(spinUntil([&] { return outside > 0; }, std::chrono::milliseconds(200)));
     put(path_, "{\"key\":2,");
     EXPECT_FALSE(spinUntil([&] { return outside > 0; }, std::chrono::milliseconds(200)));
     EXPECT_EQ(store.value(key), QVariant(1.0));
-    EXPECT_EQ(complaints.take().size(), 1u);
+    EXPECT_EQ(capturedLines(), 1);
 
     put(path_, "{\"key\":3}");
     ASSERT_TRUE(spinUntil([&] { return store.value(key) == QVariant(3.0); })) << "repaired by hand";
@@ -121,14 +114,14 @@ TEST_F(FileDefaultsStoreTest, BlockedPathIsLeftAlone) {
     for (const auto& obstacle : obstacles) {
         SCOPED_TRACE(obstacle.name);
         ASSERT_EQ(obstacle.make(), 0);
-        Complaints complaints;
+        testing::internal::CaptureStderr();
         {
             FileDefaultsStore store(path_);
             store.setValue(key, 1.0);
             store.flush();
             EXPECT_EQ(store.value(key), QVariant(1.0));
         }
-        EXPECT_EQ(complaints.take().size(), 1u);
+        EXPECT_EQ(capturedLines(), 1);
         EXPECT_EQ(names(folder_.path()), QStringList{text("settings.json")});
         EXPECT_FALSE(QFileInfo(path_).isFile());
         ASSERT_EQ(std::remove(path.constData()), 0);
@@ -166,7 +159,7 @@ TEST_F(FileDefaultsStoreTest, ReadOnlyFileAndFolderStayAsTheyAre) {
     const OrdinaryUser user(folder_.path());
     write("{\"key\":1}");
     FileDefaultsStore store(path_);
-    Complaints complaints;
+    testing::internal::CaptureStderr();
     for (const QString& locked : {path_, folder_.path()}) {
         setMode(locked, 0500);
         for (double value : {2.0, 3.0}) {
@@ -177,7 +170,7 @@ TEST_F(FileDefaultsStoreTest, ReadOnlyFileAndFolderStayAsTheyAre) {
         EXPECT_EQ(read(path_), "{\"key\":1}");
         setMode(locked, 0700);
     }
-    EXPECT_EQ(complaints.take().size(), 1u);
+    EXPECT_EQ(capturedLines(), 1);
     store.setValue(other, 4.0);
     store.flush();
     EXPECT_EQ(object(), parsed("{\"key\":3,\"other\":4}")) << "nothing was forgotten";
