@@ -10,7 +10,7 @@
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 
-#include "linux/services/private_bus.h"
+#include "posix/spin_until.h"
 
 namespace vantrix {
 
@@ -19,6 +19,8 @@ struct AccessibleValue {
     double current = 0.0;
     double least = 0.0;
     double most = 0.0;
+
+    bool operator==(const AccessibleValue&) const = default;
 };
 
 /// One thing in the tree that assistive programs read.
@@ -125,12 +127,12 @@ class AccessibilityBus {
     QDBusConnection bus_;
 };
 
-/// The first of a tree's nodes, itself included, with that role and name; null when there is none.
-inline const AccessibleNode* find(const AccessibleNode& tree, const QString& role, const QString& name) {
-    if (tree.role == role && tree.name == name)
-        return &tree;
-    for (const AccessibleNode& child : tree.children)
-        if (const AccessibleNode* found = find(child, role, name))
+/// The first of a tree's nodes, itself included, with that role and name; null when there is none, or no tree.
+inline const AccessibleNode* find(const AccessibleNode* tree, const char* role, const char* name) {
+    if (tree == nullptr || (tree->role == QLatin1StringView(role) && tree->name == QLatin1StringView(name)))
+        return tree;
+    for (const AccessibleNode& child : tree->children)
+        if (const AccessibleNode* found = find(&child, role, name))
             return found;
     return nullptr;
 }

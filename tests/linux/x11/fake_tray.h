@@ -1,16 +1,15 @@
 #pragma once
 
-#include <algorithm>
+#include <cstdlib>
 #include <functional>
 #include <utility>
 
 #include <QColor>
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QImage>
 #include <QRect>
 
 #include "linux/status_area/xcb_support.h"
+#include "posix/spin_until.h"
 
 namespace vantrix::fakes {
 
@@ -65,21 +64,12 @@ class FakeTray {
         xcb_flush(connection_);
     }
 
-    /// The window that asked to be taken in; 0 before that.
-    xcb_window_t asked() const { return asked_; }
-    /// The window in the tray; 0 when there is none.
-    xcb_window_t icon() const { return icon_; }
-    /// The size that the window in the tray last asked for.
-    QSize wanted() const { return wanted_; }
-
-    /// Whether the tray takes windows in as soon as they ask.
-    void setWelcoming(bool welcoming) { welcoming_ = welcoming; }
     void takeIn() {
-        icon_ = asked_;
+        icon = asked;
         const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
-        xcb_change_window_attributes(connection_, icon_, XCB_CW_EVENT_MASK, &mask);
-        xcb_reparent_window(connection_, icon_, window_, 4, 4);
-        resizeIcon(rootRect(icon_).size());
+        xcb_change_window_attributes(connection_, icon, XCB_CW_EVENT_MASK, &mask);
+        xcb_reparent_window(connection_, icon, window_, 4, 4);
+        resizeIcon(rootRect(icon).size());
     }
 
     bool isMapped(xcb_window_t window) const {
@@ -114,6 +104,11 @@ class FakeTray {
         send(window, XCB_EVENT_MASK_NO_EVENT, event);
     }
 
+    bool welcoming = true;         ///< takes windows in as soon as they ask
+    xcb_window_t asked = XCB_NONE; ///< asked to be taken in
+    xcb_window_t icon = XCB_NONE;  ///< is in the tray
+    QSize wanted;                  ///< the size that the window in the tray last asked for
+
   private:
     template<typename Event>
     void send(xcb_window_t to, std::uint32_t mask, const Event& event) {
@@ -121,19 +116,18 @@ class FakeTray {
         xcb_flush(connection_);
     }
 
-    void resizeIcon(QSize wanted) {
-        wanted_ = wanted;
+    void resizeIcon(QSize size) {
+        wanted = size;
         granted_ = grant_(wanted);
-        const std::uint32_t values[] = {static_cast<std::uint32_t>(granted_.width()),
-                                        static_cast<std::uint32_t>(granted_.height())};
-        xcb_configure_window(connection_, icon_, XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, values);
+        const int values[] = {granted_.width(), granted_.height()};
+        xcb_configure_window(connection_, icon, XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, values);
     }
 
     /// The hints' sixth and seventh numbers are the least size.
     void readHints() {
-        const auto hints = xcbValues(connection_, icon_, XCB_ATOM_WM_NORMAL_HINTS);
+        const auto hints = xcbValues(connection_, icon, XCB_ATOM_WM_NORMAL_HINTS);
         const QSize least = hints.size() > 6 ? QSize(static_cast<int>(hints[5]), static_cast<int>(hints[6])) : QSize();
-        if (!least.isEmpty() && least != wanted_)
+        if (!least.isEmpty() && least != wanted)
             resizeIcon(least);
     }
 
@@ -143,19 +137,19 @@ class FakeTray {
             const auto& told = reinterpret_cast<const xcb_client_message_event_t&>(event);
             if (told.type != xcbAtom(connection_, "_NET_SYSTEM_TRAY_OPCODE") || told.data.data32[1] != 0)
                 return;
-            asked_ = told.data.data32[2];
-            if (welcoming_)
+            asked = told.data.data32[2];
+            if (welcoming)
                 takeIn();
         } else if (type == XCB_PROPERTY_NOTIFY) {
             if (reinterpret_cast<const xcb_property_notify_event_t&>(event).atom == XCB_ATOM_WM_NORMAL_HINTS)
                 readHints();
         } else if (type == XCB_CONFIGURE_NOTIFY) {
             const auto& now = reinterpret_cast<const xcb_configure_notify_event_t&>(event);
-            if (now.window == icon_ && QSize(now.width, now.height) != granted_)
-                resizeIcon(wanted_);
+            if (now.window == icon && QSize(now.width, now.height) != granted_)
+                resizeIcon(wanted);
         } else if (type == XCB_DESTROY_NOTIFY) {
-            if (reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == icon_)
-                icon_ = XCB_NONE;
+            if (reinterpret_cast<const xcb_destroy_notify_event_t&>(event).window == icon)
+                icon = XCB_NONE;
         }
     }
 
@@ -166,36 +160,27 @@ class FakeTray {
     xcb_connection_t* connection_ = xcb_connect(nullptr, nullptr);
     xcb_screen_t* screen_ = xcbScreen(connection_);
     xcb_window_t window_ = XCB_NONE;
-    xcb_window_t asked_ = XCB_NONE;
-    xcb_window_t icon_ = XCB_NONE;
-    QSize wanted_;
     QSize granted_;
-    bool welcoming_ = true;
 };
 
-/// Lets program and tray work until the condition holds; false when it does not within the time.
+/// Lets program and tray work until the condition holds; false when it does not in time.
 template<typename Condition>
-bool becomes(FakeTray* tray, Condition condition, int milliseconds = 10000) {
-    QDeadlineTimer deadline(milliseconds);
-    while (true) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+bool becomes(FakeTray* tray, Condition condition) {
+    return spinUntil([&] {
         if (tray != nullptr)
             tray->pump();
-        if (condition())
-            return true;
-        if (deadline.hasExpired())
-            return false;
-    }
+        return condition();
+    });
 }
 
 /// True when some pixel is `color`, but for the softness of small type.
 inline bool shows(const QImage& picture, const QColor& color, int tolerance = 40) {
+    const auto isNear = [&](int part, int wanted) { return std::abs(part - wanted) <= tolerance; };
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x) {
-            const QColor pixel = picture.pixelColor(x, y);
-            const int away = std::max({std::abs(pixel.red() - color.red()), std::abs(pixel.green() - color.green()),
-                                       std::abs(pixel.blue() - color.blue())});
-            if (away <= tolerance)
+            const QRgb pixel = picture.pixel(x, y);
+            if (isNear(qRed(pixel), color.red()) && isNear(qGreen(pixel), color.green()) &&
+                isNear(qBlue(pixel), color.blue()))
                 return true;
         }
     return false;
