@@ -2,11 +2,8 @@
 
 #include <sys/resource.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <gtest/gtest.h>
-
 #include "monitor/task_runner.h"
+#include "posix/spin_until.h"
 
 namespace vantrix {
 namespace {
@@ -17,9 +14,7 @@ TEST(ThreadTaskRunner, WorksWhenNobodyWaits) {
     bool isDone = false;
     ThreadTaskRunner runner;
     runner.run([&] { during = getpriority(PRIO_PROCESS, 0); }, [&] { isDone = true; });
-    const QDeadlineTimer deadline(10000);
-    while (!isDone && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
+    EXPECT_TRUE(spinUntil([&] { return isDone; }));
     EXPECT_EQ(during, std::max(before, 10));
     EXPECT_EQ(getpriority(PRIO_PROCESS, 0), before);
 }
