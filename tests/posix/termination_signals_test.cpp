@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <csignal>
 
 #include <gtest/gtest.h>
@@ -14,28 +15,24 @@ bool isDefault(int signal) {
     return action.sa_handler == SIG_DFL;
 }
 
-class TerminationSignalsTest : public ::testing::TestWithParam<int> {};
-
-TEST_P(TerminationSignalsTest, AsksOnceAndLeavesTheSecondRequestToTheSystem) {
-    int asked = 0;
-    {
-        const TerminationSignals signals([&asked] { ++asked; });
-        EXPECT_FALSE(isDefault(GetParam()));
-        std::raise(GetParam());
-        EXPECT_EQ(asked, 0); // not within the handler
-        EXPECT_TRUE(spinUntil([&asked] { return asked > 0; }));
-        EXPECT_EQ(asked, 1);
-        for (const int signal : {SIGTERM, SIGINT, SIGHUP})
-            EXPECT_TRUE(isDefault(signal)) << signal;
+TEST(TerminationSignals, AskOnceAndLeaveTheSecondRequestToTheSystem) {
+    constexpr int all[] = {SIGTERM, SIGINT, SIGHUP};
+    for (const int signal : all) {
+        SCOPED_TRACE(signal);
+        int asked = 0;
+        {
+            const TerminationSignals signals([&asked] { ++asked; });
+            EXPECT_FALSE(isDefault(signal));
+            std::raise(signal);
+            EXPECT_EQ(asked, 0); // not within the handler
+            EXPECT_TRUE(spinUntil([&asked] { return asked > 0; }));
+            EXPECT_EQ(asked, 1);
+            EXPECT_TRUE(std::all_of(std::begin(all), std::end(all), isDefault));
+        }
+        TerminationSignals([] {});
+        EXPECT_TRUE(isDefault(signal)); // nobody listens any more
     }
-    {
-        const TerminationSignals signals([] {});
-    }
-    EXPECT_TRUE(isDefault(GetParam())); // nobody listens any more
 }
-
-INSTANTIATE_TEST_SUITE_P(Signals, TerminationSignalsTest, ::testing::Values(SIGTERM, SIGINT, SIGHUP),
-                         [](const auto& tested) { return std::to_string(tested.param); });
 
 } // namespace
 } // namespace vantrix

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "app/accessible_application.h"
 #include "fakes/fake_appearance.h"
 #include "fakes/fixture_machine.h"
 #include "linux/a11y/accessible_tree.h"
@@ -16,6 +17,8 @@ using namespace Qt::StringLiterals;
 
 class AccessibilityTest : public testing::Test {
   protected:
+    static void SetUpTestSuite() { installAccessibleApplication(); }
+
     void SetUp() override { ASSERT_TRUE(reader.isConnected()) << "no accessibility bus: is at-spi2-core installed?"; }
 
     /// Reads the program's tree until the condition holds for it.

@@ -163,14 +163,6 @@ TEST_F(BluezTest, FollowsTheServiceThroughRestarts) {
         EXPECT_TRUE(spinUntil([&] { return matchRules() == rules; })) << "its signals are no longer asked for";
         bluez.change(mousePath, bluez::battery, level(64));
     }
-    FakeBluez successor(bus.address());
-    successor.put(adapterPath, bluez::adapter, powered(true));
-    ASSERT_TRUE(successor.appear());
-    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: ")) << "it knows of no mouse";
-    addAdapterAndMouse(); // by one that has resigned
-    timer->fire();
-    successor.change(adapterPath, bluez::adapter, powered(false));
-    ASSERT_TRUE(saysSoon("Bluetooth off, 0 with battery service | classic: "));
 }
 
 TEST_F(BluezTest, DevicesComeAndGo) {
@@ -187,9 +179,7 @@ TEST_F(BluezTest, DevicesComeAndGo) {
     ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
     bluez.put(headsetPath, bluez::device, headset());
     ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: AA:BB:CC:DD:EE:02 [no value] class 4"));
-    bluez.put(headsetPath, bluez::battery, level(70));
-    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: AA:BB:CC:DD:EE:02 70%"));
-    bluez.change(headsetPath, bluez::battery, level(60));
+    bluez.put(headsetPath, bluez::battery, level(60));
     ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: AA:BB:CC:DD:EE:02 60%"));
     bluez.remove(headsetPath);
     ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
@@ -271,8 +261,7 @@ TEST_F(BluezTest, SlowAnswersAreTakenWhenTheyCome) {
     ASSERT_TRUE(spinUntil([&] { return bluez.count(u"GetManagedObjects") == 1; }));
     EXPECT_EQ(reader->diagnostics(), "starting, 0 with battery service | classic: ");
     bluez.change(mousePath, bluez::battery, level(63)); // will come with the objects
-    const QDBusMessage held = bluez.asked.back();
-    bluez.answer(held);
+    bluez.answer(bluez.asked.back());
     ASSERT_TRUE(saysSoon("on, 1 with battery service: Desk Mouse 63% | classic: "));
 
     bluez.resign();
@@ -284,6 +273,7 @@ TEST_F(BluezTest, SlowAnswersAreTakenWhenTheyCome) {
     ASSERT_TRUE(successor.appear());
     ASSERT_TRUE(spinUntil([&] { return reader->diagnostics().starts_with("Bluetooth off"); }));
     bluez.answer(bluez.asked.back());
+    addAdapterAndMouse(); // told by one that has resigned
     successor.change(adapterPath, bluez::adapter, powered(true));
     ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
 }
@@ -329,7 +319,7 @@ TEST_F(BluezTest, SurvivesWhatMakesNoSense) {
 
     for (const QVariantList& answer : {QVariantList{}, {1}, {QVariantMap()}, {u"objects"_s, u"more"_s}}) {
         bluez.resign();
-        bluez.nonsense = answer;
+        bluez.always = answer;
         bluez.asked.clear();
         ASSERT_TRUE(bluez.appear());
         ASSERT_TRUE(spinUntil([&] { return !bluez.asked.empty(); }));

@@ -95,7 +95,7 @@ TEST_F(DesktopNotificationsTest, GoesOnAfterWrongAnswers) {
         EXPECT_EQ(replacedBy(service.asked.back()), 0U) << what;
     };
     for (const QVariantList& answer : answers) {
-        service.nonsense = answer;
+        service.always = answer;
         expectFresh("nonsense");
     }
     service.error = QDBusError::LimitsExceeded;

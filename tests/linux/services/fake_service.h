@@ -20,7 +20,7 @@ class FakeService : public QDBusVirtualObject {
     /// What a service in its right mind replies.
     using Answer = std::function<QDBusMessage(const QDBusMessage& call)>;
 
-    FakeService(const QString& busAddress, const QString& name, const QString& path, Answer answer,
+    FakeService(const QString& busAddress, const QString& name, const QString& path, Answer answer = {},
                 QDBusConnection::VirtualObjectRegisterOption extent = QDBusConnection::SingleNode)
         : name_(name), answer_(std::move(answer)), connection_(busAddress) {
         connection_.bus().registerVirtualObject(path, this, extent);
@@ -58,8 +58,8 @@ class FakeService : public QDBusVirtualObject {
         call.setDelayedReply(true);
         if (error != QDBusError::NoError)
             bus.send(call.createErrorReply(error, QStringLiteral("no")));
-        else if (nonsense)
-            bus.send(call.createReply(*nonsense));
+        else if (always)
+            bus.send(call.createReply(*always));
         else if (!hangs)
             answer(call);
         return true;
@@ -67,7 +67,7 @@ class FakeService : public QDBusVirtualObject {
 
     bool hangs = false;
     QDBusError::ErrorType error = QDBusError::NoError;
-    std::optional<QVariantList> nonsense; ///< answered to everything
+    std::optional<QVariantList> always; ///< answered to everything
     std::vector<QDBusMessage> asked;
 
   private:

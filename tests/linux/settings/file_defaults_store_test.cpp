@@ -167,11 +167,10 @@ TEST_F(FileDefaultsStoreTest, LastWriteDoesNotCallADyingOwner) {
 TEST(FileDefaultsPaths, FollowTheBaseFolders) {
     QTemporaryDir runtime;
     const QByteArray folder = QFile::encodeName(runtime.path());
-    struct Row {
+    const struct {
         const char* name;
         QByteArray config, state, runtime, settings, widgets;
-    };
-    const Row rows[] = {
+    } rows[] = {
         {"all set", "/c", "/s", folder, "/c/vantrix/settings.json", folder + "/vantrix/defaults.json"},
         {"unset", "", "", "", "/h/.config/vantrix/settings.json", "/h/.local/state/vantrix/defaults.json"},
         {"relative", "c", "s", "r", "/h/.config/vantrix/settings.json", "/h/.local/state/vantrix/defaults.json"},
@@ -181,7 +180,7 @@ TEST(FileDefaultsPaths, FollowTheBaseFolders) {
     QList<QByteArray> before;
     for (const char* variable : variables)
         before.append(qgetenv(variable));
-    for (const Row& row : rows) {
+    for (const auto& row : rows) {
         const QByteArray values[] = {"/h", row.config, row.state, row.runtime};
         for (int i = 0; i < 4; ++i)
             values[i].isEmpty() ? qunsetenv(variables[i]) : qputenv(variables[i], values[i]);

@@ -2,8 +2,6 @@
 
 #include <sys/prctl.h>
 
-#include <QXmlStreamReader>
-
 namespace vantrix {
 namespace {
 
@@ -81,23 +79,6 @@ TEST_F(StatusNotifierTest, PicturesAreStraightArgbMostSignificantByteFirst) {
     image.setPixelColor(0, 0, QColor(255, 0, 51, 255));
     image.setPixelColor(1, 0, QColor(255, 255, 255, 102));
     EXPECT_EQ(toNotifierPixmap(image), (NotifierPixmap{2, 1, QByteArray::fromHex("ffff003366ffffff")}));
-}
-
-TEST_F(StatusNotifierTest, DescribesItsObjects) {
-    const Item at = startOn(quick("gnome-shell")).front();
-    const auto properties = host.properties(at).keys();
-    for (const Item& object : {at, Item{at.service, at.path + u"/Menu"_s}}) {
-        const auto reply = host.call(object, u"org.freedesktop.DBus.Introspectable"_s, u"Introspect"_s);
-        QXmlStreamReader xml(reply.arguments().value(0).toString());
-        QStringList described;
-        while (!xml.atEnd())
-            if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == u"property")
-                described << xml.attributes().value(u"name"_s).toString();
-        EXPECT_FALSE(xml.hasError()) << qPrintable(xml.errorString());
-        if (object.path == at.path) {
-            EXPECT_EQ(described, properties);
-        }
-    }
 }
 
 TEST_F(StatusNotifierTest, WrongCallsGetErrors) {

@@ -165,10 +165,10 @@ class FakeTray {
 
 /// Lets program and tray work until the condition holds; false when it does not in time.
 template<typename Condition>
-bool becomes(FakeTray* tray, Condition condition) {
+bool becomes(FakeTray& tray, Condition condition) {
+    QCoreApplication::processEvents(); // what the program asks for goes out before the tray acts
     return spinUntil([&] {
-        if (tray != nullptr)
-            tray->pump();
+        tray.pump();
         return condition();
     });
 }

@@ -11,15 +11,13 @@
 namespace vantrix {
 namespace {
 
-using fakes::becomes;
-
 /// No compositor runs on this screen, and no window manager.
 class PopoverOnScreen : public testing::Test {
   protected:
     void SetUp() override {
         host.show(anchor);
         window = static_cast<xcb_window_t>(view->window()->winId());
-        ASSERT_TRUE(becomes(nullptr, [&] { return mouse.isMapped(window) && QApplication::activePopupWidget(); }));
+        ASSERT_TRUE(spinUntil([&] { return mouse.isMapped(window) && QApplication::activePopupWidget(); }));
     }
 
     const QRect anchor{600, 0, 80, 22};
@@ -36,7 +34,7 @@ class PopoverOnScreen : public testing::Test {
 };
 
 TEST_F(PopoverOnScreen, StandsBelowTheItemWithItsCornersCutOff) {
-    EXPECT_TRUE(becomes(nullptr, [&] { return mouse.rootRect(window) == QRect(469, 26, 340, 1024 - 30); }));
+    EXPECT_TRUE(spinUntil([&] { return mouse.rootRect(window) == QRect(469, 26, 340, 1024 - 30); }));
     EXPECT_FALSE(view->window()->mask().contains(QPoint(0, 0)));
     EXPECT_TRUE(view->window()->mask().contains(QPoint(170, 0)));
     EXPECT_EQ(view->window()->windowOpacity(), 1.0) << "without a compositor there is nothing to fade";
@@ -46,18 +44,18 @@ TEST_F(PopoverOnScreen, OnlyAClickOutsideClosesIt) {
     // The popover has the mouse to itself: a press anywhere arrives at it, told from its corner.
     const auto press = [&](QPoint at) { mouse.mouse(XCB_BUTTON_PRESS, window, at, 1); };
     press({170, 300});
-    ASSERT_TRUE(becomes(nullptr, [] { return QGuiApplication::mouseButtons() != Qt::NoButton; }));
+    ASSERT_TRUE(spinUntil([] { return QGuiApplication::mouseButtons() != Qt::NoButton; }));
     EXPECT_TRUE(host.isShown());
     press({-100, 300});
-    EXPECT_TRUE(becomes(nullptr, [&] { return !host.isShown(); }));
-    EXPECT_TRUE(becomes(nullptr, [&] { return !mouse.isMapped(window); }));
+    EXPECT_TRUE(spinUntil([&] { return !host.isShown(); }));
+    EXPECT_TRUE(spinUntil([&] { return !mouse.isMapped(window); }));
 }
 
 TEST_F(PopoverOnScreen, StaysWhileAMenuOfItsOwnIsOpen) {
     QMenu menu;
     menu.addAction(QStringLiteral("Settings"));
     menu.popup(view->mapToGlobal(QPoint(10, 10)));
-    ASSERT_TRUE(becomes(nullptr, [&] { return mouse.isMapped(static_cast<xcb_window_t>(menu.winId())); }));
+    ASSERT_TRUE(spinUntil([&] { return mouse.isMapped(static_cast<xcb_window_t>(menu.winId())); }));
     EXPECT_TRUE(host.isShown());
     menu.close();
     QApplication::processEvents();
