@@ -12,16 +12,14 @@ constexpr double infinity = std::numeric_limits<double>::infinity();
 
 TEST(CompactPercent, RoundsHalfAwayFromZero) {
     EXPECT_EQ(compactPercent(0.125), "13%"); // 12.5 exactly
-    EXPECT_EQ(compactPercent(0.994), "99%");
     EXPECT_EQ(compactPercent(-0.125), "-13%");
 }
 
 TEST(CompactRate, ChoosesUnitByTheRateItself) {
     const std::pair<double, const char*> rows[] = {
-        {-5.0, "0K"},           {0.0, "0K"},          {999.9, "0K"},      {1000.0, "1K"},
-        {12'400.0, "12K"},      {999'500.0, "1000K"}, {1e6, "1.0M"},      {1.54e6, "1.5M"},
-        {9'999'999.0, "10.0M"}, {1e7, "10M"},         {25.4e6, "25M"},    {999'600'000.0, "1000M"},
-        {1e9, "1.0G"},          {1.15e9, "1.1G"},     {12.34e9, "12.3G"}, {std::nan(""), "0K"},
+        {-5.0, "0K"},     {999.9, "0K"},          {1000.0, "1K"},       {999'500.0, "1000K"},
+        {1.54e6, "1.5M"}, {9'999'999.0, "10.0M"}, {1e7, "10M"},         {25.4e6, "25M"},
+        {1.15e9, "1.1G"}, {12.34e9, "12.3G"},     {std::nan(""), "0K"},
     };
     for (const auto& [rate, text] : rows)
         EXPECT_EQ(compactRate(rate), text) << rate;
