@@ -57,7 +57,6 @@ TEST_F(AlertManagerTest, KnowsTheConditionsAndTheirTexts) {
         {memory(Pressure::warning, 15, 16), "15 GB of 16 GB in use and the system is under memory pressure."},
         {memory(Pressure::normal, 16, 16), ""},
         {memory(Pressure::critical, 13, 16), ""},
-        {memory(Pressure::critical, 13, 0), ""},
         {disk(80'000), "Only 80 KB free on the startup disk."},
         {disk(80'001), ""},
         {battery({.percent = 15}), "15% left. Plug in the charger."},

@@ -18,7 +18,7 @@ class FakePeripheral : public BluetoothPeripheral {
     bool isConnected() const override { return connected; }
     void discoverServices(const BluetoothUUID& kind) override {
         asked.push_back("services");
-        if (delegate && answers)
+        if (delegate)
             delegate->didDiscoverServices(*this, {{BluetoothUUID("180A"), "other"}, {kind, "service"}});
     }
     void discoverCharacteristics(const BluetoothAttribute& service, const BluetoothUUID& kind) override {
@@ -41,7 +41,6 @@ class FakePeripheral : public BluetoothPeripheral {
     std::string id;
     std::optional<std::string> called;
     bool connected = true;
-    bool answers = true; ///< to discoveries
     std::optional<std::vector<std::uint8_t>> value;
     std::vector<std::string> asked;
 };
@@ -73,14 +72,12 @@ class FakeClassicDevices : public ClassicBluetoothDevices {
 
 class FakeTimer : public RepeatingTimer {
   public:
-    void schedule(double seconds, double, std::function<void()> callback) override {
+    void schedule(double, double, std::function<void()> callback) override {
         ++schedules;
-        period = seconds;
         fire = std::move(callback);
     }
     std::function<void()> fire;
     int schedules = 0;
-    double period = 0.0;
 };
 
 /// Bluetooth in the test's hands; the pointers stay valid as long as whatever took the bundle.

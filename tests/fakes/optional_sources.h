@@ -14,22 +14,27 @@ namespace vantrix::fakes {
 struct OptionalSources {
     std::vector<std::string> asked;
     Properties gpu{{"Device Utilization %", std::int64_t{40}}};
-    Properties powerSource{{"Type", "InternalBattery"}, {"Current Capacity", std::int64_t{50}}};
+    const Properties powerSource{{"Type", "InternalBattery"}, {"Current Capacity", std::int64_t{50}}};
     std::optional<double> temperature = 52.0;
-    std::optional<double> power = 9.5;
     std::optional<std::string_view> route = "en0";
 
     void addTo(SamplingSources& sources) {
-        sources.networkInfo = std::make_unique<Connection>(*this);
-        sources.gpu = std::make_unique<GPU>(*this);
-        sources.temperatures = std::make_unique<Temperatures>(*this);
-        sources.sensorKeys = std::make_unique<Keys>(*this);
-        sources.battery = std::make_unique<Battery>(*this);
+        sources.networkInfo = std::make_unique<Source>(*this);
+        sources.gpu = std::make_unique<Source>(*this);
+        sources.temperatures = std::make_unique<Source>(*this);
+        sources.sensorKeys = std::make_unique<Source>(*this);
+        sources.battery = std::make_unique<Source>(*this);
     }
 
   private:
-    struct Connection : NetworkInfoSampler::Source {
-        explicit Connection(OptionalSources& e) : extras(e) {}
+    /// Could be any of them, and is one.
+    struct Source : NetworkInfoSampler::Source,
+                    GPUSampler::Source,
+                    HIDTemperatureSampler::Source,
+                    SensorKeys,
+                    BatterySampler::Source {
+        explicit Source(OptionalSources& e) : extras(e) {}
+
         bool refresh() override {
             extras.asked.emplace_back("connection");
             return true;
@@ -43,39 +48,24 @@ struct OptionalSources {
         }
         std::optional<NetworkInfoSampler::WiFi> wifi(std::string_view) override { return std::nullopt; }
         bool hidesNetworkNames() const override { return false; }
-        OptionalSources& extras;
-    };
-    struct GPU : GPUSampler::Source {
-        explicit GPU(OptionalSources& e) : extras(e) {}
         std::optional<std::span<const Properties>> read() override {
             extras.asked.emplace_back("gpu");
             return std::span(&extras.gpu, 1);
         }
-        OptionalSources& extras;
-    };
-    struct Temperatures : HIDTemperatureSampler::Source {
-        explicit Temperatures(OptionalSources& e) : extras(e) {}
         bool read(std::vector<HIDTemperatureSampler::Service>& services) override {
             extras.asked.emplace_back("sensors");
             services = {{"CPU", extras.temperature}};
             return true;
         }
-        OptionalSources& extras;
-    };
-    struct Keys : SensorKeys {
-        explicit Keys(OptionalSources& e) : extras(e) {}
         std::optional<double> value(std::string_view key) override {
-            return key == "PSTR" ? extras.power : std::nullopt;
+            return key == "PSTR" ? std::optional(9.5) : std::nullopt;
         }
-        OptionalSources& extras;
-    };
-    struct Battery : BatterySampler::Source {
-        explicit Battery(OptionalSources& e) : extras(e) {}
         std::optional<std::span<const Properties>> powerSources() override {
             extras.asked.emplace_back("battery");
             return std::span(&extras.powerSource, 1);
         }
         const Properties* smartBattery() override { return nullptr; }
+
         OptionalSources& extras;
     };
 };

@@ -33,14 +33,7 @@ TEST(MemorySampler, PressureFollowsTheKernelsScale) {
         EXPECT_EQ(sampleOf(Statistics{.pressureLevel = level})->pressure, pressure) << level;
 }
 
-TEST(MemorySamplerDeathTest, OverflowIsAFault) {
-    constexpr std::uint64_t many = std::uint64_t{1} << 53;
-    EXPECT_DEATH(sampleOf(Statistics{.internalPageCount = many, .pageSize = 4096}), "application memory overflows");
-    EXPECT_DEATH(usedFraction(MemorySample{100, ~std::uint64_t{0}, 1, 0, 0, {}}), "sum of app, wired and compressed");
-}
-
 TEST(MemoryUsedFraction, IsClampedAndNeedsATotal) {
-    EXPECT_EQ(usedFraction(MemorySample{100, 10, 20, 30, 0, {}}), 0.6);
     EXPECT_EQ(usedFraction(MemorySample{100, 90, 20, 30, 0, {}}), 1.0);
     EXPECT_EQ(usedFraction(MemorySample{0, 10, 20, 30, 0, {}}), 0.0);
 }

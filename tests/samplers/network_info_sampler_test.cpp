@@ -79,13 +79,5 @@ TEST(NetworkInfoSampler, DescribesThePrimaryInterfaceWhateverWasBefore) {
     }
 }
 
-TEST(SignalQuality, ChangesAtItsBounds) {
-    const std::pair<int, const char*> words[] = {{-50, "Excellent"}, {-51, "Good"}, {-60, "Good"},
-                                                 {-61, "Fair"},      {-70, "Fair"}, {-71, "Weak"}};
-    for (const auto& [rssi, word] : words)
-        EXPECT_EQ(signalQuality(rssi), word) << rssi;
-    EXPECT_FALSE(signalQuality(std::nullopt));
-}
-
 } // namespace
 } // namespace vantrix

@@ -80,13 +80,8 @@ TEST_F(IOReportSamplerTest, ChannelsCountForOneComponentAtMost) {
 }
 
 TEST_F(IOReportSamplerTest, LeavesOutWhatMakesNoSense) {
-    const std::pair<const char*, IOReportSampler::Channel> rows[] = {
-        {"another unit", {"Energy Model", "GPU Energy", "J", 2000}},
-        {"negative", {"Energy Model", "GPU Energy", "mJ", -1}},
-        {"500 W", {"Energy Model", "GPU Energy", "mJ", 1'000'000}},
-    };
-    for (const auto& [name, channel] : rows)
-        EXPECT_EQ(powerOf({channel}), std::nullopt) << name;
+    for (const auto& [unit, value] : {std::pair{"J", 2000}, {"mJ", -1}, {"mJ", 1'000'000}})
+        EXPECT_EQ(powerOf({{"Energy Model", "GPU Energy", unit, value}}), std::nullopt) << value;
     EXPECT_EQ(powerOf({{"Energy Model", "GPU Energy", "mJ", 0}}), (ComponentPower{{}, 0.0, {}, {}}));
     EXPECT_EQ(powerOf({{"Energy Model", "GPU Energy", "mJ", 999'000}})->gpu, 499.5);
 }
