@@ -11,14 +11,6 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST(CombineAccessories, LiveReadingReplacesTheScannedInItsPlace) {
-    const AccessoryBattery mouse{"Mouse", 40, false, "mouse"};
-    const AccessoryBattery keyboard{"Keyboard", 50, false, "keyboard"};
-    const AccessoryBattery chargedMouse{"Mouse", 90, true, "mouse"};
-    EXPECT_THAT(combineAccessories({mouse, keyboard}, {chargedMouse}), ElementsAre(chargedMouse, keyboard));
-    EXPECT_THAT(combineAccessories({mouse, chargedMouse}, {}), ElementsAre(chargedMouse));
-}
-
 TEST(CombineAccessories, AddressTellsDevicesApart) {
     const AccessoryBattery scanned{"hid-1", 40, false, "", "aa-bb-cc-dd-ee-0f"};
     const AccessoryBattery live{"My Mouse", 45, false, "", "AA:BB:CC:DD:EE:0F"};
@@ -37,10 +29,6 @@ TEST(AccessoryLevels, MainIsTheSingleThenTheCombinedThenTheLeast) {
     };
     for (const auto& [levels, main] : rows)
         EXPECT_EQ(levels.main(), main);
-    std::vector<AccessoryBattery> list;
-    appendAccessory(list, {"Buds", 0, false, "airpods"}, {.left = 255, .box = -1});
-    EXPECT_THAT(list, ElementsAre(AccessoryBattery{"Buds", 100, false, "airpods"},
-                                  AccessoryBattery{"Buds case", 0, false, "earbuds.case"}));
 }
 
 TEST(ClassicDeviceValues, AreTheAddressAndTheLevelsThatAreMeant) {

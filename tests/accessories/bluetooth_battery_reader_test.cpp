@@ -46,24 +46,17 @@ TEST_F(BluetoothBatteryReaderTest, RefreshesWhenPoweredOnAndRegularlyFromThenOn)
     EXPECT_EQ(system.timer->schedules, 1);
 }
 
-TEST_F(BluetoothBatteryReaderTest, DiscoversReadsAndSubscribes) {
+TEST_F(BluetoothBatteryReaderTest, ConnectsDiscoversReadsAndSubscribes) {
     const auto mouse = add("1", "Quick Mouse");
     mouse->value = {64};
+    mouse->connected = false;
     system.central->become(State::poweredOn);
+    EXPECT_THAT(system.central->connecting, ElementsAre("1"));
+    EXPECT_THAT(mouse->asked, IsEmpty());
+    system.central->delegate->didConnect(*mouse);
     EXPECT_THAT(mouse->asked, ElementsAre("services", "characteristics of service", "read level", "subscribe level"));
     EXPECT_THAT(reader->readings(), ElementsAre(AccessoryBattery{"Quick Mouse", 64, false, "computermouse"}));
     EXPECT_EQ(reader->readings()[0].address, "AA:1");
-    EXPECT_TRUE(system.central->connecting.empty());
-}
-
-TEST_F(BluetoothBatteryReaderTest, ConnectsAPeripheralBeforeItAsks) {
-    const auto pen = add("1");
-    pen->connected = false;
-    system.central->become(State::poweredOn);
-    EXPECT_THAT(system.central->connecting, ElementsAre("1"));
-    EXPECT_THAT(pen->asked, IsEmpty());
-    system.central->delegate->didConnect(*pen);
-    EXPECT_EQ(pen->asked.front(), "services");
 }
 
 TEST_F(BluetoothBatteryReaderTest, TakesLevelsAsTheyAre) {

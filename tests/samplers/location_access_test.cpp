@@ -35,11 +35,5 @@ TEST(LocationAccess, AsksOnceAndThenShowsWhereToChangeTheAnswer) {
     EXPECT_EQ(changes, 2);
 }
 
-TEST(LocationAccess, IsAuthorizedWhereNothingIsWithheld) {
-    LocationAccess access(nullptr);
-    access.requestLocationAccess();
-    EXPECT_TRUE(access.isAuthorized());
-}
-
 } // namespace
 } // namespace vantrix

@@ -88,12 +88,8 @@ TEST_F(SensorsSamplerTest, KeepsPlausibleTemperaturesAlone) {
 
 TEST_F(SensorsSamplerTest, KeysStandInWhereNoSensorIsListed) {
     keys.values = {{"TC0P", 0.0}, {"TC0D", 45.5}, {"TC0E", 99.0}, {"TG0D", 50.0}, {"TH0a", 33.0}, {"TB0T", 31.0}};
-    const auto& sample = sampleOf(Services());
-    EXPECT_EQ(sample.cpu, 45.5);
-    EXPECT_EQ(sample.cpuHottest, 45.5);
-    EXPECT_EQ(sample.gpu, 50.0);
-    EXPECT_EQ(sample.ssd, 33.0);
-    EXPECT_EQ(sample.battery, 31.0);
+    EXPECT_EQ(sampleOf(Services()),
+              (SensorsSample{.cpu = 45.5, .cpuHottest = 45.5, .gpu = 50.0, .ssd = 33.0, .battery = 31.0}));
     EXPECT_EQ(sampleOf({{{"other", 20.0}}}).cpu, std::nullopt) << "one sensor of any kind is enough";
 }
 

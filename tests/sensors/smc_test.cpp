@@ -10,45 +10,35 @@ namespace {
 using Bytes = std::vector<std::uint8_t>;
 
 struct FakeController : SMC::Transport {
-    FakeController(std::uint32_t told, int refused) : size(told), refusedCall(refused) {}
+    std::uint32_t size = 2;
+    std::uint8_t result = 0;
 
     bool call(const SMC::Record&, SMC::Record& answer) override {
         constexpr char type[] = "87ps"; // least significant first
-        ++calls;
         answer.fill(0xee);
-        answer[40] = calls == refusedCall ? 0x84 : 0;
-        for (std::size_t i = 0; i < 4 && calls == 1; ++i) // the first answer alone tells the size
+        for (std::size_t i = 0; i < 4; ++i)
             answer[28 + i] = static_cast<std::uint8_t>(size >> (8 * i));
         std::copy_n(type, 4, answer.begin() + 32);
+        answer[40] = result;
         answer[48] = 0xff;
         answer[49] = 0x80;
         return true;
     }
-
-    const std::uint32_t size;
-    const int refusedCall; // counted from 1
-    int calls = 0;
 };
 
 TEST(SMC, TakesNoMoreBytesThanThereAre) {
-    const struct {
-        const char* name;
-        std::uint32_t size;
-        int refusedCall;
-        std::optional<double> value;
-    } rows[] = {
-        {"two bytes", 2, 0, -0.5},
-        {"all there may be", 32, 0, -0.5},
-        {"no bytes", 0, 0, {}},
-        {"too many bytes", 33, 0, {}},
-        {"a size of four bytes", 0x01000002, 0, {}},
-        {"first call refused", 2, 1, {}},
-        {"second call refused", 2, 2, {}},
-    };
-    for (const auto& row : rows) {
-        SMC smc(std::make_unique<FakeController>(row.size, row.refusedCall));
-        EXPECT_EQ(smc.value("TC0P"), row.value) << row.name;
+    auto* const controller = new FakeController;
+    SMC smc{std::unique_ptr<SMC::Transport>(controller)};
+    EXPECT_EQ(smc.value("TC0P"), -0.5);
+    controller->result = 0x84;
+    EXPECT_EQ(smc.value("TC0P"), std::nullopt) << "refused";
+    controller->result = 0;
+    for (const std::uint32_t size : {0u, 33u, 0x01000002u}) {
+        controller->size = size;
+        EXPECT_EQ(smc.value("TC0P"), std::nullopt) << size;
     }
+    controller->size = 32;
+    EXPECT_EQ(smc.value("TC0P"), -0.5);
 }
 
 TEST(SMCDecode, KnowsTheControllersTypes) {

@@ -23,7 +23,6 @@ TEST(CompactRate, ChoosesUnitByTheRateItself) {
     };
     for (const auto& [rate, text] : rows)
         EXPECT_EQ(compactRate(rate), text) << rate;
-    EXPECT_GT(compactRate(std::numeric_limits<double>::max()).size(), 300u);
     EXPECT_EQ(compactRate(infinity), "infG");
 }
 
