@@ -19,13 +19,12 @@ struct DiskSamplerTest : ::testing::Test {
 using DiskSamplerDeathTest = DiskSamplerTest;
 
 TEST_F(DiskSamplerTest, RatesAreMeasuredFromOneGoodReadingToTheNext) {
-    using Rate = std::optional<double>;
     const struct {
         const char* name;
         double seconds; // since the step before
         std::optional<Disks> disks;
-        Rate read;
-        Rate written;
+        std::optional<double> read;
+        std::optional<double> written;
     } steps[] = {
         {"the first", 2.0, Disks{{100, 10}, {200, 20}}, {}, {}},
         {"over all disks", 2.0, Disks{{110, 14}, {250, 20}}, 30.0, 2.0},
@@ -54,9 +53,7 @@ TEST_F(DiskSamplerTest, SpaceIsZeroWhereItCannotBeTold) {
     EXPECT_EQ(usedFraction(DiskSample{1000, 1400, {}, {}}), 0.0) << "more is free than there is";
 }
 
-TEST_F(DiskSamplerDeathTest, NegativeCapacityAndOverflowAreFaults) {
-    counters.disks = {{~std::uint64_t{0}, 0}, {1, 0}};
-    EXPECT_DEATH(sampler.sample(), "sum of bytes read from all disks overflows");
+TEST_F(DiskSamplerDeathTest, NegativeCapacityIsAFault) {
     volume.volume = DiskSampler::Volume{-1, 0};
     EXPECT_DEATH(sampler.sample(), "total capacity of the volume is negative");
 }

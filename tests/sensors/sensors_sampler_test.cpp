@@ -51,7 +51,6 @@ TEST_F(SensorsSamplerTest, ComponentsAreKnownByTheNamesOfTheirSensors) {
     EXPECT_EQ(sample.cpu, 55.0);
     EXPECT_EQ(sample.cpuHottest, 60.0);
     EXPECT_EQ(sample.gpu, 40.0);
-    EXPECT_EQ(sample.soc, std::nullopt);
 }
 
 TEST_F(SensorsSamplerTest, ASensorCountsInEveryGroupItsNameSays) {

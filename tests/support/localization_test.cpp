@@ -18,16 +18,5 @@ TEST(Formatted, LeavesWhatHasNoValue) {
     EXPECT_EQ(formatted("100% %d %", {1}), "100% %d %");
 }
 
-TEST(Localized, AsksTheInstalledTranslator) {
-    EXPECT_EQ(localized("cores"), "cores");
-    installTranslator([](std::string_view english, std::optional<long long> count) {
-        return "<" + std::string(english) + (count == 1 ? ">" : "s>");
-    });
-    EXPECT_EQ(localized("core"), "<cores>");
-    EXPECT_EQ(localizedCount("%lld core", 2), "<2 cores>");
-    installTranslator(nullptr);
-    EXPECT_EQ(localized("cores"), "cores");
-}
-
 } // namespace
 } // namespace vantrix
