@@ -1,9 +1,5 @@
 #include "linux/power_supply/linux_battery_source.h"
 
-#include <atomic>
-#include <chrono>
-#include <thread>
-
 #include <gtest/gtest.h>
 
 #include "linux/temporary_folder.h"
@@ -48,32 +44,16 @@ TEST_F(LinuxBatterySourceTest, UnderstandsEveryKindOfDriver) {
           "VOLTAGE_MIN_DESIGN=11000000 CURRENT_NOW=-1000000 CYCLE_COUNT=0"},
          "1",
          {50, true, true, 110, {}, 80, {}, 12.0}},
-        {"charge without a rated voltage, discharging",
-         {"STATUS=Discharging CHARGE_NOW=1000000 CHARGE_FULL=4000000 VOLTAGE_NOW=10000000 CURRENT_NOW=-2000000"},
-         "0",
-         {25, false, false, 30, {}, {}, {}, 20.0}},
         {"capacity alone", {"STATUS=Unknown CAPACITY=77"}, "", {77}},
         {"held at a limit", {"STATUS=Not_charging CAPACITY=80 POWER_NOW=0"}, "1", {80, false, true}},
         {"full, with nothing to tell of the mains", {"STATUS=Full CAPACITY=100"}, "", {100, false, true}},
         {"full, unplugged", {"STATUS=Full CAPACITY=100"}, "0", {100}},
         {"charging over a port that says nothing", {"STATUS=Charging CAPACITY=5"}, "0", {5, true, true}},
-        {"driver's own time",
-         {"STATUS=Discharging CAPACITY=50 TIME_TO_EMPTY_NOW=5400 TIME_TO_FULL_NOW=60"},
-         "0",
-         {50, false, false, 90}},
         {"drained on a weak adapter",
          {"STATUS=Discharging CAPACITY=50 ENERGY_NOW=10000000 ENERGY_FULL=20000000 POWER_NOW=5000000"},
          "1",
          {50, false, true, 120, {}, {}, {}, 5.0}},
         {"no power yet", {"STATUS=Discharging ENERGY_NOW=1 ENERGY_FULL=2 POWER_NOW=0"}, "0", {50}},
-        {"hardly any power", {"STATUS=Discharging ENERGY_NOW=50000000 ENERGY_FULL=100000000 POWER_NOW=1"}, "0", {50}},
-        {"two packs, weighted",
-         {"STATUS=Unknown CAPACITY=100 ENERGY_NOW=20000000 ENERGY_FULL=20000000 ENERGY_FULL_DESIGN=25000000 "
-          "POWER_NOW=0 CYCLE_COUNT=9 TEMP=200",
-          "STATUS=Discharging CAPACITY=10 ENERGY_NOW=7000000 ENERGY_FULL=70000000 ENERGY_FULL_DESIGN=75000000 "
-          "POWER_NOW=9000000 CYCLE_COUNT=44 TEMP=300"},
-         "0",
-         {30, false, false, 180, 44, 90, 30.0, 9.0}},
         {"two packs, one of which tells its level alone",
          {"STATUS=Full CAPACITY=100", "STATUS=Charging CAPACITY=40 ENERGY_NOW=1 ENERGY_FULL=9 POWER_NOW=6000000"},
          "1",
@@ -110,43 +90,6 @@ TEST_F(LinuxBatterySourceTest, FollowsPacksAndPorts) {
     EXPECT_EQ(sample(), std::nullopt); // without a level
     setPack("BAT0", "STATUS=Unknown CAPACITY=51");
     EXPECT_EQ(sample()->percent, 51);
-}
-
-TEST_F(LinuxBatterySourceTest, TheFolderIsListedOnlyNowAndThenAndPacksAreNoticedAllTheSame) {
-    LinuxBatterySource usual(folder.path("sys"), std::make_shared<FakeClock>());
-    const auto passesUntil = [&](int percent) {
-        int passes = 1;
-        while (BatterySampler(usual).sample().value_or(BatterySample{-1}).percent != percent && passes < 100)
-            ++passes;
-        return passes;
-    };
-    setPack("BAT0", "STATUS=Unknown CAPACITY=50");
-    EXPECT_EQ(passesUntil(50), 1);
-    folder.remove(supplies + "BAT0");
-    EXPECT_LE(passesUntil(-1), RescanSchedule::quick.passesPerListing);
-    setPack("BAT1", "STATUS=Unknown CAPACITY=70");
-    EXPECT_EQ(passesUntil(70), RescanSchedule::quick.passesPerListing);
-}
-
-/// On this clock every read takes very long.
-struct SlowClock : Clock {
-    mutable std::atomic<double> now = 0.0;
-    double uptime() const override { return now += 0.03; }
-};
-
-TEST_F(LinuxBatterySourceTest, ASlowControllerIsAskedAside) {
-    LinuxBatterySource slow(folder.path("sys"), std::make_shared<SlowClock>());
-    const auto percent = [&] { return BatterySampler(slow).sample().value_or(BatterySample{-1}).percent; };
-    setPack("BAT0", "STATUS=Unknown CAPACITY=50");
-    EXPECT_EQ(percent(), 50); // the first look is the one that shows how slow it is
-    setPack("BAT0", "STATUS=Unknown CAPACITY=40");
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    int told = percent();
-    for (; told != 40 && std::chrono::steady_clock::now() < deadline; told = percent()) {
-        EXPECT_EQ(told, 50); // what was told last, until the answer is there
-        std::this_thread::yield();
-    }
-    EXPECT_EQ(told, 40);
 }
 
 /// One property that fails spoils the whole of uevent with some drivers.
