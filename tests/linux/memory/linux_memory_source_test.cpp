@@ -12,10 +12,7 @@ TEST(ParseMemInfo, RefusesATextWithoutABelievableTotal) {
         "",
         "MemFree: 1 kB\n",
         "MemTotal: 0 kB\n",
-        "MemTotal: -5 kB\n",
         "MemTotal: 1125899906842625 kB\n", // past 2^50
-        "MemTotal: 99999999999999999999999999 kB\n",
-        "MemTotal 100 kB\n",
         "MemTotal: 100 kB\nMemFree: 1",
     };
     for (const char* text : texts)
@@ -62,21 +59,6 @@ TEST(MemoryPressure, ComesFromAvailableMemoryAndStalls) {
         EXPECT_EQ(memoryStatistics(info, PressureStall{row.some, row.full}, 0).pressureLevel, row.level)
             << row.available << ' ' << row.some << ' ' << row.full;
     }
-}
-
-TEST(MemoryStatistics, CountsLockedAnonymousMemoryOnce) {
-    MemInfo info;
-    info.anonPages = 1000;
-    info.shmem = 100;
-    info.activeAnon = 600;
-    info.inactiveAnon = 200; // so 300 of the anonymous pages are locked
-    info.unevictable = 350;
-    EXPECT_EQ(memoryStatistics(info, {}, 0).wireCount, 50u);
-    info.unevictable = 200;
-    EXPECT_EQ(memoryStatistics(info, {}, 0).wireCount, 0u);
-    info.unevictable.reset();
-    info.mlocked = 310;
-    EXPECT_EQ(memoryStatistics(info, {}, 0).wireCount, 10u);
 }
 
 TEST(LinuxMemorySource, LooksForCompressedDisksWhenSwapChanges) {

@@ -38,19 +38,10 @@ TEST_F(LinuxSystemInformationTest, CoresOfOneCapacityAreOfOneKind) {
     EXPECT_EQ(information.integer("hw.perflevel1.logicalcpu"), 1);
 }
 
-TEST_F(LinuxSystemInformationTest, OneNamedKindAloneIsNoDistinction) {
-    folder.write("sys/devices/cpu_core/cpus", "0-7\n");
-    EXPECT_EQ(performanceLevels(folder.path("sys")), std::nullopt);
-    folder.write("sys/devices/cpu_atom/cpus", "8-15\n");
-    folder.write("sys/devices/cpu_lowpower/cpus", "16-17\n");
-    EXPECT_EQ(performanceLevels(folder.path("sys")), (PerformanceLevels{8, 10}));
-}
-
 TEST_F(LinuxSystemInformationTest, BrandIsTidied) {
     EXPECT_EQ(brandOf("flags: x\nmodel name\t:  A \t B  \nmodel name\t: C\n"), "A B");
     EXPECT_EQ(brandOf("model name: Caf\xe9 1\n"), "Caf\xef\xbf\xbd 1");
     EXPECT_EQ(brandOf("model name:   \n"), std::nullopt);
-    EXPECT_EQ(brandOf("model name"), std::nullopt);
     EXPECT_EQ(brandOf(std::string(100'000, '\0')), std::nullopt);
     folder.write("sys/firmware/devicetree/base/model", std::string("Board\0rest", 10));
     EXPECT_EQ(brandOf("Hardware : x\n"), "Board");
