@@ -30,7 +30,7 @@ void* allocate(std::size_t size) {
 void* operator new(std::size_t size) {
     return allocate(size);
 }
-// The library's own of this would be freed by the wrong counterpart. That of arrays calls these.
+// The library's own of this would be freed by the wrong counterpart; its operators for arrays call those here.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     return allocate(size);
 }

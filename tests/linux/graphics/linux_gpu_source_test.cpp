@@ -201,7 +201,6 @@ TEST_F(LinuxGPUSourceTest, NvidiaLibraryIsAskedOnlyOfGPUsAwake) {
         {"active", "suspended", 0.3, 15.0, 1, {"load"}},
         {"unsupported", "suspended", 0.3, 15.0, 1, {"load"}}, // never sleeps
         {"suspended", "suspended", 0.0, {}, 1, {"stop"}},
-        {"suspended", "suspended", 0.0, {}, 0, {}}, // nothing to ask
     };
     for (const auto& row : rows) {
         setPower(nvidiaDevice, row.power);
@@ -211,6 +210,20 @@ TEST_F(LinuxGPUSourceTest, NvidiaLibraryIsAskedOnlyOfGPUsAwake) {
         EXPECT_THAT(takeCalls(), ::testing::UnorderedElementsAreArray(row.calls));
         EXPECT_EQ(std::exchange(background->jobs, 0), row.jobs);
     }
+}
+
+TEST_F(LinuxGPUSourceTest, NvidiaLibraryLetsGoOfAnIdleGPUAtOnce) {
+    setPower(nvidiaDevice, "active");
+    write(nvidiaDevice + "power/control", "auto");
+    setNvidiaLoads(0);
+    clock.now = 119.0;
+    EXPECT_EQ(load(), 0.0);
+    EXPECT_EQ(takeCalls().back(), "stop");
+    setNvidiaLoads(80);
+    EXPECT_EQ(load(5.0), 0.0);
+    EXPECT_THAT(takeCalls(), IsEmpty());
+    EXPECT_EQ(load(), 0.8);
+    EXPECT_EQ(takeCalls().back(), "load"); // and stays started
 }
 
 TEST_F(LinuxGPUSourceTest, OnlyErrorsOfTheWholeLibraryStopIt) {

@@ -49,15 +49,7 @@ TEST_F(LinuxBatterySourceTest, UnderstandsEveryKindOfDriver) {
         {"full, with nothing to tell of the mains", {"STATUS=Full CAPACITY=100"}, "", {100, false, true}},
         {"full, unplugged", {"STATUS=Full CAPACITY=100"}, "0", {100}},
         {"charging over a port that says nothing", {"STATUS=Charging CAPACITY=5"}, "0", {5, true, true}},
-        {"drained on a weak adapter",
-         {"STATUS=Discharging CAPACITY=50 ENERGY_NOW=10000000 ENERGY_FULL=20000000 POWER_NOW=5000000"},
-         "1",
-         {50, false, true, 120, {}, {}, {}, 5.0}},
         {"no power yet", {"STATUS=Discharging ENERGY_NOW=1 ENERGY_FULL=2 POWER_NOW=0"}, "0", {50}},
-        {"two packs, one of which tells its level alone",
-         {"STATUS=Full CAPACITY=100", "STATUS=Charging CAPACITY=40 ENERGY_NOW=1 ENERGY_FULL=9 POWER_NOW=6000000"},
-         "1",
-         {70, true, true, {}, {}, {}, {}, 6.0}},
         {"empty bay", {"STATUS=Full CAPACITY=60", "PRESENT=0 CAPACITY=0"}, "1", {60, false, true}},
         {"nonsense",
          {"STATUS=Full CAPACITY=60 TEMP=9999 POWER_NOW=99999999999999 ENERGY_NOW=x ENERGY_FULL=-5 CYCLE_COUNT=-1"},
@@ -86,10 +78,6 @@ TEST_F(LinuxBatterySourceTest, FollowsPacksAndPorts) {
     EXPECT_EQ(sample(), (BatterySample{50, false, true}));
     folder.write(port + "/scope", "Device\n"); // the port gives power now
     EXPECT_EQ(sample(), (BatterySample{50, false, false}));
-    setPack("BAT0", "STATUS=Unknown");
-    EXPECT_EQ(sample(), std::nullopt); // without a level
-    setPack("BAT0", "STATUS=Unknown CAPACITY=51");
-    EXPECT_EQ(sample()->percent, 51);
 }
 
 /// One property that fails spoils the whole of uevent with some drivers.

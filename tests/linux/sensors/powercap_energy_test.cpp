@@ -11,21 +11,6 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-TEST(WrappedGrowth, StartsOverAtItsRange) {
-    const struct {
-        const char* name;
-        std::uint64_t now, before, range;
-        std::optional<std::uint64_t> growth;
-    } rows[] = {
-        {"still", 10, 10, 100, 0},
-        {"wrapped", 5, 90, 100, 15},
-        {"beyond its range", 5, 101, 100, std::nullopt},
-        {"no range", 5, 90, 0, std::nullopt},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(wrappedGrowth(row.now, row.before, row.range), row.growth) << row.name;
-}
-
 struct PowercapEnergyTest : ::testing::Test {
     TemporaryFolder folder;
     PowercapEnergy source{folder.path(""), std::make_shared<FakeClock>()};

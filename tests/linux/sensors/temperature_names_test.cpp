@@ -21,7 +21,6 @@ TEST(TemperatureNames, SayTheComponent) {
         {{"nvme", "Composite", "Fast Disk 980", 1, false}, "NAND Fast Disk 980 Composite"},
         {{"nvme", "Sensor 2", "Fast NAND 980", 3, false}, "Drive Fast flash 980 Sensor 2"},
         {{"BAT0", "", "", 0, true}, "Battery BAT0"},
-        {{"acpitz", "", "", 1, false}, "Mainboard 1"},
         {{"nct6775", "SYSTIN", "", 1, false}, "nct6775 SYSTIN"},
     };
     for (const auto& [sensor, name] : rows)
