@@ -55,7 +55,7 @@ class Mutator {
     std::mt19937 random_{20240229};
 };
 
-/// With what makes no reading of a pass, or reads what no file holds.
+/// The parsers that the passes below do not reach.
 void parseWithTheRest(const std::string& text) {
     EXPECT_LE(parseCPUList(text).value_or(std::vector<int>()).size(), 65536u);
     EXPECT_NE(parseModelName(text), "");
