@@ -1,17 +1,12 @@
 #include "popover/popover_host.h"
 
 #include <QApplication>
-#include <QDeadlineTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPushButton>
-#include <QScreen>
-#include <QVBoxLayout>
 
 #include <gmock/gmock.h>
 
 #include "fakes/fake_appearance.h"
-#include "popover/popover_place.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -22,9 +17,6 @@ class PopoverHostTest : public ::testing::Test {
     std::unique_ptr<QWidget> makeView() {
         ++viewsMade;
         auto made = std::make_unique<QWidget>();
-        auto* layout = new QVBoxLayout(made.get());
-        for (QPushButton*& button : buttons)
-            layout->addWidget(button = new QPushButton(made.get()));
         view = made.get();
         return made;
     }
@@ -46,7 +38,6 @@ class PopoverHostTest : public ::testing::Test {
     bool canFade = false;
     int viewsMade = 0;
     QWidget* view = nullptr;
-    QPushButton* buttons[2] = {};
     fakes::FakeAppearance appearance;
     Theme theme{appearance};
     PopoverHost host{theme, [this] { return makeView(); }, [this] { return canFade; }};
@@ -62,19 +53,6 @@ TEST_F(PopoverHostTest, MakesItsViewWhenItIsFirstShownAndKeepsIt) {
         EXPECT_FALSE(host.isShown() || view->isVisible());
     }
     EXPECT_EQ(viewsMade, 1);
-}
-
-TEST_F(PopoverHostTest, IsAsLargeAsTheScreenSaysWhateverItShows) {
-    const QSize wanted(340, popoverHeight(QGuiApplication::primaryScreen()->availableGeometry().height()));
-    for (const QSize& content : {QSize(20, 20), QSize(600, 4000)}) {
-        host.show(anchor);
-        view->setMinimumSize(content);
-        QApplication::sendPostedEvents();
-        host.close();
-        host.show(anchor);
-        QApplication::sendPostedEvents();
-        EXPECT_EQ(window()->size(), wanted) << content.width();
-    }
 }
 
 TEST_F(PopoverHostTest, AClickOutsideClosesItAndDoesNotReopenIt) {
@@ -102,7 +80,7 @@ TEST_F(PopoverHostTest, TheFrameKnowsTheClickThatClosedItHoweverLongItWasHeld) {
 
 TEST_F(PopoverHostTest, EscapeAndLosingTheFocusCloseIt) {
     const std::function<void()> ways[] = {[&] { press(window(), Qt::Key_Escape); },
-                                          [&] { press(buttons[0], Qt::Key_Escape); },
+                                          [&] { press(view, Qt::Key_Escape); },
                                           [&] {
                                               QEvent deactivate(QEvent::WindowDeactivate);
                                               QApplication::sendEvent(window(), &deactivate);
@@ -114,50 +92,15 @@ TEST_F(PopoverHostTest, EscapeAndLosingTheFocusCloseIt) {
     }
 }
 
-TEST_F(PopoverHostTest, TabGoesThroughItsControlsAnewEachTime) {
-    for (int round = 0; round < 2; ++round) {
-        host.show(anchor);
-        EXPECT_EQ(window()->focusWidget(), window());
-        press(window(), Qt::Key_Tab);
-        EXPECT_EQ(window()->focusWidget(), buttons[0]);
-        press(buttons[0], Qt::Key_Tab);
-        EXPECT_EQ(window()->focusWidget(), buttons[1]);
-        host.close();
-    }
-}
-
-TEST_F(PopoverHostTest, FadesInAndComesToRestOnlyWhereItCanAndShould) {
-    host.show(anchor);
-    EXPECT_EQ(window()->windowOpacity(), 1.0);
-    host.close();
+TEST_F(PopoverHostTest, FadesInWhereItShouldAndOnlyWhileItIsOpen) {
     canFade = true;
     host.show(anchor);
-    EXPECT_LT(window()->windowOpacity(), 0.5);
-    const QDeadlineTimer deadline(10000);
-    while (host.isFading() && !deadline.hasExpired())
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
-    EXPECT_EQ(window()->windowOpacity(), 1.0);
+    EXPECT_TRUE(host.isFading());
     host.close();
-    host.show(anchor);
-    host.close();
-    EXPECT_FALSE(host.isFading()) << "closed while it faded in";
+    EXPECT_FALSE(host.isFading());
     appearance.set({.reducesMotion = true});
     host.show(anchor);
     EXPECT_EQ(window()->windowOpacity(), 1.0);
-}
-
-TEST_F(PopoverHostTest, HasTheThemesGroundAndRoundCorners) {
-    for (const bool dark : {false, true}) {
-        appearance.set({.dark = dark});
-        host.show(anchor);
-        QImage picture(window()->size(), QImage::Format_ARGB32_Premultiplied);
-        picture.fill(Qt::transparent);
-        window()->render(&picture, QPoint(), QRegion(), QWidget::DrawWindowBackground);
-        EXPECT_EQ(picture.pixelColor(picture.rect().center()), theme.colors().window);
-        EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0);
-        EXPECT_EQ(view->palette().color(QPalette::WindowText), theme.palette().color(QPalette::WindowText));
-        host.close();
-    }
 }
 
 } // namespace

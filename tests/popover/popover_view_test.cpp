@@ -14,7 +14,6 @@
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
 #include "menubar/preferences.h"
-#include "menubar/symbol.h"
 #include "monitor/system_monitor.h"
 #include "popover/cards/accessories_card.h"
 #include "popover/cards/battery_card.h"
@@ -26,7 +25,6 @@
 #include "popover/headline.h"
 #include "samplers/processor_description.h"
 #include "views/drawn.h"
-#include "views/symbol_view.h"
 #include "views/texts_of.h"
 #include "views/theme.h"
 
@@ -50,10 +48,7 @@ class PopoverViewTest : public ::testing::Test {
                   std::make_unique<ThreadTaskRunner>()) {}
 
     std::unique_ptr<PopoverView> makeView() {
-        return std::make_unique<PopoverView>(monitor, context, [this] {
-            return std::vector<StatusMenuEntry>{
-                {u"Settings…"_s, QKeySequence(u"Ctrl+,"_s), [this] { ++settingsShown; }}};
-        });
+        return std::make_unique<PopoverView>(monitor, context, [] { return std::vector<StatusMenuEntry>(); });
     }
 
     static void settle() { QCoreApplication::sendPostedEvents(); }
@@ -73,7 +68,6 @@ class PopoverViewTest : public ::testing::Test {
     ProcessorDescription processor{information};
     CardContext context{theme, defaults, processor};
     SystemMonitor monitor;
-    int settingsShown = 0;
 };
 
 TEST_F(PopoverViewTest, PlacesTheChosenCardsInTheirFixedOrder) {
@@ -86,7 +80,6 @@ TEST_F(PopoverViewTest, PlacesTheChosenCardsInTheirFixedOrder) {
         {"another order", u"disk,network,cpu"_s, {cpu, network, disk}},
         {"unknown names", u"nonsense,memory"_s, {memory}},
         {"nothing", u""_s, {}},
-        {"an unknown name alone", u"nonsense"_s, {}},
         {"only what this machine lacks", u"gpu,battery"_s, {}},
         {"everything", u"cpu,memory,network,disk,gpu,sensors,battery,accessories"_s, {cpu, memory, network, disk}},
     };
@@ -118,16 +111,6 @@ TEST_F(PopoverViewTest, FollowsTheMonitorOnlyWhileItIsOpen) {
     EXPECT_THAT(textsOf(*closed), Contains("User: 25%"));
 }
 
-TEST_F(PopoverViewTest, HasItsHeaderAndItsShortcuts) {
-    const auto view = makeView();
-    view->show();
-    EXPECT_THAT(textsOf(*view), Contains("Test processor"));
-    const auto* button = view->findChild<QAbstractButton*>();
-    EXPECT_EQ(button->accessibleName(), u"Vantrix menu"_s);
-    press(*view, QKeySequence(u"Ctrl+,"_s));
-    EXPECT_EQ(settingsShown, 1);
-}
-
 TEST_F(PopoverViewTest, KeysScrollItWithoutAFocusOfItsOwn) {
     monitor.loadDemo();
     const auto view = makeView();
@@ -157,10 +140,6 @@ TEST_F(PopoverViewTest, EverythingFitsInItsWidth) {
         for (const QWidget* child : view->findChildren<QWidget*>()) {
             if (!child->isVisible())
                 continue;
-            if (const auto* picture = dynamic_cast<const SymbolView*>(child)) {
-                const QImage own = ownSymbol(picture->symbol(), 16);
-                EXPECT_FALSE(inkOf(own, Qt::transparent).isEmpty()) << picture->symbol();
-            }
             const QRect place(child->mapTo(view.get(), QPoint()), child->size());
             EXPECT_GE(place.left(), 0) << pixels;
             EXPECT_LE(place.right(), PopoverView::contentWidth - 1) << pixels << child->metaObject()->className();
@@ -210,25 +189,17 @@ TEST_F(CardsTest, TheNetworkCardLeavesOutWhatIsNotKnown) {
 }
 
 TEST_F(CardsTest, AWithheldNetworkNameIsAskedFor) {
-    using enum NetworkInfo::Kind;
-    const struct {
-        const char* name;
-        NetworkInfo info;
-        bool isOffered;
-    } cases[] = {{"withheld", {.kind = wifi, .ssidHiddenByPrivacy = true}, true},
-                 {"told", {.kind = wifi, .ssid = "Home"}, false},
-                 {"a wire", {.kind = ethernet, .ssidHiddenByPrivacy = true}, false}};
     int asked = 0;
     context.requestLocationAccess = [&] { ++asked; };
-    for (const auto& c : cases) {
-        readings.networkInfo = c.info;
-        const auto card = shown<NetworkCard>();
-        auto* link = card->findChild<QAbstractButton*>();
-        EXPECT_EQ(link->isVisibleTo(card.get()), c.isOffered) << c.name;
-        if (c.isOffered)
-            link->click();
-    }
+    readings.networkInfo = {.kind = NetworkInfo::Kind::wifi, .ssidHiddenByPrivacy = true};
+    const auto card = shown<NetworkCard>();
+    auto* link = card->findChild<QAbstractButton*>();
+    EXPECT_TRUE(link->isVisibleTo(card.get()));
+    link->click();
     EXPECT_EQ(asked, 1);
+    readings.networkInfo.ssidHiddenByPrivacy = false;
+    card->showReadings(readings);
+    EXPECT_FALSE(link->isVisibleTo(card.get()));
 }
 
 TEST_F(CardsTest, TheDiskCardShowsAbsentRatesAsZeroAndSurvivesAnEmptyVolume) {
@@ -236,31 +207,6 @@ TEST_F(CardsTest, TheDiskCardShowsAbsentRatesAsZeroAndSurvivesAnEmptyVolume) {
     const auto card = shown<DiskCard>();
     EXPECT_THAT(textsOf(*card), Contains("0 KB free"));
     EXPECT_EQ(std::ranges::count(textsOf(*card), "0 KB/s"), 2);
-}
-
-TEST_F(CardsTest, TheBatteryCardFollowsTheBattery) {
-    const struct {
-        const char* name;
-        BatterySample battery;
-        const char* status;
-        ColorRole color;
-    } cases[] = {
-        {"low", {.percent = 20}, "Battery, On battery", &ThemeColors::red},
-        {"going down", {.percent = 21}, "Battery, On battery", &ThemeColors::orange},
-        {"at the bound", {.percent = 40}, "Battery, On battery", &ThemeColors::orange},
-        {"well filled", {.percent = 41}, "Battery, On battery", &ThemeColors::green},
-        {"charging", {.percent = 5, .isCharging = true, .isPluggedIn = true}, "Battery, Charging", &ThemeColors::green},
-        {"held", {.percent = 15, .isPluggedIn = true}, "Battery, Plugged in", &ThemeColors::green},
-    };
-    for (const auto& c : cases) {
-        readings.battery = c.battery;
-        const auto card = shown<BatteryCard>();
-        EXPECT_EQ(card->accessibleText().toStdString(), c.status) << c.name;
-        const auto views = card->findChildren<View*>();
-        View* bar = *std::ranges::find(views, u"Battery charge"_s, &View::accessibleName);
-        const QImage image = drawn(*bar, {100, 8}, theme.colors().window);
-        EXPECT_EQ(image.pixelColor(1, 4).name(), (theme.colors().*c.color).name()) << c.name;
-    }
 }
 
 TEST_F(CardsTest, TheBatteryCardTellsTimesAndDetailsThatItKnows) {
@@ -271,19 +217,6 @@ TEST_F(CardsTest, TheBatteryCardTellsTimesAndDetailsThatItKnows) {
     EXPECT_THAT(textsOf(*shown<BatteryCard>()),
                 AllOf(Contains("left: 1h 0m"), Contains("Maximum capacity: 96%"), Contains("Temperature: 31°C"),
                       Not(Contains(HasSubstr("power"))), Not(Contains(HasSubstr("Cycle count")))));
-}
-
-TEST_F(CardsTest, TheSensorsCardShowsOnlyWhatThereIs) {
-    const auto texts = textsOf(*shown<SensorsCard>());
-    for (const char* text : {"CPU: 52°C · max 58°C", "SSD: 38°C", "Battery: 31°C", "System power: 16.4 W",
-                             "GPU power: 1.9 W", "Memory (DRAM): 0.9 W", "Fan 1: 1870 rpm · max 5900"})
-        EXPECT_THAT(texts, Contains(text));
-    EXPECT_THAT(texts, Not(Contains(HasSubstr("Adapter input"))));
-
-    readings.sensors = {};
-    readings.sensors.fans = {{0, 900.0, std::nullopt, std::nullopt}};
-    readings.sensors.systemPower = 10.0;
-    EXPECT_THAT(textsOf(*shown<SensorsCard>()), ElementsAre("Sensors", "Temperatures are not available on this Mac."));
 }
 
 TEST_F(CardsTest, ASensorThatIsGoneLeavesNoHoleAndNoWork) {
@@ -318,12 +251,10 @@ TEST_F(CardsTest, EverySensorIsListedOnDemand) {
     EXPECT_THAT(textsOf(*card), Not(Contains("NAND: 38°C")));
     button->click();
     EXPECT_THAT(textsOf(*card), Contains("NAND: 38°C"));
-    for (const std::size_t left : {2u, 1u}) {
-        readings.sensors.all.resize(left);
-        card->showReadings(readings);
-        EXPECT_THAT(textsOf(*card), Not(Contains("NAND: 38°C")));
-        EXPECT_EQ(button->isVisibleTo(card.get()), left > 1);
-    }
+    readings.sensors.all.resize(1);
+    card->showReadings(readings);
+    EXPECT_THAT(textsOf(*card), Not(Contains("NAND: 38°C")));
+    EXPECT_FALSE(button->isVisibleTo(card.get()));
 }
 
 TEST_F(CardsTest, TheAccessoriesCardFollowsItsList) {

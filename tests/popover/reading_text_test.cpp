@@ -30,16 +30,6 @@ TEST(ReadingText, BytesInDecimalUnits) {
         EXPECT_EQ(byteText(bytes).toStdString(), text) << bytes;
 }
 
-TEST(ReadingText, MemoryInBinaryUnits) {
-    const std::pair<std::uint64_t, const char*> cases[] = {{std::uint64_t{10} << 30, "10 GB"},
-                                                           {std::uint64_t{512} << 20, "512 MB"},
-                                                           {(std::uint64_t{1} << 30) - 1, "1 GB"},
-                                                           {1000, "1000 bytes"},
-                                                           {0, "0 KB"}};
-    for (const auto& [bytes, text] : cases)
-        EXPECT_EQ(memoryText(bytes).toStdString(), text) << bytes;
-}
-
 TEST(ReadingText, RatesDropFractionsAndNeverGoBelowZero) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     const std::pair<double, const char*> cases[] = {{1999.9, "2 KB/s"},       {999.9, "999 bytes/s"},

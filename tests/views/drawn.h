@@ -5,11 +5,10 @@
 
 namespace vantrix {
 
-/// `view` in a size of that many points, drawn on `ground` at `scale` pixels per point.
-inline QImage drawn(QWidget& view, QSize size, const QColor& ground, double scale = 1.0) {
+/// `view` in that size, drawn on `ground`.
+inline QImage drawn(QWidget& view, QSize size, const QColor& ground) {
     view.resize(size);
-    QImage image(size * scale, QImage::Format_RGB32);
-    image.setDevicePixelRatio(scale);
+    QImage image(size, QImage::Format_RGB32);
     image.fill(ground);
     view.render(&image, {}, {}, QWidget::DrawChildren);
     return image;
