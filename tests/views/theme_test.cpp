@@ -38,7 +38,6 @@ TEST(ThemeColors, AnyAccentOfTheDesktopStaysVisible) {
             EXPECT_GE(contrast(ThemeColors::markOn(colors.accent), colors.accent), 2.5) << accent.name().toStdString();
         }
     }
-    EXPECT_EQ(ThemeColors::of(true, QColor(255, 120, 0)).accent, QColor(255, 120, 0)); // a good one stays as it is
 }
 
 class ThemeTest : public ::testing::Test {
@@ -48,30 +47,11 @@ class ThemeTest : public ::testing::Test {
     }
     ~ThemeTest() override { QApplication::setFont(usual); }
 
-    static void setFontPixels(int pixels) {
-        QFont font = QApplication::font();
-        font.setPixelSize(pixels);
-        QApplication::setFont(font);
-    }
-
     const QFont usual = QApplication::font();
     fakes::FakeAppearance appearance;
     Theme theme{appearance};
     int changes = 0;
 };
-
-TEST_F(ThemeTest, TakesTheSystemsColoursWhereItNamesThem) {
-    const ThemeColors own = theme.colors();
-    ThemeColors expected = own;
-    expected.orange = QColor(1, 0, 0);
-    expected.red = QColor(2, 0, 0);
-    expected.green = QColor(3, 0, 0);
-    expected.purple = QColor(4, 0, 0);
-    appearance.set({.colors = SystemColors{expected.orange, expected.red, expected.green, expected.purple}});
-    EXPECT_EQ(theme.colors(), expected);
-    appearance.set({});
-    EXPECT_EQ(theme.colors(), own);
-}
 
 TEST_F(ThemeTest, FollowsTheDesktop) {
     appearance.set({.dark = true, .accent = QColor(Qt::magenta), .reducesMotion = true});
@@ -86,10 +66,11 @@ TEST_F(ThemeTest, FollowsTheDesktop) {
 TEST_F(ThemeTest, OnlyClearlyLargerTextsEnlargeIt) {
     const std::pair<int, double> cases[] = {{12, 1.0}, {16, 1.0}, {20, 1.5}, {80, 3.0}};
     for (const auto& [pixels, scale] : cases) {
-        setFontPixels(pixels);
+        QFont font = usual;
+        font.setPixelSize(pixels);
+        QApplication::setFont(font);
         QCoreApplication::sendPostedEvents();
         EXPECT_NEAR(theme.textScale(), scale, 1e-9) << pixels;
-        EXPECT_EQ(theme.font(10.0).pixelSize(), std::lround(10.0 * scale)) << pixels;
     }
     EXPECT_GT(changes, 0);
 }
