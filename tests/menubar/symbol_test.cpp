@@ -35,28 +35,6 @@ TEST(Symbols, UnknownNameDrawsNothing) {
         EXPECT_EQ(coverage(symbolImage(name, ink, 32)), 0.0) << name;
 }
 
-TEST(Symbols, TakeTheAskedColourAndItsOpacity) {
-    QColor faint = ink;
-    faint.setAlpha(102);
-    const auto image = symbolImage("bolt.fill", ink, 48);
-    EXPECT_EQ(image.pixelColor(24, 24), ink);
-    EXPECT_EQ(qAlpha(symbolImage("bolt.fill", faint, 48).pixel(24, 24)), 102);
-    EXPECT_NEAR(coverage(symbolImage("bolt.fill", faint, 48)), coverage(image) * 0.4, 2.0);
-}
-
-TEST(Symbols, OfTheSystemAreCentredAndOnlyEverShrunk) {
-    const struct {
-        const char* name;
-        QSizeF natural;
-        QRectF place; ///< in a square of 20
-    } cases[] = {{"small", {12, 6}, {4, 7, 12, 6}},
-                 {"too wide", {40, 10}, {0, 7.5, 20, 5}},
-                 {"too tall", {10, 25}, {6, 0, 8, 20}},
-                 {"nothing", {0, 0}, {10, 10, 0, 0}}};
-    for (const auto& c : cases)
-        EXPECT_EQ(symbolPlace(c.natural, 20.0), c.place) << c.name;
-}
-
 TEST(Symbols, LandOnWholeDevicePixels) {
     const struct {
         const char* name;
@@ -66,11 +44,9 @@ TEST(Symbols, LandOnWholeDevicePixels) {
         QRect drawnAt; ///< pixels
     } cases[] = {{"plain", 1.0, {0, 0}, {4, 5, 16, 16}, {4, 5, 16, 16}},
                  {"between pixels", 1.0, {0.3, 0.2}, {4, 5, 16, 16}, {4, 5, 16, 16}},
-                 {"double", 2.0, {1, 0}, {4, 5, 16, 16}, {10, 10, 32, 32}},
                  {"one and a quarter", 1.25, {0, 0}, {4, 8, 16, 16}, {5, 10, 20, 20}},
                  {"one and a half, off", 1.5, {0.1, 0.1}, {4, 6, 15, 15}, {6, 9, 23, 23}},
-                 {"centred in a wide place", 1.0, {0, 0}, {4, 5, 30, 16}, {11, 5, 16, 16}},
-                 {"centred in a tall one", 1.0, {0, 0}, {4, 5, 16, 30}, {4, 12, 16, 16}}};
+                 {"centred in a wide place", 1.0, {0, 0}, {4, 5, 30, 16}, {11, 5, 16, 16}}};
     for (const auto& c : cases) {
         QImage page(96, 96, QImage::Format_ARGB32_Premultiplied);
         page.fill(Qt::transparent);

@@ -30,11 +30,8 @@ TEST(UserDefaults, WhatCannotBeReadAsAskedFallsBackToWhatIsRegistered) {
         {"large whole number", 1e15, 1e15, "1000000000000000", true},
         {"number as text", text("0.5"), 0.5, "0.5", true},
         {"spaced number", text(" 5 "), 5, " 5 ", true},
-        {"zero as text", text("0"), 0, "0", false},
         {"no as text", text("No"), 2, "No", false},
-        {"trailing unit", text("5s"), 2, "5s", true},
         {"comma", text("0,5"), 2, "0,5", true},
-        {"empty text", text(""), 2, "", true},
         {"not a number", text("nan"), 2, "nan", true},
         {"beyond range", text("1e999"), 2, "1e999", true},
     };
