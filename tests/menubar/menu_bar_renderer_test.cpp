@@ -59,10 +59,7 @@ TEST(MenuBarRenderer, WidthsStayWhileNumbersChangeAndGrowOnlyForWhatIsWider) {
 TEST(MenuBarRenderer, NothingIsDrawnBeyondTheRowsSize) {
     MenuBarItem wide = networkItem();
     wide.lines = {"↓1000K", "↑1000K"};
-    MenuBarItem beyond = percentItem("CPU", "100%");
-    beyond.history = {0.0, 2.0, -1.0};
     const std::vector<MenuBarItem> rows[] = {{percentItem("CPU", "100%"), wide},
-                                             {beyond, beyond},
                                              {percentItem("A VERY WIDE CAPTION", "1%")},
                                              {percentItem("T", "a value far wider than its reference")}};
     for (const double scale : {1.0, 1.25, 1.5, 2.0, 3.0})
@@ -97,6 +94,20 @@ TEST(MenuBarRenderer, TellsSeveritiesApartOnlyWhenAsked) {
         EXPECT_NE(rendered({item}, style), warning) << static_cast<int>(style);
         EXPECT_EQ(rendered({item}, style, false), normal) << static_cast<int>(style);
     }
+}
+
+TEST(MenuBarRenderer, TheGraphShowsTheNewestValuesWithinItsBounds) {
+    const auto graph = [](const std::vector<double>& history) {
+        MenuBarItem item = percentItem("CPU", "50%");
+        item.history = history;
+        return rendered({item}, MenuBarStyle::graph);
+    };
+    std::vector<double> aged(16, 1.0); // too old to be drawn
+    aged.insert(aged.end(), 24, 0.25);
+    EXPECT_EQ(graph(aged), graph(std::vector(24, 0.25)));
+    EXPECT_EQ(graph({0.0, 2.0, -1.0}), graph({0.0, 1.0, 0.0}));
+    EXPECT_EQ(graph({1.0}), graph({})) << "too few for a line: a bar of the fraction";
+    EXPECT_NE(graph({1.0, 1.0}), graph({}));
 }
 
 TEST(SamePicture, HistoriesCountOnlyWhereTheyAreDrawn) {

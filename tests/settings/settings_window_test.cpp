@@ -4,7 +4,6 @@
 #include "settings/controls/push_button.h"
 #include "settings/controls/slider.h"
 #include "settings/controls/switch.h"
-#include "settings/controls/tab_button.h"
 #include "settings/form_row.h"
 #include "support/localization.h"
 
@@ -12,17 +11,6 @@ namespace vantrix {
 namespace {
 
 using namespace settings_window;
-
-TEST_F(SettingsWindowTest, TabsAreChosenByClickAndByArrowKeys) {
-    SettingsView& window = show(SettingsTab::general);
-    control<TabButton>("Popover").click();
-    EXPECT_EQ(window.currentTab(), SettingsTab::popover);
-    control<TabButton>("Popover").setFocus();
-    press(control<TabButton>("Popover"), Qt::Key_Right);
-    EXPECT_EQ(window.currentTab(), SettingsTab::alerts);
-    QAccessibleInterface* tab = QAccessible::queryAccessibleInterface(&control<TabButton>("Alerts"));
-    EXPECT_TRUE(tab->state().selected);
-}
 
 TEST_F(SettingsWindowTest, LaunchAtLoginMirrorsTheSystem) {
     show(SettingsTab::general);
