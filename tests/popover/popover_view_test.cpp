@@ -1,6 +1,7 @@
 #include "popover/popover_view.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -220,12 +221,6 @@ TEST_F(CardsTest, TheBatteryCardTellsTimesAndDetailsThatItKnows) {
 }
 
 TEST_F(CardsTest, ASensorThatIsGoneLeavesNoHoleAndNoWork) {
-    const auto card = shown<SensorsCard>();
-    card->resize(320, 500);
-    card->show();
-    readings.sensors.gpu.reset();
-    card->showReadings(readings);
-    QCoreApplication::processEvents();
     struct Work : QObject {
         int count = 0;
         bool eventFilter(QObject*, QEvent* event) override {
@@ -233,15 +228,24 @@ TEST_F(CardsTest, ASensorThatIsGoneLeavesNoHoleAndNoWork) {
             return false;
         }
     } work;
-    for (QObject* child : card->findChildren<QObject*>())
-        child->installEventFilter(&work);
-    card->showReadings(readings);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(work.count, 0);
+    const auto sensors = shown<SensorsCard>();
+    const auto battery = shown<BatteryCard>();
+    const auto refresh = [&] {
+        for (Card* card : {static_cast<Card*>(sensors.get()), static_cast<Card*>(battery.get())}) {
+            card->show();
+            card->showReadings(readings);
+            for (QObject* child : card->findChildren<QObject*>())
+                child->installEventFilter(&work);
+        }
+        QCoreApplication::processEvents();
+        return std::exchange(work.count, 0);
+    };
+    readings.sensors.gpu.reset();
+    refresh();
+    refresh(); // the rows below have moved up
+    EXPECT_EQ(refresh(), 0);
     readings.sensors.cpu = 71.0;
-    card->showReadings(readings);
-    QCoreApplication::processEvents();
-    EXPECT_GT(work.count, 0) << "a change is painted";
+    EXPECT_GT(refresh(), 0) << "a change is painted";
 }
 
 TEST_F(CardsTest, EverySensorIsListedOnDemand) {
@@ -269,7 +273,6 @@ TEST_F(CardsTest, TheAccessoriesCardFollowsItsList) {
 TEST_F(CardsTest, TheHeadlineNeedsNoMoreThanItsRoom) {
     Headline headline(theme);
     headline.setText(u"123456.78 GB"_s, u"%@ of 999999.99 TB"_s);
-    EXPECT_EQ(headline.accessibleText(), u"123456.78 GB of 999999.99 TB"_s);
     EXPECT_GT(headline.sizeHint().width(), 150);
     // Somewhat wider than its room, to see what would run over it; the last figure stands at the right edge.
     QImage image(150, headline.sizeHint().height(), QImage::Format_RGB32);
