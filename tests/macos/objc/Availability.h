@@ -4,4 +4,3 @@
 #define __MAC_OS_X_VERSION_MAX_ALLOWED 140000
 
 #define VANTRIX_AVAILABLE_macos(version) macos, introduced = version
-#define API_AVAILABLE(platform) __attribute__((availability(VANTRIX_AVAILABLE_##platform)))

@@ -12,32 +12,30 @@ NS_ASSUME_NONNULL_BEGIN
 
 typedef NSString* NSAppearanceName NS_TYPED_EXTENSIBLE_ENUM;
 extern "C" NSAppearanceName const NSAppearanceNameAqua;
-extern "C" NSAppearanceName const NSAppearanceNameDarkAqua API_AVAILABLE(macos(10.14));
+extern "C" NSAppearanceName const NSAppearanceNameDarkAqua;
 
-API_AVAILABLE(macos(10.9))
 @interface NSAppearance : NSObject
-@property(class, strong, readonly) NSAppearance* currentDrawingAppearance API_AVAILABLE(macos(11.0));
-- (void)performAsCurrentDrawingAppearance:(void(NS_NOESCAPE ^)(void))block API_AVAILABLE(macos(11.0));
-- (nullable NSAppearanceName)bestMatchFromAppearancesWithNames:(NSArray<NSAppearanceName>*)appearances
-    API_AVAILABLE(macos(10.14));
+@property(class, strong, readonly) NSAppearance* currentDrawingAppearance;
+- (void)performAsCurrentDrawingAppearance:(void(NS_NOESCAPE ^)(void))block;
+- (nullable NSAppearanceName)bestMatchFromAppearancesWithNames:(NSArray<NSAppearanceName>*)appearances;
 @end
 
 @protocol NSAppearanceCustomization <NSObject>
-@property(nullable, strong) NSAppearance* appearance API_AVAILABLE(macos(10.9));
-@property(readonly, strong) NSAppearance* effectiveAppearance API_AVAILABLE(macos(10.9));
+@property(nullable, strong) NSAppearance* appearance;
+@property(readonly, strong) NSAppearance* effectiveAppearance;
 @end
 
 @interface NSColorSpace : NSObject
-@property(class, strong, readonly) NSColorSpace* sRGBColorSpace API_AVAILABLE(macos(10.5));
+@property(class, strong, readonly) NSColorSpace* sRGBColorSpace;
 @end
 
 @interface NSColor : NSObject
-@property(class, strong, readonly) NSColor* labelColor API_AVAILABLE(macos(10.10));
-@property(class, strong, readonly) NSColor* controlAccentColor API_AVAILABLE(macos(10.14));
-@property(class, strong, readonly) NSColor* systemOrangeColor API_AVAILABLE(macos(10.10));
-@property(class, strong, readonly) NSColor* systemRedColor API_AVAILABLE(macos(10.10));
-@property(class, strong, readonly) NSColor* systemGreenColor API_AVAILABLE(macos(10.10));
-@property(class, strong, readonly) NSColor* systemPurpleColor API_AVAILABLE(macos(10.10));
+@property(class, strong, readonly) NSColor* labelColor;
+@property(class, strong, readonly) NSColor* controlAccentColor;
+@property(class, strong, readonly) NSColor* systemOrangeColor;
+@property(class, strong, readonly) NSColor* systemRedColor;
+@property(class, strong, readonly) NSColor* systemGreenColor;
+@property(class, strong, readonly) NSColor* systemPurpleColor;
 - (nullable NSColor*)colorUsingColorSpace:(NSColorSpace*)space;
 - (void)getRed:(nullable CGFloat*)red
          green:(nullable CGFloat*)green
@@ -50,28 +48,25 @@ extern "C" NSNotificationName const NSSystemColorsDidChangeNotification;
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
 @property(readonly, strong) NSNotificationCenter* notificationCenter;
-@property(readonly) BOOL accessibilityDisplayShouldReduceMotion API_AVAILABLE(macos(10.12));
+@property(readonly) BOOL accessibilityDisplayShouldReduceMotion;
 - (BOOL)openURL:(NSURL*)url;
 @end
 
-extern "C" NSNotificationName const
-    NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification API_AVAILABLE(macos(10.10));
+extern "C" NSNotificationName const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
 
 // Pictures.
 
 @interface NSGraphicsContext : NSObject
 @property(class, nullable, strong) NSGraphicsContext* currentContext;
-@property(readonly) CGContextRef CGContext NS_RETURNS_INNER_POINTER API_AVAILABLE(macos(10.10));
-+ (NSGraphicsContext*)graphicsContextWithCGContext:(CGContextRef)graphicsPort
-                                           flipped:(BOOL)initialFlippedState API_AVAILABLE(macos(10.10));
+@property(readonly) CGContextRef CGContext NS_RETURNS_INNER_POINTER;
++ (NSGraphicsContext*)graphicsContextWithCGContext:(CGContextRef)graphicsPort flipped:(BOOL)initialFlippedState;
 + (void)saveGraphicsState;
 + (void)restoreGraphicsState;
 @end
 
 typedef CGFloat NSFontWeight NS_TYPED_EXTENSIBLE_ENUM;
-extern "C" const NSFontWeight NSFontWeightMedium API_AVAILABLE(macos(10.11));
+extern "C" const NSFontWeight NSFontWeightMedium;
 
-API_AVAILABLE(macos(11.0))
 @interface NSImageSymbolConfiguration : NSObject <NSCopying>
 + (instancetype)configurationWithPointSize:(CGFloat)pointSize weight:(NSFontWeight)weight;
 @end
@@ -81,16 +76,16 @@ typedef NS_ENUM(NSUInteger, NSImageCacheMode) { NSImageCacheNever = 3 };
 @interface NSImage : NSObject <NSCopying>
 @property NSSize size;
 @property NSImageCacheMode cacheMode;
-@property(nullable, copy) NSString* accessibilityDescription API_AVAILABLE(macos(10.6));
+@property(nullable, copy) NSString* accessibilityDescription;
 // The setter alone: the property's name is a keyword here.
 - (void)setTemplate:(BOOL)isTemplate;
 + (nullable instancetype)imageWithSystemSymbolName:(NSString*)name
-                          accessibilityDescription:(nullable NSString*)description API_AVAILABLE(macos(11.0));
+                          accessibilityDescription:(nullable NSString*)description;
 + (instancetype)imageWithSize:(NSSize)size
                       flipped:(BOOL)drawingHandlerShouldBeCalledWithFlippedContext
-               drawingHandler:(BOOL (^)(NSRect dstRect))drawingHandler API_AVAILABLE(macos(10.8));
-- (nullable NSImage*)imageWithSymbolConfiguration:(NSImageSymbolConfiguration*)configuration API_AVAILABLE(macos(11.0));
-- (void)drawInRect:(NSRect)rect API_AVAILABLE(macos(10.9));
+               drawingHandler:(BOOL (^)(NSRect dstRect))drawingHandler;
+- (nullable NSImage*)imageWithSymbolConfiguration:(NSImageSymbolConfiguration*)configuration;
+- (void)drawInRect:(NSRect)rect;
 @end
 
 // The application and its events.
@@ -119,11 +114,11 @@ typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagContro
 
 typedef NS_ENUM(NSInteger, NSApplicationActivationPolicy) {
     NSApplicationActivationPolicyAccessory = 1,
-} API_AVAILABLE(macos(10.6));
+};
 
 @interface NSApplication : NSResponder <NSAppearanceCustomization>
 @property(nullable, readonly, strong) NSEvent* currentEvent;
-- (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy API_AVAILABLE(macos(10.6));
+- (BOOL)setActivationPolicy:(NSApplicationActivationPolicy)activationPolicy;
 - (void)activateIgnoringOtherApps:(BOOL)flag;
 @end
 
@@ -132,7 +127,7 @@ extern "C" __kindof NSApplication* _Null_unspecified NSApp;
 // Views and windows.
 
 @protocol NSAccessibility <NSObject>
-@property(nullable, copy) NSString* accessibilityLabel API_AVAILABLE(macos(10.10));
+@property(nullable, copy) NSString* accessibilityLabel;
 @end
 
 typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
@@ -176,7 +171,7 @@ typedef NS_ENUM(NSUInteger, NSCellImagePosition) { NSImageOnly = 1 };
 @property(nullable, readonly, strong) NSScreen* screen;
 - (void)makeKeyWindow;
 - (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
-- (NSRect)convertRectToScreen:(NSRect)rect API_AVAILABLE(macos(10.7));
+- (NSRect)convertRectToScreen:(NSRect)rect;
 @end
 
 typedef NSString* NSNibName NS_TYPED_EXTENSIBLE_ENUM;
@@ -203,13 +198,12 @@ typedef NSString* NSNibName NS_TYPED_EXTENSIBLE_ENUM;
 - (void)addItem:(NSMenuItem*)newItem;
 @end
 
-API_AVAILABLE(macos(10.10))
 @interface NSStatusBarButton : NSButton
 @end
 
 @interface NSStatusItem : NSObject
 @property(nullable, strong) NSMenu* menu;
-@property(nullable, readonly, strong) NSStatusBarButton* button API_AVAILABLE(macos(10.10));
+@property(nullable, readonly, strong) NSStatusBarButton* button;
 @end
 
 static const CGFloat NSVariableStatusItemLength = -1;
@@ -222,13 +216,12 @@ static const CGFloat NSVariableStatusItemLength = -1;
 
 @protocol NSPopoverDelegate <NSObject>
 // The system calls these optional; here they are required, so that a misspelt one is found.
-- (void)popoverWillClose:(NSNotification*)notification API_AVAILABLE(macos(10.7));
-- (void)popoverDidClose:(NSNotification*)notification API_AVAILABLE(macos(10.7));
+- (void)popoverWillClose:(NSNotification*)notification;
+- (void)popoverDidClose:(NSNotification*)notification;
 @end
 
 typedef NS_ENUM(NSInteger, NSPopoverBehavior) { NSPopoverBehaviorTransient = 1 };
 
-API_AVAILABLE(macos(10.7))
 @interface NSPopover : NSResponder <NSAppearanceCustomization>
 @property(nullable, weak) id<NSPopoverDelegate> delegate;
 @property NSPopoverBehavior behavior;

@@ -7,24 +7,20 @@ NS_ASSUME_NONNULL_BEGIN
 
 @class CBCharacteristic, CBPeripheral, CBService;
 
-API_AVAILABLE(macos(10.7))
 @interface CBUUID : NSObject <NSCopying>
-@property(nonatomic, readonly) NSString* UUIDString API_AVAILABLE(macos(10.10));
+@property(nonatomic, readonly) NSString* UUIDString;
 + (CBUUID*)UUIDWithString:(NSString*)theString;
 @end
 
-API_AVAILABLE(macos(10.13))
 @interface CBAttribute : NSObject
 @property(readonly, nonatomic) CBUUID* UUID;
 - (instancetype)init NS_UNAVAILABLE;
 @end
 
-API_AVAILABLE(macos(10.7))
 @interface CBService : CBAttribute
 @property(retain, readonly, nullable) NSArray<CBCharacteristic*>* characteristics;
 @end
 
-API_AVAILABLE(macos(10.7))
 @interface CBCharacteristic : CBAttribute
 @property(retain, readonly, nullable) NSData* value;
 @end
@@ -41,15 +37,13 @@ API_AVAILABLE(macos(10.7))
                               error:(nullable NSError*)error;
 @end
 
-typedef NS_ENUM(NSInteger, CBPeripheralState) { CBPeripheralStateConnected = 2 } API_AVAILABLE(macos(10.9));
+typedef NS_ENUM(NSInteger, CBPeripheralState) { CBPeripheralStateConnected = 2 };
 
-API_AVAILABLE(macos(10.13))
 @interface CBPeer : NSObject <NSCopying>
-@property(readonly, nonatomic) NSUUID* identifier API_AVAILABLE(macos(10.13));
+@property(readonly, nonatomic) NSUUID* identifier;
 - (instancetype)init NS_UNAVAILABLE;
 @end
 
-API_AVAILABLE(macos(10.7))
 @interface CBPeripheral : CBPeer
 @property(weak, nonatomic, nullable) id<CBPeripheralDelegate> delegate;
 @property(retain, readonly, nullable) NSString* name;
@@ -68,19 +62,18 @@ typedef NS_ENUM(NSInteger, CBManagerState) {
     CBManagerStateUnauthorized,
     CBManagerStatePoweredOff,
     CBManagerStatePoweredOn,
-} API_AVAILABLE(macos(10.13));
+};
 
 typedef NS_ENUM(NSInteger, CBManagerAuthorization) {
     CBManagerAuthorizationNotDetermined = 0,
     CBManagerAuthorizationRestricted,
     CBManagerAuthorizationDenied,
     CBManagerAuthorizationAllowedAlways,
-} API_AVAILABLE(macos(10.15));
+};
 
-API_AVAILABLE(macos(10.13))
 @interface CBManager : NSObject
 @property(nonatomic, assign, readonly) CBManagerState state;
-@property(class, nonatomic, assign, readonly) CBManagerAuthorization authorization API_AVAILABLE(macos(10.15));
+@property(class, nonatomic, assign, readonly) CBManagerAuthorization authorization;
 @end
 
 @class CBCentralManager;
@@ -90,16 +83,14 @@ API_AVAILABLE(macos(10.13))
 - (void)centralManager:(CBCentralManager*)central didConnectPeripheral:(CBPeripheral*)peripheral;
 @end
 
-extern NSString* const CBCentralManagerOptionShowPowerAlertKey API_AVAILABLE(macos(10.9));
+extern NSString* const CBCentralManagerOptionShowPowerAlertKey;
 
-API_AVAILABLE(macos(10.7))
 @interface CBCentralManager : CBManager
 @property(nonatomic, assign, nullable) id<CBCentralManagerDelegate> delegate;
 - (instancetype)initWithDelegate:(nullable id<CBCentralManagerDelegate>)delegate
                            queue:(nullable dispatch_queue_t)queue
-                         options:(nullable NSDictionary<NSString*, id>*)options API_AVAILABLE(macos(10.9));
-- (NSArray<CBPeripheral*>*)retrieveConnectedPeripheralsWithServices:(NSArray<CBUUID*>*)serviceUUIDs
-    API_AVAILABLE(macos(10.9));
+                         options:(nullable NSDictionary<NSString*, id>*)options;
+- (NSArray<CBPeripheral*>*)retrieveConnectedPeripheralsWithServices:(NSArray<CBUUID*>*)serviceUUIDs;
 - (void)connectPeripheral:(CBPeripheral*)peripheral options:(nullable NSDictionary<NSString*, id>*)options;
 @end
 

@@ -8,19 +8,18 @@ NS_ASSUME_NONNULL_BEGIN
 
 @protocol CLLocationManagerDelegate <NSObject>
 // Optional to the system. Required here, so that a misspelt one is found.
-- (void)locationManagerDidChangeAuthorization:(CLLocationManager*)manager API_AVAILABLE(macos(11.0));
+- (void)locationManagerDidChangeAuthorization:(CLLocationManager*)manager;
 @end
 
 typedef NS_ENUM(int, CLAuthorizationStatus) {
     kCLAuthorizationStatusNotDetermined = 0,
-    kCLAuthorizationStatusAuthorizedAlways API_AVAILABLE(macos(10.12)) = 3,
+    kCLAuthorizationStatusAuthorizedAlways = 3,
 };
 
-API_AVAILABLE(macos(10.6))
 @interface CLLocationManager : NSObject
-@property(nonatomic, readonly) CLAuthorizationStatus authorizationStatus API_AVAILABLE(macos(11.0));
+@property(nonatomic, readonly) CLAuthorizationStatus authorizationStatus;
 @property(assign, nonatomic, nullable) id<CLLocationManagerDelegate> delegate;
-- (void)requestAlwaysAuthorization API_AVAILABLE(macos(10.15));
+- (void)requestAlwaysAuthorization;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <Availability.h>
 #include <CoreGraphics/CGGeometry.h>
 
 // As on Apple silicon, where BOOL is the language's own truth value.
@@ -131,7 +130,6 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 + (nullable instancetype)URLWithString:(NSString*)URLString;
 @end
 
-API_AVAILABLE(macos(10.8))
 @interface NSUUID : NSObject <NSCopying>
 @property(readonly, copy) NSString* UUIDString;
 @end
@@ -148,7 +146,7 @@ API_AVAILABLE(macos(10.8))
 
 @interface NSUserDefaults : NSObject
 @property(class, readonly, strong) NSUserDefaults* standardUserDefaults;
-- (nullable instancetype)initWithSuiteName:(nullable NSString*)suitename API_AVAILABLE(macos(10.9));
+- (nullable instancetype)initWithSuiteName:(nullable NSString*)suitename;
 - (nullable id)objectForKey:(NSString*)defaultName;
 - (void)setObject:(nullable id)value forKey:(NSString*)defaultName;
 - (void)removeObjectForKey:(NSString*)defaultName;
@@ -183,9 +181,7 @@ typedef NSString* NSKeyValueChangeKey NS_TYPED_EXTENSIBLE_ENUM;
          forKeyPath:(NSString*)keyPath
             options:(NSKeyValueObservingOptions)options
             context:(nullable void*)context;
-- (void)removeObserver:(NSObject*)observer
-            forKeyPath:(NSString*)keyPath
-               context:(nullable void*)context API_AVAILABLE(macos(10.7));
+- (void)removeObserver:(NSObject*)observer forKeyPath:(NSString*)keyPath context:(nullable void*)context;
 @end
 
 NS_ASSUME_NONNULL_END

@@ -8,7 +8,6 @@
 
 typedef UInt32 BluetoothDeviceClassMajor;
 
-API_AVAILABLE(macos(10.2))
 @interface IOBluetoothDevice : NSObject
 
 @property(nonatomic, readonly) BluetoothDeviceClassMajor deviceClassMajor;

@@ -4,9 +4,8 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-typedef NS_ENUM(NSInteger, SMAppServiceStatus) { SMAppServiceStatusEnabled = 1 } API_AVAILABLE(macos(13.0));
+typedef NS_ENUM(NSInteger, SMAppServiceStatus) { SMAppServiceStatusEnabled = 1 };
 
-API_AVAILABLE(macos(13.0))
 @interface SMAppService : NSObject
 @property(class, readonly) SMAppService* mainAppService;
 @property(readonly) SMAppServiceStatus status;

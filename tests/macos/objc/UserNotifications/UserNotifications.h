@@ -6,24 +6,20 @@ NS_ASSUME_NONNULL_BEGIN
 
 @class UNNotification, UNNotificationTrigger, UNUserNotificationCenter;
 
-API_AVAILABLE(macos(10.14))
 @interface UNNotificationSound : NSObject <NSCopying>
 @property(class, copy, readonly) UNNotificationSound* defaultSound;
 - (instancetype)init NS_UNAVAILABLE;
 @end
 
-API_AVAILABLE(macos(10.14))
 @interface UNNotificationContent : NSObject <NSCopying>
 @end
 
-API_AVAILABLE(macos(10.14))
 @interface UNMutableNotificationContent : UNNotificationContent
 @property(copy) NSString* title;
 @property(copy) NSString* body;
 @property(copy, nullable) UNNotificationSound* sound;
 @end
 
-API_AVAILABLE(macos(10.14))
 @interface UNNotificationRequest : NSObject <NSCopying>
 - (instancetype)init NS_UNAVAILABLE;
 + (instancetype)requestWithIdentifier:(NSString*)identifier
@@ -34,14 +30,13 @@ API_AVAILABLE(macos(10.14))
 typedef NS_OPTIONS(NSUInteger, UNAuthorizationOptions) {
     UNAuthorizationOptionSound = (1 << 1),
     UNAuthorizationOptionAlert = (1 << 2),
-} API_AVAILABLE(macos(10.14));
+};
 
 typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
     UNNotificationPresentationOptionSound = (1 << 1),
-    UNNotificationPresentationOptionBanner API_AVAILABLE(macos(11.0)) = (1 << 4),
-} API_AVAILABLE(macos(10.14));
+    UNNotificationPresentationOptionBanner = (1 << 4),
+};
 
-API_AVAILABLE(macos(10.14))
 @protocol UNUserNotificationCenterDelegate <NSObject>
 // Optional to the system. Required here, so that a misspelt one is found.
 - (void)userNotificationCenter:(UNUserNotificationCenter*)center
@@ -49,7 +44,6 @@ API_AVAILABLE(macos(10.14))
          withCompletionHandler:(void (^)(UNNotificationPresentationOptions options))completionHandler;
 @end
 
-API_AVAILABLE(macos(10.14))
 @interface UNUserNotificationCenter : NSObject
 @property(weak, nullable) id<UNUserNotificationCenterDelegate> delegate;
 + (UNUserNotificationCenter*)currentNotificationCenter;
