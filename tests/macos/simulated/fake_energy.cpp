@@ -3,76 +3,66 @@
 namespace vantrix::simulated {
 namespace {
 
-using Kind = Object::Kind;
-
-CFMutableDictionaryRef copyChannels(CFStringRef group, CFStringRef subgroup, std::uint64_t, std::uint64_t,
-                                    std::uint64_t) {
-    const bool isEnergy = object(group, Kind::text, "IOReportCopyChannelsInGroup").text == "Energy Model" && !subgroup;
-    const bool isThere = isEnergy && !fails("IOReportCopyChannelsInGroup");
+CFMutableDictionaryRef IOReportCopyChannelsInGroup(CFStringRef group, CFStringRef, std::uint64_t, std::uint64_t,
+                                                   std::uint64_t) {
+    const bool isThere = text(group) == "Energy Model" && !fails();
     return as<CFMutableDictionaryRef>(isThere ? make(Dictionary()) : nullptr);
 }
 
-CFTypeRef createSubscription(void*, CFMutableDictionaryRef channels, CFMutableDictionaryRef* subscribed, std::uint64_t,
-                             CFTypeRef) {
-    object(channels, Kind::dictionary, "IOReportCreateSubscription");
-    const Outcome outcome = outcomeOf("IOReportCreateSubscription");
-    if (outcome == Outcome::fails)
-        return nullptr;
+CFTypeRef IOReportCreateSubscription(void*, CFMutableDictionaryRef channels, CFMutableDictionaryRef* subscribed,
+                                     std::uint64_t, CFTypeRef) {
+    object(channels, Kind::dictionary);
+    const Outcome outcome = outcomeOf();
     if (outcome == Outcome::works)
         *subscribed = as<CFMutableDictionaryRef>(make(Dictionary())); // else a subscription without channels
-    return makeOpaque();
+    return outcome == Outcome::fails ? nullptr : makeOpaque();
 }
 
-CFDictionaryRef createSamples(CFTypeRef subscription, CFMutableDictionaryRef channels, CFTypeRef) {
-    object(subscription, Kind::opaque, "IOReportCreateSamples");
-    object(channels, Kind::dictionary, "IOReportCreateSamples");
-    const bool isTaken = !fails("IOReportCreateSamples");
-    return as<CFDictionaryRef>(isTaken ? makeOpaque(mac().energySnapshots++) : nullptr);
+CFDictionaryRef IOReportCreateSamples(CFTypeRef subscription, CFMutableDictionaryRef channels, CFTypeRef) {
+    object(subscription, Kind::opaque);
+    object(channels, Kind::dictionary);
+    return as<CFDictionaryRef>(fails() ? nullptr : makeOpaque({{"number", mac().energySnapshots++}}));
 }
 
 std::int64_t numberOf(CFDictionaryRef snapshot) {
-    return object(snapshot, Kind::opaque, "IOReportCreateSamplesDelta").whole;
+    return std::get<std::int64_t>(object(snapshot, Kind::opaque).at("number")->value);
 }
 
-CFDictionaryRef createDelta(CFDictionaryRef before, CFDictionaryRef now, CFTypeRef) {
+CFDictionaryRef IOReportCreateSamplesDelta(CFDictionaryRef before, CFDictionaryRef now, CFTypeRef) {
     const bool isStep = numberOf(now) == numberOf(before) + 1;
-    if (!isStep || fails("IOReportCreateSamplesDelta"))
+    if (!isStep || fails())
         return nullptr;
     return as<CFDictionaryRef>(make(Dictionary{{"IOReportChannels", *mac().energy}}));
 }
 
-CFStringRef partOf(CFDictionaryRef channel, const char* part, const char* function) {
-    return as<CFStringRef>(heldAnswer(function, object(channel, Kind::dictionary, function).at(part)));
+CFStringRef IOReportChannelGetGroup(CFDictionaryRef channel) {
+    return as<CFStringRef>(heldAnswer(object(channel, Kind::dictionary).at("group")));
 }
 
-CFStringRef groupOf(CFDictionaryRef channel) {
-    return partOf(channel, "group", "IOReportChannelGetGroup");
+CFStringRef IOReportChannelGetChannelName(CFDictionaryRef channel) {
+    return as<CFStringRef>(heldAnswer(object(channel, Kind::dictionary).at("name")));
 }
 
-CFStringRef nameOf(CFDictionaryRef channel) {
-    return partOf(channel, "name", "IOReportChannelGetChannelName");
+CFStringRef IOReportChannelGetUnitLabel(CFDictionaryRef channel) {
+    return as<CFStringRef>(heldAnswer(object(channel, Kind::dictionary).at("unit")));
 }
 
-CFStringRef unitOf(CFDictionaryRef channel) {
-    return partOf(channel, "unit", "IOReportChannelGetUnitLabel");
-}
-
-std::int64_t valueOf(CFDictionaryRef channel, std::int32_t index) {
-    return index == 0 ? object(channel, Kind::dictionary, "IOReportSimpleGetIntegerValue").at("value")->whole : 0;
+std::int64_t IOReportSimpleGetIntegerValue(CFDictionaryRef channel, std::int32_t) {
+    return std::get<std::int64_t>(object(channel, Kind::dictionary).at("value")->value);
 }
 
 } // namespace
 
 Functions& energyFunctions() {
     static Functions functions{
-        {"IOReportCopyChannelsInGroup", reinterpret_cast<void*>(copyChannels)},
-        {"IOReportCreateSubscription", reinterpret_cast<void*>(createSubscription)},
-        {"IOReportCreateSamples", reinterpret_cast<void*>(createSamples)},
-        {"IOReportCreateSamplesDelta", reinterpret_cast<void*>(createDelta)},
-        {"IOReportChannelGetGroup", reinterpret_cast<void*>(groupOf)},
-        {"IOReportChannelGetChannelName", reinterpret_cast<void*>(nameOf)},
-        {"IOReportChannelGetUnitLabel", reinterpret_cast<void*>(unitOf)},
-        {"IOReportSimpleGetIntegerValue", reinterpret_cast<void*>(valueOf)},
+        {"IOReportCopyChannelsInGroup", reinterpret_cast<void*>(IOReportCopyChannelsInGroup)},
+        {"IOReportCreateSubscription", reinterpret_cast<void*>(IOReportCreateSubscription)},
+        {"IOReportCreateSamples", reinterpret_cast<void*>(IOReportCreateSamples)},
+        {"IOReportCreateSamplesDelta", reinterpret_cast<void*>(IOReportCreateSamplesDelta)},
+        {"IOReportChannelGetGroup", reinterpret_cast<void*>(IOReportChannelGetGroup)},
+        {"IOReportChannelGetChannelName", reinterpret_cast<void*>(IOReportChannelGetChannelName)},
+        {"IOReportChannelGetUnitLabel", reinterpret_cast<void*>(IOReportChannelGetUnitLabel)},
+        {"IOReportSimpleGetIntegerValue", reinterpret_cast<void*>(IOReportSimpleGetIntegerValue)},
     };
     return functions;
 }

@@ -32,12 +32,10 @@ kern_return_t mach_port_deallocate(task_port_t task, mach_port_t name) {
 }
 
 kern_return_t vm_deallocate(vm_map_t task, vm_address_t address, vm_size_t size) {
-    auto* const array = reinterpret_cast<integer_t*>(address);
-    const auto found = mac().arrays.find(array);
-    if (task != mach_task_self_ || found == mac().arrays.end() || found->second != size)
+    const auto found = mac().arrays.find(reinterpret_cast<const void*>(address));
+    if (task != mach_task_self_ || found == mac().arrays.end() || found->second.size() * sizeof(integer_t) != size)
         vantrix::fatalError("vm_deallocate of another array or size than was given");
     mac().arrays.erase(found);
-    delete[] array;
     return KERN_SUCCESS;
 }
 
@@ -45,15 +43,17 @@ kern_return_t host_processor_info(host_t host, processor_flavor_t flavor, natura
                                   processor_info_array_t* info, mach_msg_type_number_t* infoCount) {
     if (host != hostPort || flavor != PROCESSOR_CPU_LOAD_INFO || !mac().ticks)
         return KERN_FAILURE;
-    const Outcome outcome = outcomeOf("host_processor_info");
+    const Outcome outcome = outcomeOf();
     if (outcome != Outcome::works)
         return outcome == Outcome::fails ? KERN_FAILURE : KERN_SUCCESS; // success without an array
     const auto& ticks = *mac().ticks;
     *processorCount = mac().processorsTold.value_or(static_cast<natural_t>(ticks.size()));
-    *infoCount = static_cast<mach_msg_type_number_t>(ticks.size() * CPU_STATE_MAX);
-    *info = new integer_t[*infoCount];
-    std::memcpy(*info, ticks.data(), *infoCount * sizeof(integer_t));
-    mac().arrays[*info] = *infoCount * sizeof(integer_t);
+    std::vector<integer_t> array;
+    for (const auto& core : ticks)
+        array.insert(array.end(), core.begin(), core.end());
+    *infoCount = static_cast<mach_msg_type_number_t>(array.size());
+    *info = array.data();
+    mac().arrays[*info] = std::move(array);
     return KERN_SUCCESS;
 }
 
@@ -61,8 +61,7 @@ kern_return_t host_statistics64(host_t host, host_flavor_t flavor, host_info64_t
                                 mach_msg_type_number_t* infoCount) {
     // Like newer systems, this one tells more than the headers of older ones have.
     constexpr mach_msg_type_number_t whole = sizeof(vm_statistics64) / sizeof(integer_t) + 8;
-    if (host != hostPort || flavor != HOST_VM_INFO64 || *infoCount < whole || !mac().pages ||
-        fails("host_statistics64"))
+    if (host != hostPort || flavor != HOST_VM_INFO64 || *infoCount < whole || !mac().pages || fails())
         return KERN_FAILURE;
     std::fill_n(info, whole, -1);
     std::memcpy(info, &*mac().pages, sizeof(vm_statistics64));
@@ -71,7 +70,7 @@ kern_return_t host_statistics64(host_t host, host_flavor_t flavor, host_info64_t
 }
 
 kern_return_t mach_timebase_info(struct mach_timebase_info* info) {
-    *info = {mac().timebase[0], mac().timebase[1]};
+    *info = {125, 3};
     return KERN_SUCCESS;
 }
 
@@ -81,7 +80,7 @@ std::uint64_t mach_absolute_time() {
 
 int sysctlbyname(const char* name, void* old, std::size_t* oldSize, void*, std::size_t) {
     const auto found = mac().systemValues.find(name);
-    if (found == mac().systemValues.end() || fails("sysctlbyname")) {
+    if (found == mac().systemValues.end() || fails()) {
         errno = ENOENT;
         return -1;
     }
@@ -95,7 +94,7 @@ int sysctlbyname(const char* name, void* old, std::size_t* oldSize, void*, std::
 }
 
 int proc_pidinfo(int pid, int flavor, std::uint64_t, void* buffer, int size) {
-    if (pid != 42 || flavor != PROC_PIDTASKINFO || size != sizeof(proc_taskinfo) || fails("proc_pidinfo"))
+    if (pid != 42 || flavor != PROC_PIDTASKINFO || size != sizeof(proc_taskinfo) || fails())
         return 0;
     proc_taskinfo task{};
     task.pti_resident_size = 50'000'000;
@@ -108,7 +107,7 @@ int proc_pidinfo(int pid, int flavor, std::uint64_t, void* buffer, int size) {
 }
 
 int proc_pid_rusage(int pid, int flavor, rusage_info_t* buffer) {
-    if (pid != 42 || flavor != RUSAGE_INFO_V2 || fails("proc_pid_rusage"))
+    if (pid != 42 || flavor != RUSAGE_INFO_V2 || fails())
         return -1;
     rusage_info_v2 usage{};
     usage.ri_pkg_idle_wkups = 1000;

@@ -6,21 +6,13 @@
 #include "macos/simulated/machine.h"
 
 using namespace vantrix::simulated;
-using Kind = Object::Kind;
 
 const CFStringRef kSCNetworkInterfaceTypeEthernet = CFSTR("Ethernet");
 const CFStringRef kSCNetworkInterfaceTypeIEEE80211 = CFSTR("IEEE80211");
 
 namespace {
 
-/// An object of the system's own that holds others.
-Object* makeOwner(const Dictionary& parts) {
-    Object* const owner = make(parts);
-    owner->kind = Kind::opaque;
-    return owner;
-}
-
-CFStringRef partOf(CFTypeRef owner, const char* part, const char* function) {
+CFStringRef partOf(CFTypeRef owner, const char* part, const char* function = __builtin_FUNCTION()) {
     const Object* const held = object(owner, Kind::opaque, function).at(part);
     return as<CFStringRef>(fails(function) ? nullptr : held);
 }
@@ -29,71 +21,55 @@ CFStringRef partOf(CFTypeRef owner, const char* part, const char* function) {
 
 CFTypeRef IOPSCopyPowerSourcesInfo() {
     leaveToPool();
-    const bool isTold = mac().powerSources && !fails("IOPSCopyPowerSourcesInfo");
-    return isTold ? makeOwner({{"descriptions", *mac().powerSources}}) : nullptr;
+    return mac().powerSources && !fails() ? makeOpaque({{"sources", *mac().powerSources}}) : nullptr;
 }
 
 CFArrayRef IOPSCopyPowerSourcesList(CFTypeRef blob) {
-    const Object& owner = object(blob, Kind::opaque, "IOPSCopyPowerSourcesList");
-    std::vector<Ref> sources;
-    for (std::size_t i = 0; i < owner.entries.at("descriptions").get()->list.size(); ++i)
-        sources.emplace_back(makeOpaque(static_cast<std::int64_t>(i)));
-    return as<CFArrayRef>(answer("IOPSCopyPowerSourcesList", makeList(std::move(sources))));
+    return as<CFArrayRef>(answer(retain(object(blob, Kind::opaque).at("sources"))));
 }
 
 CFDictionaryRef IOPSGetPowerSourceDescription(CFTypeRef blob, CFTypeRef source) {
-    const auto place = object(source, Kind::opaque, "IOPSGetPowerSourceDescription").whole;
-    const Object& owner = object(blob, Kind::opaque, "IOPSGetPowerSourceDescription");
-    const Ref& held = owner.entries.at("descriptions").get()->list.at(static_cast<std::size_t>(place));
-    return as<CFDictionaryRef>(heldAnswer("IOPSGetPowerSourceDescription", held.get()));
+    object(blob, Kind::opaque);
+    return as<CFDictionaryRef>(heldAnswer(&object(source)));
 }
 
 SCDynamicStoreRef SCDynamicStoreCreate(CFAllocatorRef, CFStringRef name, SCDynamicStoreCallBack,
                                        SCDynamicStoreContext*) {
-    const bool isNamed = object(name, Kind::text, "SCDynamicStoreCreate").text == "Vantrix";
-    const bool isThere = isNamed && !mac().store.empty() && !fails("SCDynamicStoreCreate");
+    const bool isThere = text(name) == "Vantrix" && !mac().store.empty() && !fails();
     return as<SCDynamicStoreRef>(isThere ? makeOpaque() : nullptr);
 }
 
 CFPropertyListRef SCDynamicStoreCopyValue(SCDynamicStoreRef store, CFStringRef key) {
-    object(store, Kind::opaque, "SCDynamicStoreCopyValue");
-    const auto found = mac().store.find(object(key, Kind::text, "SCDynamicStoreCopyValue").text);
-    return answer("SCDynamicStoreCopyValue", found == mac().store.end() ? nullptr : make(found->second));
+    object(store, Kind::opaque);
+    const auto found = mac().store.find(text(key));
+    return answer(found == mac().store.end() ? nullptr : make(found->second));
 }
 
 CFArrayRef SCNetworkInterfaceCopyAll() {
     leaveToPool();
-    if (fails("SCNetworkInterfaceCopyAll"))
-        return nullptr;
-    std::vector<Ref> all;
-    for (const Interface& interface : mac().interfaces)
-        all.emplace_back(
-            makeOwner({{"name", interface.name}, {"type", interface.type}, {"displayName", interface.displayName}}));
-    return as<CFArrayRef>(makeList(std::move(all)));
+    return as<CFArrayRef>(fails() ? nullptr : makeOpaqueList(mac().interfaces));
 }
 
 CFStringRef SCNetworkInterfaceGetBSDName(SCNetworkInterfaceRef interface) {
-    return partOf(interface, "name", "SCNetworkInterfaceGetBSDName");
+    return partOf(interface, "name");
 }
 
 CFStringRef SCNetworkInterfaceGetInterfaceType(SCNetworkInterfaceRef interface) {
-    return partOf(interface, "type", "SCNetworkInterfaceGetInterfaceType");
+    return partOf(interface, "type");
 }
 
 CFStringRef SCNetworkInterfaceGetLocalizedDisplayName(SCNetworkInterfaceRef interface) {
-    return partOf(interface, "displayName", "SCNetworkInterfaceGetLocalizedDisplayName");
+    return partOf(interface, "displayName");
 }
 
 SecTaskRef SecTaskCreateFromSelf(CFAllocatorRef) {
-    return as<SecTaskRef>(fails("SecTaskCreateFromSelf") ? nullptr : makeOpaque());
+    return as<SecTaskRef>(fails() ? nullptr : makeOpaque());
 }
 
 CFTypeRef SecTaskCopyValueForEntitlement(SecTaskRef task, CFStringRef entitlement, CFErrorRef*) {
-    object(task, Kind::opaque, "SecTaskCopyValueForEntitlement");
-    const bool isGroups = object(entitlement, Kind::text, "SecTaskCopyValueForEntitlement").text ==
-                          "com.apple.security.application-groups";
-    const bool isThere = isGroups && mac().applicationGroups;
-    return answer("SecTaskCopyValueForEntitlement", isThere ? make(*mac().applicationGroups) : nullptr);
+    object(task, Kind::opaque);
+    const bool isThere = text(entitlement) == "com.apple.security.application-groups" && mac().applicationGroups;
+    return answer(isThere ? make(*mac().applicationGroups) : nullptr);
 }
 
 namespace vantrix {
@@ -111,7 +87,7 @@ class SimulatedWiFiClient : public WiFiClient {
 } // namespace
 
 std::unique_ptr<WiFiClient> makeWiFiClient() {
-    return fails("makeWiFiClient") ? nullptr : std::make_unique<SimulatedWiFiClient>();
+    return fails() ? nullptr : std::make_unique<SimulatedWiFiClient>();
 }
 
 std::unique_ptr<LocationManager> makeLocationManager() {

@@ -39,13 +39,12 @@ void furnishNetwork(Machine& machine) {
                      {"en0", active, AF_LINK, 4'294'967'000, 1000},
                      {"en0", active, AF_INET6},
                      {"en0", active, AF_INET, 0, 0, {'\xc0', '\xa8', 1, 24}},
-                     {"en0", active, AF_INET, 0, 0, {10, 0, 0, 1}},
                      {"en5", IFF_UP, AF_LINK, 9, 9},
-                     {"utun0", active, AF_LINK, 5, 5},
                      {"gif0", 0, 0}};
-    machine.store = {{"State:/Network/Global/IPv4", {{"PrimaryInterface", "en0"}, {"Router", "192.168.1.1"}}},
-                     {"State:/Network/Global/IPv6", {{"PrimaryInterface", "en5"}}}};
-    machine.interfaces = {{"en5", "Ethernet", "Ethernet Adapter"}, {"en0", "IEEE80211", "Wi-Fi"}};
+    machine.store = {{"State:/Network/Global/IPv4", Dictionary{{"PrimaryInterface", "en0"}}},
+                     {"State:/Network/Global/IPv6", Dictionary{{"PrimaryInterface", "en5"}}}};
+    machine.interfaces = {{{"name", "en5"}, {"type", "Ethernet"}, {"displayName", "Ethernet Adapter"}},
+                          {{"name", "en0"}, {"type", "IEEE80211"}, {"displayName", "Wi-Fi"}}};
     machine.wifi["en0"] = {-52, -92, 866.0, "Home", "en0"};
 }
 
@@ -54,10 +53,8 @@ void furnishRegistry(Machine& machine) {
         {"IOBlockStorageDriver", {{"Statistics", Dictionary{{"Bytes (Read)", 1'000'000}, {"Bytes (Write)", 500'000}}}}},
         {"IOBlockStorageDriver", {{"Statistics", Dictionary{{"Bytes (Read)", 8}, {"Bytes (Write)", "many"}}}}},
         {"IOBlockStorageDriver", {{"Statistics", "none"}}},
-        {"IOBlockStorageDriver", {}},
         {"IOAccelerator", {{"PerformanceStatistics", Dictionary{{"Device Utilization %", 20}}}}},
         {"IOAccelerator", {{"PerformanceStatistics", Dictionary{{"GPU Activity(%)", 70.5}}}}},
-        {"IOAccelerator", {{"PerformanceStatistics", Dictionary{{"GPU Activity(%)", "busy"}}}}},
         {"IOAccelerator", {{"PerformanceStatistics", List{}}}},
         {"AppleSmartBattery",
          {{"CycleCount", 142},
@@ -70,16 +67,14 @@ void furnishRegistry(Machine& machine) {
         {"AppleSMC", {}},
         {"AppleDeviceManagementHIDEventService",
          {{"Product", "Keyboard"}, {"BatteryPercent", 90}, {"DeviceAddress", "aa-bb-cc-dd-ee-01"}}},
-        {"AppleDeviceManagementHIDEventService", {{"Product", "Pad"}}},
-        {"AppleDeviceManagementHIDEventService", {{"BatteryPercent", 5}}}};
+        {"AppleDeviceManagementHIDEventService", {{"Product", "Pad"}}}};
     machine.controllerKeys = {{"FNum", {"ui8 ", {1}}},  {"F0Ac", floatKey(2000)}, {"F0Mn", floatKey(1200)},
                               {"F0Mx", floatKey(6000)}, {"PSTR", floatKey(16)},   {"PDTR", floatKey(0)}};
 }
 
 void furnishReports(Machine& machine) {
     machine.volume = {{"NSURLVolumeTotalCapacityKey", std::int64_t{500'000'000'000}},
-                      {"NSURLVolumeAvailableCapacityForImportantUsageKey", std::int64_t{120'000'000'000}},
-                      {"NSURLVolumeNameKey", "Disk"}};
+                      {"NSURLVolumeAvailableCapacityForImportantUsageKey", std::int64_t{120'000'000'000}}};
     machine.powerSources =
         List{Dictionary{{"Type", "UPS"}, {"Current Capacity", 3}}, Dictionary{{"Type", "InternalBattery"},
                                                                               {"Current Capacity", 82},
@@ -88,7 +83,10 @@ void furnishReports(Machine& machine) {
                                                                               {"Power Source State", "AC Power"},
                                                                               {"Time to Full Charge", 55},
                                                                               {"Time to Empty", 410}}};
-    machine.sensors = {{"pACC sensor 1", 50.5}, {"GPU sensor", 40.0}, {std::nullopt, 30.0}, {"NAND", std::nullopt}};
+    machine.sensors = {{{"Product", "pACC sensor 1"}, {"celsius", 50.5}},
+                       {{"Product", "GPU sensor"}, {"celsius", 40.0}},
+                       {{"celsius", 30.0}},
+                       {{"Product", "NAND"}}};
     const auto channel = [](const char* group, const char* name, const char* unit, std::int64_t value) {
         return Dictionary{{"group", group}, {"name", name}, {"unit", unit}, {"value", value}};
     };
@@ -121,9 +119,9 @@ void advance(Machine& machine) {
             link.sent += 2000;
         }
     }
-    auto& statistics = std::get<Dictionary>(machine.services[0].properties[0].second.held);
-    std::get<std::int64_t>(statistics[0].second.held) += 4'000'000;
-    std::get<std::int64_t>(statistics[1].second.held) += 1'000'000;
+    auto& statistics = std::get<Dictionary>(machine.services[0].second["Statistics"]);
+    std::get<std::int64_t>(statistics["Bytes (Read)"]) += 4'000'000;
+    std::get<std::int64_t>(statistics["Bytes (Write)"]) += 1'000'000;
 }
 
 } // namespace vantrix::simulated

@@ -33,8 +33,7 @@ void removeServices(Machine& machine) {
 }
 
 void refuseConnections(Machine& machine) {
-    for (Service& service : machine.services)
-        service.opens = false;
+    machine.judge = [](const std::string& call) { return call == "IOServiceOpen" ? Outcome::fails : Outcome::works; };
 }
 
 TEST(Diagnosis, TellsWhatIsMissing) {
@@ -47,7 +46,7 @@ TEST(Diagnosis, TellsWhatIsMissing) {
         {[](Machine& mac) { mac.store.clear(); }, {name::connection}},
         {[](Machine& mac) { mac.interfaces.pop_back(); }, {name::wifi}},
         {[](Machine& mac) { mac.volume.reset(); }, {name::diskSpace}},
-        {[](Machine& mac) { mac.services.resize(4); }, {name::gpu, name::fans, name::systemPower}}, // disks stay
+        {[](Machine& mac) { mac.services.resize(3); }, {name::gpu, name::fans, name::systemPower}}, // disks stay
         {removeServices, {name::diskRates, name::gpu, name::fans, name::systemPower}},
         {refuseConnections, {name::fans, name::systemPower}},
         {[](Machine& mac) { mac.controllerKeys["FNum"].bytes = {0}; }, {name::fans}},

@@ -53,7 +53,7 @@ Outcome outcomeOf(const std::string& call) {
     return mac().judge ? mac().judge(call) : Outcome::works;
 }
 
-Object* answer(const char* call, Object* made) {
+Object* answer(Object* made, const char* call) {
     const Outcome outcome = outcomeOf(call);
     if (!made || outcome == Outcome::works)
         return made;
@@ -61,7 +61,7 @@ Object* answer(const char* call, Object* made) {
     return outcome == Outcome::wrongType ? makeOpaque() : nullptr;
 }
 
-const Object* heldAnswer(const char* call, const Object* held) {
+const Object* heldAnswer(const Object* held, const char* call) {
     const Outcome outcome = outcomeOf(call);
     if (!held || outcome == Outcome::works)
         return held;

@@ -3,6 +3,7 @@
 #include <array>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,12 +19,6 @@ namespace vantrix::simulated {
 /// What becomes of a call that may fail.
 enum class Outcome { works, fails, wrongType };
 
-struct Service {
-    std::string className;
-    Dictionary properties;
-    bool opens = true;
-};
-
 struct LinkEntry {
     std::string name;
     unsigned flags = 0;
@@ -33,20 +28,9 @@ struct LinkEntry {
     std::string address = {}; ///< four bytes
 };
 
-struct Interface {
-    const char* name;
-    const char* type;
-    const char* displayName;
-};
-
 struct SMCKey {
     std::string type;
     std::vector<std::uint8_t> bytes;
-};
-
-struct TemperatureSensor {
-    std::optional<Value> product;
-    std::optional<double> celsius;
 };
 
 /// A Mac as its interfaces tell of it; everything that a new one has is nothing at all. One at a time.
@@ -70,21 +54,20 @@ class Machine {
     std::optional<natural_t> processorsTold;                        ///< instead of as many as have ticks
     std::optional<vm_statistics64> pages;
     std::map<std::string, std::string> systemValues;
-    std::uint64_t machTime = 0;                       ///< in the unit of `timebase`
-    std::array<std::uint32_t, 2> timebase = {125, 3}; ///< nanoseconds, as a fraction
+    std::uint64_t machTime = 0; ///< 24 to the microsecond
     std::vector<LinkEntry> links;
-    std::vector<Service> services;
+    std::vector<std::pair<std::string, Dictionary>> services; ///< by class
     std::map<std::string, SMCKey> controllerKeys;
     std::optional<Dictionary> volume;
     std::optional<List> powerSources;
-    std::map<std::string, Dictionary> store;
-    std::vector<Interface> interfaces;
+    Dictionary store;
+    std::vector<Dictionary> interfaces;
     std::map<std::string, WiFiClient::Details, std::less<>> wifi;
-    std::optional<std::vector<TemperatureSensor>> sensors; ///< absent: the functions are missing
+    std::optional<std::vector<Dictionary>> sensors; ///< absent: the functions are missing
     std::optional<List> energy;       ///< channels, from one snapshot to the next; absent: the library is missing
     std::int64_t energySnapshots = 0; ///< taken so far
     std::optional<Value> applicationGroups;
-    std::map<std::string, Value> propertyLists; ///< by the text that holds them
+    Dictionary propertyLists; ///< by the text that holds them
 
     /// Decides over each call that may fail, by name.
     std::function<Outcome(const std::string& call)> judge;
@@ -93,37 +76,30 @@ class Machine {
     // What the program holds.
     long hostReferences = 0;
     long libraries = 0;
-    std::uintptr_t pools = 0;                         ///< open ones, each within the one before
-    long leftBehind = 0;                              ///< objects that were left to a pool where there was none
-    std::map<const void*, std::size_t> arrays;        ///< sizes in bytes
-    std::map<const ifaddrs*, struct LinkList*> lists; ///< of addresses
-    struct Handle {
-        std::vector<std::size_t> left; ///< of an iterator: the services yet to come, the next one last
-        std::optional<std::size_t> service;
-        bool isConnection = false;
-    };
-    std::map<std::uint32_t, Handle> handles;
+    std::uintptr_t pools = 0; ///< open ones, each within the one before
+    long leftBehind = 0;      ///< objects that were left to a pool where there was none
+    std::map<const void*, std::vector<integer_t>> arrays;
+    std::map<const ifaddrs*, std::shared_ptr<void>> lists; ///< of addresses
+    std::map<std::uint32_t, Ref> handles;                  ///< of services, lists of them, and connections
     std::uint32_t nextHandle = 100;
 };
 
 /// The present machine.
 Machine& mac();
 
-Outcome outcomeOf(const std::string& call);
-inline bool fails(const std::string& call) {
+// Calls are known by the names of the functions that simulate them.
+Outcome outcomeOf(const std::string& call = __builtin_FUNCTION());
+inline bool fails(const std::string& call = __builtin_FUNCTION()) {
     return outcomeOf(call) != Outcome::works;
 }
 
 /// Leaves an object to the innermost pool, as some calls do.
 void leaveToPool();
 
-/// What a copying function of this name answers: `made`, or what the judge says instead.
-Object* answer(const char* call, Object* made);
+/// What a copying function answers: `made`, or what the judge says instead.
+Object* answer(Object* made, const char* call = __builtin_FUNCTION());
 /// The same for a function whose answer stays the owner's.
-const Object* heldAnswer(const char* call, const Object* held);
-
-/// The controller's side of one exchange of 80-byte records; the answer is zeros before.
-void answerAsController(const std::uint8_t* question, std::uint8_t* answer);
+const Object* heldAnswer(const Object* held, const char* call = __builtin_FUNCTION());
 
 using Functions = std::map<std::string, void*>;
 

@@ -20,58 +20,51 @@ Object* track(Object made) {
     return object;
 }
 
-struct Maker {
-    Object* operator()(bool truth) const { return track({.kind = Object::Kind::truth, .truth = truth}); }
-    Object* operator()(std::int64_t whole) const { return track({.kind = Object::Kind::whole, .whole = whole}); }
-    Object* operator()(double fraction) const { return track({.kind = Object::Kind::fraction, .fraction = fraction}); }
-    Object* operator()(const std::string& text) const { return track({.kind = Object::Kind::text, .text = text}); }
-    Object* operator()(const List& list) const {
-        std::vector<Ref> members;
-        for (const Value& member : list)
-            members.emplace_back(make(member));
-        return makeList(std::move(members));
-    }
-    Object* operator()(const Dictionary& dictionary) const {
-        Object* const made = track({.kind = Object::Kind::dictionary});
-        for (const auto& [key, value] : dictionary)
-            made->entries[key] = Ref(make(value));
-        return made;
-    }
-};
-
-Object* makeConstant(Object constant) {
-    constant.isConstant = true;
-    return track(std::move(constant));
-}
-
 } // namespace
 
-Ref::Ref(const Ref& other) : object_(other.object_) {
-    if (object_)
-        ++object_->references;
-}
+Ref::Ref(const Ref& other) : object_(retain(other.object_)) {}
 
 Ref::~Ref() {
     if (object_)
         CFRelease(object_);
 }
 
-Ref Ref::retained(CFTypeRef reference) {
-    Object& held = object(reference, "CFRetain");
-    ++held.references;
-    return Ref(&held);
-}
-
 Object* make(const Value& value) {
-    return std::visit(Maker(), value.held);
+    Object made{.kind = static_cast<Kind>(value.index())};
+    if (const auto* const members = std::get_if<List>(&value)) {
+        for (const Value& member : *members)
+            made.list.emplace_back(make(member));
+    } else if (const auto* const entries = std::get_if<Dictionary>(&value)) {
+        for (const auto& [key, held] : *entries)
+            made.entries.emplace(key, make(held));
+    } else {
+        made.value = value;
+    }
+    return track(std::move(made));
 }
 
-Object* makeOpaque(std::int64_t place) {
-    return track({.kind = Object::Kind::opaque, .whole = place});
+Object* makeOpaque(const Dictionary& parts) {
+    Object* const made = make(parts);
+    made->kind = Kind::opaque;
+    return made;
 }
 
 Object* makeList(std::vector<Ref> members) {
-    return track({.kind = Object::Kind::list, .list = std::move(members)});
+    return track({.kind = Kind::list, .list = std::move(members)});
+}
+
+Object* makeOpaqueList(const std::vector<Dictionary>& all) {
+    std::vector<Ref> members;
+    for (const Dictionary& parts : all)
+        members.emplace_back(makeOpaque(parts));
+    return makeList(std::move(members));
+}
+
+Object* retain(const Object* held) {
+    auto* const object = const_cast<Object*>(held);
+    if (object)
+        ++object->references;
+    return object;
 }
 
 Object& object(CFTypeRef reference, const char* function) {
@@ -81,11 +74,15 @@ Object& object(CFTypeRef reference, const char* function) {
     return *found;
 }
 
-Object& object(CFTypeRef reference, Object::Kind kind, const char* function) {
+Object& object(CFTypeRef reference, Kind kind, const char* function) {
     Object& found = object(reference, function);
     if (found.kind != kind)
         fatalError((std::string(function) + " is given an object of another type").c_str());
     return found;
+}
+
+const std::string& text(CFTypeRef reference, const char* function) {
+    return std::get<std::string>(object(reference, Kind::text, function).value);
 }
 
 std::ptrdiff_t liveObjects() {
@@ -93,7 +90,7 @@ std::ptrdiff_t liveObjects() {
 }
 
 Object* strayObject() {
-    static Object* const stray = makeConstant({.kind = Object::Kind::opaque});
+    static Object* const stray = track({.isConstant = true});
     return stray;
 }
 
@@ -102,7 +99,7 @@ Object* strayObject() {
 using namespace vantrix::simulated;
 
 void CFRelease(CFTypeRef reference) {
-    Object& held = object(reference, "CFRelease");
+    Object& held = object(reference);
     if (held.isConstant || --held.references > 0)
         return;
     live().erase(&held);
@@ -113,6 +110,6 @@ CFStringRef __CFStringMakeConstantString(const char* text) {
     static auto& strings = *new std::map<std::string, Object*>;
     Object*& string = strings[text];
     if (!string)
-        string = makeConstant({.kind = Object::Kind::text, .text = text});
+        string = track({.kind = Kind::text, .value = text, .isConstant = true});
     return as<CFStringRef>(string);
 }

@@ -1,14 +1,27 @@
 #pragma once
 
+#include <cstdint>
 #include <map>
 #include <string>
+#include <utility>
+#include <variant>
 #include <vector>
 
 #include <CoreFoundation/CoreFoundation.h>
 
-#include "macos/simulated/value.h"
-
 namespace vantrix::simulated {
+
+struct Value;
+using List = std::vector<Value>;
+using Dictionary = std::map<std::string, Value>;
+
+/// What a fixture says an object holds.
+struct Value : std::variant<bool, std::int64_t, double, std::string, List, Dictionary> {
+    using variant::variant;
+};
+
+/// The first ones in a value's order; the system's own objects are opaque.
+enum class Kind : CFTypeID { truth, whole, fraction, text, list, dictionary, opaque };
 
 struct Object;
 
@@ -25,7 +38,6 @@ class Ref {
     }
     ~Ref();
 
-    static Ref retained(CFTypeRef object);
     Object* get() const { return object_; }
 
   private:
@@ -34,13 +46,8 @@ class Ref {
 
 /// Everything that is counted by references.
 struct Object {
-    enum class Kind : CFTypeID { text = 1, whole, fraction, truth, list, dictionary, opaque };
-
     Kind kind = Kind::opaque;
-    std::string text;
-    std::int64_t whole = 0; ///< of an opaque object: its place in the fixture
-    double fraction = 0.0;
-    bool truth = false;
+    Value value = false; ///< of neither a list nor a dictionary
     std::vector<Ref> list;
     std::map<std::string, Ref> entries;
     long references = 1;
@@ -53,15 +60,20 @@ struct Object {
     }
 };
 
-/// With one reference, the caller's.
+// With one reference, the caller's. Opaque ones keep their parts as a dictionary does.
 Object* make(const Value& value);
-Object* makeOpaque(std::int64_t place = 0);
+Object* makeOpaque(const Dictionary& parts = {});
 Object* makeList(std::vector<Ref> members);
+Object* makeOpaqueList(const std::vector<Dictionary>& all);
 
-/// The live object behind a reference; reports a fault and ends the test program where there is none, or of a kind that
-/// the function called may not be given.
-Object& object(CFTypeRef reference, const char* function);
-Object& object(CFTypeRef reference, Object::Kind kind, const char* function);
+/// The same object with one reference more; null for null.
+Object* retain(const Object* held);
+
+// The live object behind a reference; they report a fault and end the test program where there is none, or of a kind
+// that the function called may not be given.
+Object& object(CFTypeRef reference, const char* function = __builtin_FUNCTION());
+Object& object(CFTypeRef reference, Kind kind, const char* function = __builtin_FUNCTION());
+const std::string& text(CFTypeRef reference, const char* function = __builtin_FUNCTION());
 
 /// Objects that somebody still holds, constants aside.
 std::ptrdiff_t liveObjects();
