@@ -13,10 +13,8 @@ bool hasSession = true;
 
 /// The simulated system's: the one thing of CoreGraphics that is asked here, and what it takes to let go of it.
 extern "C" CFDictionaryRef CGSessionCopyCurrentDictionary() {
-    if (!hasSession)
-        return nullptr;
-    ++references;
-    return reinterpret_cast<CFDictionaryRef>(&references);
+    references += hasSession ? 1 : 0;
+    return hasSession ? reinterpret_cast<CFDictionaryRef>(&references) : nullptr;
 }
 extern "C" void CFRelease(CFTypeRef) {
     --references;
@@ -25,32 +23,19 @@ extern "C" void CFRelease(CFTypeRef) {
 namespace vantrix {
 namespace {
 
-/// What the toolkit finds in its options afterwards.
-std::string platformOption(const char* option) {
+TEST(Display, IsTheSystemsOwnWhateverTheUserNamesOrNone) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     char name[] = "vantrix";
-    std::string flag = option;
+    char option[] = "-platform";
     char value[] = "offscreen";
-    char* arguments[] = {name, flag.data(), value, nullptr};
-    EXPECT_NE(prepareDisplay(3, arguments), nullptr);
-    return arguments[2];
-}
-
-TEST(Display, IsTheSystemsOwnWhateverTheUserNames) {
-    hasSession = true;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    EXPECT_EQ(platformOption("-platform"), "cocoa");
-    EXPECT_EQ(platformOption("--platform"), "cocoa");
-    EXPECT_EQ(platformOption("--show-settings"), "offscreen");
-    EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), "cocoa");
-    EXPECT_EQ(references, 0);
-}
-
-TEST(Display, ThereIsNoneWithoutASession) {
+    char* arguments[] = {name, option, value, nullptr};
     hasSession = false;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    char name[] = "vantrix";
-    char* arguments[] = {name, nullptr};
-    EXPECT_EQ(prepareDisplay(1, arguments), nullptr);
+    EXPECT_EQ(prepareDisplay(3, arguments), nullptr);
+    EXPECT_STREQ(arguments[2], "offscreen");
+    hasSession = true;
+    EXPECT_NE(prepareDisplay(3, arguments), nullptr);
+    EXPECT_STREQ(arguments[2], "cocoa");
+    EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), "cocoa");
     EXPECT_EQ(references, 0);
 }
 

@@ -26,40 +26,30 @@ extern "C" size_t confstr(int name, char* text, size_t size) noexcept {
 namespace vantrix {
 namespace {
 
-class InstanceChannelTest : public ::testing::Test {
-  protected:
-    InstanceChannelTest() { temporaryFolder = folder.path().toStdString() + '/'; }
+/// From another thread, as the one that is asked answers from its event loop.
+bool isAnswered(const std::string& request) {
+    auto answer = std::async(std::launch::async, [request] { return sendToRunningInstance(request); });
+    spinUntil([&answer] { return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    return answer.get();
+}
 
-    /// From another thread, as the one that is asked answers from its event loop.
-    static bool isAnswered(const std::string& request) {
-        auto answer = std::async(std::launch::async, [request] { return sendToRunningInstance(request); });
-        spinUntil([&answer] { return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
-        return answer.get();
-    }
-
-    QTemporaryDir folder;
-};
-
-TEST_F(InstanceChannelTest, TakesTheRequestsOfOthers) {
-    const auto channel = claimInstance();
+TEST(InstanceChannel, TakesTheRequestsOfOthersOneInstanceAtATime) {
+    const QTemporaryDir folder;
+    temporaryFolder = folder.path().toStdString() + '/';
+    auto channel = claimInstance();
     ASSERT_NE(channel, nullptr);
     std::vector<std::string> requests;
     channel->received = [&requests](const std::string& request) { requests.push_back(request); };
     EXPECT_TRUE(isAnswered("show-popover"));
     EXPECT_TRUE(isAnswered("quit"));
     EXPECT_EQ(requests, (std::vector<std::string>{"show-popover", "quit"}));
-}
-
-TEST_F(InstanceChannelTest, ThereIsOneAtATime) {
-    auto first = claimInstance();
-    ASSERT_NE(first, nullptr);
     EXPECT_EQ(claimInstance(), nullptr);
-    first.reset();
+    channel.reset();
     EXPECT_FALSE(sendToRunningInstance("show-popover"));
     EXPECT_NE(claimInstance(), nullptr);
 }
 
-TEST_F(InstanceChannelTest, WithoutAFolderItRunsUnheard) {
+TEST(InstanceChannel, WithoutAFolderItRunsUnheard) {
     temporaryFolder.assign(5000, 'x'); // longer than any path
     EXPECT_NE(claimInstance(), nullptr);
     EXPECT_FALSE(sendToRunningInstance("quit"));

@@ -20,8 +20,6 @@ class Instruments {
     /// One pass of all samplers.
     ReadingTexts pass();
 
-    void renewWiFiClient() { networkInfo_.renewWiFiClient(); }
-
   private:
     SamplingSources sources_;
     CPUSampler cpu_;
