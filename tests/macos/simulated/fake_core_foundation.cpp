@@ -6,6 +6,10 @@
 using namespace vantrix::simulated;
 
 const CFAllocatorRef kCFAllocatorDefault = nullptr;
+// Nobody looks into these.
+struct CFArrayCallBacks {};
+struct CFDictionaryKeyCallBacks {};
+struct CFDictionaryValueCallBacks {};
 const CFArrayCallBacks kCFTypeArrayCallBacks{};
 const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks{};
 const CFDictionaryValueCallBacks kCFTypeDictionaryValueCallBacks{};

@@ -31,12 +31,9 @@ std::string words(const Values&... values) {
 void addConnection(const NetworkInfo& info, ReadingTexts& texts) {
     texts["interface"] = words(info.interface);
     texts["address"] = words(info.localIP);
-    texts["kind"] = std::to_string(static_cast<int>(info.kind));
+    texts["kind"] = words(static_cast<int>(info.kind));
     texts["display name"] = words(info.displayName);
-    texts["wifi"] = "-";
-    if (info.rssi || info.debug)
-        texts["wifi"] =
-            words(info.ssid, info.rssi, info.noise, info.linkSpeedMbps, info.ssidHiddenByPrivacy, info.debug);
+    texts["wifi"] = info.rssi ? words(info.ssid, info.rssi, info.noise, info.linkSpeedMbps) : "-";
 }
 
 void addSensors(const SensorsSample& sensors, ReadingTexts& texts) {

@@ -1,6 +1,5 @@
 #include "platform/diagnosis.h"
 
-#include <map>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -11,77 +10,52 @@ namespace vantrix::simulated {
 namespace {
 
 namespace name = reading_name;
-using Change = void (*)(Machine& machine);
 
-/// The rows of a laptop that was changed, by name.
-std::map<std::string, SourceDiagnosis> diagnose(Change change) {
-    Machine machine;
-    furnish(machine);
-    change(machine);
-    std::map<std::string, SourceDiagnosis> rows;
-    for (const SourceDiagnosis& row : diagnoseSources({})) {
-        EXPECT_EQ(row.reason.empty(), row.state == SourceState::ok) << row.name;
-        rows[row.name] = row;
-    }
-    EXPECT_FALSE(machine.calls.contains("makeLocationManager")); // one belongs to the main thread
-    EXPECT_EQ(machine.outstanding(), "");
-    return rows;
-}
-
-void removeServices(Machine& machine) {
-    machine.services.clear();
-}
-
-void refuseConnections(Machine& machine) {
-    machine.judge = [](const std::string& call) { return call == "IOServiceOpen" ? Outcome::fails : Outcome::works; };
-}
-
-TEST(Diagnosis, TellsWhatIsMissing) {
-    const std::pair<Change, std::set<std::string_view>> cases[] = {
+TEST(Diagnosis, TellsWhatIsMissingAndWhatIsRefused) {
+    struct Case {
+        void (*change)(Machine& mac);
+        std::set<std::string_view> missing;
+        SourceState state = SourceState::absent;
+    };
+    const Case cases[] = {
         {[](Machine&) {}, {}},
-        {[](Machine& mac) { mac.ticks.reset(); }, {name::processor}},
-        {[](Machine& mac) { mac.pages.reset(); }, {name::memory, name::pressure}},
+        {[](Machine& mac) { mac.ticks.reset(); }, {name::processor}, SourceState::denied},
         {[](Machine& mac) { mac.systemValues.clear(); }, {name::pressure}},
         {[](Machine& mac) { mac.links.clear(); }, {name::network}},
-        {[](Machine& mac) { mac.store.clear(); }, {name::connection}},
+        {[](Machine& mac) { mac.store.clear(); }, {name::connection}, SourceState::silent},
         {[](Machine& mac) { mac.interfaces.pop_back(); }, {name::wifi}},
-        {[](Machine& mac) { mac.volume.reset(); }, {name::diskSpace}},
-        {[](Machine& mac) { mac.services.resize(3); }, {name::gpu, name::fans, name::systemPower}}, // disks stay
-        {removeServices, {name::diskRates, name::gpu, name::fans, name::systemPower}},
-        {refuseConnections, {name::fans, name::systemPower}},
+        {[](Machine& mac) { mac.volume.reset(); }, {name::diskSpace}, SourceState::silent},
+        {[](Machine& mac) { mac.services.clear(); }, {name::diskRates, name::gpu, name::fans, name::systemPower}},
+        {[](Machine& mac) {
+             mac.judge = [](const std::string& call) {
+                 return call == "IOServiceOpen" ? Outcome::fails : Outcome::works;
+             };
+         },
+         {name::fans, name::systemPower},
+         SourceState::denied},
         {[](Machine& mac) { mac.controllerKeys["FNum"].bytes = {0}; }, {name::fans}},
         {[](Machine& mac) { mac.sensors.reset(); }, {name::temperatures}},
         {[](Machine& mac) { mac.energy.reset(); }, {name::chipPower}},
-        {[](Machine& mac) {
-             mac.powerSources = List{Dictionary{{"Type", "UPS"}}};
-         },
-         {name::battery}},
+        {[](Machine& mac) { mac.powerSources.reset(); }, {name::battery}},
     };
-    for (const auto& [change, missing] : cases) {
+    for (const auto& [change, missing, state] : cases) {
+        Machine machine;
+        furnish(machine);
+        change(machine);
         std::set<std::string_view> found;
-        const auto rows = diagnose(change);
-        for (const auto& [reading, row] : rows) {
+        const auto rows = diagnoseSources({});
+        for (const SourceDiagnosis& row : rows) {
+            EXPECT_EQ(row.reason.empty(), row.state == SourceState::ok) << row.name;
             // No system is simulated so far that it has the profiler's program.
-            if (row.state != SourceState::ok && reading != name::accessories)
-                found.insert(reading);
+            if (row.state == SourceState::ok || row.name == name::accessories)
+                continue;
+            EXPECT_EQ(row.state, state) << row.name;
+            found.insert(row.name);
         }
         EXPECT_EQ(found, missing);
+        EXPECT_FALSE(machine.calls.contains("makeLocationManager")); // one belongs to the main thread
+        EXPECT_EQ(machine.outstanding(), "");
     }
-}
-
-TEST(Diagnosis, TellsARefusalFromAnAbsence) {
-    EXPECT_EQ(diagnose(refuseConnections)["Fans"].state, SourceState::denied);
-    EXPECT_EQ(diagnose(removeServices)["Fans"].state, SourceState::absent);
-}
-
-TEST(Diagnosis, NamesWhatTellsOfTemperatures) {
-    EXPECT_EQ(diagnose(removeServices)["Temperatures"].source, "HID event system");
-    const auto rows = diagnose([](Machine& mac) {
-        mac.sensors.reset();
-        mac.controllerKeys["TC0P"] = {"ui8 ", {50}};
-    });
-    EXPECT_EQ(rows.at("Temperatures").source, "AppleSMC");
-    EXPECT_EQ(rows.at("Temperatures").state, SourceState::ok);
 }
 
 } // namespace

@@ -5,13 +5,11 @@
 typedef double CGFloat;
 
 struct CGPoint {
-    CGFloat x;
-    CGFloat y;
+    CGFloat x, y;
 };
 
 struct CGSize {
-    CGFloat width;
-    CGFloat height;
+    CGFloat width, height;
 };
 
 struct CGRect {
@@ -22,6 +20,5 @@ struct CGRect {
 typedef enum CGRectEdge : std::uint32_t { CGRectMinXEdge, CGRectMinYEdge, CGRectMaxXEdge, CGRectMaxYEdge } CGRectEdge;
 
 struct CGAffineTransform {
-    CGFloat a, b, c, d;
-    CGFloat tx, ty;
+    CGFloat a, b, c, d, tx, ty;
 };

@@ -63,9 +63,7 @@ Boolean CFNumberIsFloatType(CFNumberRef number);
 CFTypeID CFBooleanGetTypeID(void);
 Boolean CFBooleanGetValue(CFBooleanRef boolean);
 
-typedef struct {
-    CFIndex version;
-} CFArrayCallBacks;
+struct CFArrayCallBacks;
 extern const CFArrayCallBacks kCFTypeArrayCallBacks;
 
 CFTypeID CFArrayGetTypeID(void);
@@ -74,12 +72,8 @@ CFArrayRef CFArrayCreate(CFAllocatorRef allocator, const void** values, CFIndex 
 CFIndex CFArrayGetCount(CFArrayRef array);
 const void* CFArrayGetValueAtIndex(CFArrayRef array, CFIndex index);
 
-typedef struct {
-    CFIndex version;
-} CFDictionaryKeyCallBacks;
-typedef struct {
-    CFIndex version;
-} CFDictionaryValueCallBacks;
+struct CFDictionaryKeyCallBacks;
+struct CFDictionaryValueCallBacks;
 extern const CFDictionaryKeyCallBacks kCFTypeDictionaryKeyCallBacks;
 extern const CFDictionaryValueCallBacks kCFTypeDictionaryValueCallBacks;
 

@@ -9,13 +9,7 @@ extern "C" {
 typedef const struct __SCDynamicStore* SCDynamicStoreRef;
 typedef const struct __SCNetworkInterface* SCNetworkInterfaceRef;
 
-typedef struct {
-    CFIndex version;
-    void* info;
-    const void* (*retain)(const void* info);
-    void (*release)(const void* info);
-    CFStringRef (*copyDescription)(const void* info);
-} SCDynamicStoreContext;
+struct SCDynamicStoreContext;
 typedef void (*SCDynamicStoreCallBack)(SCDynamicStoreRef store, CFArrayRef changedKeys, void* info);
 
 SCDynamicStoreRef SCDynamicStoreCreate(CFAllocatorRef allocator, CFStringRef name, SCDynamicStoreCallBack callout,
