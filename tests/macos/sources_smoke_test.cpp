@@ -1,11 +1,9 @@
 // The sources on the Mac that runs the tests, which may be a virtual one: only what each of them has is asked for.
 
 #include <algorithm>
-#include <unistd.h>
 
 #include <gtest/gtest.h>
 
-#include "platform/diagnosis.h"
 #include "platform/sampling_sources.h"
 
 namespace vantrix {
@@ -38,44 +36,6 @@ TEST(Sources, EveryMacHasAProcessorMemoryLinksAndAVolume) {
     ASSERT_TRUE(volume.has_value());
     EXPECT_GT(volume->total, 0u);
     EXPECT_LE(volume->available, volume->total);
-}
-
-/// Every source but the slow ones.
-void readAll(SamplingSources& sources) {
-    std::vector<CPUSampler::Ticks> cores;
-    std::vector<NetworkSampler::Link> links;
-    std::vector<DiskSampler::Counters> disks;
-    std::vector<HIDTemperatureSampler::Service> services;
-    std::vector<IOReportSampler::Channel> channels;
-    sources.cpu->read(cores);
-    sources.memory->read();
-    sources.network->read(links);
-    sources.disks->read(disks);
-    sources.volume->read();
-    sources.gpu->read();
-    sources.battery->powerSources();
-    sources.battery->smartBattery();
-    if (sources.temperatures)
-        sources.temperatures->read(services);
-    if (sources.sensorKeys)
-        sources.sensorKeys->value("PSTR");
-    if (sources.energy && sources.energy->takeSnapshot())
-        sources.energy->readDifference(channels);
-    NetworkInfoSampler(*sources.networkInfo).sample(true, LocationAccess::authorizedAlways);
-}
-
-TEST(Sources, LeaveNothingBehind) {
-    const auto ownBytes = [] {
-        return processStatistics(::getpid()).value_or(ProcessStatistics()).ownBytes.value_or(0);
-    };
-    SamplingSources sources = makeSamplingSources({});
-    for (int i = 0; i < 100; ++i)
-        readAll(sources); // caches fill
-    const auto before = ownBytes();
-    EXPECT_GT(before, 0u);
-    for (int i = 0; i < 1000; ++i)
-        readAll(sources);
-    EXPECT_LT(ownBytes(), before + (4u << 20)); // 4 KiB each time
 }
 
 } // namespace

@@ -97,11 +97,10 @@ int proc_pidinfo(int pid, int flavor, std::uint64_t, void* buffer, int size) {
     if (pid != 42 || flavor != PROC_PIDTASKINFO || size != sizeof(proc_taskinfo) || fails())
         return 0;
     proc_taskinfo task{};
-    task.pti_resident_size = 50'000'000;
+    task.pti_resident_size = 50'000;
+    task.pti_threadnum = 6;
     task.pti_total_user = 48'000'000;
     task.pti_total_system = 24'000'000;
-    task.pti_csw = 99'999;
-    task.pti_threadnum = 6;
     std::memcpy(buffer, &task, sizeof task);
     return sizeof task;
 }
@@ -110,9 +109,8 @@ int proc_pid_rusage(int pid, int flavor, rusage_info_t* buffer) {
     if (pid != 42 || flavor != RUSAGE_INFO_V2 || fails())
         return -1;
     rusage_info_v2 usage{};
-    usage.ri_pkg_idle_wkups = 1000;
-    usage.ri_interrupt_wkups = 1234;
-    usage.ri_phys_footprint = 20'000'000;
+    usage.ri_interrupt_wkups = 12;
+    usage.ri_phys_footprint = 20'000;
     usage.ri_proc_start_abstime = 240'000'000;
     std::memcpy(buffer, &usage, sizeof usage);
     return 0;
