@@ -17,8 +17,7 @@ TEST(Sources, EveryMacHasAProcessorMemoryLinksAndAVolume) {
     std::vector<CPUSampler::Ticks> cores;
     ASSERT_TRUE(sources.cpu->read(cores));
     EXPECT_EQ(cores.size(), static_cast<std::size_t>(sources.information->processorCount()));
-    const auto hasRun = [](const CPUSampler::Ticks& core) { return core.user + core.system + core.idle > 0; };
-    EXPECT_TRUE(std::any_of(cores.begin(), cores.end(), hasRun));
+    EXPECT_GT(cores.at(0).idle, 0u);
 
     const auto memory = sources.memory->read();
     ASSERT_TRUE(memory.has_value());
@@ -34,7 +33,6 @@ TEST(Sources, EveryMacHasAProcessorMemoryLinksAndAVolume) {
 
     const auto volume = sources.volume->read();
     ASSERT_TRUE(volume.has_value());
-    EXPECT_GT(volume->total, 0u);
     EXPECT_LE(volume->available, volume->total);
 }
 

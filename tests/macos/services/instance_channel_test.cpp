@@ -2,6 +2,7 @@
 #include <future>
 #include <unistd.h>
 
+#include <QCoreApplication>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -57,3 +58,9 @@ TEST(InstanceChannel, WithoutAFolderItRunsUnheard) {
 
 } // namespace
 } // namespace vantrix
+
+int main(int argc, char** argv) {
+    ::testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

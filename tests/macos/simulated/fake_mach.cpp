@@ -47,7 +47,7 @@ kern_return_t host_processor_info(host_t host, processor_flavor_t flavor, natura
     if (outcome != Outcome::works)
         return outcome == Outcome::fails ? KERN_FAILURE : KERN_SUCCESS; // success without an array
     const auto& ticks = *mac().ticks;
-    *processorCount = mac().processorsTold.value_or(static_cast<natural_t>(ticks.size()));
+    *processorCount = static_cast<natural_t>(ticks.size());
     std::vector<integer_t> array;
     for (const auto& core : ticks)
         array.insert(array.end(), core.begin(), core.end());

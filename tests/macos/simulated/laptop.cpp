@@ -75,26 +75,21 @@ void furnishRegistry(Machine& machine) {
 void furnishReports(Machine& machine) {
     machine.volume = {{"NSURLVolumeTotalCapacityKey", std::int64_t{500'000'000'000}},
                       {"NSURLVolumeAvailableCapacityForImportantUsageKey", std::int64_t{120'000'000'000}}};
-    machine.powerSources =
-        List{Dictionary{{"Type", "UPS"}, {"Current Capacity", 3}}, Dictionary{{"Type", "InternalBattery"},
-                                                                              {"Current Capacity", 82},
-                                                                              {"Max Capacity", 100},
-                                                                              {"Is Charging", true},
-                                                                              {"Power Source State", "AC Power"},
-                                                                              {"Time to Full Charge", 55},
-                                                                              {"Time to Empty", 410}}};
+    machine.powerSources = List{Dictionary{{"Type", "InternalBattery"},
+                                           {"Current Capacity", 82},
+                                           {"Max Capacity", 100},
+                                           {"Is Charging", true},
+                                           {"Power Source State", "AC Power"},
+                                           {"Time to Full Charge", 55}}};
     machine.sensors = {{{"Product", "pACC sensor 1"}, {"celsius", 50.5}},
                        {{"Product", "GPU sensor"}, {"celsius", 40.0}},
                        {{"celsius", 30.0}},
                        {{"Product", "NAND"}}};
-    const auto channel = [](const char* group, const char* name, const char* unit, std::int64_t value) {
-        return Dictionary{{"group", group}, {"name", name}, {"unit", unit}, {"value", value}};
+    const auto channel = [](const char* name, const char* unit, std::int64_t value) {
+        return Dictionary{{"group", "Energy Model"}, {"name", name}, {"unit", unit}, {"value", value}};
     };
-    machine.energy = List{
-        channel("Energy Model", "EACC_CPU Energy", "mJ", 1000), channel("Energy Model", "PCPU Energy", "uJ", 2'000'000),
-        channel("Energy Model", "GPU Energy", "nJ", 3'000'000'000), channel("CPU Stats", "DRAM", "mJ", 1),
-        Dictionary{{"group", "Energy Model"}, {"unit", "mJ"}, {"value", 1}}};
-    machine.applicationGroups = List{"group.vantrix", "group.other"};
+    machine.energy = List{channel("EACC_CPU Energy", "mJ", 1000), channel("PCPU Energy", "uJ", 2'000'000),
+                          channel("GPU Energy", "nJ", 3'000'000'000)};
 }
 
 } // namespace

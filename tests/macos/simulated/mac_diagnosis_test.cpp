@@ -21,7 +21,6 @@ TEST(Diagnosis, TellsWhatIsMissingAndWhatIsRefused) {
         {[](Machine&) {}, {}},
         {[](Machine& mac) { mac.ticks.reset(); }, {name::processor}, SourceState::denied},
         {[](Machine& mac) { mac.systemValues.clear(); }, {name::pressure}},
-        {[](Machine& mac) { mac.links.clear(); }, {name::network}},
         {[](Machine& mac) { mac.store.clear(); }, {name::connection}, SourceState::silent},
         {[](Machine& mac) { mac.interfaces.pop_back(); }, {name::wifi}},
         {[](Machine& mac) { mac.volume.reset(); }, {name::diskSpace}, SourceState::silent},

@@ -51,7 +51,6 @@ class Machine {
     std::string outstanding() const;
 
     std::optional<std::vector<std::array<std::uint32_t, 4>>> ticks; ///< user, system, idle, nice
-    std::optional<natural_t> processorsTold;                        ///< instead of as many as have ticks
     std::optional<vm_statistics64> pages;
     std::map<std::string, std::string> systemValues;
     std::uint64_t machTime = 0; ///< 24 to the microsecond

@@ -2,7 +2,6 @@
 
 #include "macos/mac_accessories.h"
 #include "macos/mac_application_group.h"
-#include "macos/processor/mach_processor_ticks.h"
 #include "macos/processor/sysctl_information.h"
 #include "macos/simulated/laptop.h"
 #include "platform/diagnosis.h"
@@ -20,8 +19,6 @@ TEST(ApplicationGroup, IsTheFirstOfAListOfTexts) {
         Machine machine;
         machine.applicationGroups = entitlement;
         EXPECT_EQ(applicationGroup(), group);
-        machine.judge = [](const std::string&) { return Outcome::fails; };
-        EXPECT_EQ(applicationGroup(), std::nullopt);
         EXPECT_EQ(machine.outstanding(), "");
     }
 }
@@ -30,12 +27,10 @@ TEST(SysctlInformation, ReadsFourBytesAndNothingElse) {
     Machine machine;
     machine.setSystemValue("four", -2);
     machine.setSystemValue("eight", std::int64_t{5});
-    machine.setSystemValue("two", std::int16_t{5});
     machine.systemValues["empty"] = "";
     const SysctlInformation information;
     EXPECT_EQ(information.integer("four"), -2);
     EXPECT_EQ(information.integer("eight"), std::nullopt);
-    EXPECT_EQ(information.integer("two"), std::nullopt);
     EXPECT_EQ(information.text("empty"), std::nullopt);
 }
 
@@ -63,17 +58,6 @@ TEST(MacAccessories, MergesTheReportWithTheRegistry) {
         }
     }
     EXPECT_EQ(machine.outstanding(), "");
-}
-
-TEST(MachProcessorTicks, AreOfWholeProcessorsAlone) {
-    Machine machine;
-    furnish(machine);
-    for (const natural_t told : {1u, 3u}) {
-        machine.processorsTold = told;
-        std::vector<CPUSampler::Ticks> cores;
-        EXPECT_TRUE(MachProcessorTicks().read(cores));
-        EXPECT_EQ(cores.size(), std::min<std::size_t>(told, machine.ticks->size()));
-    }
 }
 
 TEST(ProcessStatistics, AreInSecondsAndBytes) {
