@@ -36,7 +36,6 @@ TEST(Examination, TakesLoadsAndRatesBetweenItsPasses) {
     EXPECT_EQ(findings["Processor"].value, "30%");
     EXPECT_EQ(findings["Network"].value, "in 1.0M/s, out 0K/s");
     EXPECT_EQ(findings["Disk rates"].value, "read 2.0M/s, write 0K/s");
-    EXPECT_EQ(findings["Disk space"].value, "60% of 1 KB");
     EXPECT_EQ(findings["Accessories"].value, "64%, 5%"); // and no names
     EXPECT_EQ(machine.accessories->scans, 1);
     EXPECT_GE(findings["Memory"].microseconds.value_or(-1.0), 0.0);
@@ -106,14 +105,12 @@ TEST(JoinedRows, SayWhatSourceAndValueTellTogether) {
         const char* value;
         const char* reason;
     } rows[] = {
-        {"works", source("A"), found("1"), SourceState::ok, "1", ""},
         {"works in part", source("A"), found("1", "2 are mute."), SourceState::ok, "1", "2 are mute."},
         {"sleeps", source("A", SourceState::asleep, "Sleeps."), found("0%"), SourceState::asleep, "0%", "Sleeps."},
         {"should answer", source("A"), found(""), SourceState::silent, "", "It is there, but gives no value now."},
         {"need not answer", source("A", SourceState::ok, "At times."), found(""), SourceState::absent, "", "At times."},
         {"cannot answer", source("A"), found("", "Not over it."), SourceState::absent, "", "Not over it."},
         {"absent", source("A", SourceState::absent, "None."), found("0"), SourceState::absent, "", "None."},
-        {"denied", source("A", SourceState::denied, "Ask."), found(""), SourceState::denied, "", "Ask."},
     };
     for (const auto& row : rows) {
         const auto result = joined({row.source}, {{"A", row.finding}});
@@ -121,15 +118,6 @@ TEST(JoinedRows, SayWhatSourceAndValueTellTogether) {
             << row.name;
         EXPECT_EQ(result.front().microseconds, 5.0) << row.name;
     }
-}
-
-TEST(JoinedRows, OneOfSeveralDevicesHasTheValue) {
-    const auto rows = joined({source("GPU", SourceState::asleep), source("GPU"), source("GPU"), source("Fans")},
-                             {{"GPU", found("37%")}});
-    EXPECT_EQ(rows[0].diagnosis.value, "");
-    EXPECT_EQ(rows[1].diagnosis.value, "37%, highest of 2");
-    EXPECT_EQ(rows[2].microseconds, std::nullopt);
-    EXPECT_EQ(rows[2].diagnosis.state, SourceState::ok);
 }
 
 } // namespace
