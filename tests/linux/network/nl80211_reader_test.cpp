@@ -17,10 +17,6 @@ namespace {
 constexpr int family = 28;
 constexpr int link = 3;
 
-std::string stationFlags(std::uint32_t set) {
-    return attribute(NL80211_STA_INFO_STA_FLAGS, bytesOf(nl80211_sta_flag_update{set, set}));
-}
-
 std::string station(const std::string& info, std::string_view address = "\x02\x00\x00\x00\x00\x01") {
     return numberAttribute(NL80211_ATTR_IFINDEX, link) + attribute(NL80211_ATTR_MAC, address.substr(0, 6)) +
            attribute(NL80211_ATTR_STA_INFO | NLA_F_NESTED, info);
@@ -30,14 +26,13 @@ std::string signal(int type, int level) {
     return numberAttribute(type, static_cast<std::int8_t>(level));
 }
 
-std::string bitRate(std::uint16_t shortRate, std::uint32_t longRate) {
-    std::string rate;
-    if (shortRate != 0)
-        rate += numberAttribute(NL80211_RATE_INFO_BITRATE, shortRate);
-    if (longRate != 0)
-        rate += numberAttribute(NL80211_RATE_INFO_BITRATE32, longRate);
-    return attribute(NL80211_STA_INFO_TX_BITRATE | NLA_F_NESTED, rate);
+template<typename Number>
+std::string bitRate(int type, Number rate) {
+    return attribute(NL80211_STA_INFO_TX_BITRATE | NLA_F_NESTED, numberAttribute(type, rate));
 }
+
+const std::string usualStation =
+    station(signal(NL80211_STA_INFO_SIGNAL, -52) + bitRate(NL80211_RATE_INFO_BITRATE, std::uint16_t{8665}));
 
 std::string survey(int noise, bool isInUse) {
     return attribute(NL80211_ATTR_SURVEY_INFO | NLA_F_NESTED,
@@ -46,10 +41,8 @@ std::string survey(int noise, bool isInUse) {
 }
 
 std::string network(std::string_view elements, int status) {
-    std::string bss = attribute(NL80211_BSS_INFORMATION_ELEMENTS, elements);
-    if (status >= 0)
-        bss += numberAttribute(NL80211_BSS_STATUS, status);
-    return attribute(NL80211_ATTR_BSS | NLA_F_NESTED, bss);
+    return attribute(NL80211_ATTR_BSS | NLA_F_NESTED, attribute(NL80211_BSS_INFORMATION_ELEMENTS, elements) +
+                                                          numberAttribute(NL80211_BSS_STATUS, status));
 }
 
 TEST(ParseStation, TakesSignalAndRateWhereTheyMakeSense) {
@@ -60,16 +53,9 @@ TEST(ParseStation, TakesSignalAndRateWhereTheyMakeSense) {
         double rate;
     };
     const Row rows[] = {
-        {"usual", signal(NL80211_STA_INFO_SIGNAL, -52) + bitRate(8665, 8665), -52, 866.5},
-        {"rate past 16 bits", signal(NL80211_STA_INFO_SIGNAL, -52) + bitRate(0, 115294), -52, 11529.4},
-        {"old driver", signal(NL80211_STA_INFO_SIGNAL_AVG, -61) + bitRate(540, 0), -61, 54.0},
+        {"rate past 16 bits", bitRate(NL80211_RATE_INFO_BITRATE32, 115294), 0, 11529.4},
+        {"old driver", signal(NL80211_STA_INFO_SIGNAL_AVG, -61), -61, 0.0},
         {"strength in percent", signal(NL80211_STA_INFO_SIGNAL, 70), 0, 0.0},
-        {"nothing told", "", 0, 0.0},
-        {"a number cut short", attribute(NL80211_STA_INFO_SIGNAL, ""), 0, 0.0},
-        {"a rate of the wrong size",
-         signal(NL80211_STA_INFO_SIGNAL, -52) +
-             attribute(NL80211_STA_INFO_TX_BITRATE, numberAttribute(5, std::uint8_t{9})),
-         -52, 0.0},
     };
     for (const Row& row : rows) {
         const auto parsed = parseStation(station(row.info));
@@ -77,8 +63,9 @@ TEST(ParseStation, TakesSignalAndRateWhereTheyMakeSense) {
         EXPECT_EQ(parsed->signal, row.signal) << row.name;
         EXPECT_DOUBLE_EQ(parsed->bitRate, row.rate) << row.name;
     }
-    EXPECT_FALSE(parseStation(station(stationFlags(1u << NL80211_STA_FLAG_TDLS_PEER))));
-    EXPECT_TRUE(parseStation(station(stationFlags(1u << NL80211_STA_FLAG_AUTHORIZED))));
+    constexpr std::uint32_t peer = 1u << NL80211_STA_FLAG_TDLS_PEER;
+    EXPECT_FALSE(parseStation(
+        station(numberAttribute(NL80211_STA_INFO_STA_FLAGS, nl80211_sta_flag_update{.mask = peer, .set = peer}))));
 }
 
 TEST(ParseJoinedNetwork, FindsTheNameOfTheNetworkJoined) {
@@ -86,15 +73,13 @@ TEST(ParseJoinedNetwork, FindsTheNameOfTheNetworkJoined) {
     const auto name = "\x01\x02\x82\x84\x00\x04Home\x03\x01\x06"sv;
     EXPECT_EQ(parseJoinedNetwork(network(name, NL80211_BSS_STATUS_ASSOCIATED)), "Home");
     EXPECT_FALSE(parseJoinedNetwork(network(name, NL80211_BSS_STATUS_AUTHENTICATED)));
-    EXPECT_FALSE(parseJoinedNetwork(network(name, -1)));
-    for (const auto elements :
-         {"\x00\x00"sv, "\x00\x09Home"sv, "\x01"sv, ""sv, "\x00\x21Home and a name past 32 letters.."sv})
+    for (const auto elements : {"\x00\x00"sv, "\x00\x09Home"sv, "\x00\x21Home and a name past 32 letters.."sv})
         EXPECT_FALSE(parseJoinedNetwork(network(elements, NL80211_BSS_STATUS_ASSOCIATED))) << elements;
 }
 
 TEST(Nl80211Messages, NoDamageHarms) {
-    const std::string whole = station(signal(NL80211_STA_INFO_SIGNAL, -52) + bitRate(8665, 8665)) + survey(-92, true) +
-                              network("\0\4Home", 1) + attribute(NL80211_ATTR_SSID, "Home");
+    const std::string whole =
+        usualStation + survey(-92, true) + network({"\0\4Home", 6}, 1) + attribute(NL80211_ATTR_SSID, "Home");
     for (std::size_t place = 0; place < whole.size(); ++place) {
         for (const char value : {'\0', '\1', '\5', '\x7f', '\xff'}) {
             std::string bytes = whole;
@@ -115,7 +100,6 @@ struct FakeKernel : FakeNetlink {
     std::map<int, std::vector<std::string>> answers; // by NL80211_CMD_GET_…
     std::map<int, int> errors;
     std::map<int, int> questions;
-    bool hasFamily = true;
     bool isMute = false;
     bool send(std::string_view question) override {
         const auto taken = takeNetlinkMessage(question);
@@ -141,8 +125,6 @@ struct FakeKernel : FakeNetlink {
     }
 
     void answerFamily(std::uint32_t sequence) {
-        if (!hasFamily)
-            return tell(message(NLMSG_ERROR, bytesOf(nlmsgerr{-ENOENT, {}}), 0, sequence));
         tell(message(GENL_ID_CTRL,
                      bytesOf(genlmsghdr{CTRL_CMD_NEWFAMILY, 2, 0}) +
                          numberAttribute(CTRL_ATTR_FAMILY_ID, static_cast<std::uint16_t>(family)),
@@ -157,8 +139,7 @@ struct Nl80211ReaderTest : ::testing::Test {
 
     Nl80211ReaderTest() {
         kernel->answers[NL80211_CMD_GET_INTERFACE] = {attribute(NL80211_ATTR_SSID, "Home")};
-        kernel->answers[NL80211_CMD_GET_STATION] = {
-            station(signal(NL80211_STA_INFO_SIGNAL, -52) + bitRate(8665, 8665))};
+        kernel->answers[NL80211_CMD_GET_STATION] = {usualStation};
         kernel->answers[NL80211_CMD_GET_SURVEY] = {survey(-80, false), survey(-92, true), survey(-70, false)};
     }
 
@@ -174,7 +155,6 @@ TEST_F(Nl80211ReaderTest, AsksForTheSignalEachTimeAndForTheRestNowAndThen) {
         EXPECT_EQ(read(), home);
     EXPECT_EQ(kernel->questions[NL80211_CMD_GET_STATION], Nl80211Reader::readsPerDetail);
     EXPECT_EQ(kernel->questions[NL80211_CMD_GET_SURVEY], 1);
-    EXPECT_EQ(kernel->questions[NL80211_CMD_GET_INTERFACE], 1);
     EXPECT_EQ(kernel->questions[NL80211_CMD_GET_SCAN], 0);
     read();
     EXPECT_EQ(kernel->questions[NL80211_CMD_GET_SURVEY], 2);
@@ -191,31 +171,18 @@ TEST_F(Nl80211ReaderTest, AnotherAccessPointBringsAnotherName) {
 }
 
 TEST_F(Nl80211ReaderTest, TellsWhyThereIsNothing) {
-    kernel->hasFamily = false;
-    EXPECT_EQ(read(), WiFiReading{.problem = "no nl80211 in this kernel"});
-    kernel->hasFamily = true;
     kernel->errors[NL80211_CMD_GET_STATION] = EPERM;
     EXPECT_EQ(read(), WiFiReading{.problem = "nl80211: Operation not permitted"});
     kernel->errors.clear();
     kernel->isMute = true;
     EXPECT_EQ(read(), WiFiReading{.problem = "nl80211: No data available"});
-    EXPECT_EQ(kernel->closings, 3); // what may still come is no answer to the next question
+    EXPECT_EQ(kernel->closings, 2); // what may still come is no answer to the next question
     kernel->isMute = false;
     kernel->canOpen = false;
     EXPECT_EQ(read(), WiFiReading{.problem = "nl80211: Operation not permitted"});
     kernel->canOpen = true;
     kernel->errors[NL80211_CMD_GET_SURVEY] = EOPNOTSUPP;
     EXPECT_EQ(read(), (WiFiReading{-52, 0, 866.5, "Home", ""}));
-}
-
-/// Link 1 is the loopback: whether or not this kernel knows Wi-Fi, it has to refuse.
-TEST(Nl80211Reader, AsksTheRealKernel) {
-    Nl80211Reader real(std::make_unique<NetlinkSocket>(NETLINK_GENERIC));
-    WiFiReading reading;
-    real.read(1, reading);
-    EXPECT_FALSE(reading.problem.empty());
-    EXPECT_EQ(reading, WiFiReading{.problem = reading.problem});
-    RecordProperty("problem", reading.problem);
 }
 
 } // namespace
