@@ -27,7 +27,6 @@ TEST(ReadInterfaceKind, TellsInterfacesApartAsPeopleDo) {
         {"a port", {ethernet, device, {"uevent", "INTERFACE=x\nIFINDEX=2\n"}}, Type::ethernet, "Ethernet"},
         {"cut short", {{"type", "519\n"}, {"uevent", "INTERFACE=x\nDEVTYPE=wwan"}}, Type::other, "Mobile broadband"},
         {"tunnel", {{"type", "65534\n"}, {"tun_flags", "0x1001\n"}}, Type::other, "VPN"},
-        {"dialled", {{"type", "512\n"}}, Type::other, "PPP"},
         {"a container's end of a pair", {ethernet, {"uevent", "INTERFACE=x\n"}}, Type::other, ""},
     };
     for (const Row& row : rows) {
@@ -99,7 +98,7 @@ TEST_F(LinuxNetworkInfoTest, FollowsTheTreesOfAnotherMachine) {
     EXPECT_EQ(NetworkInfoSampler(*gone.networkInfo).sample(true, 3), NetworkInfo());
 }
 
-/// Routes that cannot be asked for, and were told of that many times before.
+/// Routes that cannot be asked for now; `news` counts how often they were told of before.
 struct FailingRoutes : DefaultRoutes {
     std::uint64_t news;
 

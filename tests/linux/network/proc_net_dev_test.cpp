@@ -30,20 +30,6 @@ TEST(ParseNetDev, TakesOddNamesAndTruncatesCounters) {
     EXPECT_FALSE(parseNetDev("  eth0: 10 1 2 3 4 5 6 7 20", lines)) << "cut short";
 }
 
-TEST(NameLink, GivesThePrefixToHardwareAlone) {
-    const std::tuple<const char*, bool, const char*> rows[] = {
-        {"wlp3s0", true, "enwlp3s0"},
-        {"enp4s0", true, "enp4s0"},
-        {"enp4s0.7", false, "~enp4s0.7"},
-        {"lo", false, "lo"},
-    };
-    std::string shown = "left over";
-    for (const auto& [name, isHardware, expected] : rows) {
-        nameLink(name, isHardware, shown);
-        EXPECT_EQ(shown, expected);
-    }
-}
-
 struct FakeStates : LinkStates {
     bool works;
     std::uint32_t flags;
