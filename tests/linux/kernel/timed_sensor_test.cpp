@@ -1,12 +1,9 @@
 #include "linux/kernel/timed_sensor.h"
 
-#include <chrono>
-#include <future>
 #include <vector>
 
 #include <gtest/gtest.h>
 
-#include "linux/kernel/background_thread.h"
 #include "samplers/fake_clock.h"
 
 namespace vantrix {
@@ -14,13 +11,11 @@ namespace {
 
 /// Runs its jobs when the test says so.
 struct FakeBackground : Background {
-    bool canRun = true;
     std::vector<std::shared_ptr<Job>> jobs;
 
     bool run(const std::shared_ptr<Job>& job) override {
-        if (canRun)
-            jobs.push_back(job);
-        return canRun;
+        jobs.push_back(job);
+        return true;
     }
     void performAll() {
         for (const auto& job : std::exchange(jobs, {}))
@@ -74,9 +69,6 @@ TEST_F(TimedSensorTest, ASensorIsSlowOnceTheMachineCannotHaveHeldItUp) {
 
 TEST_F(TimedSensorTest, SlowSensorsNeverDelayAPassAgain) {
     becomeSlow();
-    background->canRun = false; // no thread is to be had
-    EXPECT_EQ(valueAfter(1.0), 1.0);
-    background->canRun = true;
     probe->next = 2.0;
     EXPECT_EQ(valueAfter(2.0), 1.0);
     EXPECT_EQ(valueAfter(2.0), 1.0);
@@ -97,16 +89,9 @@ TEST_F(TimedSensorTest, AHangingSensorIsAbsentUntilItAnswers) {
     EXPECT_EQ(valueAfter(0.2), std::nullopt);
     background->performAll();
     EXPECT_EQ(valueAfter(60.0), 1.0);
-    background->canRun = false;
-    background->performAll();
-    valueAfter(1.0);
-    EXPECT_EQ(valueAfter(10.1), std::nullopt);
 }
 
 TEST_F(TimedSensorTest, OtherSensorsOfAVerySlowDeviceBeginInTheBackground) {
-    FakeProbe* known = nullptr;
-    TimedSensor wellKnown = make(known);
-    wellKnown.value();
     becomeSlow();
     FakeProbe* sibling = nullptr;
     TimedSensor other = make(sibling);
@@ -114,8 +99,6 @@ TEST_F(TimedSensorTest, OtherSensorsOfAVerySlowDeviceBeginInTheBackground) {
     EXPECT_EQ(sibling->reads, 0);
     background->performAll();
     EXPECT_EQ(other.value(), 1.0);
-    wellKnown.value();
-    EXPECT_EQ(known->reads, 2); // showed that it is quick
 }
 
 TEST_F(TimedSensorTest, IsReadDirectlyAgainOnceItWasTheMachineThatWasSlow) {
@@ -131,46 +114,12 @@ TEST_F(TimedSensorTest, IsReadDirectlyAgainOnceItWasTheMachineThatWasSlow) {
 }
 
 TEST_F(TimedSensorTest, TheLastValueCostsNoRead) {
-    EXPECT_EQ(sensor.lastValue(60.0), std::nullopt);
     sensor.value();
     clock->now += 59.0;
     EXPECT_EQ(sensor.lastValue(60.0), 1.0);
     clock->now += 2.0;
     EXPECT_EQ(sensor.lastValue(60.0), std::nullopt);
     EXPECT_EQ(probe->reads, 1);
-}
-
-/// A job that hangs until it is let go, as a driver may.
-struct HangingJob : Background::Job {
-    std::promise<void> begun, released, done;
-
-    void perform() override {
-        begun.set_value();
-        released.get_future().wait();
-        done.set_value();
-    }
-};
-
-bool comes(std::promise<void>& promise) {
-    return promise.get_future().wait_for(std::chrono::seconds(10)) == std::future_status::ready;
-}
-
-TEST(BackgroundThread, PerformsJobsAndNeverWaitsForOneThatHangs) {
-    const auto hanging = std::make_shared<HangingJob>();
-    const auto dropped = std::make_shared<HangingJob>();
-    {
-        BackgroundThread thread;
-        const auto quick = std::make_shared<HangingJob>();
-        quick->released.set_value();
-        ASSERT_TRUE(thread.run(quick));
-        EXPECT_TRUE(comes(quick->done));
-        ASSERT_TRUE(thread.run(hanging));
-        ASSERT_TRUE(thread.run(dropped));
-        EXPECT_TRUE(comes(hanging->begun));
-    }
-    EXPECT_EQ(dropped.use_count(), 1); // only its owner has it still
-    hanging->released.set_value();
-    EXPECT_TRUE(comes(hanging->done));
 }
 
 } // namespace
