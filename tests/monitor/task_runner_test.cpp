@@ -3,11 +3,11 @@
 #include <atomic>
 #include <thread>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QThread>
 
 #include <gtest/gtest.h>
+
+#include "posix/spin_until.h"
 
 namespace vantrix {
 namespace {
@@ -17,11 +17,8 @@ TEST(ThreadTaskRunner, WorksElsewhereAndReportsOnTheMainThread) {
     QThread* worker = nullptr;
     QThread* reporter = nullptr;
     runner.run([&] { worker = QThread::currentThread(); }, [&] { reporter = QThread::currentThread(); });
-    const QDeadlineTimer deadline(10000);
-    while (!reporter && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 100);
+    EXPECT_TRUE(spinUntil([&] { return reporter != nullptr; }));
     EXPECT_EQ(reporter, QThread::currentThread());
-    EXPECT_NE(worker, nullptr);
     EXPECT_NE(worker, reporter);
 }
 
@@ -42,11 +39,7 @@ TEST(ThreadTaskRunner, LeavesWorkBehindThatHangs) {
     }
     EXPECT_FALSE(state->ended);
     state->hangs = false;
-    const QDeadlineTimer deadline(10000);
-    while (!state->ended && !deadline.hasExpired())
-        std::this_thread::yield();
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(state->ended);
+    EXPECT_TRUE(spinUntil([&] { return state->ended.load(); }));
     EXPECT_FALSE(reported);
 }
 
