@@ -105,7 +105,6 @@ TEST(JoinedRows, SayWhatSourceAndValueTellTogether) {
         const char* value;
         const char* reason;
     } rows[] = {
-        {"works in part", source("A"), found("1", "2 are mute."), SourceState::ok, "1", "2 are mute."},
         {"sleeps", source("A", SourceState::asleep, "Sleeps."), found("0%"), SourceState::asleep, "0%", "Sleeps."},
         {"should answer", source("A"), found(""), SourceState::silent, "", "It is there, but gives no value now."},
         {"need not answer", source("A", SourceState::ok, "At times."), found(""), SourceState::absent, "", "At times."},

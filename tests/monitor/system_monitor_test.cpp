@@ -128,6 +128,14 @@ TEST_F(SystemMonitorTest, FailedReadsKeepWhatWasKnown) {
     EXPECT_THAT(readings().diskReadHistory, ElementsAre(0.0, 0.0, 0.0)); // a missing rate counts as none
 }
 
+TEST(History, KeepsTheNewestSixty) {
+    History history;
+    for (int i = 0; i < 61; ++i)
+        append(history, i);
+    EXPECT_EQ(history.size(), 60u);
+    EXPECT_EQ(history.back(), 60.0);
+}
+
 TEST_F(SystemMonitorTest, TellsOfEachReadingOnceAPassAndThenOfItsEnd) {
     monitor->start();
     pass();

@@ -43,7 +43,6 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
         {"desktop-resting-disk-sleeping-gpu", reading_name::temperatures, "ok SYS/class/hwmon (5 chips)",
          "Left asleep: amdgpu. Not asked while idle, so that it may spin down: drivetemp."},
         {"laptop-many-sensors", reading_name::systemPower, "ok SYS/class/powercap/intel-rapl:1/energy_uj", ""},
-        {"two-packs-and-accessories", reading_name::systemPower, "ok SYS/class/power_supply/BAT0, BAT1", "drained"},
         {"container", reading_name::battery, "absent SYS/class/power_supply", "no battery"},
     };
     for (const auto& row : rows) {
@@ -60,9 +59,8 @@ TEST(Diagnosis, SaysHowToGetAtWhatIsDenied) {
     tools.reach = [](const std::string& path) {
         return path.ends_with("energy_uj") || path.ends_with("stat") ? Reach::denied : reachOf(path);
     };
-    const auto chip = told(tools, reading_name::chipPower);
-    EXPECT_THAT(chip, ElementsAre(HasSubstr("/class/powercap/intel-rapl:*/energy_uj 0440 root GROUP -")));
-    EXPECT_THAT(chip.front(), HasSubstr("The price: "));
+    EXPECT_THAT(told(tools, reading_name::chipPower),
+                ElementsAre(HasSubstr("/class/powercap/intel-rapl:*/energy_uj 0440 root GROUP -")));
     EXPECT_THAT(told(tools, reading_name::systemPower), ElementsAre(HasSubstr("ok SYS/class/power_supply/BAT0")));
     EXPECT_THAT(told(tools, reading_name::processor), ElementsAre(HasSubstr("denied ")));
 }

@@ -26,7 +26,6 @@ TEST(ReadInterfaceKind, TellsInterfacesApartAsPeopleDo) {
         {"Wi-Fi by its uevent", {ethernet, {"uevent", "DEVTYPE=wlan\nINTERFACE=w\n"}}, Type::ieee80211, "Wi-Fi"},
         {"a port", {ethernet, device, {"uevent", "INTERFACE=x\nIFINDEX=2\n"}}, Type::ethernet, "Ethernet"},
         {"cut short", {{"type", "519\n"}, {"uevent", "INTERFACE=x\nDEVTYPE=wwan"}}, Type::other, "Mobile broadband"},
-        {"tunnel", {{"type", "65534\n"}, {"tun_flags", "0x1001\n"}}, Type::other, "VPN"},
         {"a container's end of a pair", {ethernet, {"uevent", "INTERFACE=x\n"}}, Type::other, ""},
     };
     for (const Row& row : rows) {
