@@ -113,14 +113,5 @@ TEST_F(TimedSensorTest, IsReadDirectlyAgainOnceItWasTheMachineThatWasSlow) {
     EXPECT_TRUE(background->jobs.empty());
 }
 
-TEST_F(TimedSensorTest, TheLastValueCostsNoRead) {
-    sensor.value();
-    clock->now += 59.0;
-    EXPECT_EQ(sensor.lastValue(60.0), 1.0);
-    clock->now += 2.0;
-    EXPECT_EQ(sensor.lastValue(60.0), std::nullopt);
-    EXPECT_EQ(probe->reads, 1);
-}
-
 } // namespace
 } // namespace vantrix
