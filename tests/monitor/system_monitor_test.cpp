@@ -159,6 +159,9 @@ TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
     EXPECT_EQ(readings().networkInfo.kind, NetworkInfo::Kind::ethernet);
     EXPECT_EQ(readings().gpu, 0.4);
     EXPECT_EQ(readings().battery->percent, 50);
+    pass();
+    EXPECT_EQ(count(Reading::gpu), 0); // an unchanged load is no news
+    EXPECT_EQ(count(Reading::battery), 1);
     extras.temperature = std::nullopt;
     extras.route = std::nullopt;
     extras.gpu.clear();
@@ -166,9 +169,9 @@ TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
     EXPECT_EQ(readings().networkInfo, NetworkInfo());
     EXPECT_EQ(readings().gpu, std::nullopt);
     // Absent values leave the histories as they are.
-    EXPECT_THAT(readings().cpuTemperatureHistory, ElementsAre(52.0));
-    EXPECT_THAT(readings().systemPowerHistory, ElementsAre(9.5, 9.5));
-    EXPECT_THAT(readings().gpuHistory, ElementsAre(0.4));
+    EXPECT_THAT(readings().cpuTemperatureHistory, ElementsAre(52.0, 52.0));
+    EXPECT_THAT(readings().systemPowerHistory, ElementsAre(9.5, 9.5, 9.5));
+    EXPECT_THAT(readings().gpuHistory, ElementsAre(0.4, 0.4));
 }
 
 TEST_F(SystemMonitorTest, ChangingTheIntervalReplacesARunningTimerOnly) {
