@@ -12,7 +12,7 @@ namespace {
 
 constexpr double metersPerInch = 0.0254;
 constexpr int dotsPerInch = 72 * OffscreenWindow::scale; // a point is a 72nd of an inch
-constexpr int dotsPerMeter = static_cast<int>(dotsPerInch / metersPerInch + 0.5);
+constexpr int dotsPerMeter = qRound(dotsPerInch / metersPerInch);
 constexpr int cropMargin = 12 * OffscreenWindow::scale;
 constexpr int sampleStep = 3;
 constexpr double leastDifference = 0.02;
