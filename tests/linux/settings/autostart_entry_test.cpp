@@ -46,16 +46,12 @@ TEST_F(AutostartEntryTest, IsOnWhenAnEffectiveEntryStartsAProgramThatExists) {
         {"the user's hides the system's", entry("Hidden=true\n"), entry(), false},
         {"the user's shadows a hidden one", entry(), entry("Hidden=true\n"), true},
         {"switched off by GNOME", entry("X-GNOME-Autostart-enabled=false\n"), "", false},
-        {"switched on by GNOME", entry("X-GNOME-Autostart-enabled=true\nHidden=false\n"), "", true},
         {"torn", entry().left(30), entry(), false},
-        {"torn within its command", "[Desktop Entry]\nType=Application\nExec=\"/bin/s", "", false},
         {"garbage", QByteArray("\0\xff\x1b[Desktop", 11), "", false},
-        {"another group's keys", "[Other]\nType=Application\nExec=/bin/sh\n", "", false},
         {"hidden in another group", entry("[Desktop Action x]\nHidden=true\n"), "", true},
         {"a program that is gone", gone, "", false},
         {"a program to be looked for", "# by hand\n[Desktop Entry]\nType=Application\nExec = sh -c %u\r\n", "", true},
         {"a test for a program that is gone", entry("TryExec=/nowhere/vantrix\n"), "", false},
-        {"a test for a program", entry("TryExec=sh\n"), "", true},
     };
     const auto putOrRemove = [](const QString& path, const QByteArray& contents) {
         contents.isEmpty() ? void(QFile::remove(path)) : put(path, contents);
@@ -97,20 +93,7 @@ TEST_F(AutostartEntryTest, AFailureLeavesEverythingAsItWas) {
 }
 
 TEST(DesktopEntry, QuotesAProgramsPathByTheRules) {
-    const struct {
-        const char* name;
-        const char* program;
-        const char* value;
-    } cases[] = {
-        {"plain", "/usr/bin/vantrix", R"("/usr/bin/vantrix")"},
-        {"a blank", "/opt/my apps/v", R"("/opt/my apps/v")"},
-        {"a percent sign", "/a%b", R"("/a%%b")"},
-        {"a dollar", "/a$b", R"("/a\\$b")"},
-        {"a double quote", "/a\"b", R"("/a\\"b")"},
-        {"a backslash", "/a\\b", R"("/a\\\\b")"},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(execValue(QString::fromUtf8(c.program)), QString::fromUtf8(c.value)) << c.name;
+    EXPECT_EQ(execValue(text(R"(/my apps/a%b$c"d\e)")), text(R"("/my apps/a%%b\\$c\\"d\\\\e")"));
 }
 
 } // namespace

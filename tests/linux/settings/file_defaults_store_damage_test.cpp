@@ -1,9 +1,7 @@
 #include "linux/settings/file_defaults_store.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <csignal>
-#include <filesystem>
 #include <functional>
 
 #include <sys/resource.h>
@@ -45,13 +43,8 @@ TEST_F(FileDefaultsStoreTest, DamagedFileIsSetAsideBeforeItIsReplaced) {
         QByteArray bytes;
         bool copied = true;
     } damages[] = {
-        {"torn", "{\"key\": 1, \"oth"},
-        {"array", "[1,2]"},
-        {"binary", QByteArray("\0\xff\xfe\x01{}", 6)},
-        {"number beyond range", "{\"key\":1e999}"},
-        {"trailing", "{\"key\":1}}"},
-        {"deep", QByteArray(100'000, '[')},
-        {"oversized", "{\"key\":1}" + QByteArray(1 << 20, ' ')},
+        {"torn", "{\"key\": 1, \"oth"}, {"binary", QByteArray("\0\xff\xfe\x01{}", 6)},
+        {"trailing", "{\"key\":1}}"},   {"oversized", "{\"key\":1}" + QByteArray(1 << 20, ' ')},
         {"empty", "", false},
     };
     for (const auto& damage : damages) {
@@ -108,7 +101,6 @@ TEST_F(FileDefaultsStoreTest, BlockedPathIsLeftAlone) {
     } obstacles[] = {
         {"pipe", [&] { return ::mkfifo(path.constData(), 0600); }},
         {"folder", [&] { return ::mkdir(path.constData(), 0700); }},
-        {"link to a folder", [&] { return ::symlink(".", path.constData()); }},
         {"link to itself", [&] { return ::symlink("settings.json", path.constData()); }},
     };
     for (const auto& obstacle : obstacles) {
@@ -126,33 +118,6 @@ TEST_F(FileDefaultsStoreTest, BlockedPathIsLeftAlone) {
         EXPECT_FALSE(QFileInfo(path_).isFile());
         ASSERT_EQ(std::remove(path.constData()), 0);
     }
-}
-
-TEST_F(FileDefaultsStoreTest, UnreadableFileIsReadOnceItCanBeAndElseSetAside) {
-    const OrdinaryUser user(folder_.path());
-    write("{\"key\":1}");
-    setMode(path_, 0);
-    {
-        FileDefaultsStore store(path_);
-        setMode(path_, 0600);
-        EXPECT_TRUE(spinUntil([&] { return store.value(key) == QVariant(1.0); }));
-    }
-    setMode(path_, 0);
-    FileDefaultsStore store(path_);
-    EXPECT_FALSE(store.value(key).isValid());
-    store.setValue(other, 2.0);
-    store.flush();
-    EXPECT_EQ(object(), parsed("{\"other\":2}"));
-    setMode(at("settings.json.damaged"), 0600);
-    EXPECT_EQ(read(at("settings.json.damaged")), "{\"key\":1}");
-}
-
-TEST_F(FileDefaultsStoreTest, ReplacesNothingButAFile) {
-    ASSERT_EQ(::mkfifo(QFile::encodeName(path_).constData(), 0600), 0);
-    for (bool keepsOld : {false, true})
-        EXPECT_EQ(replaceFile(path_, "{}", {0600, keepsOld}).error, EEXIST);
-    EXPECT_TRUE(std::filesystem::is_fifo(path_.toStdString()));
-    EXPECT_EQ(names(folder_.path()).size(), 1);
 }
 
 TEST_F(FileDefaultsStoreTest, ReadOnlyFileAndFolderStayAsTheyAre) {
@@ -183,24 +148,15 @@ TEST_F(FileDefaultsStoreTest, FullDiskLosesNothing) {
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     const rlimit full{4096, before.rlim_max};
-    const auto flushToAFullDisk = [&] {
-        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
-        store.flush();
-        ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    };
     const QVariant large = QString(10'000, u'x');
     store.setValue(other, large);
-    flushToAFullDisk();
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
+    store.flush();
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
     EXPECT_EQ(read(path_), "{\"key\":1}");
     EXPECT_EQ(names(folder_.path()), QStringList{text("settings.json")}) << "no half-written file is left";
     EXPECT_EQ(store.value(other), large);
-
-    put(path_, "torn");
-    flushToAFullDisk();
-    EXPECT_EQ(read(path_), "torn") << "set aside only when there is something to put in its place";
-    store.setValue(key, 2.0);
     store.flush();
-    EXPECT_EQ(object().value(key).toInt(), 2);
     EXPECT_EQ(object().value(other).toString(), large.toString());
 }
 

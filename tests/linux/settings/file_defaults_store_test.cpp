@@ -5,7 +5,6 @@
 #include <QFileInfo>
 #include <QJsonArray>
 
-#include "linux/services/linux_widget_center.h"
 #include "linux/settings/settings_folder.h"
 
 namespace vantrix {
@@ -37,6 +36,7 @@ TEST_F(FileDefaultsStoreTest, KeepsValuesOfEachKind) {
     EXPECT_EQ(modeOf(nested), 0600u);
     EXPECT_EQ(modeOf(at("deep/down")), 0700u);
 }
+
 TEST_F(FileDefaultsStoreTest, WritesByItselfOnceAndIsNotItsOwnOutsider) {
     write("{\"list\":[1,{\"a\":null}],\"key\":1,\"nothing\":null}");
     setMode(path_, 0644);
@@ -71,11 +71,6 @@ TEST_F(FileDefaultsStoreTest, SeesEveryWayInWhichPeopleAndTheirToolsEdit) {
         {"moved to a backup first",
          [&](const QByteArray& json) {
              rename(path_, at("settings.json~"));
-             write(json);
-         }},
-        {"deleted and made anew",
-         [&](const QByteArray& json) {
-             QFile::remove(path_);
              write(json);
          }},
         {"becomes a link",
@@ -162,33 +157,6 @@ TEST_F(FileDefaultsStoreTest, LastWriteDoesNotCallADyingOwner) {
     }
     EXPECT_EQ(announced, 0);
     EXPECT_EQ(object().value(other).toInt(), 1);
-}
-
-TEST(FileDefaultsPaths, FollowTheBaseFolders) {
-    QTemporaryDir runtime;
-    const QByteArray folder = QFile::encodeName(runtime.path());
-    const struct {
-        const char* name;
-        QByteArray config, state, runtime, settings, widgets;
-    } rows[] = {
-        {"all set", "/c", "/s", folder, "/c/vantrix/settings.json", folder + "/vantrix/defaults.json"},
-        {"unset", "", "", "", "/h/.config/vantrix/settings.json", "/h/.local/state/vantrix/defaults.json"},
-        {"relative", "c", "s", "r", "/h/.config/vantrix/settings.json", "/h/.local/state/vantrix/defaults.json"},
-        {"runtime folder gone", "/c", "/s", "/nowhere", "/c/vantrix/settings.json", "/s/vantrix/defaults.json"},
-    };
-    const char* const variables[] = {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR"};
-    QList<QByteArray> before;
-    for (const char* variable : variables)
-        before.append(qgetenv(variable));
-    for (const auto& row : rows) {
-        const QByteArray values[] = {"/h", row.config, row.state, row.runtime};
-        for (int i = 0; i < 4; ++i)
-            values[i].isEmpty() ? qunsetenv(variables[i]) : qputenv(variables[i], values[i]);
-        EXPECT_EQ(FileDefaultsStore::settingsPath().toUtf8(), row.settings) << row.name;
-        EXPECT_EQ(widgetStorePath().toUtf8(), row.widgets) << row.name;
-    }
-    for (int i = 0; i < 4; ++i)
-        before[i].isNull() ? qunsetenv(variables[i]) : qputenv(variables[i], before[i]);
 }
 
 } // namespace
