@@ -40,10 +40,7 @@ TEST(BusAnswers, TellsDaemonsThatWorkFromThoseThatDoNot) {
     EXPECT_TRUE(busAnswers(bus.address() + u";unix:path=/nowhere"_s, std::chrono::seconds(10)));
     EXPECT_FALSE(busAnswers(mute.address(), patience));
     EXPECT_FALSE(busAnswers(u"unix:path=/nowhere/bus"_s, patience));
-    EXPECT_FALSE(busAnswers(u"unix:abstract=/vantrix/nobody,guid=1"_s, patience));
     EXPECT_TRUE(busAnswers(u"tcp:host=localhost,port=1"_s, patience)); // not ours to judge
-    EXPECT_TRUE(busAnswers(u"unix:path="_s + QString(200, u'x'), patience));
-    EXPECT_TRUE(busAnswers(QString(), patience));
 }
 
 /// The toolkit would wait for it for ever, and every other connection with it.

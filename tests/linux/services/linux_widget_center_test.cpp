@@ -46,15 +46,6 @@ TEST_F(LinuxWidgetCenterTest, ReplacesAPrivateFile) {
     EXPECT_EQ(names(at("run/vantrix")), QStringList{u"defaults.json"_s});
 }
 
-TEST_F(LinuxWidgetCenterTest, FailsWithoutATrace) {
-    put(at("run"), "a file in the place of the folder");
-    center.store("sharedStats", "1");
-    ASSERT_TRUE(QFile::remove(at("run")));
-    ASSERT_TRUE(QDir().mkpath(file));
-    center.store("sharedStats", "1");
-    EXPECT_EQ(names(at("run/vantrix")), QStringList{u"defaults.json"_s});
-}
-
 TEST_F(LinuxWidgetCenterTest, ReadersNeverSeeAMixture) {
     const std::string values[] = {'"' + std::string(100'000, 'a') + '"', '"' + std::string(50'000, 'b') + '"'};
     center.store("k", values[0]);
