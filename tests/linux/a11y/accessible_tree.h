@@ -19,8 +19,6 @@ struct AccessibleValue {
     double current = 0.0;
     double least = 0.0;
     double most = 0.0;
-
-    bool operator==(const AccessibleValue&) const = default;
 };
 
 /// One thing in the tree that assistive programs read.
