@@ -57,12 +57,6 @@ TEST_F(StripOnScreen, KeepsThePlaceItWasDraggedTo) {
     EXPECT_TRUE(spinUntil([&] { return place() == dropped; }));
 }
 
-TEST_F(StripOnScreen, ComesBackFromBeyondTheEdge) {
-    show();
-    drag({5000, -700});
-    EXPECT_TRUE(spinUntil([&] { return place().topRight() == area().topRight(); }));
-}
-
 TEST_F(StripOnScreen, StaysOnAScreenSmallerThanTheRememberedPlace) {
     kept.defaults.set(QStringLiteral("statusStripX"), -90000.0);
     kept.defaults.set(QStringLiteral("statusStripY"), 90000.0);

@@ -51,17 +51,5 @@ TEST_F(PopoverOnScreen, OnlyAClickOutsideClosesIt) {
     EXPECT_TRUE(spinUntil([&] { return !mouse.isMapped(window); }));
 }
 
-TEST_F(PopoverOnScreen, StaysWhileAMenuOfItsOwnIsOpen) {
-    QMenu menu;
-    menu.addAction(QStringLiteral("Settings"));
-    menu.popup(view->mapToGlobal(QPoint(10, 10)));
-    ASSERT_TRUE(spinUntil([&] { return mouse.isMapped(static_cast<xcb_window_t>(menu.winId())); }));
-    EXPECT_TRUE(host.isShown());
-    menu.close();
-    QApplication::processEvents();
-    EXPECT_TRUE(host.isShown());
-    EXPECT_EQ(QApplication::activePopupWidget(), view->window());
-}
-
 } // namespace
 } // namespace vantrix

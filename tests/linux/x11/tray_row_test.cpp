@@ -114,7 +114,6 @@ TEST_F(TrayRow, PassesClicksOnWhenTheButtonIsReleased) {
         StatusClick::Button expected;
     } table[] = {
         {"left", 1, 0, StatusClick::Button::left},
-        {"middle", 2, 0, StatusClick::Button::middle},
         {"right", 3, 0, StatusClick::Button::right},
         {"left with Control", 1, XCB_MOD_MASK_CONTROL, StatusClick::Button::left},
     };
@@ -139,7 +138,6 @@ TEST_F(TrayRow, TakesItsColoursFromThePanel) {
         std::optional<QColor> text;
         QColor expected;
     } table[] = {
-        {"dark panel", QColor(30, 30, 30), {}, Qt::white},
         {"light panel", QColor(235, 235, 235), {}, QColor(40, 40, 40)},
         {"told", Qt::black, QColor(0, 230, 120), QColor(0, 230, 120)},
         {"told, but not readable on this panel", QColor(240, 240, 240), QColor(255, 255, 255), QColor(40, 40, 40)},
