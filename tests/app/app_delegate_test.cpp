@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
-#include <QKeyEvent>
 #include <QMenu>
 
 #include <gmock/gmock.h>
@@ -14,7 +13,6 @@
 #include "fakes/fake_sources.h"
 #include "fakes/fake_widget_center.h"
 #include "popover/popover_host.h"
-#include "settings/controls/push_button.h"
 #include "settings/settings_view.h"
 
 namespace vantrix {
@@ -109,14 +107,6 @@ TEST_F(AppDelegateTest, LeavesItsMenuToASystemThatDrawsMenus) {
     EXPECT_EQ(item->menus, 1);
 }
 
-TEST_F(AppDelegateTest, TheMenuObeysItsShortcuts) {
-    click(Button::right);
-    QKeyEvent comma(QEvent::KeyPress, Qt::Key_Comma, Qt::ControlModifier);
-    QApplication::sendEvent(QApplication::activePopupWidget(), &comma);
-    EXPECT_NE(settings(), nullptr);
-    EXPECT_FALSE(menuIsOpen());
-}
-
 TEST_F(AppDelegateTest, TheRowShowsFromLaunchAndFollowsTheSettingsAtOnce) {
     ASSERT_FALSE(item->shown.empty());
     EXPECT_EQ(item->shown.back().accessibilityLabel, "CPU 0%, RAM 50%");
@@ -145,16 +135,6 @@ TEST_F(AppDelegateTest, EachPassGoesToTheStatusItemThenTheAlertsThenTheWidgets) 
     while (order.size() < 3 && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
     EXPECT_EQ(order, (std::vector<std::string>{"status item", "alert", "widget"}));
-}
-
-TEST_F(AppDelegateTest, TheSettingsSendATestNotification) {
-    delegate.handleRequest("show-settings alerts");
-    for (auto* button : settings()->findChildren<PushButton*>())
-        if (button->text() == u"Send test notification")
-            button->click();
-    ASSERT_EQ(notifications->requests.size(), 1u);
-    notifications->requests[0](true);
-    EXPECT_EQ(notifications->posts.size(), 1u);
 }
 
 TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {

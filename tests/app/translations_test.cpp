@@ -50,15 +50,6 @@ TEST_F(TranslationsTest, PluralsFollowTheLanguage) {
     }
 }
 
-TEST_F(TranslationsTest, NumbersFollowTheLocale) {
-    const std::pair<const char*, const char*> rows[] = {
-        {"it_IT", "1,5"}, {"de_CH", "1.5"}, {"pt_BR", "1,5"}, {"ar_EG", "1.5"}}; // the last in English words
-    for (const auto& [locale, number] : rows) {
-        installTranslations(QLocale(QLatin1StringView(locale)));
-        EXPECT_EQ(QLocale().toString(1.5).toStdString(), number) << locale;
-    }
-}
-
 TEST_F(TranslationsTest, AnEnglishInterfaceIsLaidOutFromTheLeftUnlessAskedOtherwise) {
     installTranslations(QLocale(u"ar_EG"_s));
     EXPECT_EQ(QGuiApplication::layoutDirection(), Qt::LeftToRight);
