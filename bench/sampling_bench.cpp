@@ -8,36 +8,24 @@
 #include "bare_reading.h"
 #include "fakes/fixture_machine.h"
 #include "library_readings.h"
-#include "platform/sampling_sources.h"
-#include "sensors/sensors_sampler.h"
+#include "monitor/samplers.h"
 
 namespace {
 
 using namespace vantrix;
 
-/// Every sampler over one machine's kernel.
-struct Pass {
-    explicit Pass(const KernelRoots& roots = {}) : sources(makeSamplingSources(roots)) {}
-
-    SamplingSources sources;
-    CPUSampler cpu{*sources.cpu};
-    MemorySampler memory{*sources.memory};
-    NetworkSampler network{*sources.network, *sources.clock};
-    NetworkInfoSampler networkInfo{*sources.networkInfo};
-    DiskSampler disk{*sources.disks, *sources.volume, *sources.clock};
-    GPUSampler gpu{*sources.gpu};
-    SensorsSampler sensors{sources.sensorKeys.get(), sources.temperatures.get(), sources.energy.get(), *sources.clock};
-    BatterySampler battery{*sources.battery};
+struct Pass : Samplers {
+    explicit Pass(const KernelRoots& roots = {}) : Samplers(makeSamplingSources(roots)) {}
 
     void run() {
         benchmark::DoNotOptimize(cpu.sample());
         benchmark::DoNotOptimize(memory.sample());
         benchmark::DoNotOptimize(network.sample());
-        benchmark::DoNotOptimize(networkInfo.sample(true, LocationAccess::authorizedAlways));
+        benchmark::DoNotOptimize(networkInfo->sample(true, LocationAccess::authorizedAlways));
         benchmark::DoNotOptimize(disk.sample());
-        benchmark::DoNotOptimize(gpu.sample());
+        benchmark::DoNotOptimize(gpu->sample());
         benchmark::DoNotOptimize(sensors.sample());
-        benchmark::DoNotOptimize(battery.sample());
+        benchmark::DoNotOptimize(battery->sample());
     }
 };
 

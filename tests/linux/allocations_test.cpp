@@ -5,10 +5,10 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fixture_machine.h"
-#include "linux/all_samplers.h"
 #include "linux/graphics/linux_gpu_source.h"
 #include "linux/sensors/linux_sensor_keys.h"
 #include "linux/sensors/linux_temperatures.h"
+#include "monitor/samplers.h"
 #include "samplers/fake_clock.h"
 
 namespace {
@@ -53,17 +53,17 @@ int allocationsDuring(Work work) {
 }
 
 int allocationsAfterSecondPass(const KernelRoots& roots) {
-    AllSamplers samplers(roots);
+    Samplers samplers(makeSamplingSources(roots));
     const auto passes = [&](int count) {
         for (; count > 0; --count) {
-            samplers.networkInfo.sample(true, 3);
+            samplers.networkInfo->sample(true, 3);
             samplers.cpu.sample();
             samplers.memory.sample();
             samplers.network.sample();
             samplers.disk.sample();
-            samplers.gpu.sample();
+            samplers.gpu->sample();
             samplers.sensors.sample();
-            samplers.battery.sample();
+            samplers.battery->sample();
         }
     };
     EXPECT_GT(allocationsDuring([&] { passes(2); }), 0); // else nothing is counted at all

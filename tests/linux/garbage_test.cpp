@@ -5,13 +5,13 @@
 
 #include "accessories/reported_devices.h"
 #include "fakes/fixture_machine.h"
-#include "linux/all_samplers.h"
 #include "linux/network/link_messages.h"
 #include "linux/network/proc_net_route.h"
 #include "linux/network/route_messages.h"
 #include "linux/power_supply/power_supply_accessories.h"
 #include "linux/processor/cpu_topology.h"
 #include "linux/processor/processor_brand.h"
+#include "monitor/samplers.h"
 
 namespace vantrix {
 namespace {
@@ -91,14 +91,14 @@ bool isTemperature(double value) {
 
 /// One pass of all. The samplers end the program on sums past 64 bits, so no file may make a source hand out such
 /// numbers.
-void expectPlausible(AllSamplers& samplers) {
+void expectPlausible(Samplers& samplers) {
     const CPUSample* cpu = samplers.cpu.sample();
     EXPECT_TRUE(isFraction(cpu ? cpu->total : 0.0)) << cpu->total;
     EXPECT_TRUE(isFraction(usedFraction(samplers.memory.sample().value_or(MemorySample()))));
     samplers.network.sample();
     samplers.disk.sample();
-    EXPECT_TRUE(isFraction(samplers.gpu.sample().value_or(0.0)));
-    const BatterySample battery = samplers.battery.sample().value_or(BatterySample());
+    EXPECT_TRUE(isFraction(samplers.gpu->sample().value_or(0.0)));
+    const BatterySample battery = samplers.battery->sample().value_or(BatterySample());
     EXPECT_TRUE(battery.percent >= 0 && battery.percent <= 100) << battery.percent;
     EXPECT_LT(battery.watts.value_or(0.0), 400.0);
     EXPECT_LE(battery.temperature.value_or(0.0), 150.0);
@@ -126,10 +126,10 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
     Mutator mutator;
     for (const auto& row : rows) {
         const fakes::FixtureMachine machine(row.machine);
-        AllSamplers samplers(machine.roots());
+        Samplers samplers(makeSamplingSources(machine.roots()));
         const SensorsSample sensors = samplers.sensors.sample();
         EXPECT_EQ(sensors.all.size(), row.sensors);
-        const auto battery = samplers.battery.sample();
+        const auto battery = samplers.battery->sample();
         const auto memory = samplers.memory.sample();
         EXPECT_TRUE(memory.has_value());
         for (const std::string& file : machine.files()) {
@@ -140,7 +140,7 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
                 expectPlausible(samplers);
                 if (i >= 3)
                     continue;
-                AllSamplers fresh(machine.roots());
+                Samplers fresh(makeSamplingSources(machine.roots()));
                 expectPlausible(fresh);
             }
             machine.write(file, text);
@@ -148,7 +148,7 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
         for (int pass = 0; pass < 60; ++pass)
             expectPlausible(samplers);
         EXPECT_EQ(samplers.sensors.sample().all, sensors.all);
-        EXPECT_EQ(samplers.battery.sample(), battery);
+        EXPECT_EQ(samplers.battery->sample(), battery);
         EXPECT_EQ(samplers.memory.sample(), memory);
         EXPECT_NE(samplers.cpu.sample(), nullptr);
     }

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "fakes/fixture_machine.h"
-#include "linux/all_samplers.h"
+#include "monitor/samplers.h"
 #include "samplers/processor_description.h"
 
 namespace vantrix {
@@ -113,17 +113,17 @@ TEST(Machines, ReadAsTheyAre) {
 TEST(Machines, TwoPacksAreOneBattery) {
     const fakes::FixtureMachine machine("two-packs-and-accessories");
     // 20 Wh of 20, and 2 Ah of 5 at 11.1 V; 11.4 W flow.
-    EXPECT_EQ(AllSamplers(machine.roots()).battery.sample(),
+    EXPECT_EQ(Samplers(makeSamplingSources(machine.roots())).battery->sample(),
               (BatterySample{56, false, false, 222, 312, 83, 31.2, 11.4}));
 }
 
 TEST(Machines, SleepingGPUCountsAsIdle) {
     const fakes::FixtureMachine machine("gpu-asleep-beside-another");
-    EXPECT_EQ(AllSamplers(machine.roots()).gpu.sample(), 0.35);
+    EXPECT_EQ(Samplers(makeSamplingSources(machine.roots())).gpu->sample(), 0.35);
 }
 
 TEST(ThisMachine, AnswersWhatEveryMachineDoes) {
-    AllSamplers samplers({});
+    Samplers samplers(makeSamplingSources({}));
     ASSERT_NE(samplers.cpu.sample(), nullptr);
     EXPECT_GE(samplers.cpu.sample()->perCore.size(), 1u);
     EXPECT_TRUE(samplers.network.sample().has_value());
@@ -134,15 +134,15 @@ TEST(ThisMachine, AnswersWhatEveryMachineDoes) {
 }
 
 TEST(MissingMachine, IsAbsentThroughout) {
-    AllSamplers samplers({"/nonexistent/proc", "/nonexistent/sys"});
+    Samplers samplers(makeSamplingSources({"/nonexistent/proc", "/nonexistent/sys"}));
     EXPECT_EQ(samplers.cpu.sample(), nullptr);
     EXPECT_FALSE(samplers.memory.sample());
     EXPECT_FALSE(samplers.network.sample());
     EXPECT_TRUE(samplers.sources.volume->read()); // "/" is always there
     std::vector<DiskSampler::Counters> disks;
     EXPECT_FALSE(samplers.sources.disks->read(disks));
-    EXPECT_FALSE(samplers.gpu.sample());
-    EXPECT_FALSE(samplers.battery.sample());
+    EXPECT_FALSE(samplers.gpu->sample());
+    EXPECT_FALSE(samplers.battery->sample());
     EXPECT_TRUE(samplers.sensors.sample().all.empty());
     EXPECT_TRUE(samplers.sources.accessories->scan().accessories.empty());
     EXPECT_EQ(samplers.sources.information->integer("hw.logicalcpu"), std::nullopt);

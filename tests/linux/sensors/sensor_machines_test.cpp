@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fixture_machine.h"
-#include "linux/all_samplers.h"
+#include "monitor/samplers.h"
 
 namespace vantrix {
 namespace {
@@ -40,7 +40,7 @@ TEST(SensorMachines, ReadAsTheyAre) {
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         const fakes::FixtureMachine machine(row.name);
-        SensorsSample sample = AllSamplers(machine.roots()).sensors.sample();
+        SensorsSample sample = Samplers(makeSamplingSources(machine.roots())).sensors.sample();
         EXPECT_EQ(sample.all.size(), row.sensors);
         sample.all.resize(std::min<std::size_t>(sample.all.size(), 1));
         EXPECT_DOUBLE_EQ(sample.cpu.value_or(0.0), row.sample.cpu.value_or(0.0));
