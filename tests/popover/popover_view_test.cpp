@@ -97,14 +97,26 @@ TEST_F(PopoverViewTest, PlacesTheChosenCardsInTheirFixedOrder) {
     }
 }
 
+/// Counts the calls that an object has had posted.
+struct CallCounter : QObject {
+    int count = 0;
+    bool eventFilter(QObject*, QEvent* event) override {
+        count += event->type() == QEvent::MetaCall ? 1 : 0;
+        return false;
+    }
+};
+
 TEST_F(PopoverViewTest, FollowsTheMonitorOnlyWhileItIsOpen) {
     const auto open = makeView();
     const auto closed = makeView();
     for (const auto& view : {open.get(), closed.get()})
         view->show();
     closed->hide();
+    CallCounter calls;
+    closed->installEventFilter(&calls);
     monitor.loadDemo();
     settle();
+    EXPECT_EQ(calls.count, 0); // it is told of nothing
     EXPECT_THAT(textsOf(*open), Contains("User: 25%"));
     EXPECT_EQ(open->shownCards().size(), popoverCards.size());
     EXPECT_THAT(textsOf(*closed), Not(Contains("User: 25%")));

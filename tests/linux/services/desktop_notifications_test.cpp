@@ -119,6 +119,20 @@ TEST_F(DesktopNotificationsTest, SurvivesAServiceThatDiesUnanswered) {
     EXPECT_EQ(replacedBy(successor.asked[0]), 0U);
 }
 
+TEST_F(DesktopNotificationsTest, TakesNoIdFromAServiceThatHasResigned) {
+    FakeNotificationService former(bus.address(), 99);
+    former.hangs = true;
+    post(u"a"_s);
+    ASSERT_TRUE(gets(former, 1));
+    former.resign();
+    FakeNotificationService successor(bus.address());
+    EXPECT_EQ(authorization(center), true); // by now it knows of the successor
+    post(u"a"_s);
+    former.answer(former.asked[0]);
+    ASSERT_TRUE(gets(successor, 1));
+    EXPECT_EQ(replacedBy(successor.asked[0]), 0U);
+}
+
 TEST_F(DesktopNotificationsTest, IsAuthorizedWhereThereIsAService) {
     EXPECT_EQ(authorization(center), false) << "nobody shows notifications";
     {
