@@ -97,7 +97,7 @@ TEST_F(LinuxNetworkInfoTest, FollowsTheTreesOfAnotherMachine) {
     EXPECT_EQ(NetworkInfoSampler(*gone.networkInfo).sample(true, 3), NetworkInfo());
 }
 
-/// Routes that cannot be asked for now; `news` counts how often they were told of before.
+/// Routes that cannot be asked; `news` counts how often they were told of before.
 struct FailingRoutes : DefaultRoutes {
     std::uint64_t news;
 
