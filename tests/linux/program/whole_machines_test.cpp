@@ -1,0 +1,186 @@
+// Whole kernel trees, printed by the program as it is run, beside what the common tools make of the same text.
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <map>
+#include <sstream>
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+
+#include <gmock/gmock.h>
+
+#include "fakes/fixture_machine.h"
+
+namespace vantrix {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// What a person knows of a machine by looking into it.
+struct Machine {
+    const char* name;
+    std::vector<std::string> ports; ///< sockets and antennas
+    std::vector<std::string> disks;
+    std::vector<std::string> packages{}; ///< files of its processors' temperatures
+    std::vector<std::string> packs{};    ///< folders of its battery's
+};
+
+const Machine machines[] = {
+    {"cloud-machine", {"eth0"}, {"vda"}},
+    {"laptop-with-two-packs", {"wlp3s0"}, {"nvme0n1"}},
+    {"amd-desktop", {"enp5s0"}, {"nvme0n1", "sda"}},
+    {"arm-board", {"end0", "wlan0"}, {"mmcblk0"}},
+    {"two-socket-server", {"eno1", "eno2"}, {"sda", "sdb"}},
+    {"immutable-system", {"wlp2s0"}, {"nvme0n1"}},
+    {"zfs-host", {"enp1s0f0"}, {"sda", "sdb"}},
+};
+
+std::vector<std::string> wordsOf(const std::string& line) {
+    std::istringstream stream(line);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
+/// The number in a column of the line that begins with `name`; 0 without such a line.
+double number(const std::string& text, const std::string& name, std::size_t column = 1) {
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);) {
+        const auto words = wordsOf(line);
+        if (!words.empty() && words.front() == name)
+            return std::stod(words.at(column));
+    }
+    return 0.0;
+}
+
+/// The kernel's trees of a machine that works.
+class WorkingMachine : public fakes::FixtureMachine {
+  public:
+    using Columns = std::map<std::size_t, std::uint64_t>;
+    static constexpr double received = 6e9; // bytes through each port: more than 32 bits hold
+    static constexpr double sent = 4e7;
+    static constexpr double sectorsRead = 600'000; // by each disk
+    static constexpr double sectorsWritten = 200'000;
+
+    explicit WorkingMachine(const Machine& machine) : FixtureMachine(machine.name), machine_(machine) {}
+
+    void work() const {
+        for (const std::string& port : machine_.ports)
+            grow("proc/net/dev", port + ':', {{1, received}, {9, sent}});
+        for (const std::string& disk : machine_.disks)
+            grow("proc/diskstats", disk, {{5, sectorsRead}, {9, sectorsWritten}});
+        // user, nice, system, idle, waiting for a disk: 60 of 100 ticks were work
+        grow("proc/stat", "cpu", {{1, 35}, {2, 5}, {3, 20}, {4, 30}, {5, 10}});
+    }
+
+  private:
+    /// Adds to columns of the lines with a word that begins with `name`: a disk's partitions work along with it.
+    void grow(const std::string& file, const std::string& name, const Columns& columns) const {
+        std::istringstream lines(read(file));
+        std::string grown;
+        for (std::string line; std::getline(lines, line); grown += line + '\n') {
+            auto words = wordsOf(line);
+            if (std::none_of(words.begin(), words.end(), [&](const auto& word) { return word.starts_with(name); }))
+                continue;
+            for (const auto& [column, amount] : columns)
+                words.at(column) = std::to_string(std::stoull(words.at(column)) + amount);
+            line = words.front();
+            for (auto word = words.begin() + 1; word != words.end(); ++word)
+                line += ' ' + *word;
+        }
+        write(file, grown);
+    }
+
+    const Machine& machine_;
+};
+
+/// The second line that the program prints of a machine that worked since the first.
+QJsonObject printed(const WorkingMachine& machine) {
+    QProcess program;
+    program.start(QStringLiteral(VANTRIX_PROGRAM),
+                  {u"--print"_s, u"json"_s, u"--interval"_s, u"0.5"_s, u"--count"_s, u"2"_s, u"--proc-root"_s,
+                   QString::fromStdString(machine.path("proc")), u"--sys-root"_s,
+                   QString::fromStdString(machine.path("sys"))});
+    const auto nextLine = [&] {
+        while (!program.canReadLine() && program.waitForReadyRead()) {
+        }
+        return QJsonDocument::fromJson(program.readLine()).object();
+    };
+    EXPECT_FALSE(nextLine().isEmpty());
+    machine.work();
+    const QJsonObject line = nextLine();
+    EXPECT_TRUE(program.waitForFinished());
+    return line;
+}
+
+/// As free(1) and htop tell it; a cache that is not the kernel's own page cache counts as free as well.
+void expectMemory(const WorkingMachine& machine, const QJsonValue& memory) {
+    const std::string info = machine.read("proc/meminfo");
+    const std::string arc = machine.read("proc/spl/kstat/zfs/arcstats");
+    const double total = number(info, "MemTotal:");
+    const double used = total - number(info, "MemFree:") - number(info, "Buffers:") - number(info, "Cached:") -
+                        number(info, "SReclaimable:") + number(info, "Shmem:") -
+                        (number(arc, "size", 2) - number(arc, "c_min", 2)) / 1024;
+    EXPECT_EQ(memory[u"total"].toDouble(), total * 1024);
+    EXPECT_NEAR((memory[u"app"].toDouble() + memory[u"wired"].toDouble() + memory[u"compressed"].toDouble()) / 1024,
+                used, total * 0.005);
+    EXPECT_EQ(memory[u"swapUsed"].toDouble(), (number(info, "SwapTotal:") - number(info, "SwapFree:")) * 1024);
+    EXPECT_EQ(memory[u"pressure"].toString(), u"normal");
+}
+
+/// As top, ip -s link and iostat tell it. The bytes sent tell how much time went by between the lines.
+void expectRates(const Machine& machine, const QJsonObject& line) {
+    const auto ports = static_cast<double>(machine.ports.size());
+    const auto disks = static_cast<double>(machine.disks.size());
+    EXPECT_NEAR(line[u"cpu"][u"total"].toDouble(), 0.6, 1e-9);
+    const double seconds = WorkingMachine::sent * ports / line[u"network"][u"upload"].toDouble();
+    EXPECT_GT(seconds, 0.4);
+    EXPECT_NEAR(line[u"network"][u"download"].toDouble() * seconds, WorkingMachine::received * ports, 1.0);
+    const double read = WorkingMachine::sectorsRead * 512 * disks;
+    EXPECT_NEAR(line[u"disk"][u"readRate"].toDouble() * seconds, read, read * 0.05);
+    EXPECT_NEAR(line[u"disk"][u"writeRate"].toDouble() / line[u"disk"][u"readRate"].toDouble(), 1.0 / 3.0, 1e-9);
+}
+
+/// As sensors(1) tells it; of several processors the mean.
+void expectTemperature(const WorkingMachine& machine, const Machine& known, const QJsonValue& sensors) {
+    double sum = 0.0;
+    for (const std::string& package : known.packages)
+        sum += std::stod(machine.read(package)) / 1000;
+    const auto count = static_cast<double>(known.packages.size());
+    EXPECT_NEAR(sensors[u"cpu"].toDouble(-1.0), known.packages.empty() ? -1.0 : sum / count, 1e-9);
+}
+
+/// As upower -d tells it of the display device.
+void expectBattery(const WorkingMachine& machine, const Machine& known, const QJsonValue& battery) {
+    double now = 0.0;
+    double full = 0.0;
+    double design = 0.0;
+    double power = 0.0;
+    for (const std::string& pack : known.packs) {
+        std::string text = machine.read(pack + "/uevent");
+        std::replace(text.begin(), text.end(), '=', ' ');
+        now += number(text, "POWER_SUPPLY_ENERGY_NOW");
+        full += number(text, "POWER_SUPPLY_ENERGY_FULL");
+        design += number(text, "POWER_SUPPLY_ENERGY_FULL_DESIGN");
+        power += number(text, "POWER_SUPPLY_POWER_NOW");
+    }
+    EXPECT_EQ(battery[u"percent"].toInt(-1), known.packs.empty() ? -1 : std::lround(now / full * 100));
+    EXPECT_EQ(battery[u"healthPercent"].toInt(-1), known.packs.empty() ? -1 : std::lround(full / design * 100));
+    EXPECT_NEAR(battery[u"watts"].toDouble(0.0), power / 1e6, 1e-6);
+}
+
+TEST(WholeMachines, PrintWhatTheCommonToolsTell) {
+    for (const Machine& known : machines) {
+        SCOPED_TRACE(known.name);
+        const WorkingMachine machine(known);
+        const QJsonObject line = printed(machine);
+        expectMemory(machine, line[u"memory"]);
+        expectRates(known, line);
+        expectTemperature(machine, known, line[u"sensors"]);
+        expectBattery(machine, known, line[u"battery"]);
+    }
+}
+
+} // namespace
+} // namespace vantrix
