@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick check-darwin check-debian bench format clean
+.PHONY: run build test test-asan check check-quick check-darwin check-debian bench ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -48,6 +48,11 @@ bench:
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
 	bench/run.sh build/bench
+
+# Wants a quiet machine, and for the network root.
+ground-truth: build
+	scripts/setup.sh truth
+	bench/ground_truth.py build/release/vantrix
 
 format:
 	scripts/setup.sh check

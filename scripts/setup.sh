@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs the packages that the named groups of work need and this machine lacks. Groups: build test check bench debian.
+# Installs the packages that the named groups of work need and this machine lacks. Groups: build test check bench truth debian.
 set -euo pipefail
 
 declare -A packages=(
@@ -7,6 +7,7 @@ declare -A packages=(
   [test]="libgtest-dev libgmock-dev at-spi2-core dbus xvfb xauth fonts-dejavu-core"
   [check]="clang clang-format clang-tidy git"
   [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb xauth"
+  [truth]="stress-ng iproute2 python3"
   [debian]="debootstrap git"
 )
 
