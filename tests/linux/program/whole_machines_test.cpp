@@ -30,12 +30,12 @@ struct Machine {
 
 const Machine machines[] = {
     {"cloud-machine", {"eth0"}, {"vda"}},
-    {"laptop-with-two-packs", {"wlp3s0"}, {"nvme0n1"}},
-    {"amd-desktop", {"enp5s0"}, {"nvme0n1", "sda"}},
-    {"arm-board", {"end0", "wlan0"}, {"mmcblk0"}},
-    {"two-socket-server", {"eno1", "eno2"}, {"sda", "sdb"}},
-    {"immutable-system", {"wlp2s0"}, {"nvme0n1"}},
-    {"zfs-host", {"enp1s0f0"}, {"sda", "sdb"}},
+    {"laptop-in-use", {"wlp3s0"}, {"nvme0n1"}},
+    {"amd-desktop-in-use", {"enp5s0"}, {"nvme0n1", "sda"}},
+    {"arm-board-in-use", {"end0", "wlan0"}, {"mmcblk0"}},
+    {"two-socket-server-in-use", {"eno1", "eno2"}, {"sda", "sdb"}},
+    {"immutable-system-in-use", {"wlp2s0"}, {"nvme0n1"}},
+    {"zfs-host-in-use", {"enp1s0f0"}, {"sda", "sdb"}},
 };
 
 std::vector<std::string> wordsOf(const std::string& line) {
