@@ -78,7 +78,7 @@ int allocationsAfterSecondPass(const KernelRoots& roots) {
 TEST(SamplingPass, AllocatesNothingAfterTheSecond) {
     EXPECT_EQ(allocationsAfterSecondPass({}), 0);
     for (const char* machine :
-         {"laptop-with-everything", "many-interfaces", "zram-in-use", "no-psi", "two-packs-and-accessories",
+         {"laptop-with-everything", "many-interfaces", "zram-in-use", "zfs-host", "no-psi", "two-packs-and-accessories",
           "gpu-asleep-beside-another", "desktop-resting-disk-sleeping-gpu", "board-with-thermal-zones-alone"})
         EXPECT_EQ(allocationsAfterSecondPass(fakes::FixtureMachine(machine).roots()), 0) << machine;
 }

@@ -120,6 +120,7 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
         int times;
         std::size_t sensors;
     } rows[] = {{"zram-in-use", 400, 0},
+                {"zfs-host", 30, 0},
                 {"two-packs-and-accessories", 100, 0},
                 {"gpu-asleep-beside-another", 100, 0},
                 {"laptop-many-sensors", 3, 35}};

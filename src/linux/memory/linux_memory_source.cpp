@@ -1,5 +1,7 @@
 #include "linux/memory/linux_memory_source.h"
 
+#include <algorithm>
+
 namespace vantrix {
 namespace {
 
@@ -7,42 +9,47 @@ std::uint64_t floorDifference(std::uint64_t a, std::uint64_t b) {
     return a > b ? a - b : 0;
 }
 
+std::uint64_t sharedMemory(const MemInfo& info) {
+    return info.shmem.value_or(0);
+}
+
+/// Anonymous and shared memory. What was read ahead from swap is on the lists of such memory, but counted only once a
+/// program touches it.
 std::uint64_t internalMemory(const MemInfo& info) {
-    return info.anonPages.value_or(0) + info.shmem.value_or(0);
-}
-
-/// Memory that cannot be evicted and is not anonymous. Locked anonymous pages are on neither the active nor the
-/// inactive list, but are counted as internal memory already.
-std::uint64_t lockedFileMemory(const MemInfo& info) {
-    const auto unevictable = info.unevictable.value_or(info.mlocked.value_or(0));
+    const auto counted = info.anonPages.value_or(0) + sharedMemory(info);
     const auto listed = info.activeAnon.value_or(0) + info.inactiveAnon.value_or(0);
-    const auto lockedAnonymous = floorDifference(internalMemory(info), listed);
-    return floorDifference(unevictable, lockedAnonymous);
+    return counted + std::min(info.swapCached.value_or(0), floorDifference(listed, counted));
 }
 
-std::uint64_t wiredMemory(const MemInfo& info) {
-    return info.sUnreclaim.value_or(0) + info.kernelStack.value_or(0) + info.pageTables.value_or(0) +
-           info.secPageTables.value_or(0) + info.percpu.value_or(0) + info.hugetlb.value_or(0) + lockedFileMemory(info);
+/// Contents of files and disks. Shared memory is counted with them, but cannot be dropped.
+std::uint64_t fileCache(const MemInfo& info) {
+    return info.buffers.value_or(0) + floorDifference(info.cached.value_or(0), sharedMemory(info));
 }
 
-std::uint64_t availableMemory(const MemInfo& info) {
-    if (info.memAvailable)
-        return *info.memAvailable;
-    // Memory in files counts as cached too, but cannot be dropped.
-    return info.memFree.value_or(0) + info.buffers.value_or(0) + info.sReclaimable.value_or(0) +
-           floorDifference(info.cached.value_or(0), info.shmem.value_or(0));
+/// Part of the file cache that cannot be dropped, because it is locked or has nowhere else to be. It is on the list of
+/// what cannot be evicted, together with locked anonymous memory, and on no list of files.
+std::uint64_t lockedFiles(const MemInfo& info) {
+    const auto listed = info.activeFile.value_or(0) + info.inactiveFile.value_or(0);
+    return std::min(info.unevictable.value_or(0), floorDifference(fileCache(info), listed));
+}
+
+std::uint64_t reclaimableKernelMemory(const MemInfo& info) {
+    return info.kReclaimable.value_or(info.sReclaimable.value_or(0));
+}
+
+/// Free memory, and what is dropped to make room.
+std::uint64_t droppableMemory(const MemInfo& info) {
+    return info.memFree.value_or(0) + fileCache(info) + reclaimableKernelMemory(info);
 }
 
 /// 1 normal, 2 warning, 4 critical. Stalls count only where memory is short as well: a group of processes that runs
 /// into its own limit stalls on a machine with plenty.
-std::int64_t pressureLevel(const MemInfo& info, const PressureStall& stall) {
+std::int64_t pressureLevel(const MemInfo& info, std::uint64_t available, const PressureStall& stall) {
     constexpr double longStall = 20.0;
-    const auto available = availableMemory(info) * 100;
-    const auto total = info.memTotal.value_or(0);
-    const bool isShort = available < total * 25;
-    if (available < total * 5 || (isShort && stall.full >= longStall))
+    const auto isBelow = [&](std::uint64_t percent) { return available * 100 < info.memTotal.value_or(0) * percent; };
+    if (isBelow(5) || (isBelow(25) && stall.full >= longStall))
         return 4;
-    if (available < total * 12 || (isShort && stall.some >= longStall))
+    if (isBelow(12) || (isBelow(25) && stall.some >= longStall))
         return 2;
     return 1;
 }
@@ -50,21 +57,31 @@ std::int64_t pressureLevel(const MemInfo& info, const PressureStall& stall) {
 } // namespace
 
 MemorySampler::Statistics memoryStatistics(const MemInfo& info, const std::optional<PressureStall>& stall,
-                                           std::uint64_t zramBytes) {
+                                           const UntoldMemory& untold) {
     MemorySampler::Statistics statistics;
     statistics.pageSize = 1024;
-    statistics.internalPageCount = internalMemory(info);
-    statistics.wireCount = wiredMemory(info);
-    statistics.compressorPageCount = info.zswap.value_or(0) + zramBytes / statistics.pageSize;
-    statistics.physicalMemory = info.memTotal.value_or(0) * statistics.pageSize;
+    const auto total = info.memTotal.value_or(0);
+    // In a container the counters may be partly its own and partly the machine's: no part is more than the whole.
+    auto rest = floorDifference(total, droppableMemory(info));
+    const auto take = [&rest](std::uint64_t part) {
+        const auto taken = std::min(part, rest);
+        rest -= taken;
+        return taken;
+    };
+    statistics.internalPageCount = take(internalMemory(info));
+    statistics.compressorPageCount = take(info.zswap.value_or(0) + untold.zram / statistics.pageSize);
+    const auto zfsCache = take(untold.zfsCache / statistics.pageSize);
+    statistics.wireCount = rest + lockedFiles(info);
+    statistics.physicalMemory = total * statistics.pageSize;
     if (info.swapTotal && info.swapFree)
         statistics.swapUsed = floorDifference(*info.swapTotal, *info.swapFree) * statistics.pageSize;
-    statistics.pressureLevel = pressureLevel(info, stall.value_or(PressureStall{}));
+    const auto available = info.memAvailable.value_or(droppableMemory(info));
+    statistics.pressureLevel = pressureLevel(info, available + zfsCache, stall.value_or(PressureStall{}));
     return statistics;
 }
 
 LinuxMemorySource::LinuxMemorySource(const std::string& proc, const std::string& sys)
-    : memory_(proc + "/meminfo"), pressure_(proc + "/pressure/memory"), zram_(sys) {}
+    : memory_(proc + "/meminfo"), pressure_(proc + "/pressure/memory"), zram_(sys), zfsCache_(proc) {}
 
 std::optional<MemorySampler::Statistics> LinuxMemorySource::read() {
     const auto text = memory_.read();
@@ -73,7 +90,8 @@ std::optional<MemorySampler::Statistics> LinuxMemorySource::read() {
         return std::nullopt;
     findZramAfterSwapChange(*info);
     const auto pressure = pressure_.read();
-    return memoryStatistics(*info, pressure ? parsePressure(*pressure) : std::nullopt, zram_.memoryUsed());
+    return memoryStatistics(*info, pressure ? parsePressure(*pressure) : std::nullopt,
+                            {zram_.memoryUsed(), zfsCache_.reclaimable()});
 }
 
 void LinuxMemorySource::findZramAfterSwapChange(const MemInfo& info) {

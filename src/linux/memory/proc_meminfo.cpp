@@ -19,22 +19,19 @@ constexpr Line lines[] = {
     {"MemAvailable", &MemInfo::memAvailable},
     {"Buffers", &MemInfo::buffers},
     {"Cached", &MemInfo::cached},
+    {"SwapCached", &MemInfo::swapCached},
     {"Active(anon)", &MemInfo::activeAnon},
     {"Inactive(anon)", &MemInfo::inactiveAnon},
+    {"Active(file)", &MemInfo::activeFile},
+    {"Inactive(file)", &MemInfo::inactiveFile},
     {"Unevictable", &MemInfo::unevictable},
-    {"Mlocked", &MemInfo::mlocked},
     {"SwapTotal", &MemInfo::swapTotal},
     {"SwapFree", &MemInfo::swapFree},
     {"Zswap", &MemInfo::zswap},
     {"AnonPages", &MemInfo::anonPages},
     {"Shmem", &MemInfo::shmem},
+    {"KReclaimable", &MemInfo::kReclaimable},
     {"SReclaimable", &MemInfo::sReclaimable},
-    {"SUnreclaim", &MemInfo::sUnreclaim},
-    {"KernelStack", &MemInfo::kernelStack},
-    {"PageTables", &MemInfo::pageTables},
-    {"SecPageTables", &MemInfo::secPageTables},
-    {"Percpu", &MemInfo::percpu},
-    {"Hugetlb", &MemInfo::hugetlb},
 };
 
 } // namespace
@@ -54,7 +51,7 @@ std::optional<MemInfo> parseMemInfo(std::string_view text) {
         if (value && *value <= largestMemory)
             info.*known->value = value;
     }
-    if (!text.empty() || info.memTotal.value_or(0) == 0)
+    if (!text.empty() || info.memTotal.value_or(0) == 0 || !info.memFree)
         return std::nullopt;
     return info;
 }

@@ -7,28 +7,29 @@
 namespace vantrix {
 namespace {
 
-TEST(ParseMemInfo, RefusesATextWithoutABelievableTotal) {
+TEST(ParseMemInfo, RefusesATextWithoutABelievableTotalAndFreeMemory) {
     const char* const texts[] = {
         "",
         "MemFree: 1 kB\n",
-        "MemTotal: 0 kB\n",
-        "MemTotal: 1125899906842625 kB\n", // past 2^50
-        "MemTotal: 100 kB\nMemFree: 1",
+        "MemTotal: 100 kB\n",
+        "MemFree: 1 kB\nMemTotal: 0 kB\n",
+        "MemFree: 1 kB\nMemTotal: 1125899906842625 kB\n", // past 2^50
+        "MemFree: 1 kB\nMemTotal: 100 kB\nCached: 1",
     };
     for (const char* text : texts)
         EXPECT_FALSE(parseMemInfo(text)) << text;
 }
 
 TEST(ParseMemInfo, TakesAnyOrderAndLeavesOutNonsense) {
-    const auto info = parseMemInfo("Hugetlb: 6 kB\nPercpu: 7777777777777777777 kB\nOdd\n:\n"
+    const auto info = parseMemInfo("MemFree: 6 kB\nShmem: 7777777777777777777 kB\nOdd\n:\n"
                                    "Zswap: 5 kB\nMemTotalX: 9 kB\nMemTotal: 100 kB\n"
                                    "ALineWithAVeryLongName: 3 kB\nInactive(anon): 4 kB\n");
     ASSERT_TRUE(info);
     EXPECT_EQ(info->memTotal, 100u);
     EXPECT_EQ(info->zswap, 5u);
-    EXPECT_EQ(info->hugetlb, 6u);
+    EXPECT_EQ(info->memFree, 6u);
     EXPECT_EQ(info->inactiveAnon, 4u);
-    EXPECT_EQ(info->percpu, std::nullopt);
+    EXPECT_EQ(info->shmem, std::nullopt);
 }
 
 TEST(ParsePressure, NeedsALineSomeThatMakesSense) {
@@ -41,31 +42,72 @@ TEST(ParsePressure, NeedsALineSomeThatMakesSense) {
         EXPECT_FALSE(parsePressure(text)) << text;
 }
 
-TEST(MemoryPressure, ComesFromAvailableMemoryAndStalls) {
+TEST(MemoryPressure, ComesFromAvailableMemoryStallsAndSwap) {
     struct Row {
         std::uint64_t available; // of 1000
-        double some;
-        double full;
+        std::optional<PressureStall> stall;
         std::int64_t level;
+        std::uint64_t swapFree = 0; // of 1000
+        std::uint64_t zfsCache = 0;
     };
+    const PressureStall none;
     const Row rows[] = {
-        {49, 0, 0, 4},   {50, 0, 0, 2},     {119, 0, 0, 2},   {120, 0, 0, 1},  {249, 0, 20, 4},
-        {249, 20, 0, 2}, {249, 19.9, 0, 1}, {250, 90, 90, 1}, {119, 0, 20, 4}, {249, 0, 19.9, 1},
+        {49, none, 4},         {50, none, 2},          {119, none, 2},          {120, none, 1},
+        {49, none, 4, 100},    {49, none, 4, 99},      {49, {{20, 0}}, 4, 100}, {49, {{19.9, 0}}, 4, 100},
+        {249, {{20, 20}}, 4},  {249, {{20, 0}}, 2},    {249, {{19.9, 0}}, 1},   {250, {{90, 90}}, 1},
+        {119, {{90, 20}}, 4},  {119, {{90, 19.9}}, 2}, {49, {}, 4, 1000},       {50, {}, 2, 1000},
+        {20, none, 1, 0, 100}, {20, none, 2, 0, 99},   {20, none, 4, 0, 29},
     };
     for (const Row& row : rows) {
         MemInfo info;
-        info.memTotal = 1000;
-        info.memAvailable = row.available;
-        EXPECT_EQ(memoryStatistics(info, PressureStall{row.some, row.full}, 0).pressureLevel, row.level)
-            << row.available << ' ' << row.some << ' ' << row.full;
+        info.memTotal = info.swapTotal = 1000;
+        info.memFree = info.memAvailable = row.available;
+        info.swapFree = row.swapFree;
+        const auto statistics = memoryStatistics(info, row.stall, {0, row.zfsCache * 1024});
+        EXPECT_EQ(statistics.pressureLevel, row.level)
+            << row.available << ' ' << row.stall.value_or(none).some << ' ' << row.swapFree << ' ' << row.zfsCache;
     }
+}
+
+/// A container may see its own total beside the machine's counters.
+TEST(MemoryStatistics, NoPartIsMoreThanTheWhole) {
+    MemInfo info;
+    info.memTotal = 1000;
+    info.memFree = 600;
+    info.anonPages = 5000;
+    const auto statistics = memoryStatistics(info, {}, {4096, 4096});
+    EXPECT_EQ(statistics.internalPageCount, 400u);
+    EXPECT_EQ(statistics.compressorPageCount + statistics.wireCount, 0u);
+}
+
+TEST(ZFSCache, IsLookedForNowAndThenAndKeptOpen) {
+    const TemporaryFolder folder;
+    const std::string file = "spl/kstat/zfs/arcstats";
+    ZFSCache cache(folder.path(""));
+    const auto after = [&cache](int passes) {
+        for (; passes > 1; --passes)
+            cache.reclaimable();
+        return cache.reclaimable();
+    };
+    EXPECT_EQ(after(1), 0u);
+    folder.write(file + "/cannot be read", "");
+    EXPECT_EQ(after(60), 0u);
+    folder.remove(file);
+    folder.write(file, "c_min 4 100\nmeta_size 4 9\nsize 4 700\n");
+    EXPECT_EQ(after(4), 0u);
+    EXPECT_EQ(after(1), 600u);
+    folder.write(file, "c_min 4 100\nsize 4 99\n");
+    EXPECT_EQ(after(1), 0u);
+    folder.write(file, "c_min 4 100\nsize 4 102\n");
+    folder.remove(file);
+    EXPECT_EQ(after(1), 2u);
 }
 
 TEST(LinuxMemorySource, LooksForCompressedDisksWhenSwapChanges) {
     const TemporaryFolder folder;
     LinuxMemorySource source(folder.path("proc"), folder.path("sys"));
     const auto compressedAfter = [&](const std::string& swapTotal) {
-        folder.write("proc/meminfo", "MemTotal: 1000000 kB\nSwapTotal: " + swapTotal + " kB\n");
+        folder.write("proc/meminfo", "MemTotal: 1000000 kB\nMemFree: 0 kB\nSwapTotal: " + swapTotal + " kB\n");
         return source.read()->compressorPageCount;
     };
     EXPECT_EQ(compressedAfter("0"), 0u);
