@@ -42,16 +42,22 @@ std::uint64_t droppableMemory(const MemInfo& info) {
     return info.memFree.value_or(0) + fileCache(info) + reclaimableKernelMemory(info);
 }
 
+bool isSwapShort(const MemInfo& info) {
+    const auto total = info.swapTotal.value_or(0);
+    return total == 0 || info.swapFree.value_or(0) * 10 < total;
+}
+
 /// 1 normal, 2 warning, 4 critical. Stalls count only where memory is short as well: a group of processes that runs
-/// into its own limit stalls on a machine with plenty.
-std::int64_t pressureLevel(const MemInfo& info, std::uint64_t available, const PressureStall& stall) {
+/// into its own limit stalls on a machine with plenty. Where the kernel measures them, memory that is nearly used up
+/// is critical only if something has to wait for it, or will soon because swap is used up too.
+std::int64_t pressureLevel(const MemInfo& info, std::uint64_t available, const std::optional<PressureStall>& stall) {
     constexpr double longStall = 20.0;
     const auto isBelow = [&](std::uint64_t percent) { return available * 100 < info.memTotal.value_or(0) * percent; };
-    if (isBelow(5) || (isBelow(25) && stall.full >= longStall))
+    const bool someStall = stall && stall->some >= longStall && isBelow(25);
+    const bool allStall = stall && stall->full >= longStall && isBelow(25);
+    if (allStall || (isBelow(5) && (!stall || someStall || isSwapShort(info))))
         return 4;
-    if (isBelow(12) || (isBelow(25) && stall.some >= longStall))
-        return 2;
-    return 1;
+    return someStall || isBelow(12) ? 2 : 1;
 }
 
 } // namespace
@@ -76,7 +82,7 @@ MemorySampler::Statistics memoryStatistics(const MemInfo& info, const std::optio
     if (info.swapTotal && info.swapFree)
         statistics.swapUsed = floorDifference(*info.swapTotal, *info.swapFree) * statistics.pageSize;
     const auto available = info.memAvailable.value_or(droppableMemory(info));
-    statistics.pressureLevel = pressureLevel(info, available + zfsCache, stall.value_or(PressureStall{}));
+    statistics.pressureLevel = pressureLevel(info, available + zfsCache, stall);
     return statistics;
 }
 
