@@ -58,7 +58,7 @@ SamplingSources makeSamplingSources(const KernelRoots& roots) {
     sources.network = makeNetworkSource(roots, news);
     sources.networkInfo = makeNetworkInfoSource(roots, news);
     sources.disks = std::make_unique<DiskStatsSource>(roots.proc, roots.sys);
-    sources.volume = std::make_unique<VolumeStatistics>(rootVolume(roots.proc));
+    sources.volume = std::make_unique<VolumeStatistics>(volumeFolders(roots.proc));
     auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());
     const auto sensorClock = std::make_shared<LinuxClock>();
     sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);

@@ -9,7 +9,7 @@
 namespace vantrix {
 
 struct DiskSample {
-    std::uint64_t total = 0;         ///< bytes of the volume at "/"; 0 when it cannot be asked
+    std::uint64_t total = 0;         ///< bytes of the system's volume; 0 when it cannot be asked
     std::uint64_t available = 0;     ///< bytes a user may still write there
     std::optional<double> readRate;  ///< bytes per second over all disks; absent until two readings exist
     std::optional<double> writeRate; ///< absent together with `readRate`
@@ -28,7 +28,7 @@ class DiskSampler {
         std::optional<std::uint64_t> bytesWritten;
     };
 
-    /// Capacity of the volume at "/", in bytes.
+    /// Capacity of the system's volume, in bytes: the one at "/", unless that is an image which nobody writes to.
     struct Volume {
         std::optional<std::int64_t> total;
         std::optional<std::int64_t> available;

@@ -2,7 +2,6 @@
 
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/disks/proc_diskstats.h"
-#include "linux/disks/volume.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/memory/proc_pressure.h"
 
@@ -24,6 +23,16 @@ SourceDiagnosis pressure(const DiagnosisTools& tools) {
     return row;
 }
 
+SourceDiagnosis diskSpace(const DiagnosisTools& tools) {
+    const auto folders = volumeFolders(tools.roots.proc);
+    const auto chosen = writtenFolder(folders, tools.volume);
+    SourceDiagnosis row{std::string(reading_name::diskSpace), "statvfs of " + folders[chosen]};
+    if (chosen > 0)
+        row.reason = "The file system at / is read-only, so its figures do not tell what room is left. These are of "
+                     "the first of /var and the home folder that can be written to.";
+    return row;
+}
+
 bool hasPhysicalDisk(const KernelRoots& roots) {
     std::vector<DiskSampler::Counters> disks;
     return DiskStatsSource(roots.proc, roots.sys).read(disks) && !disks.empty();
@@ -32,17 +41,15 @@ bool hasPhysicalDisk(const KernelRoots& roots) {
 } // namespace
 
 void diagnoseCounters(const DiagnosisTools& tools, SourceDiagnoses& rows) {
-    const std::string& proc = tools.roots.proc;
-    rows.push_back(diagnosisOfFile(tools, reading_name::processor, proc + "/stat", noProc));
-    rows.push_back(diagnosisOfFile(tools, reading_name::memory, proc + "/meminfo", noProc));
-    const auto disks = entriesStartingWith(tools.roots.sys + "/block", "zram");
-    if (!disks.empty())
+    rows.push_back(diagnosisOfFile(tools, reading_name::processor, tools.roots.proc + "/stat", noProc));
+    rows.push_back(diagnosisOfFile(tools, reading_name::memory, tools.roots.proc + "/meminfo", noProc));
+    if (!entriesStartingWith(tools.roots.sys + "/block", "zram").empty())
         rows.back().source += ", zram";
     rows.push_back(pressure(tools));
 }
 
 void diagnoseDisks(const DiagnosisTools& tools, SourceDiagnoses& rows) {
-    rows.push_back({std::string(reading_name::diskSpace), "statvfs of " + rootVolume(tools.roots.proc)});
+    rows.push_back(diskSpace(tools));
     auto rates = diagnosisOfFile(tools, reading_name::diskRates, tools.roots.proc + "/diskstats",
                                  "The kernel was built without statistics of block devices.");
     if (rates.state == SourceState::ok && !hasPhysicalDisk(tools.roots)) {

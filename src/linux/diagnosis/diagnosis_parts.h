@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "linux/disks/volume.h"
 #include "platform/diagnosis.h"
 
 namespace vantrix {
@@ -20,6 +21,7 @@ struct DiagnosisTools {
     KernelRoots roots;
     std::function<Reach(const std::string& path)> reach = reachOf;
     std::function<bool()> hasNvidiaLibrary;
+    AskVolume volume = askVolume;
 };
 
 using SourceDiagnoses = std::vector<SourceDiagnosis>;

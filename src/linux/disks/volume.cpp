@@ -1,8 +1,7 @@
 #include "linux/disks/volume.h"
 
 #include <cerrno>
-
-#include <sys/statvfs.h>
+#include <cstdlib>
 
 namespace vantrix {
 namespace {
@@ -15,30 +14,45 @@ std::optional<std::int64_t> bytesOf(std::uint64_t blocks, std::uint64_t blockSiz
     return bytes;
 }
 
-bool readStatistics(const std::string& path, struct statvfs& statistics) {
+} // namespace
+
+bool askVolume(const std::string& folder, struct statvfs& answer) {
     int result = 0;
     do
-        result = statvfs(path.c_str(), &statistics);
+        result = statvfs(folder.c_str(), &answer);
     while (result != 0 && errno == EINTR);
     return result == 0;
 }
 
-} // namespace
+std::vector<std::string> volumeFolders(const std::string& proc) {
+    struct statvfs answer {};
+    const std::string root = proc + "/1/root";
+    if (proc != "/proc" && askVolume(root, answer))
+        return {root, root + "/var", root + "/home"};
+    const char* home = std::getenv("HOME");
+    return {"/", "/var", home ? home : "/home"};
+}
+
+std::size_t writtenFolder(const std::vector<std::string>& folders, const AskVolume& ask) {
+    struct statvfs answer {};
+    for (std::size_t i = 0; i < folders.size(); ++i)
+        if (ask(folders[i], answer) && (answer.f_flag & ST_RDONLY) == 0)
+            return i;
+    return 0;
+}
 
 std::optional<DiskSampler::Volume> VolumeStatistics::read() {
+    if (choices_.isDue())
+        chosen_ = writtenFolder(folders_, ask_);
     struct statvfs statistics {};
-    if (!readStatistics(path_, statistics))
+    if (!ask_(folders_[chosen_], statistics)) {
+        choices_.noteFailure();
         return std::nullopt;
+    }
     auto total = bytesOf(statistics.f_blocks, statistics.f_frsize);
     if (total.value_or(0) < 0)
         total.reset();
     return DiskSampler::Volume{total, bytesOf(statistics.f_bavail, statistics.f_frsize)};
-}
-
-std::string rootVolume(const std::string& proc) {
-    struct statvfs statistics {};
-    const std::string foreign = proc + "/1/root";
-    return proc != "/proc" && readStatistics(foreign, statistics) ? foreign : "/";
 }
 
 } // namespace vantrix

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "fakes/fake_volumes.h"
 #include "fakes/fixture_machine.h"
 #include "linux/opened_files.h"
 
@@ -19,8 +20,9 @@ std::vector<std::string> told(const DiagnosisTools& tools, std::string_view name
     for (SourceDiagnosis& row : diagnoseSources(tools)) {
         if (row.name != name)
             continue;
-        if (row.source.starts_with(tools.roots.sys))
-            row.source.replace(0, tools.roots.sys.size(), "SYS");
+        for (const auto& [root, shown] : {std::pair(tools.roots.sys, "SYS"), std::pair(tools.roots.proc, "PROC")})
+            for (auto at = row.source.find(root); at != std::string::npos; at = row.source.find(root))
+                row.source.replace(at, root.size(), shown);
         rows.push_back(states[static_cast<int>(row.state)] + (' ' + row.source) +
                        (row.reason.empty() ? "" : ": " + row.reason));
     }
@@ -28,7 +30,7 @@ std::vector<std::string> told(const DiagnosisTools& tools, std::string_view name
 }
 
 DiagnosisTools toolsFor(const fakes::FixtureMachine& machine) {
-    return {machine.roots(), reachOf, [] { return false; }};
+    return {machine.roots(), reachOf, [] { return false; }, fakes::volumesOf(machine.read("statvfs"))};
 }
 
 TEST(Diagnosis, SaysWhatEachMachineLacks) {
@@ -38,6 +40,8 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
         const char* beginning;
         const char* words;
     } rows[] = {
+        {"ordinary-desktop", reading_name::diskSpace, "ok statvfs of /", ""},
+        {"immutable-system", reading_name::diskSpace, "ok statvfs of /var: ", "at / is read-only"},
         {"no-psi", reading_name::pressure, "absent ", "does not measure stalls"},
         {"board-with-thermal-zones-alone", reading_name::temperatures, "ok SYS/class/thermal (5 zones)", ""},
         {"desktop-resting-disk-sleeping-gpu", reading_name::temperatures, "ok SYS/class/hwmon (5 chips)",
