@@ -3,12 +3,31 @@
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/disks/proc_diskstats.h"
 #include "linux/kernel/kernel_tree.h"
+#include "linux/memory/proc_meminfo.h"
 #include "linux/memory/proc_pressure.h"
+#include "linux/memory/zfs_cache.h"
 
 namespace vantrix {
 namespace {
 
 constexpr std::string_view noProc = "Without this file there is no such reading: is /proc mounted?";
+
+SourceDiagnosis memory(const DiagnosisTools& tools) {
+    auto row = diagnosisOfFile(tools, reading_name::memory, tools.roots.proc + "/meminfo", noProc);
+    if (row.state != SourceState::ok || !parseMemInfo(readStart(row.source).value_or("")))
+        return row;
+    row.reason = "In use: all but free memory, buffers, cached files and what the kernel can give back. App: anonymous "
+                 "and shared memory. Compressed: zram and zswap. Wired: the rest, such as the kernel's and graphics "
+                 "memory, and locked files.";
+    if (!entriesStartingWith(tools.roots.sys + "/block", "zram").empty())
+        row.source += ", zram";
+    const std::string zfs = ZFSCache::pathOf(tools.roots.proc);
+    if (tools.reach(zfs) == Reach::readable) {
+        row.source += ", " + zfs;
+        row.reason += " ZFS's cache counts as available, all but the least that it keeps.";
+    }
+    return row;
+}
 
 SourceDiagnosis pressure(const DiagnosisTools& tools) {
     auto row = diagnosisOfFile(tools, reading_name::pressure, tools.roots.proc + "/pressure/memory",
@@ -42,9 +61,7 @@ bool hasPhysicalDisk(const KernelRoots& roots) {
 
 void diagnoseCounters(const DiagnosisTools& tools, SourceDiagnoses& rows) {
     rows.push_back(diagnosisOfFile(tools, reading_name::processor, tools.roots.proc + "/stat", noProc));
-    rows.push_back(diagnosisOfFile(tools, reading_name::memory, tools.roots.proc + "/meminfo", noProc));
-    if (!entriesStartingWith(tools.roots.sys + "/block", "zram").empty())
-        rows.back().source += ", zram";
+    rows.push_back(memory(tools));
     rows.push_back(pressure(tools));
 }
 

@@ -40,6 +40,8 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
         const char* beginning;
         const char* words;
     } rows[] = {
+        {"zram-in-use", reading_name::memory, "ok PROC/meminfo, zram: In use:", "locked files."},
+        {"zfs-host", reading_name::memory, "ok PROC/meminfo, PROC/spl/kstat/zfs/arcstats: In use:", "ZFS's cache"},
         {"ordinary-desktop", reading_name::diskSpace, "ok statvfs of /", ""},
         {"immutable-system", reading_name::diskSpace, "ok statvfs of /var: ", "at / is read-only"},
         {"no-psi", reading_name::pressure, "absent ", "does not measure stalls"},
@@ -55,6 +57,12 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
         EXPECT_THAT(text.front(), ::testing::StartsWith(row.beginning)) << row.machine;
         EXPECT_THAT(text.front(), HasSubstr(row.words)) << row.machine;
     }
+}
+
+TEST(Diagnosis, ExplainsNoMemoryThatCannotBeRead) {
+    const fakes::FixtureMachine machine("zfs-host");
+    machine.write("proc/meminfo", "MemTotal: 1");
+    EXPECT_THAT(told(toolsFor(machine), reading_name::memory), ElementsAre("ok PROC/meminfo"));
 }
 
 TEST(Diagnosis, SaysHowToGetAtWhatIsDenied) {
