@@ -1,5 +1,6 @@
 #include "support/text_format.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iomanip>
 #include <locale>
@@ -20,17 +21,35 @@ std::string scaled(double value, int decimals, char unit) {
     return std::move(text).str();
 }
 
+long long rounded(double value) {
+    const double whole = std::round(value);
+    if (!(whole >= -9.2e18 && whole <= 9.2e18))
+        fatalError("a reading that is no finite number cannot be shown as an integer");
+    return static_cast<long long>(whole);
+}
+
+std::string wholePercent(long long percent) {
+    return std::to_string(percent) + '%';
+}
+
 } // namespace
 
 std::string roundedInteger(double value) {
-    const double rounded = std::round(value);
-    if (!(rounded >= -9.2e18 && rounded <= 9.2e18))
-        fatalError("a reading that is no finite number cannot be shown as an integer");
-    return std::to_string(static_cast<long long>(rounded));
+    return std::to_string(rounded(value));
 }
 
 std::string compactPercent(double fraction) {
-    return roundedInteger(fraction * 100.0) + '%';
+    return wholePercent(rounded(fraction * 100.0));
+}
+
+LoadTexts loadTexts(double total, double user, double system) {
+    const auto shown = std::clamp(rounded(total * 100.0), 0LL, 100LL); // rounding noise may exceed the whole
+    const double userFloor = std::floor(user * 100.0);
+    const double systemFloor = std::floor(system * 100.0);
+    const auto left = shown - rounded(userFloor + systemFloor);
+    const bool userLosesMore = user * 100.0 - userFloor >= system * 100.0 - systemFloor;
+    const auto ofUser = std::min(rounded(userFloor) + (left > 1 || (left == 1 && userLosesMore) ? 1 : 0), shown);
+    return {wholePercent(ofUser), wholePercent(shown - ofUser), wholePercent(100 - shown)};
 }
 
 std::string compactRate(double rate) {

@@ -177,7 +177,9 @@ class CardsTest : public PopoverViewTest {
     Readings readings = demoReadings();
 };
 
-TEST_F(CardsTest, TheIdleShareNeverGoesBelowZero) {
+TEST_F(CardsTest, TheSharesOfTheProcessorAddUp) {
+    readings.cpu = {0.09, 0.065, 0.025};
+    EXPECT_THAT(textsOf(*shown<CPUCard>()), AllOf(Contains("User: 7%"), Contains("System: 2%")));
     readings.cpu.total = 1.02; // rounding noise
     EXPECT_THAT(textsOf(*shown<CPUCard>()), Contains("Idle: 0%"));
     readings.cpu = {};

@@ -15,6 +15,23 @@ TEST(CompactPercent, RoundsHalfAwayFromZero) {
     EXPECT_EQ(compactPercent(-0.125), "-13%");
 }
 
+TEST(LoadTexts, AddUp) {
+    const struct {
+        double user, system;
+        const char* texts; // total, user, system, idle
+    } rows[] = {
+        {0.0, 0.0, "0% = 0% + 0%, 100%"},    {1.0, 0.0, "100% = 100% + 0%, 0%"},
+        {0.065, 0.025, "9% = 7% + 2%, 91%"}, {0.025, 0.065, "9% = 3% + 6%, 91%"},
+        {0.064, 0.026, "9% = 6% + 3%, 91%"}, {0.0625, 0.0625, "13% = 7% + 6%, 87%"},
+        {0.004, 0.004, "1% = 1% + 0%, 99%"}, {0.002, 0.004, "1% = 0% + 1%, 99%"},
+        {0.29, 0.03, "32% = 29% + 3%, 68%"}, {0.0049, 0.9950, "100% = 0% + 100%, 0%"},
+    };
+    for (const auto& [user, system, texts] : rows) {
+        const auto parts = loadTexts(user + system, user, system);
+        EXPECT_EQ(compactPercent(user + system) + " = " + parts.user + " + " + parts.system + ", " + parts.idle, texts);
+    }
+}
+
 TEST(CompactRate, ChoosesUnitByTheRateItself) {
     const std::pair<double, const char*> rows[] = {
         {-5.0, "0K"},     {999.9, "0K"},          {1000.0, "1K"},       {999'500.0, "1000K"},

@@ -1,7 +1,5 @@
 #include "popover/cards/cpu_card.h"
 
-#include <algorithm>
-
 #include <QHBoxLayout>
 
 #include "monitor/readings.h"
@@ -9,8 +7,8 @@
 #include "popover/charts/core_bars.h"
 #include "popover/charts/ring_gauge.h"
 #include "popover/charts/stat_row.h"
-#include "popover/reading_text.h"
 #include "samplers/processor_description.h"
+#include "support/text_format.h"
 #include "views/text_label.h"
 
 namespace vantrix {
@@ -49,9 +47,10 @@ CPUCard::CPUCard(const CardContext& context)
 void CPUCard::showReadings(const Readings& readings) {
     const CPUSample& cpu = readings.cpu;
     total_->setFraction(cpu.total);
-    user_->setValue(percentText(cpu.user));
-    system_->setValue(percentText(cpu.system));
-    idle_->setValue(percentText(std::max(1.0 - cpu.total, 0.0)));
+    const LoadTexts parts = loadTexts(cpu.total, cpu.user, cpu.system);
+    user_->setValue(QString::fromStdString(parts.user));
+    system_->setValue(QString::fromStdString(parts.system));
+    idle_->setValue(QString::fromStdString(parts.idle));
     cores_->setValues(cpu.perCore);
     cores_->setVisible(!cpu.perCore.empty());
 }
