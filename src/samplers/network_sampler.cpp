@@ -28,16 +28,25 @@ void NetworkSampler::collectPorts() {
             continue;
         const auto known = findPort(current_, count, link.name);
         if (known != current_.begin() + static_cast<std::ptrdiff_t>(count)) {
-            known->counters = *link.counters; // a name listed twice: the later entry stands
+            known->index = link.index; // a name listed twice: the later entry stands
+            known->counters = *link.counters;
             continue;
         }
         if (count == current_.size())
             current_.emplace_back();
         current_[count].name = link.name;
+        current_[count].index = link.index;
         current_[count].counters = *link.counters;
         ++count;
     }
     current_.resize(count);
+}
+
+/// Absent for a counter that started over.
+std::optional<std::uint64_t> NetworkSampler::growth(std::uint64_t now, std::uint64_t before) const {
+    if (source_.counterWidth() == CounterWidth::bits32)
+        return wrappingDifference(static_cast<std::uint32_t>(now), static_cast<std::uint32_t>(before));
+    return now >= before ? std::optional(now - before) : std::nullopt;
 }
 
 NetworkSample NetworkSampler::rates(double elapsed) const {
@@ -45,10 +54,14 @@ NetworkSample NetworkSampler::rates(double elapsed) const {
     double sent = 0.0;
     for (const Port& port : current_) {
         const auto before = findPort(previous_, previous_.size(), port.name);
-        if (before == previous_.end())
+        if (before == previous_.end() || before->index != port.index)
             continue; // new since the last call: counted from the next one
-        received += wrappingDifference(port.counters.received, before->counters.received);
-        sent += wrappingDifference(port.counters.sent, before->counters.sent);
+        const auto newlyReceived = growth(port.counters.received, before->counters.received);
+        const auto newlySent = growth(port.counters.sent, before->counters.sent);
+        if (!newlyReceived || !newlySent)
+            continue; // where one counter started over, so did the other
+        received += static_cast<double>(*newlyReceived);
+        sent += static_cast<double>(*newlySent);
     }
     return {received / elapsed, sent / elapsed};
 }

@@ -19,12 +19,18 @@ struct NetworkSample {
 
 class NetworkSampler {
   public:
-    /// Cumulative bytes of one interface; each counter wraps at 2^32.
+    /// Cumulative bytes of one interface.
     struct Counters {
-        std::uint32_t received = 0;
-        std::uint32_t sent = 0;
+        std::uint64_t received = 0;
+        std::uint64_t sent = 0;
 
         bool operator==(const Counters&) const = default;
+    };
+
+    /// What it means when a counter of a source is less than before.
+    enum class CounterWidth {
+        bits32, ///< it wrapped at 2^32
+        bits64, ///< it started over, as after a driver is loaded anew
     };
 
     static constexpr std::uint32_t linkUp = 0x1;       ///< IFF_UP
@@ -35,6 +41,7 @@ class NetworkSampler {
         std::string name; ///< ports of the Ethernet class, Wi-Fi included, begin with "en"
         std::uint32_t flags = 0;
         std::optional<Counters> counters; ///< only on link-level entries that carry statistics
+        int index = 0; ///< tells a link from another that had its name before; 0 where the system gives no number
     };
 
     class Source {
@@ -42,6 +49,7 @@ class NetworkSampler {
         virtual ~Source() = default;
         /// Replaces `links` by the interface list. False when it cannot be read; `links` is then unspecified.
         virtual bool read(std::vector<Link>& links) = 0;
+        virtual CounterWidth counterWidth() const = 0;
     };
 
     /// `source` and `clock` outlive the sampler.
@@ -54,10 +62,12 @@ class NetworkSampler {
   private:
     struct Port {
         std::string name;
+        int index = 0;
         Counters counters;
     };
 
     void collectPorts();
+    std::optional<std::uint64_t> growth(std::uint64_t now, std::uint64_t before) const;
     NetworkSample rates(double elapsed) const;
 
     Source& source_;

@@ -50,7 +50,9 @@ class FakeMemory : public MemorySampler::Source {
 class FakeNetwork : public NetworkSampler::Source {
   public:
     std::optional<std::vector<NetworkSampler::Link>> links = {{{"en0", 0x41, NetworkSampler::Counters{}}}};
+    NetworkSampler::CounterWidth width = NetworkSampler::CounterWidth::bits32;
     bool read(std::vector<NetworkSampler::Link>& into) override { return answer(links, into); }
+    NetworkSampler::CounterWidth counterWidth() const override { return width; }
 };
 
 class FakeDisks : public DiskSampler::CounterSource {

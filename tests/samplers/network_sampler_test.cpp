@@ -9,18 +9,34 @@ namespace {
 
 using Links = std::vector<NetworkSampler::Link>;
 
-NetworkSampler::Link port(const char* name, std::uint32_t received, std::uint32_t sent) {
-    return {name, NetworkSampler::linkUp | NetworkSampler::linkRunning, NetworkSampler::Counters{received, sent}};
+NetworkSampler::Link port(const char* name, std::uint64_t received, std::uint64_t sent, int index = 0) {
+    return {name, NetworkSampler::linkUp | NetworkSampler::linkRunning, NetworkSampler::Counters{received, sent},
+            index};
+}
+
+constexpr NetworkSample silence;
+
+struct Step {
+    const char* name;
+    double seconds; // since the step before
+    std::optional<Links> links;
+    std::optional<NetworkSample> sample;
+};
+
+void expectSteps(NetworkSampler::CounterWidth width, std::initializer_list<Step> steps) {
+    fakes::FakeNetwork source;
+    source.width = width;
+    FakeClock clock;
+    NetworkSampler sampler(source, clock);
+    for (const Step& step : steps) {
+        clock.now += step.seconds;
+        source.links = step.links;
+        EXPECT_EQ(sampler.sample(), step.sample) << step.name;
+    }
 }
 
 TEST(NetworkSampler, RatesAreMeasuredFromOneGoodReadingToTheNext) {
-    constexpr NetworkSample silence;
-    const struct {
-        const char* name;
-        double seconds; // since the step before
-        std::optional<Links> links;
-        std::optional<NetworkSample> sample;
-    } steps[] = {
+    const std::initializer_list<Step> steps = {
         {"cannot be read", 2.0, std::nullopt, std::nullopt},
         {"the first", 2.0, Links{port("en0", 100, 10), port("en1", 0, 0)}, silence},
         {"over all ports", 2.0, Links{port("en1", 5, 0), port("en0", 200, 11)}, {{52.5, 0.5}}},
@@ -35,14 +51,23 @@ TEST(NetworkSampler, RatesAreMeasuredFromOneGoodReadingToTheNext) {
         {"nothing listed", 2.0, Links{}, std::nullopt},
         {"over the whole gap", 2.0, Links{port("en5", 836, 18)}, {{10.0, 2.0}}},
     };
-    fakes::FakeNetwork source;
-    FakeClock clock;
-    NetworkSampler sampler(source, clock);
-    for (const auto& step : steps) {
-        clock.now += step.seconds;
-        source.links = step.links;
-        EXPECT_EQ(sampler.sample(), step.sample) << step.name;
-    }
+    expectSteps(NetworkSampler::CounterWidth::bits32, steps);
+}
+
+TEST(NetworkSampler, CountersOf64BitsAreTakenInFullAndNeverWrap) {
+    constexpr std::uint64_t fast = 6'250'000'000; // bytes in 5 s at 10 Gbit/s
+    const std::initializer_list<Step> steps = {
+        {"the first", 2.0, Links{port("en0", 1'000'000'000, 50)}, silence},
+        {"over 4 GiB in one pass", 5.0, Links{port("en0", 1'000'000'000 + fast, 100)}, {{1.25e9, 10.0}}},
+        {"a port more", 2.0, Links{port("en0", 8'000'000'000, 100), port("en1", 10, 900)}, {{3.75e8, 0.0}}},
+        {"one starts over", 2.0, Links{port("en0", 0, 200), port("en1", 14, 900)}, {{2.0, 0.0}}},
+        {"and goes on from there", 2.0, Links{port("en0", 6, 204), port("en1", 14, 900)}, {{3.0, 2.0}}},
+        {"one vanishes", 2.0, Links{port("en1", 20, 900)}, {{3.0, 0.0}}},
+        {"and returns", 2.0, Links{port("en0", 9000, 9000), port("en1", 22, 900)}, {{1.0, 0.0}}},
+        {"another takes its name", 2.0, Links{port("en0", fast, 9000, 7), port("en1", 24, 900)}, {{1.0, 0.0}}},
+        {"and is measured", 2.0, Links{port("en0", fast + 8, 9000, 7), port("en1", 24, 900)}, {{4.0, 0.0}}},
+    };
+    expectSteps(NetworkSampler::CounterWidth::bits64, steps);
 }
 
 } // namespace

@@ -20,7 +20,7 @@ std::optional<NetworkSampler::Counters> parseCounters(std::string_view text) {
     const auto sent = fields.number();
     if (!received || !sent)
         return std::nullopt;
-    return NetworkSampler::Counters{static_cast<std::uint32_t>(*received), static_cast<std::uint32_t>(*sent)};
+    return NetworkSampler::Counters{*received, *sent};
 }
 
 } // namespace

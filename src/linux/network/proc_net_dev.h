@@ -30,6 +30,8 @@ class NetDevSource : public NetworkSampler::Source {
     NetDevSource(const std::string& path, std::unique_ptr<LinkStates> states, std::unique_ptr<LinkStates> fallback);
 
     bool read(std::vector<NetworkSampler::Link>& links) override;
+    /// The file prints 64 bits, also of a 32-bit kernel; a driver that counts in 32 there seems to start over.
+    NetworkSampler::CounterWidth counterWidth() const override { return NetworkSampler::CounterWidth::bits64; }
 
   private:
     KernelFile file_;

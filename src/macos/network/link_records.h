@@ -8,6 +8,7 @@ namespace vantrix {
 class LinkRecords : public NetworkSampler::Source {
   public:
     bool read(std::vector<NetworkSampler::Link>& links) override;
+    NetworkSampler::CounterWidth counterWidth() const override { return NetworkSampler::CounterWidth::bits32; }
 };
 
 } // namespace vantrix

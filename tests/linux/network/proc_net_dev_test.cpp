@@ -16,7 +16,7 @@ auto line(const char* name, std::optional<Counters> counters) {
     return AllOf(Field(&NetDevLine::name, name), Field(&NetDevLine::counters, counters));
 }
 
-TEST(ParseNetDev, TakesOddNamesAndTruncatesCounters) {
+TEST(ParseNetDev, TakesOddNamesAndWholeCounters) {
     std::vector<NetDevLine> lines;
     ASSERT_TRUE(parseNetDev("Inter-|   Receive  |  Transmit\n face |bytes packets|bytes\n"
                             "  eth0: 10 1 2 3 4 5 6 7 20 0\n"
@@ -25,7 +25,7 @@ TEST(ParseNetDev, TakesOddNamesAndTruncatesCounters) {
                             "  bad1: 1 1 2 3 4 5 6 7 99999999999999999999999 0\n"
                             ":\n",
                             lines));
-    EXPECT_THAT(lines, ElementsAre(line("eth0", Counters{10, 20}), line("enx0123456789ab", Counters{1, 3}),
+    EXPECT_THAT(lines, ElementsAre(line("eth0", Counters{10, 20}), line("enx0123456789ab", Counters{4294967297, 8589934595}),
                                    line("bad0", std::nullopt), line("bad1", std::nullopt), line("", std::nullopt)));
     EXPECT_FALSE(parseNetDev("  eth0: 10 1 2 3 4 5 6 7 20", lines)) << "cut short";
 }
