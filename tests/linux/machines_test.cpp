@@ -63,6 +63,8 @@ const Machine machines[] = {
     {.name = "disk-over-several-paths", .sectorsRead = 300, .sectorsWritten = 400},
     {.name = "container", .activePort = "eno1", .received = 100},
     {.name = "many-interfaces", .received = 31},
+    {.name = "virtual-machine-with-accelerated-port", .received = 9000},
+    {.name = "router-with-switch", .received = 5400},
 };
 
 void expectProcessor(const SamplingSources& sources, const Machine& expected) {

@@ -5,6 +5,7 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 
 #include "platform/sampling_sources.h"
 #include "posix/file_descriptor.h"
@@ -40,6 +41,11 @@ std::string pathBelow(const std::string& folder, std::string_view entry) {
 
 bool pathExists(const std::string& path) {
     return access(path.c_str(), F_OK) == 0;
+}
+
+std::uint64_t entryNumber(const std::string& path) {
+    struct stat status {};
+    return stat(path.c_str(), &status) == 0 ? status.st_ino : 0;
 }
 
 bool isEntryName(std::string_view name) {

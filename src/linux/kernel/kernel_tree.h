@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -18,6 +19,10 @@ std::optional<std::string> readStart(const std::string& path, std::size_t limit 
 std::string pathBelow(const std::string& folder, std::string_view entry);
 
 bool pathExists(const std::string& path);
+
+/// A number that tells what lies at a path from whatever lay there before or will later; 0 when nothing does. The
+/// kernel gives every device that it adds to /sys a new one, which stays when the device is renamed.
+std::uint64_t entryNumber(const std::string& path);
 
 /// True when `name` can be one entry of a folder, so that a path made with it stays below that folder.
 bool isEntryName(std::string_view name);

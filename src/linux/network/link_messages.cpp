@@ -6,14 +6,25 @@
 namespace vantrix {
 namespace {
 
-std::string_view findName(std::string_view attributes) {
+std::string_view nameIn(std::string_view value) {
+    const auto name = value.substr(0, value.find('\0'));
+    return name.size() < IF_NAMESIZE ? name : std::string_view();
+}
+
+void takeAttributes(std::string_view attributes, LinkMessage& link) {
+    bool isLowerElsewhere = false;
     while (const auto attribute = takeAttribute(attributes)) {
-        if (attribute->type != IFLA_IFNAME)
-            continue;
-        const auto name = attribute->value.substr(0, attribute->value.find('\0'));
-        return name.size() < IF_NAMESIZE ? name : std::string_view();
+        if (attribute->type == IFLA_IFNAME)
+            link.name = nameIn(attribute->value);
+        else if (attribute->type == IFLA_MASTER)
+            link.master = recordAt<int>(attribute->value).value_or(0);
+        else if (attribute->type == IFLA_LINK)
+            link.lower = recordAt<int>(attribute->value).value_or(0);
+        else if (attribute->type == IFLA_LINK_NETNSID)
+            isLowerElsewhere = true;
     }
-    return {};
+    if (isLowerElsewhere)
+        link.lower = 0; // a number of another namespace
 }
 
 } // namespace
@@ -22,12 +33,16 @@ std::optional<LinkMessage> parseLinkMessage(const NetlinkMessage& message) {
     const int type = message.header.nlmsg_type;
     if (type != RTM_NEWLINK && type != RTM_DELLINK)
         return std::nullopt;
-    const auto link = recordAt<ifinfomsg>(message.body);
+    const auto header = recordAt<ifinfomsg>(message.body);
     // A bridge tells of its ports in messages of its own family: a port that left it is still there.
-    if (!link || link->ifi_family != AF_UNSPEC)
+    if (!header || header->ifi_family != AF_UNSPEC)
         return std::nullopt;
-    return LinkMessage{link->ifi_index, type == RTM_DELLINK, link->ifi_flags,
-                       findName(attributesAfter<ifinfomsg>(message.body))};
+    LinkMessage link{.index = header->ifi_index,
+                     .isGone = type == RTM_DELLINK,
+                     .flags = header->ifi_flags,
+                     .type = header->ifi_type};
+    takeAttributes(attributesAfter<ifinfomsg>(message.body), link);
+    return link;
 }
 
 } // namespace vantrix

@@ -1,6 +1,7 @@
 #include "linux/network/proc_net_dev.h"
 
 #include "linux/kernel/text_scan.h"
+#include "linux/network/port_role.h"
 
 namespace vantrix {
 namespace {
@@ -37,12 +38,12 @@ bool parseNetDev(std::string_view text, std::vector<NetDevLine>& lines) {
     return text.empty();
 }
 
-void nameLink(std::string_view name, bool isHardware, std::string& shown) {
+void nameLink(std::string_view name, bool isCounted, std::string& shown) {
     const bool hasPrefix = name.starts_with("en");
     shown.clear();
-    if (isHardware && !hasPrefix)
+    if (isCounted && !hasPrefix)
         shown += "en";
-    else if (!isHardware && hasPrefix)
+    else if (!isCounted && hasPrefix)
         shown += '~';
     shown += name;
 }
@@ -57,12 +58,16 @@ bool NetDevSource::read(std::vector<NetworkSampler::Link>& links) {
     const auto text = file_.read();
     if (!text || !parseNetDev(*text, lines_))
         return false;
+    linkStates_.resize(lines_.size());
+    for (std::size_t i = 0; i < lines_.size(); ++i)
+        linkStates_[i] = states_->state(lines_[i].name, i);
     links.resize(lines_.size());
     for (std::size_t i = 0; i < lines_.size(); ++i) {
-        const auto state = states_->state(lines_[i].name, i);
-        nameLink(lines_[i].name, state.isHardware, links[i].name);
-        links[i].flags = state.flags;
+        const bool isCounted = roleOf(linkStates_[i], linkStates_) == PortRole::counted;
+        nameLink(lines_[i].name, isCounted, links[i].name);
+        links[i].flags = linkStates_[i].flags;
         links[i].counters = lines_[i].counters;
+        links[i].index = linkStates_[i].index;
     }
     return true;
 }

@@ -19,11 +19,12 @@ struct NetDevLine {
 /// Replaces `lines` by the interfaces of /proc/net/dev. False when the text is cut short.
 bool parseNetDev(std::string_view text, std::vector<NetDevLine>& lines);
 
-/// Replaces `shown` by a name for the sampler, which counts what begins with "en". Hardware ports get that prefix where
-/// they lack it; anything else that has it by chance gets another character before it.
-void nameLink(std::string_view name, bool isHardware, std::string& shown);
+/// Replaces `shown` by a name for the sampler, which counts what begins with "en". What is to be counted gets that
+/// prefix where it lacks it; anything else that has it gets another character before it.
+void nameLink(std::string_view name, bool isCounted, std::string& shown);
 
-/// Counters from /proc/net/dev, joined with the state of each link.
+/// Counters from /proc/net/dev, joined with the state of each link. Ports whose bytes another port counts as well are
+/// left out.
 class NetDevSource : public NetworkSampler::Source {
   public:
     /// `fallback` takes over for good once `states` does not work.
@@ -38,6 +39,7 @@ class NetDevSource : public NetworkSampler::Source {
     std::unique_ptr<LinkStates> states_;
     std::unique_ptr<LinkStates> fallback_;
     std::vector<NetDevLine> lines_;
+    std::vector<LinkState> linkStates_; // of each line
 };
 
 } // namespace vantrix

@@ -52,19 +52,24 @@ bool RtnetlinkLinks::takeNews(const NetlinkMessage& message) {
     if (!isKnown) {
         if (link->name.empty())
             return false;
-        entry = entries_.insert(entry, Entry{link->index, {}, {}, true});
+        entry = entries_.insert(entry, Entry{{}, {}, true});
     }
     if (!link->name.empty() && entry->name != link->name) {
         entry->name = link->name;
         entry->state.isHardware = isHardwareLink(sys_, link->name);
     }
     entry->state.flags = link->flags;
+    entry->state.type = link->type;
+    entry->state.index = link->index;
+    entry->state.master = link->master;
+    entry->state.lower = link->lower;
     entry->isListed = true;
     return false;
 }
 
 std::vector<RtnetlinkLinks::Entry>::iterator RtnetlinkLinks::find(int index) {
-    return std::find_if(entries_.begin(), entries_.end(), [&](const Entry& entry) { return entry.index == index; });
+    return std::find_if(entries_.begin(), entries_.end(),
+                        [&](const Entry& entry) { return entry.state.index == index; });
 }
 
 } // namespace vantrix

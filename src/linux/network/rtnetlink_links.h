@@ -20,7 +20,6 @@ class RtnetlinkLinks : public LinkStates, private RtnetlinkTable {
 
   private:
     struct Entry {
-        int index = 0;
         std::string name;
         LinkState state;
         bool isListed = false;

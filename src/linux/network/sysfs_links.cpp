@@ -12,10 +12,25 @@ std::string linkFolder(const std::string& sys, std::string_view name) {
     return sys + "/class/net/" + std::string(name) + '/';
 }
 
+int readNumber(const std::string& path) {
+    return parseIntegerLine<int>(readStart(path, 16).value_or("")).value_or(0);
+}
+
 } // namespace
 
 bool isHardwareLink(const std::string& sys, std::string_view name) {
     return isEntryName(name) && pathExists(linkFolder(sys, name) + "device");
+}
+
+LinkState readLink(const std::string& sys, std::string_view name) {
+    if (!isHardwareLink(sys, name))
+        return {};
+    const std::string folder = linkFolder(sys, name);
+    return {.isHardware = true,
+            .type = readNumber(folder + "type"),
+            .index = readNumber(folder + "ifindex"),
+            .master = readNumber(folder + "master/ifindex"),
+            .lower = readNumber(folder + "iflink")};
 }
 
 std::optional<std::uint32_t> parseLinkFlags(std::string_view text) {
@@ -41,24 +56,41 @@ bool SysfsLinks::Port::isRunning() {
     return carrier.read() == "1\n";
 }
 
-std::optional<SysfsLinks::Port> SysfsLinks::findPort(std::string_view name) const {
-    if (!isHardwareLink(sys_, name))
-        return std::nullopt;
-    const std::string folder = linkFolder(sys_, name);
-    return Port{KernelFile(folder + "flags"), KernelFile(folder + "operstate"), KernelFile(folder + "carrier")};
+bool SysfsLinks::refresh() {
+    passes_ = passes_ % passesPerLook + 1;
+    return true;
+}
+
+/// Whether another link has taken the name, or the link another master.
+bool SysfsLinks::isOutdated(const Known& known) const {
+    const bool isLookDue = passes_ == passesPerLook;
+    if ((isLookDue || known.port) && entryNumber(known.folder) != known.number)
+        return true;
+    return isLookDue && known.port && entryNumber(known.master) != known.masterNumber;
+}
+
+void SysfsLinks::lookUp(std::string_view name, Known& known) const {
+    known.name = name;
+    known.folder = isEntryName(name) ? linkFolder(sys_, name) : std::string();
+    known.master = known.folder + "master/";
+    known.number = entryNumber(known.folder);
+    known.masterNumber = entryNumber(known.master);
+    known.state = readLink(sys_, name);
+    known.port.reset();
+    if (known.state.isHardware)
+        known.port = Port{KernelFile(known.folder + "flags"), KernelFile(known.folder + "operstate"),
+                          KernelFile(known.folder + "carrier")};
 }
 
 LinkState SysfsLinks::state(std::string_view name, std::size_t place) {
     if (place >= known_.size())
         known_.resize(place + 1);
     Known& known = known_[place];
-    if (known.name != name) {
-        known.name = name;
-        known.port = findPort(name);
-    }
-    if (!known.port)
-        return {};
-    return {true, known.port->readFlags()};
+    if (known.name != name || isOutdated(known))
+        lookUp(name, known);
+    if (known.port)
+        known.state.flags = known.port->readFlags();
+    return known.state;
 }
 
 } // namespace vantrix

@@ -69,13 +69,13 @@ TEST(ParseRouteMessage, KnowsWhichRoutesLeadSomewhere) {
 }
 
 std::string linkMessage(int type, int index, unsigned flags, const std::string& name, int messageFlags = 0,
-                        std::uint32_t sequence = 0, unsigned char family = AF_UNSPEC) {
+                        std::uint32_t sequence = 0, unsigned char family = AF_UNSPEC, const std::string& rest = "") {
     ifinfomsg link{};
     link.ifi_family = family;
     link.ifi_index = index;
     link.ifi_flags = flags;
     const std::string oddLength = attribute(IFLA_MTU, "\1\2");
-    return message(type, bytesOf(link) + oddLength + (name.empty() ? "" : attribute(IFLA_IFNAME, name + '\0')),
+    return message(type, bytesOf(link) + oddLength + (name.empty() ? "" : attribute(IFLA_IFNAME, name + '\0')) + rest,
                    messageFlags, sequence);
 }
 
@@ -181,6 +181,20 @@ TEST_F(RtnetlinkTest, AsksOnceAndThenFollowsTheNews) {
     // A port that leaves its bridge is told of like a link that goes, but in another family.
     passAfter(linkMessage(RTM_DELLINK, 2, 0, "eth0", 0, 0, AF_BRIDGE) + linkMessage(RTM_DELLINK, 99, 0, ""));
     EXPECT_EQ(flagsOf("eth0"), 0x1u);
+}
+
+TEST_F(RtnetlinkTest, FollowsWhatALinkIsEnslavedToAndStackedOn) {
+    pass();
+    const auto tellOfPort = [&](const std::string& rest) {
+        passAfter(linkMessage(RTM_NEWLINK, 2, 0x41, "eth0", 0, 0, AF_UNSPEC, rest));
+        return links->state("eth0", 0);
+    };
+    const auto relations = numberAttribute(IFLA_LINK, 7) + numberAttribute(IFLA_MASTER, 9);
+    EXPECT_EQ(tellOfPort(relations).lower, 7);
+    EXPECT_EQ(tellOfPort(relations).master, 9);
+    EXPECT_EQ(tellOfPort(relations).index, 2);
+    EXPECT_EQ(tellOfPort(relations + numberAttribute(IFLA_LINK_NETNSID, 0)).lower, 0);
+    EXPECT_EQ(tellOfPort("").master, 0);
 }
 
 TEST_F(RtnetlinkTest, LostNewsMeanThatAllIsAskedAnewUntilNothingInterrupts) {

@@ -38,5 +38,41 @@ TEST(SysfsLinks, DerivesRunningFromTheOperationalState) {
     }
 }
 
+/// A Wi-Fi stick is unplugged and an adapter gets its name; a virtual function is enslaved a moment after it came.
+TEST(SysfsLinks, FollowsLinksThatChangeUnderTheirNames) {
+    const TemporaryFolder folder;
+    for (const char* name : {"eth0", "lan0", "vf0"}) {
+        folder.write("class/net/" + std::string(name) + "/ifindex", name[0] == 'e' ? "2\n" : "3\n");
+        folder.write("class/net/" + std::string(name) + "/flags", "0x1002\n");
+        std::filesystem::create_directories(folder.path("class/net/" + std::string(name) + "/device"));
+    }
+    folder.write("class/net/lan0/flags", "0x1003\n");
+    folder.write("class/net/br0/flags", "0x1003\n");
+    SysfsLinks links(folder.path(""));
+    const auto stateAfter = [&](int passes, const char* name, std::size_t place) {
+        LinkState state;
+        for (; passes > 0; --passes) {
+            links.refresh();
+            state = links.state(name, place);
+        }
+        return state;
+    };
+    const auto rename = [&](const char* from, const char* to) {
+        std::filesystem::rename(folder.path("class/net/") + from, folder.path("class/net/") + to);
+    };
+    EXPECT_EQ(stateAfter(1, "eth0", 0).index, 2);
+    EXPECT_FALSE(stateAfter(1, "br0", 1).isHardware);
+    EXPECT_EQ(stateAfter(1, "vf0", 2).master, 0);
+    rename("eth0", "old0");
+    rename("lan0", "eth0");
+    EXPECT_EQ(stateAfter(1, "eth0", 0).index, 3);
+    EXPECT_EQ(stateAfter(1, "eth0", 0).flags, 0x1003u);
+    rename("br0", "br1");
+    rename("old0", "br0");
+    EXPECT_TRUE(stateAfter(SysfsLinks::passesPerLook, "br0", 1).isHardware);
+    std::filesystem::create_symlink("../br0", folder.path("class/net/vf0/master"));
+    EXPECT_EQ(stateAfter(SysfsLinks::passesPerLook, "vf0", 2).master, 2);
+}
+
 } // namespace
 } // namespace vantrix
