@@ -1,5 +1,6 @@
 #include "linux/network/linux_network_info.h"
 
+#include "linux/kernel/kernel_tree.h"
 #include "linux/network/sysfs_interface_kind.h"
 #include "support/localization.h"
 
@@ -7,8 +8,6 @@ namespace vantrix {
 namespace {
 
 using Family = NetworkInfoSampler::AddressFamily;
-
-constexpr int passesToLookAgain = 5;
 
 std::optional<std::string_view> unlessEmpty(std::string_view text) {
     return text.empty() ? std::nullopt : std::optional(text);
@@ -51,14 +50,19 @@ std::optional<std::string_view> LinuxNetworkInfo::ipv4Address(std::string_view i
 }
 
 std::optional<NetworkInfoSampler::Interface> LinuxNetworkInfo::describe(std::string_view interface) {
-    const bool isNew = describedAt_ != routes_->generation() || described_ != interface;
-    // A link may be in the routes before its folder is there.
-    const bool isDueAgain = !type_ && ++passesWithoutType_ >= passesToLookAgain;
-    if (isNew || isDueAgain)
+    if (isOutdated(interface))
         lookUp(interface);
     if (!type_)
         return std::nullopt;
     return NetworkInfoSampler::Interface{*type_, unlessEmpty(displayName_)};
+}
+
+bool LinuxNetworkInfo::isOutdated(std::string_view interface) const {
+    if (describedAt_ != routes_->generation() || described_ != interface)
+        return true;
+    // A link may be in the routes before its folder is there. Without its number, nobody tells when another takes its
+    // name.
+    return (!type_ || describedIndex_ == 0) && entryNumber(folder_) != folderNumber_;
 }
 
 void LinuxNetworkInfo::lookUp(std::string_view interface) {
@@ -68,12 +72,13 @@ void LinuxNetworkInfo::lookUp(std::string_view interface) {
     if (wifi_ && (described_ != interface || describedIndex_ != index))
         wifi_->forget();
     describedIndex_ = index;
+    folder_ = sys_ + "/class/net/" + std::string(interface);
+    folderNumber_ = entryNumber(folder_);
     const auto kind = readInterfaceKind(sys_, interface);
     type_ = kind ? std::optional(kind->type) : std::nullopt;
     displayName_ = kind && !kind->name.empty() ? localized(kind->name) : std::string();
     described_ = interface;
     describedAt_ = routes_->generation();
-    passesWithoutType_ = 0;
 }
 
 std::optional<NetworkInfoSampler::WiFi> LinuxNetworkInfo::wifi(std::string_view interface) {

@@ -26,6 +26,7 @@ class LinuxNetworkInfo : public NetworkInfoSampler::Source {
 
   private:
     const DefaultRoute* routeOver(std::string_view interface) const;
+    bool isOutdated(std::string_view interface) const;
     void lookUp(std::string_view interface);
 
     std::string sys_;
@@ -34,13 +35,13 @@ class LinuxNetworkInfo : public NetworkInfoSampler::Source {
     std::unique_ptr<BackgroundWiFi> wifi_;
     std::string_view reason_;
 
-    // The interface described last. It is looked up anew after each change of routes or links, and every few passes
-    // while there is no such link.
+    // The interface described last, which is looked up anew after each change of routes or links.
     std::string described_;
     int describedIndex_ = 0;
     std::uint64_t describedAt_ = 0;
+    std::string folder_;
+    std::uint64_t folderNumber_ = 0;
     std::optional<NetworkInfoSampler::InterfaceType> type_; // absent: no such link
-    int passesWithoutType_ = 0;
     std::string displayName_;
 };
 

@@ -89,9 +89,10 @@ TEST_F(LinuxNetworkInfoTest, FollowsTheTreesOfAnotherMachine) {
     setRoute("usb0");
     EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::other, "usb0"})); // its folder is late
     addPort("usb0");
-    for (int pass = 0; pass < 5; ++pass)
-        sampler.sample(true, 3);
     EXPECT_EQ(sampler.sample(true, 3), (NetworkInfo{NetworkInfo::Kind::ethernet, "usb0", "Ethernet"}));
+    std::filesystem::rename(folder.path("sys/class/net/usb0"), folder.path("sys/class/net/lan0"));
+    std::filesystem::rename(folder.path("sys/class/net/wlan0"), folder.path("sys/class/net/usb0")); // takes the name
+    EXPECT_EQ(sampler.sample(true, 3).displayName, "Wi-Fi");
     folder.remove("proc/net/route");
     const auto gone = makeSamplingSources({folder.path("proc"), folder.path("sys")});
     EXPECT_EQ(NetworkInfoSampler(*gone.networkInfo).sample(true, 3), NetworkInfo());
