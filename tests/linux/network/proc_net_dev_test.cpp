@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "linux/temporary_folder.h"
+#include "samplers/fake_clock.h"
 
 namespace vantrix {
 namespace {
@@ -25,19 +26,42 @@ TEST(ParseNetDev, TakesOddNamesAndWholeCounters) {
                             "  bad1: 1 1 2 3 4 5 6 7 99999999999999999999999 0\n"
                             ":\n",
                             lines));
-    EXPECT_THAT(lines, ElementsAre(line("eth0", Counters{10, 20}), line("enx0123456789ab", Counters{4294967297, 8589934595}),
-                                   line("bad0", std::nullopt), line("bad1", std::nullopt), line("", std::nullopt)));
+    EXPECT_THAT(lines,
+                ElementsAre(line("eth0", Counters{10, 20}), line("enx0123456789ab", Counters{4294967297, 8589934595}),
+                            line("bad0", std::nullopt), line("bad1", std::nullopt), line("", std::nullopt)));
     EXPECT_FALSE(parseNetDev("  eth0: 10 1 2 3 4 5 6 7 20", lines)) << "cut short";
 }
 
 struct FakeStates : LinkStates {
     bool works;
     std::uint32_t flags;
+    int index = 2;
 
     FakeStates(bool doesWork, std::uint32_t someFlags) : works(doesWork), flags(someFlags) {}
     bool refresh() override { return works; }
-    LinkState state(std::string_view, std::size_t) override { return {true, flags}; }
+    LinkState state(std::string_view, std::size_t) override {
+        return {.isHardware = true, .flags = flags, .index = index};
+    }
 };
+
+TEST(NetDevSource, IsMeasuredInFullPerLink) {
+    const TemporaryFolder folder;
+    auto states = std::make_unique<FakeStates>(true, 0x41u);
+    FakeStates& links = *states;
+    NetDevSource source(folder.path("dev"), std::move(states), nullptr);
+    FakeClock clock;
+    NetworkSampler sampler(source, clock);
+    const auto sampleAt = [&](const std::string& received) {
+        folder.write("dev", "  eth0: " + received + " 1 2 3 4 5 6 7 20 0\n");
+        clock.now += 2.0;
+        return sampler.sample();
+    };
+    sampleAt("1000000000");
+    EXPECT_EQ(sampleAt("7000000000"), (NetworkSample{3e9, 0.0}));
+    EXPECT_EQ(sampleAt("0"), NetworkSample());
+    links.index = 3; // another link takes the name
+    EXPECT_EQ(sampleAt("7000000000"), NetworkSample());
+}
 
 TEST(NetDevSource, TurnsToTheOtherWayOfKnowingLinksForGood) {
     const TemporaryFolder folder;
