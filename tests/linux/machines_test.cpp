@@ -145,10 +145,16 @@ TEST(Machines, UseAsMuchMemoryAsCommonToolsTell) {
 }
 
 TEST(Machines, TwoPacksAreOneBattery) {
-    const fakes::FixtureMachine machine("two-packs-and-accessories");
-    // 20 Wh of 20, and 2 Ah of 5 at 11.1 V; 11.4 W flow.
-    EXPECT_EQ(Samplers(makeSamplingSources(machine.roots())).battery->sample(),
-              (BatterySample{56, false, false, 222, 312, 83, 31.2, 11.4}));
+    const std::pair<const char*, BatterySample> rows[] = {
+        // 20 Wh of 20, and 2 Ah of 5 at 11.1 V; 11.4 W flow.
+        {"two-packs-and-accessories", {56, false, false, 222, 312, 83, 31.2, 11.4}},
+        // 12 Wh of 24 at 12 V, and 1 Ah of 3 at a voltage that its driver keeps to itself; 1 A flows.
+        {"laptop-with-two-packs", {40, true, true, 180, 87, 83, {}, {}}},
+    };
+    for (const auto& [name, sample] : rows) {
+        const fakes::FixtureMachine machine(name);
+        EXPECT_EQ(Samplers(makeSamplingSources(machine.roots())).battery->sample(), sample) << name;
+    }
 }
 
 TEST(Machines, SleepingGPUCountsAsIdle) {

@@ -3,92 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
-#include "linux/sensors/supply_power.h"
+#include "linux/power_supply/pack_content.h"
 
 namespace vantrix {
 namespace {
 
 using Status = SupplyState::Status;
-
-/// Energy in µWh; drivers that count charge are asked for it at the voltage the pack is rated for.
-struct Energy {
-    double now = 0.0;
-    double full = 0.0;
-    double design = 0.0; ///< 0 when unknown
-
-    Energy& operator+=(const Energy& other) {
-        now += other.now;
-        full += other.full;
-        design += other.design;
-        return *this;
-    }
-};
-
-double valueOf(std::optional<std::int64_t> value) {
-    return static_cast<double>(value.value_or(0));
-}
-
-double microvolts(const SupplyState& pack) {
-    const double rated = valueOf(pack[SupplyState::voltageMinDesign]);
-    return rated > 0.0 ? rated : valueOf(pack[SupplyState::voltageNow]);
-}
-
-/// Absent when the driver tells neither energy nor charge.
-std::optional<Energy> energyOf(const SupplyState& pack) {
-    const auto isFull = [](std::optional<std::int64_t> full) { return full.value_or(0) > 0; };
-    if (pack[SupplyState::energyNow] && isFull(pack[SupplyState::energyFull]))
-        return Energy{valueOf(pack[SupplyState::energyNow]), valueOf(pack[SupplyState::energyFull]),
-                      valueOf(pack[SupplyState::energyFullDesign])};
-    const double volts = microvolts(pack) / 1e6;
-    if (!pack[SupplyState::chargeNow] || !isFull(pack[SupplyState::chargeFull]) || volts <= 0.0)
-        return std::nullopt;
-    return Energy{valueOf(pack[SupplyState::chargeNow]) * volts, valueOf(pack[SupplyState::chargeFull]) * volts,
-                  valueOf(pack[SupplyState::chargeFullDesign]) * volts};
-}
-
-/// Percent.
-std::optional<double> levelOf(const SupplyState& pack) {
-    if (const auto capacity = pack[SupplyState::capacity])
-        return valueOf(capacity);
-    const auto energy = energyOf(pack);
-    return energy ? std::optional(energy->now / energy->full * 100.0) : std::nullopt;
-}
-
-/// Absent when a pack does not tell; a sum without it would be wrong.
-std::optional<Energy> sumOfEnergy(std::span<const SupplyState> packs) {
-    Energy sum;
-    bool isDesignKnown = true;
-    for (const SupplyState& pack : packs) {
-        const auto energy = energyOf(pack);
-        if (!energy)
-            return std::nullopt;
-        sum += *energy;
-        isDesignKnown &= energy->design > 0.0;
-    }
-    if (!isDesignKnown)
-        sum.design = 0.0;
-    return sum;
-}
-
-/// Power in µW, positive into the pack. Drivers differ on the sign; the status decides where it says a direction.
-std::optional<double> flowInto(const SupplyState& pack) {
-    const auto flow =
-        supplyFlow(pack[SupplyState::powerNow], pack[SupplyState::currentNow], pack[SupplyState::voltageNow]);
-    if (flow && pack.status == Status::charging)
-        return std::abs(*flow);
-    if (flow && pack.status == Status::discharging)
-        return -std::abs(*flow);
-    return flow;
-}
-
-std::optional<double> sumOfFlow(std::span<const SupplyState> packs) {
-    std::optional<double> sum;
-    for (const SupplyState& pack : packs) {
-        if (const auto flow = flowInto(pack))
-            sum = sum.value_or(0.0) + *flow;
-    }
-    return sum;
-}
 
 bool isAny(std::span<const SupplyState> packs, Status status) {
     return std::any_of(packs.begin(), packs.end(), [=](const SupplyState& pack) { return pack.status == status; });
@@ -108,31 +28,43 @@ std::int64_t plausibleMinutes(double minutes) {
     return minutes <= longest ? static_cast<std::int64_t>(std::round(minutes)) : -1;
 }
 
-/// Minutes for `energy` (µWh) to move at `power` (µW), -1 when they cannot be told.
-std::int64_t minutesFor(double energy, double power) {
-    return power > 0.0 ? plausibleMinutes(std::max(energy, 0.0) / power * 60.0) : -1;
-}
-
-/// -1 when it cannot be told.
-std::int64_t timeRemaining(std::span<const SupplyState> packs, const std::optional<Energy>& energy, bool isCharging) {
-    const auto told = packs.front()[isCharging ? SupplyState::timeToFull : SupplyState::timeToEmpty];
-    if (packs.size() == 1 && told.value_or(0) > 0)
-        return plausibleMinutes(static_cast<double>(*told) / 60.0); // from seconds
-    const auto flow = sumOfFlow(packs);
-    if (!energy || !flow)
+/// From what the packs hold and what flows; -1 when it cannot be told.
+std::int64_t reckonedMinutes(std::span<const SupplyState> packs, PackUnit unit, bool isCharging) {
+    const auto content = contentOf(packs, unit);
+    const double flow = flowInto(packs, unit).value_or(0.0) * (isCharging ? 1.0 : -1.0);
+    if (!content || flow <= 0.0)
         return -1;
-    return isCharging ? minutesFor(energy->full - energy->now, *flow) : minutesFor(energy->now, -*flow);
+    const double amount = isCharging ? content->full - content->now : content->now;
+    return plausibleMinutes(std::max(amount, 0.0) / flow * 60.0);
 }
 
-void describeLevel(Properties& source, std::span<const SupplyState> packs, const std::optional<Energy>& energy) {
+/// -1 when it cannot be told. Other programs of the desktop reckon, too; a driver's own times are for where it tells
+/// too little.
+std::int64_t timeRemaining(std::span<const SupplyState> packs, bool isCharging) {
+    for (const PackUnit unit : {PackUnit::energy, PackUnit::charge}) {
+        if (const auto minutes = reckonedMinutes(packs, unit, isCharging); minutes >= 0)
+            return minutes;
+    }
+    if (packs.size() > 1)
+        return -1;
+    for (const auto time : {isCharging ? SupplyState::timeToFull : SupplyState::timeToEmpty,
+                            isCharging ? SupplyState::meanTimeToFull : SupplyState::meanTimeToEmpty}) {
+        const double minutes = static_cast<double>(packs.front()[time].value_or(0)) / 60.0; // from seconds
+        if (minutes > 0.0 && plausibleMinutes(minutes) >= 0)
+            return plausibleMinutes(minutes);
+    }
+    return -1;
+}
+
+void describeLevel(Properties& source, std::span<const SupplyState> packs, const std::optional<PackContent>& content) {
     // The driver's own percentage is what every other program of the desktop shows.
     if (packs.size() == 1 && packs.front()[SupplyState::capacity]) {
         source.set("Current Capacity", *packs.front()[SupplyState::capacity]);
         return;
     }
-    if (energy) {
-        source.set("Current Capacity", energy->now);
-        source.set("Max Capacity", energy->full);
+    if (content) {
+        source.set("Current Capacity", content->now);
+        source.set("Max Capacity", content->full);
         return;
     }
     double sum = 0.0;
@@ -153,20 +85,20 @@ void describeHeat(Properties& battery, std::span<const SupplyState> packs) {
         battery.set("Temperature", tenths * 10);
 }
 
-Properties describeBattery(std::span<const SupplyState> packs, const std::optional<Energy>& energy) {
+Properties describeBattery(std::span<const SupplyState> packs, const std::optional<PackContent>& content) {
     Properties battery;
     std::int64_t cycles = 0;
     for (const SupplyState& pack : packs)
         cycles = std::max(cycles, pack[SupplyState::cycleCount].value_or(0));
     if (cycles > 0) // firmware that does not count says 0
         battery.set("CycleCount", cycles);
-    if (energy && energy->design > 0.0) {
-        battery.set("DesignCapacity", energy->design);
-        battery.set("AppleRawMaxCapacity", energy->full);
+    if (content && content->design > 0.0) {
+        battery.set("DesignCapacity", content->design);
+        battery.set("AppleRawMaxCapacity", content->full);
     }
     describeHeat(battery, packs);
     // Several packs, and drivers that tell the power alone, have no one voltage: the current is that at one volt.
-    if (const auto flow = sumOfFlow(packs)) {
+    if (const auto flow = flowInto(packs, PackUnit::energy)) {
         battery.set("Voltage", std::int64_t{1000});
         battery.set("Amperage", std::round(*flow / 1000.0));
     }
@@ -180,7 +112,7 @@ bool tellsLevel(const SupplyState& pack) {
 }
 
 BatteryPacks combinePacks(std::span<const SupplyState> packs, std::optional<bool> isExternalOnline) {
-    const auto energy = sumOfEnergy(packs);
+    const auto content = contentOf(packs);
     const bool isCharging = isAny(packs, Status::charging);
     const bool isPowered = isPluggedIn(packs, isExternalOnline);
     BatteryPacks combined;
@@ -188,13 +120,13 @@ BatteryPacks combinePacks(std::span<const SupplyState> packs, std::optional<bool
     source.set("Type", "InternalBattery");
     source.set("Is Charging", isCharging);
     source.set("Power Source State", isPowered ? "AC Power" : "Battery Power");
-    describeLevel(source, packs, energy);
+    describeLevel(source, packs, content);
     // A battery that rests on the adapter has no time: neither does it fill nor does it empty.
     if (isCharging)
-        source.set("Time to Full Charge", timeRemaining(packs, energy, true));
+        source.set("Time to Full Charge", timeRemaining(packs, true));
     else if (!isPowered || isAny(packs, Status::discharging))
-        source.set("Time to Empty", timeRemaining(packs, energy, false));
-    combined.battery = describeBattery(packs, energy);
+        source.set("Time to Empty", timeRemaining(packs, false));
+    combined.battery = describeBattery(packs, content);
     return combined;
 }
 

@@ -17,9 +17,9 @@ struct BatteryPacks {
 /// False for a pack whose driver knows nothing of its charge.
 bool tellsLevel(const SupplyState& pack);
 
-/// Several packs are one power source, each weighted by its energy. `packs` are those that are present and tell their
-/// level, at least one. `isExternalOnline` tells whether power comes in; absent on a machine that has nothing to tell
-/// it.
+/// Several packs are one power source, each weighted by what it holds. `packs` are those that are present and tell
+/// their level, at least one. `isExternalOnline` tells whether power comes in; absent on a machine that has nothing to
+/// tell it.
 BatteryPacks combinePacks(std::span<const SupplyState> packs, std::optional<bool> isExternalOnline);
 
 } // namespace vantrix

@@ -30,6 +30,8 @@ constexpr Key keys[] = {
     {"TEMP", SupplyState::temperature},
     {"TIME_TO_EMPTY_NOW", SupplyState::timeToEmpty},
     {"TIME_TO_FULL_NOW", SupplyState::timeToFull},
+    {"TIME_TO_EMPTY_AVG", SupplyState::meanTimeToEmpty},
+    {"TIME_TO_FULL_AVG", SupplyState::meanTimeToFull},
 };
 
 constexpr std::string_view prefix = "POWER_SUPPLY_";

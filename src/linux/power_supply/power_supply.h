@@ -32,6 +32,8 @@ struct SupplyState {
         temperature,
         timeToEmpty,
         timeToFull,
+        meanTimeToEmpty, ///< at the mean rate of the last minute or so
+        meanTimeToFull,
         numberCount,
     };
     enum class Status { unknown, charging, discharging, notCharging, full };
