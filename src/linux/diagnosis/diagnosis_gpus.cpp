@@ -32,7 +32,7 @@ SourceDiagnosis withoutMeter(const std::string& device) {
 
 SourceDiagnosis diagnoseKernelGPU(const DiagnosisTools& tools, const std::string& card, const std::string& device) {
     if (GPUPowerFile(device).read() == GPUPower::asleep)
-        return asleep(device);
+        return offeredMeterFiles(card, device).paths.empty() ? withoutMeter(device) : asleep(device);
     const auto files = findMeterFiles(card, device).paths;
     if (files.empty())
         return withoutMeter(device);
@@ -58,11 +58,11 @@ void diagnoseNvidia(const DiagnosisTools& tools, const std::string& folder, cons
     const bool areAllAwake = std::none_of(addresses.begin(), addresses.end(), isAsleep);
     for (const std::string& address : addresses) {
         SourceDiagnosis row{name, std::string(nvidiaLibraryName) + ", " + address};
-        if (isAsleep(address)) {
-            row = asleep(pathBelow(folder, address));
-        } else if (!tools.hasNvidiaLibrary()) {
+        if (!tools.hasNvidiaLibrary()) {
             row.state = SourceState::absent;
             row.reason = "The driver's management library is not installed (on Debian the package libnvidia-ml1).";
+        } else if (isAsleep(address)) {
+            row = asleep(pathBelow(folder, address));
         } else if (!areAllAwake) {
             row.state = SourceState::asleep;
             row.reason = "Starting the library could wake the GPU beside it that sleeps; it waits for that.";

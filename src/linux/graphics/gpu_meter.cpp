@@ -9,20 +9,20 @@ namespace vantrix {
 namespace {
 
 /// A GPU that may not sleep by pieces never counts idle time; it would look busy for ever.
-bool mayIdle(const std::string& enableFile) {
-    return readStart(enableFile, 8) != "0\n";
+bool mayIdle(const std::string& idleFile) {
+    return readStart(idleFile.substr(0, idleFile.rfind('/')) + "/rc6_enable", 8) != "0\n";
 }
 
 std::vector<std::string> idleFilesOfI915(const std::string& card) {
     std::vector<std::string> files;
     const std::string parts = card + "/gt";
     for (const std::string& gt : entriesStartingWith(parts, "gt")) {
-        const std::string folder = pathBelow(parts, gt);
-        if (pathExists(folder + "/rc6_residency_ms") && mayIdle(folder + "/rc6_enable"))
-            files.push_back(folder + "/rc6_residency_ms");
+        std::string file = pathBelow(parts, gt) + "/rc6_residency_ms";
+        if (pathExists(file))
+            files.push_back(std::move(file));
     }
     const std::string old = card + "/power/rc6_residency_ms";
-    if (files.empty() && pathExists(old) && mayIdle(card + "/power/rc6_enable"))
+    if (files.empty() && pathExists(old))
         files.push_back(old);
     return files;
 }
@@ -95,7 +95,7 @@ void IdleResidency::forget() {
         part.idle.reset();
 }
 
-MeterFiles findMeterFiles(const std::string& card, const std::string& device) {
+MeterFiles offeredMeterFiles(const std::string& card, const std::string& device) {
     if (pathExists(device + "/gpu_busy_percent"))
         return {{device + "/gpu_busy_percent"}, false};
     auto idleFiles = card.empty() ? std::vector<std::string>() : idleFilesOfI915(card);
@@ -110,6 +110,13 @@ MeterFiles findMeterFiles(const std::string& card, const std::string& device) {
             return {{std::move(load)}, false};
     }
     return {};
+}
+
+MeterFiles findMeterFiles(const std::string& card, const std::string& device) {
+    MeterFiles files = offeredMeterFiles(card, device);
+    if (files.tellIdleTime)
+        std::erase_if(files.paths, [](const std::string& path) { return !mayIdle(path); });
+    return files;
 }
 
 std::unique_ptr<GPUMeter> findMeter(const std::string& card, const std::string& device) {

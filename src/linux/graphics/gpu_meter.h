@@ -66,7 +66,11 @@ struct MeterFiles {
     bool tellIdleTime = false;
 };
 
-/// Looks into the files of the device. `card` is its entry in <sys>/class/drm, empty for a device that has none.
+/// Opens no file of the device, which may sleep. `card` is its entry in <sys>/class/drm, empty for a device that has
+/// none.
+MeterFiles offeredMeterFiles(const std::string& card, const std::string& device);
+
+/// Without those that mean nothing on this device, whose files it looks into.
 MeterFiles findMeterFiles(const std::string& card, const std::string& device);
 
 /// The first meter that the driver offers; null when it offers none.

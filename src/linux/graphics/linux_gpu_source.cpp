@@ -5,17 +5,22 @@
 #include "linux/kernel/kernel_tree.h"
 
 namespace vantrix {
+namespace {
+
+constexpr double searchInterval = 60.0; // seconds; a driver may add its files after its device
+
+} // namespace
 
 KernelGPU::KernelGPU(std::string card, std::string device)
     : card_(std::move(card)), device_(std::move(device)), power_(device_), rest_(device_) {}
 
 std::optional<double> KernelGPU::percent(double now) {
-    constexpr double searchInterval = 60.0; // seconds; a driver may add its files after its device
     if (power_.read() == GPUPower::asleep) {
         rest_.end();
+        wasSilent_ = false;
         if (meter_)
             meter_->forget();
-        return 0.0;
+        return tellsLoad(now) ? std::optional(0.0) : std::nullopt;
     }
     if (rest_.isDue(now))
         return load_;
@@ -24,8 +29,19 @@ std::optional<double> KernelGPU::percent(double now) {
         nextSearch_ = now + searchInterval;
     }
     load_ = meter_ ? meter_->percent(now) : std::nullopt;
+    isSilent_ = !load_ && (isSilent_ || wasSilent_);
+    wasSilent_ = !load_;
     rest_.note(load_);
     return load_;
+}
+
+/// One that tells none while it is awake must not come and go with its sleep.
+bool KernelGPU::tellsLoad(double now) {
+    if (!meter_ && !isMeterOffered_ && now >= nextLook_) {
+        isMeterOffered_ = !offeredMeterFiles(card_, device_).paths.empty();
+        nextLook_ = now + searchInterval;
+    }
+    return !isSilent_ && (meter_ || isMeterOffered_);
 }
 
 LinuxGPUSource::LinuxGPUSource(const std::string& sys, std::unique_ptr<Clock> clock,

@@ -14,7 +14,8 @@
 
 namespace vantrix {
 
-/// One GPU as the kernel shows it. While it sleeps it counts as 0 %, and no file of it but its power state is touched.
+/// One GPU as the kernel shows it. While it sleeps it counts as 0 % if its driver would tell its load, and no file of
+/// it but its power state is opened.
 class KernelGPU {
   public:
     /// `card` is its entry in <sys>/class/drm, empty where it has none; `device` the folder of the device itself.
@@ -28,6 +29,8 @@ class KernelGPU {
     void forgetScreens() { rest_.forgetScreens(); }
 
   private:
+    bool tellsLoad(double now);
+
     std::string card_;
     std::string device_;
     GPUPowerFile power_;
@@ -35,6 +38,10 @@ class KernelGPU {
     std::unique_ptr<GPUMeter> meter_;
     std::optional<double> load_; ///< percent, when it was last read
     double nextSearch_ = 0.0;
+    bool wasSilent_ = false; // when last asked since it woke
+    bool isSilent_ = false;  // twice in a row: the first question of a counter has no answer
+    bool isMeterOffered_ = false;
+    double nextLook_ = 0.0; // for an offer
 };
 
 /// Every GPU: those of /sys/class/drm, those that only scale their frequency by load (/sys/class/devfreq), and those of

@@ -12,9 +12,10 @@ void NvidiaGPUs::set(const std::string& folder, std::vector<std::string> address
         return;
     addresses_ = std::move(addresses);
     gpus_.clear();
+    const bool isLibraryInstalled = !addresses_.empty() && job_->isLibraryInstalled();
     for (const std::string& address : addresses_) {
         const std::string device = pathBelow(folder, address);
-        gpus_.push_back({GPUPowerFile(device), GPURest(device)});
+        gpus_.push_back({.powerFile = GPUPowerFile(device), .rest = GPURest(device), .tellsLoad = isLibraryInstalled});
     }
     areNew_ = true;
 }
@@ -27,7 +28,7 @@ void NvidiaGPUs::read(double now, std::vector<std::optional<double>>& loads) {
     if (isUnderWay_ && now - askedAt_ > staleAfter)
         forgetAnswers();
     for (const GPU& gpu : gpus_)
-        loads.push_back(gpu.isAsleep ? 0.0 : gpu.load);
+        loads.push_back(gpu.isAsleep && gpu.tellsLoad ? 0.0 : gpu.load);
     tellTemperature(now);
 }
 
@@ -94,6 +95,7 @@ void NvidiaGPUs::collect() {
             continue;
         gpus_[i].load = answer.load;
         gpus_[i].temperature = answer.temperature;
+        gpus_[i].tellsLoad = answer.load.has_value();
         gpus_[i].rest.note(answer.load);
     }
 }

@@ -36,6 +36,7 @@ class NvidiaGPUs {
         GPURest rest;
         bool isAsleep = false;
         bool isResting = false;
+        bool tellsLoad = false; ///< as far as is known
         std::optional<double> load = {};
         std::optional<double> temperature = {};
 

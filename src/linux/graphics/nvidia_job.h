@@ -26,6 +26,9 @@ class NvidiaJob : public Background::Job {
 
     explicit NvidiaJob(std::unique_ptr<NvidiaLibrary> library) : library_(std::move(library)) {}
 
+    /// May be asked while a thread performs it.
+    bool isLibraryInstalled() const { return library_->isInstalled(); }
+
     /// To be called when `gpus` are others than before.
     void setAddresses(const std::vector<std::string>& addresses);
 

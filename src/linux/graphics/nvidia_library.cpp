@@ -9,6 +9,8 @@ namespace {
 /// hang, and the kernel lets go of every GPU for a process that ends.
 class ManagementLibrary final : public NvidiaLibrary {
   public:
+    bool isInstalled() const override { return isNvidiaLibraryInstalled(); }
+
     bool start() override {
         if (!isStarted_)
             isStarted_ = load() && initialize_() == success;

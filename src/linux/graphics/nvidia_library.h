@@ -19,6 +19,8 @@ class NvidiaLibrary {
     static constexpr int unknownError = 999;
 
     virtual ~NvidiaLibrary() = default;
+    /// Reaches no GPU. The one function that any thread may call at any time.
+    virtual bool isInstalled() const = 0;
     /// False when the library is not installed or finds no driver.
     virtual bool start() = 0;
     /// Lets go of every GPU; devices found before are invalid afterwards.
@@ -35,7 +37,7 @@ std::unique_ptr<NvidiaLibrary> makeNvidiaLibrary();
 
 inline constexpr const char* nvidiaLibraryName = "libnvidia-ml.so.1";
 
-/// Whether the library can be loaded; reaches no GPU.
+/// As of the library itself.
 bool isNvidiaLibraryInstalled();
 
 } // namespace vantrix

@@ -104,14 +104,15 @@ TEST(Diagnosis, SleepingGPUsAreLeftAsleep) {
     folder.write(nvidia + "boot_vga", "0\n");
     OpenedFiles ofCard(folder.path(card));
     OpenedFiles ofNvidia(folder.path(nvidia));
-    const auto failure = [] {
-        ADD_FAILURE() << "the library is of no use to a sleeping GPU";
-        return true;
-    };
-    EXPECT_THAT(told({{folder.path("proc"), folder.path("sys")}, reachOf, failure}, reading_name::gpu),
+    const KernelRoots roots{folder.path("proc"), folder.path("sys")};
+    EXPECT_THAT(told({roots, reachOf, [] { return true; }}, reading_name::gpu),
                 ElementsAre(HasSubstr("asleep SYS/class/drm/card1/device: "),
                             HasSubstr("asleep SYS/bus/pci/drivers/nvidia/0000:01")));
     EXPECT_THAT(ofCard.take(), ElementsAre("runtime_status"));
+    folder.remove(card + "device/gpu_busy_percent");
+    folder.remove(card + "gt");
+    EXPECT_THAT(told({roots, reachOf, [] { return false; }}, reading_name::gpu),
+                ElementsAre(HasSubstr("No driver is bound"), HasSubstr("not installed")));
     EXPECT_THAT(ofNvidia.take(), ElementsAre("runtime_status"));
 }
 

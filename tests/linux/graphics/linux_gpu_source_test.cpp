@@ -18,7 +18,9 @@ using ::testing::IsEmpty;
 struct FakeNvidia : NvidiaLibrary {
     std::map<std::string, unsigned> loads;
     std::vector<std::string> calls;
+    bool isThere = true;
 
+    bool isInstalled() const override { return isThere; }
     bool start() override {
         calls.push_back("start");
         return true;
@@ -148,6 +150,32 @@ TEST_F(LinuxGPUSourceTest, SleepingGPUIsLeftAsleep) {
     ofCard.take();
     EXPECT_EQ(load(), 0.0); // known and open by now, and still left alone
     EXPECT_THAT(ofCard.take(), ElementsAre("runtime_status"));
+}
+
+/// Else its card would come and go with its sleep.
+TEST_F(LinuxGPUSourceTest, WhoTellsNoLoadAwakeTellsNoneAsleep) {
+    const struct {
+        const char* name;
+        std::string device;
+        std::function<void()> prepare;
+        std::optional<double> atFirst; // before anything was asked
+    } rows[] = {
+        {"a driver without a meter", cardDevice, [] {}, {}},
+        {"a meter without a number", cardDevice, [&] { write(cardDevice + "gpu_busy_percent", ""); }, 0.0},
+        {"no library", nvidiaDevice, [&] { nvidia.isThere = false; }, {}},
+        {"a library without an answer", otherNvidia, [&] { nvidia.isThere = true; }, 0.0},
+    };
+    for (const auto& row : rows) {
+        folder.remove("sys");
+        row.prepare();
+        setPower(row.device, "suspended");
+        load(); // finds the folder
+        EXPECT_EQ(load(), row.atFirst) << row.name;
+        for (const char* power : {"active", "active", "suspended"}) {
+            setPower(row.device, power);
+            EXPECT_EQ(load(), std::nullopt) << row.name << ' ' << power;
+        }
+    }
 }
 
 /// A GPU that is asked on every pass never reaches the end of its autosuspend delay.
