@@ -9,7 +9,6 @@
 namespace vantrix {
 namespace {
 
-constexpr double frozenAfter = 3600.0; // seconds
 constexpr double millidegree = 1e-3;
 
 /// Seconds between questions to a chip: those of drives and wireless devices are commands to them, the others reads.
@@ -21,14 +20,6 @@ double intervalOf(std::string_view chip) {
 }
 
 } // namespace
-
-bool FrozenWatch::isFrozen(double value, double now) {
-    if (value != value_) {
-        value_ = value;
-        since_ = now;
-    }
-    return now - since_ > frozenAfter;
-}
 
 LinuxTemperatures::LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
                                      std::shared_ptr<const TimedValue> nvidia)
@@ -65,13 +56,7 @@ std::optional<double> LinuxTemperatures::readSensor(Sensor& sensor, double& now,
     case DeviceRest::State::awake:
         break;
     }
-    const auto value = sensor.read(now, failed);
-    if (!value)
-        sensor.watch = FrozenWatch();
-    const bool canFreeze = sensor.name.starts_with("CPU");
-    if (value && canFreeze && sensor.watch.isFrozen(*value, now))
-        return std::nullopt;
-    return value;
+    return sensor.read(now, failed);
 }
 
 void LinuxTemperatures::search() {
@@ -88,8 +73,7 @@ void LinuxTemperatures::search() {
         const Place& place = found.places[i];
         sensors.push_back(takeOrMake(sensors_, place.path, names[i], [&] {
             auto probe = std::make_unique<FileProbe>(place.path, millidegree, place.faultPath);
-            return Sensor{
-                {place.path, names[i], TimedSensor(std::move(probe), backgrounds[place.chip], clock_)}, 0, {}};
+            return Sensor{{place.path, names[i], TimedSensor(std::move(probe), backgrounds[place.chip], clock_)}, 0};
         }));
         sensors.back().chip = place.chip;
     }

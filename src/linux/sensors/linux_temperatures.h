@@ -13,16 +13,6 @@
 
 namespace vantrix {
 
-/// Notices a processor's sensor whose value stands still: a processor's temperature never keeps it for an hour.
-class FrozenWatch {
-  public:
-    bool isFrozen(double value, double now);
-
-  private:
-    double value_ = 0.0;
-    double since_ = 0.0;
-};
-
 /// Temperatures of <sys>/class/hwmon, and of <sys>/class/thermal where no chip is the processor's. Devices that sleep
 /// are not asked, nor are idle ones that are to fall asleep. "GPU NVIDIA" ends the list while `nvidia` has a value.
 class LinuxTemperatures : public HIDTemperatureSampler::Source {
@@ -46,7 +36,6 @@ class LinuxTemperatures : public HIDTemperatureSampler::Source {
 
     struct Sensor : KeptSensor {
         std::size_t chip = 0;
-        FrozenWatch watch;
     };
 
     /// What a search finds: of each temperature its place, of each chip its name.
