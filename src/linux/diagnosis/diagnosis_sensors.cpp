@@ -5,6 +5,7 @@
 #include "linux/power_supply/power_supply_accessories.h"
 #include "linux/sensors/hwmon_chips.h"
 #include "linux/sensors/supply_kind.h"
+#include "linux/sensors/temperature_names.h"
 #include "linux/sensors/thermal_zones.h"
 #include "support/text_format.h"
 
@@ -60,6 +61,27 @@ SourceDiagnosis diagnoseChips(std::string_view name, const std::string& folder, 
     return row;
 }
 
+std::string nameInKernel(const FoundTemperature& sensor) {
+    const bool isZone = sensor.label == sensor.chip;
+    return isZone || sensor.label.empty() ? sensor.chip : sensor.chip + ' ' + sensor.label;
+}
+
+/// Which sensors are the processor's temperature; empty when there is none.
+std::string processorSensors(const std::string& sys) {
+    constexpr int mostListed = 4;
+    const auto found = findTemperatures(sys).sensors;
+    const auto names = temperatureNames(found);
+    std::string text;
+    int count = 0;
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        if (names[i].find("CPU") != std::string::npos && ++count <= mostListed)
+            appendToList(text, nameInKernel(found[i]));
+    }
+    if (count > mostListed)
+        text += " and " + std::to_string(count - mostListed) + " more";
+    return text.empty() ? text : "; CPU: " + text;
+}
+
 SourceDiagnosis temperatures(const std::string& sys) {
     const Chips chips = chipsWith(sys, "temp");
     const auto zones = findThermalZones(sys, chips.names).size();
@@ -71,10 +93,11 @@ SourceDiagnosis temperatures(const std::string& sys) {
             row.source += ", " + zoneSource;
             row.state = SourceState::ok;
         }
+        row.source += processorSensors(sys);
         return row;
     }
     if (zones > 0)
-        return {std::string(reading_name::temperatures), zoneSource};
+        return {std::string(reading_name::temperatures), zoneSource + processorSensors(sys)};
     return {std::string(reading_name::temperatures),
             sys + "/class/hwmon",
             SourceState::absent,

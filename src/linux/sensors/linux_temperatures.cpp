@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "linux/kernel/background_thread.h"
-#include "linux/sensors/supply_kind.h"
-#include "linux/sensors/thermal_zones.h"
+#include "linux/sensors/found_temperatures.h"
+#include "linux/sensors/temperature_names.h"
 
 namespace vantrix {
 namespace {
@@ -60,50 +60,24 @@ std::optional<double> LinuxTemperatures::readSensor(Sensor& sensor, double& now,
 }
 
 void LinuxTemperatures::search() {
-    Found found;
-    for (const HwmonChip& chip : findHwmonChips(sys_))
-        findInputs(chip, found);
-    findZones(found);
-    const auto names = temperatureNames(found.temperatures);
+    const FoundTemperatures found = findTemperatures(sys_);
+    const auto names = temperatureNames(found.sensors);
     std::vector<std::shared_ptr<Background>> backgrounds; // one a chip: a sensor that hangs holds up its chip alone
-    for (std::size_t i = 0; i < found.chips.size(); ++i)
+    chips_.clear();
+    for (const auto& [name, device] : found.chips) {
         backgrounds.push_back(std::make_shared<BackgroundThread>());
+        chips_.push_back({DeviceRest(device, name == "drivetemp", intervalOf(name)), {}});
+    }
     std::vector<Sensor> sensors;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const Place& place = found.places[i];
+        const FoundTemperature& place = found.sensors[i];
         sensors.push_back(takeOrMake(sensors_, place.path, names[i], [&] {
             auto probe = std::make_unique<FileProbe>(place.path, millidegree, place.faultPath);
-            return Sensor{{place.path, names[i], TimedSensor(std::move(probe), backgrounds[place.chip], clock_)}, 0};
+            return Sensor{{place.path, names[i], TimedSensor(std::move(probe), backgrounds[place.device], clock_)}, 0};
         }));
-        sensors.back().chip = place.chip;
+        sensors.back().chip = place.device;
     }
     sensors_ = std::move(sensors);
-    chips_ = std::move(found.chips);
-}
-
-void LinuxTemperatures::findInputs(const HwmonChip& chip, Found& found) const {
-    const auto numbers = sensorNumbers(chip.folder, "temp", "_input");
-    const SupplyKind kind = supplyKind(chip.device); // of a battery's chip
-    if (numbers.empty() || kind == SupplyKind::accessory)
-        return;
-    const bool isDrive = chip.name == "drivetemp";
-    const std::string model = isDrive || chip.name == "nvme" ? readName(chip.device + "/model") : std::string();
-    for (const int number : numbers) {
-        const std::string input = chip.folder + "/temp" + std::to_string(number);
-        found.temperatures.push_back({chip.name, readName(input + "_label"), model, numbers.size() > 1 ? number : 0,
-                                      kind == SupplyKind::battery, found.chips.size()});
-        found.places.push_back({input + "_input", input + "_fault", found.chips.size()});
-    }
-    found.chips.push_back({DeviceRest(chip.device, isDrive, intervalOf(chip.name)), {}});
-    found.chipNames.push_back(chip.name);
-}
-
-void LinuxTemperatures::findZones(Found& found) const {
-    for (const auto& [type, folder] : findThermalZones(sys_, found.chipNames)) {
-        found.temperatures.push_back({type, type, {}, 0, false, found.chips.size()});
-        found.places.push_back({folder + "/temp", {}, found.chips.size()});
-        found.chips.push_back({DeviceRest(folder + "/device", false, intervalOf(type)), {}});
-    }
 }
 
 } // namespace vantrix

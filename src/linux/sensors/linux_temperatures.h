@@ -8,7 +8,6 @@
 #include "linux/kernel/rescan_schedule.h"
 #include "linux/kernel/timed_value.h"
 #include "linux/sensors/hwmon_chips.h"
-#include "linux/sensors/temperature_names.h"
 #include "sensors/hid_temperature_sampler.h"
 
 namespace vantrix {
@@ -28,27 +27,11 @@ class LinuxTemperatures : public HIDTemperatureSampler::Source {
         DeviceRest::State state = DeviceRest::State::awake;
     };
 
-    struct Place {
-        std::string path;
-        std::string faultPath;
-        std::size_t chip = 0;
-    };
-
     struct Sensor : KeptSensor {
         std::size_t chip = 0;
     };
 
-    /// What a search finds: of each temperature its place, of each chip its name.
-    struct Found {
-        std::vector<FoundTemperature> temperatures;
-        std::vector<Place> places;
-        std::vector<Chip> chips;
-        std::vector<std::string> chipNames;
-    };
-
     void search();
-    void findInputs(const HwmonChip& chip, Found& found) const;
-    void findZones(Found& found) const;
     std::optional<double> readSensor(Sensor& sensor, double& now, bool& failed);
 
     std::string sys_;

@@ -1,23 +1,16 @@
 #include "linux/sensors/temperature_names.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "linux/sensors/temperature_roles.h"
 
 namespace vantrix {
 namespace {
 
-struct ChipName {
-    std::string_view prefix; ///< of the chip's name
-    std::string_view word;
-};
+using Temperatures = std::vector<FoundTemperature>;
 
-constexpr ChipName ownChips[] = {
-    {"coretemp", "CPU"},     {"k10temp", "CPU"}, {"k8temp", "CPU"},  {"zenpower", "CPU"},   {"via_cputemp", "CPU"},
-    {"x86_pkg_temp", "CPU"}, {"TCPU", "CPU"},    {"bigcore", "CPU"}, {"littlecore", "CPU"}, {"cpu", "CPU"},
-    {"amdgpu", "GPU"},       {"radeon", "GPU"},  {"nouveau", "GPU"}, {"i915", "GPU"},       {"xe", "GPU"},
-    {"gpu", "GPU"},          {"soc", "SoC"},     {"package", "SoC"}, {"nvme", "NAND"},      {"drivetemp", "NAND"},
-};
-
-constexpr ChipName otherChips[] = {
+constexpr std::pair<std::string_view, std::string_view> otherChips[] = {
     {"acpitz", "Mainboard"}, {"pch_", "Chipset"}, {"iwlwifi", "Wi-Fi"}, {"jc42", "Memory"}, {"spd5118", "Memory"},
 };
 
@@ -31,41 +24,11 @@ constexpr Replacement replacements[] = {
     {"NAND", "flash"},    {"battery", "pack"}, {"Battery", "Pack"}, {"BATTERY", "PACK"},
 };
 
-template<std::size_t count>
-std::string_view wordOf(const ChipName (&names)[count], std::string_view chip) {
-    const auto isPrefix = [&](const ChipName& name) {
-        return name.prefix == "xe" ? chip == "xe" : chip.starts_with(name.prefix);
-    };
-    const auto found = std::find_if(std::begin(names), std::end(names), isPrefix);
-    return found == std::end(names) ? std::string_view() : found->word;
-}
-
-/// The component whose own sensor this is; empty for all others.
-std::string_view ownWord(const FoundTemperature& sensor) {
-    return sensor.isBattery ? "Battery" : wordOf(ownChips, sensor.chip);
-}
-
-/// The hottest spot and the memory of a graphics card are up to 30 °C warmer than what it is known by, its edge; the
-/// single parts of an NVMe drive are, too.
-bool isOfPart(const FoundTemperature& sensor, const std::vector<FoundTemperature>& all) {
-    if (sensor.chip == "nvme")
-        return !sensor.label.empty() && sensor.label != "Composite";
-    if (sensor.chip != "amdgpu" || sensor.label == "edge")
-        return false;
-    const auto isOfSameChip = [&](const FoundTemperature& other) {
-        return other.chip == sensor.chip && other.device == sensor.device;
-    };
-    const auto first = std::find_if(all.begin(), all.end(), isOfSameChip);
-    return &*first != &sensor || std::any_of(all.begin(), all.end(), [&](const FoundTemperature& other) {
-        return isOfSameChip(other) && other.label == "edge";
-    });
-}
-
 std::string labelFor(const FoundTemperature& sensor) {
     if (sensor.label.empty())
         return sensor.number > 0 ? std::to_string(sensor.number) : std::string();
-    if (sensor.label.starts_with("Package id "))
-        return "package " + sensor.label.substr(11);
+    if (sensor.label.starts_with("Package id ") || sensor.label.starts_with("Physical id ")) // of old kernels
+        return "package";
     if (sensor.label.starts_with("Core "))
         return "core " + sensor.label.substr(5);
     return sensor.label;
@@ -77,17 +40,10 @@ std::string joined(std::string text, const std::string& part) {
     return text;
 }
 
-/// Tctl steers the fans: on some processors it lies 10 to 27 °C above the temperature, which is then told as Tdie.
-bool isOffsetValue(const FoundTemperature& sensor, const std::vector<FoundTemperature>& all) {
-    return sensor.label == "Tctl" && std::any_of(all.begin(), all.end(), [&](const FoundTemperature& other) {
-               return other.chip == sensor.chip && other.label == "Tdie";
-           });
-}
-
-bool hasOwnSensor(std::string_view word, const std::vector<FoundTemperature>& all) {
+bool hasOwnSensor(std::string_view word, const Temperatures& all) {
     const auto isSame = [](char a, char b) { return (a | 0x20) == (b | 0x20); };
     return std::any_of(all.begin(), all.end(), [&](const FoundTemperature& sensor) {
-        return std::ranges::equal(ownWord(sensor), word, isSame);
+        return std::ranges::equal(componentOf(sensor), word, isSame);
     });
 }
 
@@ -101,7 +57,7 @@ std::string replaced(std::string text, const Replacement& by) {
     return text;
 }
 
-std::string withoutTakenWords(std::string text, const std::vector<FoundTemperature>& all) {
+std::string withoutTakenWords(std::string text, const Temperatures& all) {
     for (const Replacement& replacement : replacements) {
         if (hasOwnSensor(replacement.word, all))
             text = replaced(std::move(text), replacement);
@@ -109,28 +65,52 @@ std::string withoutTakenWords(std::string text, const std::vector<FoundTemperatu
     return text;
 }
 
-std::string nameOf(const FoundTemperature& sensor, const std::vector<FoundTemperature>& all) {
+std::string nameOfComponent(std::string component, const FoundTemperature& sensor, const Temperatures& all) {
+    if (const auto ordinal = ordinalOf(sensor, all); ordinal > 1)
+        component += ' ' + std::to_string(ordinal);
+    const std::string& kind = sensor.isBattery ? sensor.chip : sensor.model;
+    return joined(joined(std::move(component), kind), labelFor(sensor));
+}
+
+/// Without the word "CPU", which stands for the whole.
+std::string nameOfPartOfProcessor(const FoundTemperature& sensor, const Temperatures& all) {
+    std::string name = sensor.label;
     if (isOffsetValue(sensor, all))
-        return "Processor control value";
-    const std::string_view own = ownWord(sensor);
-    if (!own.empty()) {
-        const std::string& kind = sensor.isBattery ? sensor.chip : sensor.model;
-        if (!isOfPart(sensor, all))
-            return joined(joined(std::string(own), kind), labelFor(sensor));
-        const std::string device = own == "NAND" ? "Drive" : "Graphics";
-        return withoutTakenWords(joined(joined(device, kind), labelFor(sensor)), all);
-    }
-    const std::string_view other = wordOf(otherChips, sensor.chip);
+        name = "Processor control value";
+    else if (name.starts_with("Tccd"))
+        name.replace(0, 4, "CCD ");
+    const auto socket = ordinalOf(sensor, all);
+    return socket > 1 ? name + " (socket " + std::to_string(socket) + ')' : name;
+}
+
+std::string nameOfPart(std::string_view component, const FoundTemperature& sensor, const Temperatures& all) {
+    if (component == "CPU")
+        return nameOfPartOfProcessor(sensor, all);
+    return withoutTakenWords(nameOfComponent(component == "NAND" ? "Drive" : "Graphics", sensor, all), all);
+}
+
+/// Of a sensor that is no component's own.
+std::string nameOfOther(const FoundTemperature& sensor, const Temperatures& all) {
+    const auto isOfChip = [&](const auto& other) { return sensor.chip.starts_with(other.first); };
+    const auto other = std::find_if(std::begin(otherChips), std::end(otherChips), isOfChip);
     const bool isZone = sensor.label == sensor.chip; // a thermal zone has one name for both
-    const std::string kind = !other.empty() ? std::string(other) : isZone ? std::string() : sensor.chip;
-    return withoutTakenWords(joined(kind, labelFor(sensor)), all);
+    std::string kind = isZone ? std::string() : sensor.chip;
+    if (other != std::end(otherChips))
+        kind = other->second;
+    return withoutTakenWords(joined(std::move(kind), labelFor(sensor)), all);
+}
+
+std::string nameOf(const FoundTemperature& sensor, const Temperatures& all) {
+    const std::string_view component = componentOf(sensor);
+    if (component.empty())
+        return nameOfOther(sensor, all);
+    if (isOfPart(sensor, all) || isOffsetValue(sensor, all))
+        return nameOfPart(component, sensor, all);
+    const bool standsForProcessor = component == "SoC" && !hasOwnSensor("CPU", all);
+    return nameOfComponent(standsForProcessor ? "CPU and SoC" : std::string(component), sensor, all);
 }
 
 } // namespace
-
-bool isProcessorChip(std::string_view chip) {
-    return wordOf(ownChips, chip) == "CPU";
-}
 
 std::vector<std::string> temperatureNames(const std::vector<FoundTemperature>& found) {
     std::vector<std::string> names;

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "linux/sensors/hwmon_chips.h"
-#include "linux/sensors/temperature_names.h"
+#include "linux/sensors/temperature_roles.h"
 
 namespace vantrix {
 namespace {
