@@ -62,7 +62,7 @@ SamplingSources makeSamplingSources(const KernelRoots& roots) {
     auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());
     const auto sensorClock = std::make_shared<LinuxClock>();
     sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);
-    sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperature());
+    sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperatures());
     sources.gpu = std::move(gpu);
     sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
     sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock);

@@ -86,6 +86,7 @@ void LinuxGPUSource::findGPUs() {
     std::vector<std::string> addresses;
     std::copy_if(nvidiaDevices.names().begin(), nvidiaDevices.names().end(), std::back_inserter(addresses),
                  isPCIAddress);
+    std::sort(addresses.begin(), addresses.end()); // their temperatures are told apart by their places
     nvidiaGPUs_.set(nvidiaDevices.path(), std::move(addresses));
 }
 

@@ -54,8 +54,8 @@ class LinuxGPUSource : public GPUSampler::Source {
 
     std::optional<std::span<const Properties>> read() override;
 
-    /// °C of the hottest of NVIDIA's GPUs, as of the last reading.
-    std::shared_ptr<const TimedValue> nvidiaTemperature() const { return nvidiaGPUs_.temperature(); }
+    /// °C of each of NVIDIA's GPUs, as of the last reading.
+    std::shared_ptr<const TimedValues> nvidiaTemperatures() const { return nvidiaGPUs_.temperatures(); }
 
   private:
     void findGPUs();

@@ -17,6 +17,7 @@ void NvidiaGPUs::set(const std::string& folder, std::vector<std::string> address
         const std::string device = pathBelow(folder, address);
         gpus_.push_back({.powerFile = GPUPowerFile(device), .rest = GPURest(device), .tellsLoad = isLibraryInstalled});
     }
+    temperatures_->assign(gpus_.size(), {});
     areNew_ = true;
 }
 
@@ -29,14 +30,12 @@ void NvidiaGPUs::read(double now, std::vector<std::optional<double>>& loads) {
         forgetAnswers();
     for (const GPU& gpu : gpus_)
         loads.push_back(gpu.isAsleep && gpu.tellsLoad ? 0.0 : gpu.load);
-    tellTemperature(now);
+    tellTemperatures(now);
 }
 
-void NvidiaGPUs::tellTemperature(double now) {
-    std::optional<double> hottest;
-    for (const GPU& gpu : gpus_)
-        hottest = std::max(hottest, gpu.temperature); // absence is less than anything
-    temperature_->set(hottest, now);
+void NvidiaGPUs::tellTemperatures(double now) {
+    for (std::size_t i = 0; i < gpus_.size(); ++i)
+        (*temperatures_)[i].set(gpus_[i].temperature, now);
 }
 
 /// Those of GPUs that are at work; a resting one is as it was.

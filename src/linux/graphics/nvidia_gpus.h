@@ -27,8 +27,8 @@ class NvidiaGPUs {
     /// Appends the load of each GPU in percent, absent where it cannot be told; `now` in seconds.
     void read(double now, std::vector<std::optional<double>>& loads);
 
-    /// °C of the hottest, as of the last reading. NVIDIA's driver puts no temperature into <sys>.
-    std::shared_ptr<const TimedValue> temperature() const { return temperature_; }
+    /// °C of each, as of the last reading. NVIDIA's driver puts no temperature into <sys>.
+    std::shared_ptr<const TimedValues> temperatures() const { return temperatures_; }
 
   private:
     struct GPU {
@@ -47,11 +47,11 @@ class NvidiaGPUs {
     void ask(double now);
     void collect();
     void forgetAnswers();
-    void tellTemperature(double now);
+    void tellTemperatures(double now);
 
     std::shared_ptr<NvidiaJob> job_; // shared with a thread that may outlive this
     std::shared_ptr<Background> background_;
-    std::shared_ptr<TimedValue> temperature_ = std::make_shared<TimedValue>();
+    std::shared_ptr<TimedValues> temperatures_ = std::make_shared<TimedValues>();
     std::vector<std::string> addresses_;
     std::vector<GPU> gpus_;
     bool areNew_ = false; // the job does not know of them yet

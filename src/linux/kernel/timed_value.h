@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 namespace vantrix {
 
@@ -21,5 +22,7 @@ class TimedValue {
     std::optional<double> value_;
     double takenAt_ = 0.0;
 };
+
+using TimedValues = std::vector<TimedValue>;
 
 } // namespace vantrix

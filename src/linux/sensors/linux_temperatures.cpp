@@ -22,7 +22,7 @@ double intervalOf(std::string_view chip) {
 } // namespace
 
 LinuxTemperatures::LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
-                                     std::shared_ptr<const TimedValue> nvidia)
+                                     std::shared_ptr<const TimedValues> nvidia)
     : sys_(std::move(sys)), clock_(std::move(clock)), nvidia_(std::move(nvidia)),
       schedule_({sys_ + "/class/hwmon", sys_ + "/class/thermal"}) {}
 
@@ -33,14 +33,13 @@ bool LinuxTemperatures::read(std::vector<HIDTemperatureSampler::Service>& servic
     for (Chip& chip : chips_)
         chip.state = chip.rest.look(now);
     bool failed = false;
-    const auto ofNvidia = nvidia_ ? nvidia_->value(now) : std::nullopt;
-    services.resize(sensors_.size() + (ofNvidia ? 1 : 0));
+    services.resize(sensors_.size() + (nvidia_ ? nvidia_->size() : 0));
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         services[i].product = sensors_[i].name;
         services[i].temperature = readSensor(sensors_[i], now, failed);
     }
-    if (ofNvidia)
-        services.back() = {"GPU NVIDIA", ofNvidia};
+    for (std::size_t i = sensors_.size(); i < services.size(); ++i)
+        services[i] = ofNvidia(i - sensors_.size(), now);
     if (failed)
         schedule_.noteFailure();
     return true;
@@ -57,6 +56,12 @@ std::optional<double> LinuxTemperatures::readSensor(Sensor& sensor, double& now,
         break;
     }
     return sensor.read(now, failed);
+}
+
+/// The names are short enough to need no memory of their own.
+HIDTemperatureSampler::Service LinuxTemperatures::ofNvidia(std::size_t place, double now) const {
+    const std::string number = place > 0 ? std::to_string(place + 1) + ' ' : std::string();
+    return {"GPU " + number + "NVIDIA", (*nvidia_)[place].value(now)};
 }
 
 void LinuxTemperatures::search() {

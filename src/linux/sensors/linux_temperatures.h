@@ -13,11 +13,12 @@
 namespace vantrix {
 
 /// Temperatures of <sys>/class/hwmon, and of <sys>/class/thermal where no chip is the processor's. Devices that sleep
-/// are not asked, nor are idle ones that are to fall asleep. "GPU NVIDIA" ends the list while `nvidia` has a value.
+/// are not asked, nor are idle ones that are to fall asleep. "GPU NVIDIA", "GPU 2 NVIDIA" and so on end the list: what
+/// `nvidia` holds.
 class LinuxTemperatures : public HIDTemperatureSampler::Source {
   public:
     LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
-                      std::shared_ptr<const TimedValue> nvidia = nullptr);
+                      std::shared_ptr<const TimedValues> nvidia = nullptr);
 
     bool read(std::vector<HIDTemperatureSampler::Service>& services) override;
 
@@ -32,11 +33,12 @@ class LinuxTemperatures : public HIDTemperatureSampler::Source {
     };
 
     void search();
+    HIDTemperatureSampler::Service ofNvidia(std::size_t place, double now) const;
     std::optional<double> readSensor(Sensor& sensor, double& now, bool& failed);
 
     std::string sys_;
     std::shared_ptr<const Clock> clock_;
-    std::shared_ptr<const TimedValue> nvidia_; // may be null
+    std::shared_ptr<const TimedValues> nvidia_; // may be null
     RescanSchedule schedule_;
     std::vector<Chip> chips_;
     std::vector<Sensor> sensors_;

@@ -220,21 +220,24 @@ TEST_F(LinuxGPUSourceTest, NvidiaLibraryIsAskedOnlyOfGPUsAwake) {
         const char* power;
         const char* other;
         double load;
-        std::optional<double> temperature; // of the hottest
+        std::vector<std::optional<double>> temperatures;
         int jobs;
         std::vector<std::string> calls;
     } rows[] = {
-        {"active", "suspended", 0.0, {}, 0, {}}, // looking for the one may wake the other
-        {"active", "active", 0.6, 30.0, 1, {"start", "find 0000:01:00.0", "find 0000:02:00.0", "load", "load"}},
-        {"active", "suspended", 0.3, 15.0, 1, {"load"}},
-        {"unsupported", "suspended", 0.3, 15.0, 1, {"load"}}, // never sleeps
-        {"suspended", "suspended", 0.0, {}, 1, {"stop"}},
+        {"active", "suspended", 0.0, {{}, {}}, 0, {}}, // looking for the one may wake the other
+        {"active", "active", 0.6, {15.0, 30.0}, 1, {"start", "find 0000:01:00.0", "find 0000:02:00.0", "load", "load"}},
+        {"active", "suspended", 0.3, {15.0, {}}, 1, {"load"}},
+        {"unsupported", "suspended", 0.3, {15.0, {}}, 1, {"load"}}, // never sleeps
+        {"suspended", "suspended", 0.0, {{}, {}}, 1, {"stop"}},
     };
     for (const auto& row : rows) {
         setPower(nvidiaDevice, row.power);
         setPower(otherNvidia, row.other);
         EXPECT_EQ(load(), row.load) << row.power << ' ' << row.other;
-        EXPECT_EQ(source.nvidiaTemperature()->value(clock.now), row.temperature) << row.power << ' ' << row.other;
+        std::vector<std::optional<double>> temperatures;
+        for (const TimedValue& temperature : *source.nvidiaTemperatures())
+            temperatures.push_back(temperature.value(clock.now));
+        EXPECT_EQ(temperatures, row.temperatures) << row.power << ' ' << row.other;
         EXPECT_THAT(takeCalls(), ::testing::UnorderedElementsAreArray(row.calls));
         EXPECT_EQ(std::exchange(background->jobs, 0), row.jobs);
     }

@@ -103,6 +103,14 @@ TEST_F(LinuxTemperaturesTest, ASensorThatStandsStillStaysShown) {
     EXPECT_THAT(read(), ElementsAre(Pair("CPU", 40.0)));
 }
 
+TEST_F(LinuxTemperaturesTest, GPUsOfNvidiaKeepTheirPlaces) {
+    const auto nvidia = std::make_shared<TimedValues>(3);
+    nvidia->front().set(40.0, clock->now);
+    nvidia->back().set(60.0, clock->now);
+    source = LinuxTemperatures(folder.path(""), clock, nvidia);
+    EXPECT_THAT(read(), ElementsAre(Pair("GPU 3 NVIDIA", 60.0), Pair("GPU NVIDIA", 40.0)));
+}
+
 TEST_F(LinuxTemperaturesTest, ASleepingGPUIsNeverAsked) {
     writeChip(0, "amdgpu", "50000");
     folder.write(device + "power/runtime_status", "suspended\n");
