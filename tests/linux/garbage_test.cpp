@@ -123,6 +123,7 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
                 {"zfs-host", 30, 0},
                 {"two-packs-and-accessories", 100, 0},
                 {"gpu-asleep-beside-another", 100, 0},
+                {"laptop-with-two-packs", 20, 6},
                 {"laptop-many-sensors", 3, 35}};
     Mutator mutator;
     for (const auto& row : rows) {
