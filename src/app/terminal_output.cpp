@@ -71,9 +71,7 @@ int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
             if (const auto status = printer.print())
                 QCoreApplication::exit(*status);
         };
-        monitor.start();
-        if (commandLine.interval)
-            monitor.setInterval(*commandLine.interval);
+        monitor.start(commandLine.interval.value_or(updateInterval(defaults)));
     });
     if (!commandLine.interval)
         QObject::connect(&defaults, &UserDefaults::changed, &monitor,

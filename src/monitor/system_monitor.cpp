@@ -34,9 +34,12 @@ SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaul
 }
 
 void SystemMonitor::start() {
+    start(updateInterval(defaults_));
+}
+
+void SystemMonitor::start(double interval) {
     if (isScheduled_)
         return;
-    const double interval = updateInterval(defaults_);
     if (interval != readings_.interval)
         store(&Readings::interval, interval, Reading::interval);
     sample();

@@ -32,6 +32,9 @@ class SystemMonitor : public QObject {
     /// Does nothing when already started.
     void start();
 
+    /// The same with an interval of its own.
+    void start(double interval);
+
     /// Replaces a running timer at once. The caller keeps the value at 0.5 s or more.
     void setInterval(double seconds);
 

@@ -120,7 +120,10 @@ TEST_F(ProgramTest, AClosedStandardOutputEndsPrintingQuietly) {
     process.start(u"bash"_s, {u"-c"_s, script, QStringLiteral(VANTRIX_PROGRAM)});
     ASSERT_TRUE(process.waitForFinished(patience));
     EXPECT_EQ(process.exitCode(), 0);
-    EXPECT_EQ(process.readAllStandardOutput().count('\n'), 1);
+    const QByteArray line = process.readAllStandardOutput();
+    EXPECT_EQ(line.count('\n'), 1);
+    EXPECT_TRUE(line.contains("\"interval\":0.5"))
+        << "the interval in force, already on the first line: " << line.data();
     EXPECT_EQ(process.readAllStandardError(), QByteArray());
 }
 
