@@ -159,7 +159,7 @@ void SystemMonitor::sampleAccessories() {
         return;
     lastAccessoriesSample_ = now;
     isSamplingAccessories_ = true;
-    const auto scan = std::make_shared<AccessoriesSampler::Scan>();
+    const auto scan = std::make_shared<std::optional<AccessoriesSampler::Scan>>();
     background_->run(
         [sampler = std::weak_ptr(accessoriesSampler_), scan] {
             if (const auto alive = sampler.lock())
@@ -171,10 +171,12 @@ void SystemMonitor::sampleAccessories() {
         });
 }
 
-void SystemMonitor::finishAccessories(AccessoriesSampler::Scan scan) {
+void SystemMonitor::finishAccessories(std::optional<AccessoriesSampler::Scan> scan) {
     isSamplingAccessories_ = false;
-    sampledAccessories_ = std::move(scan.accessories);
-    sampledDiagnostics_ = std::move(scan.diagnostics);
+    if (!scan) // no thread could be started for it
+        return;
+    sampledAccessories_ = std::move(scan->accessories);
+    sampledDiagnostics_ = std::move(scan->diagnostics);
     mergeAccessories();
 }
 

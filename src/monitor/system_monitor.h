@@ -65,7 +65,7 @@ class SystemMonitor : public QObject {
     void sampleSensors();
     void sampleBattery();
     void sampleAccessories();
-    void finishAccessories(AccessoriesSampler::Scan scan);
+    void finishAccessories(std::optional<AccessoriesSampler::Scan> scan);
     void mergeAccessories();
     void scheduleTimer();
     void appendTo(History Readings::*history, double value, Reading reading);

@@ -9,8 +9,8 @@ namespace vantrix {
 class TaskRunner {
   public:
     virtual ~TaskRunner() = default;
-    /// Calls `work` on another thread, then `done` on the main thread. `done` is dropped when the runner is gone by
-    /// then.
+    /// Calls `work` on another thread, then `done` on the main thread; `done` alone where no thread can be started. It
+    /// is dropped when the runner is gone by then.
     virtual void run(std::function<void()> work, std::function<void()> done) = 0;
 };
 

@@ -206,6 +206,19 @@ TEST_F(SystemMonitorTest, ScansEveryThirtySecondsAndNeverTwiceAtOnce) {
     EXPECT_EQ(machine.accessories->scans, 2);
 }
 
+TEST_F(SystemMonitorTest, AScanThatFindsNoThreadLeavesTheListAndIsTriedAgain) {
+    machine.accessories->result = {{{"Pen", 30, false, ""}}, "scan"};
+    monitor->start();
+    finishTask();
+    pass(30.0);
+    tasks.front().done(); // without the work
+    EXPECT_EQ(readings().accessories.size(), 1u);
+    EXPECT_EQ(readings().accessoriesDiagnostics, "scan | ble: ");
+    tasks.clear();
+    pass(30.0);
+    EXPECT_EQ(tasks.size(), 1u);
+}
+
 /// A monitor with Bluetooth, one mouse of which the scan finds as well.
 class BluetoothMonitorTest : public SystemMonitorTest {
   protected:
