@@ -228,6 +228,9 @@
     <message><source>Read history</source><translation>Leseverlauf</translation></message>
     <message><source>Write history</source><translation>Schreibverlauf</translation></message>
     <message><source>GPU history</source><translation>GPU-Verlauf</translation></message>
+    <!-- Accessories without a name, and the case of earbuds -->
+    <message><source>Bluetooth device</source><translation>Bluetooth-Gerät</translation></message>
+    <message><source>%@ case</source><translation>%@ (Etui)</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Zuhause</translation></message>
     <message><source>Keyboard</source><translation>Tastatur</translation></message>

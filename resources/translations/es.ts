@@ -237,6 +237,9 @@
     <message><source>Read history</source><translation>Historial de lectura</translation></message>
     <message><source>Write history</source><translation>Historial de escritura</translation></message>
     <message><source>GPU history</source><translation>Historial de la GPU</translation></message>
+    <!-- Accessories without a name, and the case of earbuds -->
+    <message><source>Bluetooth device</source><translation>Dispositivo Bluetooth</translation></message>
+    <message><source>%@ case</source><translation>Estuche de %@</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Casa</translation></message>
     <message><source>Keyboard</source><translation>Teclado</translation></message>

@@ -234,6 +234,9 @@
     <message><source>Read history</source><translation>Historique de lecture</translation></message>
     <message><source>Write history</source><translation>Historique d’écriture</translation></message>
     <message><source>GPU history</source><translation>Historique du GPU</translation></message>
+    <!-- Accessories without a name, and the case of earbuds -->
+    <message><source>Bluetooth device</source><translation>Appareil Bluetooth</translation></message>
+    <message><source>%@ case</source><translation>Boîtier de %@</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Maison</translation></message>
     <message><source>Keyboard</source><translation>Clavier</translation></message>

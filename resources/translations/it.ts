@@ -228,6 +228,9 @@
     <message><source>Read history</source><translation>Andamento della lettura</translation></message>
     <message><source>Write history</source><translation>Andamento della scrittura</translation></message>
     <message><source>GPU history</source><translation>Andamento della GPU</translation></message>
+    <!-- Accessories without a name, and the case of earbuds -->
+    <message><source>Bluetooth device</source><translation>Dispositivo Bluetooth</translation></message>
+    <message><source>%@ case</source><translation>Custodia di %@</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Casa</translation></message>
     <message><source>Keyboard</source><translation>Tastiera</translation></message>

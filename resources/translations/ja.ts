@@ -210,6 +210,9 @@
     <message><source>Read history</source><translation>読み出し速度の推移</translation></message>
     <message><source>Write history</source><translation>書き込み速度の推移</translation></message>
     <message><source>GPU history</source><translation>GPU負荷の推移</translation></message>
+    <!-- Accessories without a name, and the case of earbuds -->
+    <message><source>Bluetooth device</source><translation>Bluetoothデバイス</translation></message>
+    <message><source>%@ case</source><translation>%@のケース</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>自宅</translation></message>
     <message><source>Keyboard</source><translation>キーボード</translation></message>

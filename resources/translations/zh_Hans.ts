@@ -207,6 +207,9 @@
     <message><source>Read history</source><translation>读取速率走势</translation></message>
     <message><source>Write history</source><translation>写入速率走势</translation></message>
     <message><source>GPU history</source><translation>GPU 负载走势</translation></message>
+    <!-- Accessories without a name, and the case of earbuds -->
+    <message><source>Bluetooth device</source><translation>蓝牙设备</translation></message>
+    <message><source>%@ case</source><translation>%@充电盒</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>家</translation></message>
     <message><source>Keyboard</source><translation>键盘</translation></message>

@@ -11,14 +11,8 @@ struct AccessoryBattery {
     int percent = 0; ///< charge, 0 to 100
     bool isCharging = false;
     std::string symbol; ///< name of the symbol that pictures the accessory
-    /// The radio's, "AA:BB:CC:DD:EE:FF", or whatever else the system knows it by; empty when unknown. It tells devices
-    /// apart, but is never shown and so not compared.
-    std::string address = {};
 
-    bool operator==(const AccessoryBattery& other) const {
-        return name == other.name && percent == other.percent && isCharging == other.isCharging &&
-               symbol == other.symbol;
-    }
+    bool operator==(const AccessoryBattery&) const = default;
 };
 
 /// "Mouse 64%", for a bug report.

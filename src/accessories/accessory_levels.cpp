@@ -1,13 +1,12 @@
 #include "accessories/accessory_levels.h"
 
 #include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "support/localization.h"
 
 namespace vantrix {
-namespace {
-
-constexpr std::string_view caseSuffix = " case";
-
-} // namespace
 
 std::optional<int> AccessoryLevels::main() const {
     if (single || combined)
@@ -17,19 +16,17 @@ std::optional<int> AccessoryLevels::main() const {
     return left ? left : right;
 }
 
-void appendAccessory(std::vector<AccessoryBattery>& list, AccessoryBattery accessory, const AccessoryLevels& levels) {
-    const std::string name = accessory.name;
-    const std::string address = accessory.address;
+void appendAccessory(std::vector<AccessoryReading>& list, AccessoryReading accessory, const AccessoryLevels& levels) {
     if (const auto level = levels.main()) {
-        accessory.percent = boundedPercent(*level);
-        list.push_back(std::move(accessory));
+        accessory.battery.percent = boundedPercent(*level);
+        list.push_back(accessory);
     }
-    if (levels.box)
-        list.push_back({name + std::string(caseSuffix), boundedPercent(*levels.box), false, "earbuds.case", address});
-}
-
-bool isCase(const AccessoryBattery& accessory) {
-    return accessory.symbol == "earbuds.case" && accessory.name.ends_with(caseSuffix);
+    if (!levels.box)
+        return;
+    std::string name = formatted(localized("%@ case"), {std::string_view(accessory.battery.name)});
+    accessory.battery = {std::move(name), boundedPercent(*levels.box), false, "earbuds.case"};
+    accessory.isCase = true;
+    list.push_back(std::move(accessory));
 }
 
 } // namespace vantrix

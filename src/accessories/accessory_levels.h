@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "accessories/accessory_battery.h"
+#include "accessories/accessory_reading.h"
 
 namespace vantrix {
 
@@ -22,10 +22,7 @@ struct AccessoryLevels {
 };
 
 /// Appends the accessory with its main level and, where its case has one, an entry for that: the name followed by
-/// " case". Appends nothing for absent levels; others are brought within 0 to 100.
-void appendAccessory(std::vector<AccessoryBattery>& list, AccessoryBattery accessory, const AccessoryLevels& levels);
-
-/// True for the entry of a case.
-bool isCase(const AccessoryBattery& accessory);
+/// " case" in the language of the interface. Appends nothing for absent levels; others are brought within 0 to 100.
+void appendAccessory(std::vector<AccessoryReading>& list, AccessoryReading accessory, const AccessoryLevels& levels);
 
 } // namespace vantrix

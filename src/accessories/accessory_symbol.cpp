@@ -17,7 +17,7 @@ std::string symbolForAccessory(std::string_view name) {
         if (lowered.find(word) != std::string::npos)
             return symbol;
     }
-    return "dot.radiowaves.left.and.right";
+    return unspecificSymbol;
 }
 
 } // namespace vantrix

@@ -5,6 +5,9 @@
 
 namespace vantrix {
 
+/// The symbol of an accessory that could be anything.
+inline constexpr const char* unspecificSymbol = "dot.radiowaves.left.and.right";
+
 /// Name of the symbol that pictures an accessory, by words in its name.
 std::string symbolForAccessory(std::string_view name);
 

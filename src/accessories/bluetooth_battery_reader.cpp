@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "accessories/accessory_symbol.h"
+#include "support/localization.h"
 #include "support/text_format.h"
 
 namespace vantrix {
@@ -12,7 +13,6 @@ namespace {
 constexpr double refreshInterval = 60.0; // seconds
 constexpr double refreshTolerance = 6.0; // seconds
 constexpr int audioClass = 4;
-constexpr const char* namelessDevice = "Bluetooth device";
 
 using bluetooth_uuid::batteryLevel;
 using bluetooth_uuid::batteryService;
@@ -32,15 +32,10 @@ const char* statusOf(BluetoothState state) {
     return "unavailable";
 }
 
-std::string nameOf(const BluetoothPeripheral& peripheral) {
-    const auto name = peripheral.name();
-    return name && !name->empty() ? *name : namelessDevice;
-}
-
-std::string nameOf(const ClassicBluetoothDevices::Device& device) {
-    if (!device.name.empty())
-        return device.name;
-    return device.address.empty() ? namelessDevice : device.address;
+std::string displayName(const std::string& ownName, const std::string& address = {}) {
+    if (!ownName.empty())
+        return ownName;
+    return address.empty() ? localized("Bluetooth device") : address;
 }
 
 } // namespace
@@ -159,31 +154,35 @@ void BluetoothBatteryReader::readClassicDevices() {
     for (const ClassicBluetoothDevices::Device& device : classicDevices_->paired()) {
         if (!device.isConnected)
             continue;
-        const std::string name = nameOf(device);
+        const std::string name = displayName(device.name, device.address);
         const std::string symbol = device.majorClass == audioClass ? "headphones" : symbolForAccessory(name);
         const std::size_t before = classic_.size();
-        appendAccessory(classic_, {name, 0, false, symbol, device.address}, device.levels);
+        appendAccessory(classic_, {{name, 0, false, symbol}, device.address, {}, !device.name.empty()}, device.levels);
         // Where only the case has a level, its line stands for the device.
         appendToList(classicInfo_, classic_.size() > before
-                                       ? namedLevel(classic_[before])
+                                       ? namedLevel(classic_[before].battery)
                                        : name + " [no value] class " + std::to_string(device.majorClass));
     }
 }
 
-std::vector<AccessoryBattery> BluetoothBatteryReader::readings() const {
-    std::vector<AccessoryBattery> list;
+std::vector<AccessoryReading> BluetoothBatteryReader::readings() const {
+    std::vector<AccessoryReading> list;
     list.reserve(levels_.size());
     for (const auto& [identifier, peripheral] : peripherals_) {
         const auto level = levels_.find(identifier);
         if (level == levels_.end())
             continue;
-        const std::string name = nameOf(*peripheral);
-        list.push_back({name, level->second, false, symbolForAccessory(name), peripheral->address()});
+        const std::string ownName = peripheral->name().value_or("");
+        const std::string name = displayName(ownName);
+        list.push_back({{name, level->second, false, symbolForAccessory(name)},
+                        peripheral->address(),
+                        identifier,
+                        !ownName.empty()});
     }
     return list;
 }
 
-std::vector<AccessoryBattery> BluetoothBatteryReader::all() const {
+std::vector<AccessoryReading> BluetoothBatteryReader::all() const {
     auto list = readings();
     list.insert(list.end(), classic_.begin(), classic_.end());
     return list;
@@ -191,8 +190,8 @@ std::vector<AccessoryBattery> BluetoothBatteryReader::all() const {
 
 std::string BluetoothBatteryReader::diagnostics() const {
     std::string levels;
-    for (const AccessoryBattery& reading : readings())
-        appendToList(levels, namedLevel(reading));
+    for (const AccessoryReading& reading : readings())
+        appendToList(levels, namedLevel(reading.battery));
     std::string text = status_ + ", " + std::to_string(peripherals_.size()) + " with battery service";
     if (!levels.empty())
         text += ": " + levels;

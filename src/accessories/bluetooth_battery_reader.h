@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "accessories/accessory_battery.h"
+#include "accessories/accessory_reading.h"
 #include "accessories/bluetooth_central.h"
 #include "accessories/classic_bluetooth_devices.h"
 #include "support/repeating_timer.h"
@@ -27,11 +27,11 @@ class BluetoothBatteryReader final : private BluetoothCentral::Delegate, private
     BluetoothBatteryReader& operator=(const BluetoothBatteryReader&) = delete;
 
     /// The LE peripherals with a level.
-    std::vector<AccessoryBattery> readings() const;
+    std::vector<AccessoryReading> readings() const;
     /// The classic devices with a level, and their cases.
-    const std::vector<AccessoryBattery>& classic() const { return classic_; }
+    const std::vector<AccessoryReading>& classic() const { return classic_; }
     /// The LE peripherals, then the classic devices.
-    std::vector<AccessoryBattery> all() const;
+    std::vector<AccessoryReading> all() const;
     /// The state and every device in words, for a bug report.
     std::string diagnostics() const;
 
@@ -60,7 +60,7 @@ class BluetoothBatteryReader final : private BluetoothCentral::Delegate, private
     bool isScheduled_ = false;
     std::map<std::string, std::shared_ptr<BluetoothPeripheral>> peripherals_; // by identifier
     std::map<std::string, int> levels_;                                       // percent, by identifier
-    std::vector<AccessoryBattery> classic_;
+    std::vector<AccessoryReading> classic_;
     std::string classicInfo_;
     std::string status_ = "starting";
     std::shared_ptr<void> life_; // what the timer watches: it may outlive the reader

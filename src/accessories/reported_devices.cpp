@@ -24,7 +24,7 @@ void add(ReportedDevices& devices, const std::string& name, std::string_view kin
     // The name comes first: it tells AirPods from other headphones.
     const std::string symbol = symbolForAccessory(name + ' ' + std::string(kind));
     const std::size_t before = devices.accessories.size();
-    appendAccessory(devices.accessories, {name, 0, false, symbol, std::string(address)}, levels);
+    appendAccessory(devices.accessories, {{name, 0, false, symbol}, std::string(address)}, levels);
     if (devices.accessories.size() == before)
         devices.others.push_back(name);
 }

@@ -11,7 +11,7 @@ namespace vantrix {
 
 /// The devices that one origin of a scan lists.
 struct ReportedDevices {
-    std::vector<AccessoryBattery> accessories; ///< with a level, in the order of their mention
+    std::vector<AccessoryReading> accessories; ///< with a level, in the order of their mention
     std::vector<std::string> others;           ///< names of those without one
 
     /// A connected device of the system profiler's Bluetooth report, by the report's keys, which are the same in every

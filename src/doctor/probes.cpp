@@ -59,8 +59,8 @@ std::string wattsText(const std::optional<double>& watts) {
 
 std::string accessoriesText(const AccessoriesSampler::Scan& scan) {
     std::string text;
-    for (const AccessoryBattery& accessory : scan.accessories)
-        appendToList(text, percent(accessory.percent));
+    for (const AccessoryReading& accessory : scan.accessories)
+        appendToList(text, percent(accessory.battery.percent));
     return text;
 }
 

@@ -183,8 +183,10 @@ void SystemMonitor::finishAccessories(std::optional<AccessoriesSampler::Scan> sc
 void SystemMonitor::mergeAccessories() {
     if (isDemo_)
         return;
-    auto combined =
-        combineAccessories(sampledAccessories_, bluetooth_ ? bluetooth_->all() : std::vector<AccessoryBattery>());
+    auto merged = combineAccessories(sampledAccessories_, {});
+    if (bluetooth_) // in turn: a headset that is connected in both ways is one
+        merged = combineAccessories(combineAccessories(merged, bluetooth_->readings()), bluetooth_->classic());
+    const auto combined = batteriesOf(merged);
     if (combined != readings_.accessories)
         store(&Readings::accessories, combined, Reading::accessories);
     store(&Readings::accessoriesDiagnostics,

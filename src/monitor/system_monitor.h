@@ -84,7 +84,7 @@ class SystemMonitor : public QObject {
     bool isDemo_ = false;
     bool isSamplingAccessories_ = false;
     std::optional<double> lastAccessoriesSample_; // uptime; absent: the distant past
-    std::vector<AccessoryBattery> sampledAccessories_;
+    std::vector<AccessoryReading> sampledAccessories_;
     std::string sampledDiagnostics_;
     std::optional<BluetoothBatteryReader> bluetooth_; // absent with its central
 };

@@ -12,10 +12,16 @@ namespace vantrix {
 /// reorder them with "%2$lld".
 using Translator = std::string (*)(std::string_view english, std::optional<long long> count);
 
-/// Installs the look-up; until then every text is shown in English. Called once, before any text is asked for.
+/// Installs the look-up; until then every text is shown in English. Called once, before any text is asked for, on
+/// whichever thread.
 void installTranslator(Translator translator);
 
 std::string localized(std::string_view english);
+
+/// Marks the English form of a text that is localised where it is shown, so that the tables can be checked for it.
+constexpr std::string_view localizedLater(std::string_view english) {
+    return english;
+}
 
 /// The plural form for `count` of a text with one "%lld" mark, filled in.
 std::string localizedCount(std::string_view english, long long count);

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "fakes/fake_bluetooth.h"
+#include "support/localization.h"
 
 namespace vantrix {
 namespace {
@@ -54,8 +55,10 @@ TEST_F(BluetoothBatteryReaderTest, ConnectsDiscoversReadsAndSubscribes) {
     EXPECT_THAT(mouse->asked, IsEmpty());
     system.central->delegate->didConnect(*mouse);
     EXPECT_THAT(mouse->asked, ElementsAre("services", "characteristics of service", "read level", "subscribe level"));
-    EXPECT_THAT(reader->readings(), ElementsAre(AccessoryBattery{"Quick Mouse", 64, false, "computermouse"}));
+    EXPECT_THAT(batteriesOf(reader->readings()),
+                ElementsAre(AccessoryBattery{"Quick Mouse", 64, false, "computermouse"}));
     EXPECT_EQ(reader->readings()[0].address, "AA:1");
+    EXPECT_EQ(reader->readings()[0].identifier, "1");
 }
 
 TEST_F(BluetoothBatteryReaderTest, TakesLevelsAsTheyAre) {
@@ -64,12 +67,12 @@ TEST_F(BluetoothBatteryReaderTest, TakesLevelsAsTheyAre) {
     device->tell({7, 1});
     device->tell({});
     device->tell({9}, "2A29"); // another characteristic
-    EXPECT_THAT(reader->readings(),
+    EXPECT_THAT(batteriesOf(reader->readings()),
                 ElementsAre(AccessoryBattery{"Bluetooth device", 7, false, "dot.radiowaves.left.and.right"}));
     device->tell({8}, "00002A19-0000-1000-8000-00805F9B34FB");
-    EXPECT_EQ(reader->readings()[0].percent, 8);
+    EXPECT_EQ(reader->readings()[0].battery.percent, 8);
     device->tell({0xff});
-    EXPECT_EQ(reader->readings()[0].percent, 100);
+    EXPECT_EQ(reader->readings()[0].battery.percent, 100);
     EXPECT_EQ(changes, 1 + 3) << "the state and what was a level";
 }
 
@@ -106,11 +109,21 @@ TEST_F(BluetoothBatteryReaderTest, ListsClassicDevices) {
         {"Far away", "00:05", false, audio, {.single = 50}},
     };
     system.central->become(State::poweredOn);
-    EXPECT_THAT(reader->classic(), ElementsAre(AccessoryBattery{"Buds", 30, false, "headphones"},
-                                               AccessoryBattery{"Buds case", 90, false, "earbuds.case"},
-                                               AccessoryBattery{"00:02", 100, false, "dot.radiowaves.left.and.right"}));
+    EXPECT_THAT(batteriesOf(reader->classic()),
+                ElementsAre(AccessoryBattery{"Buds", 30, false, "headphones"},
+                            AccessoryBattery{"Buds case", 90, false, "earbuds.case"},
+                            AccessoryBattery{"00:02", 100, false, "dot.radiowaves.left.and.right"}));
     EXPECT_EQ(reader->diagnostics(),
               "on, 0 with battery service | classic: Buds 30%, 00:02 100%, Travel Mouse [no value] class 5");
+}
+
+TEST_F(BluetoothBatteryReaderTest, SpeaksTheLanguageOfTheInterface) {
+    installTranslator([](std::string_view english, auto) { return '<' + std::string(english) + '>'; });
+    system.classic->devices = {{"", "", true, 0, {.single = 1}}, {"Buds", "", true, 0, {.box = 2}}};
+    system.central->become(State::poweredOn);
+    installTranslator(nullptr);
+    EXPECT_EQ(reader->classic()[0].battery.name, "<Bluetooth device>");
+    EXPECT_EQ(reader->classic()[1].battery.name, "<Buds case>");
 }
 
 TEST_F(BluetoothBatteryReaderTest, LeavesNothingBehindThatCallsIt) {

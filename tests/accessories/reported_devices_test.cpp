@@ -17,9 +17,10 @@ TEST(ReportedDevices, HaveTheLevelsThatMakeSense) {
     for (const char* level : {"many%", "-3%", "%", "", "5 percent", "99999999999%"})
         devices.addBluetoothDevice(level, {{"device_batteryLevelMain", level}});
     devices.addInputDevice({{"Product", "Mouse"}, {"BatteryPercent", (std::int64_t{1} << 32) + 50}});
-    EXPECT_THAT(devices.accessories, ElementsAre(AccessoryBattery{"Ann's AirPods Pro", 98, false, "airpods"},
-                                                 AccessoryBattery{"Ann's AirPods Pro case", 57, false, "earbuds.case"},
-                                                 AccessoryBattery{"Mouse", 100, false, "computermouse"}));
+    EXPECT_THAT(batteriesOf(devices.accessories),
+                ElementsAre(AccessoryBattery{"Ann's AirPods Pro", 98, false, "airpods"},
+                            AccessoryBattery{"Ann's AirPods Pro case", 57, false, "earbuds.case"},
+                            AccessoryBattery{"Mouse", 100, false, "computermouse"}));
     EXPECT_EQ(devices.accessories[1].address, "AA:BB:CC:DD:EE:01");
     EXPECT_THAT(devices.others, ElementsAre("many%", "-3%", "%", "", "5 percent", "99999999999%"));
 }

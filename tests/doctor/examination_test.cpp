@@ -25,7 +25,7 @@ Finding found(const char* value, const char* note = "") {
 TEST(Examination, TakesLoadsAndRatesBetweenItsPasses) {
     fakes::FakeMachine machine;
     Examination examination(machine.makeSources(), patience);
-    machine.accessories->result.accessories = {{"Ann's mouse", 64}, {"Pen", 5}};
+    machine.accessories->result.accessories = {{{"Ann's mouse", 64}}, {{"Pen", 5}}};
     examination.beginPass();
     EXPECT_EQ(machine.accessories->scans, 0); // slow, and in need of no baseline
     machine.cpu->advance(30, 100);

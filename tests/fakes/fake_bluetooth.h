@@ -14,7 +14,7 @@ class FakePeripheral : public BluetoothPeripheral {
 
     std::string identifier() const override { return id; }
     std::optional<std::string> name() const override { return called; }
-    std::string address() const override { return "AA:" + id; }
+    std::string address() const override { return radio; }
     bool isConnected() const override { return connected; }
     void discoverServices(const BluetoothUUID& kind) override {
         asked.push_back("services");
@@ -39,6 +39,7 @@ class FakePeripheral : public BluetoothPeripheral {
     }
 
     std::string id;
+    std::string radio = "AA:" + id; ///< its address
     std::optional<std::string> called;
     bool connected = true;
     std::optional<std::vector<std::uint8_t>> value;
@@ -85,6 +86,14 @@ struct FakeBluetooth {
     FakeCentral* central = nullptr;
     FakeClassicDevices* classic = nullptr;
     FakeTimer* timer = nullptr;
+
+    /// A connected LE device of a Mac, which keeps its address secret.
+    void add(const std::string& id, const std::string& name, std::uint8_t level) const {
+        const auto peripheral = std::make_shared<FakePeripheral>(id, name);
+        peripheral->radio.clear();
+        peripheral->value = {level};
+        central->peripherals.push_back(peripheral);
+    }
 
     Bluetooth make() {
         central = new FakeCentral;

@@ -109,7 +109,7 @@ void expectPlausible(Samplers& samplers) {
     EXPECT_TRUE(std::ranges::all_of(sensors.fans, isFan));
     EXPECT_LT(sensors.systemPower.value_or(1.0), 600.0);
     for (const auto& accessory : samplers.sources.accessories->scan().accessories)
-        EXPECT_TRUE(accessory.percent >= 0 && accessory.percent <= 100) << accessory.percent;
+        EXPECT_TRUE(accessory.battery.percent >= 0 && accessory.battery.percent <= 100) << accessory.battery.percent;
 }
 
 /// Chips and zones lose their names, sensors and counters their numbers; what is shown stays plausible, whether the

@@ -207,7 +207,7 @@ TEST_F(SystemMonitorTest, ScansEveryThirtySecondsAndNeverTwiceAtOnce) {
 }
 
 TEST_F(SystemMonitorTest, AScanThatFindsNoThreadLeavesTheListAndIsTriedAgain) {
-    machine.accessories->result = {{{"Pen", 30, false, ""}}, "scan"};
+    machine.accessories->result = {{{{"Pen", 30, false, ""}}}, "scan"};
     monitor->start();
     finishTask();
     pass(30.0);
@@ -219,12 +219,15 @@ TEST_F(SystemMonitorTest, AScanThatFindsNoThreadLeavesTheListAndIsTriedAgain) {
     EXPECT_EQ(tasks.size(), 1u);
 }
 
+constexpr const char* any = "dot.radiowaves.left.and.right";
+
 /// A monitor with Bluetooth, one mouse of which the scan finds as well.
 class BluetoothMonitorTest : public SystemMonitorTest {
   protected:
     BluetoothMonitorTest() {
         make(machine.makeSources(), bluetooth.make());
-        machine.accessories->result = {{{"hid-mouse", 40, false, "", "AA:1"}, {"Pen", 30, false, ""}}, "scan"};
+        machine.accessories->result = {{{{"hid-mouse", 40, false, "computermouse"}, "AA:1"}, {{"Pen", 30, false, ""}}},
+                                       "scan"};
         bluetooth.central->peripherals = {mouse};
         mouse->value = {64};
     }
@@ -250,6 +253,18 @@ TEST_F(BluetoothMonitorTest, LiveLevelsReplaceScannedOnesOfTheSameDevice) {
     QCoreApplication::sendPostedEvents(monitor.get());
     EXPECT_EQ(readings().accessories[0].percent, 63);
     EXPECT_THAT(changes, ElementsAre(Reading::accessories, Reading::accessoriesDiagnostics));
+}
+
+TEST_F(BluetoothMonitorTest, AHeadsetConnectedInBothWaysIsOneAndTwoOfANameAreTwo) {
+    bluetooth.central->peripherals.clear();
+    bluetooth.add("1", "Buds", 80);
+    bluetooth.add("2", "Pad", 79);
+    bluetooth.add("3", "Pad", 78);
+    bluetooth.classic->devices = {{"Buds", "AA:9", true, 4, {.single = 70}}};
+    becomeOn();
+    EXPECT_THAT(readings().accessories,
+                ElementsAre(AccessoryBattery{"Buds", 70, false, "headphones"}, AccessoryBattery{"Pad", 79, false, any},
+                            AccessoryBattery{"Pad", 78, false, any}));
 }
 
 TEST_F(BluetoothMonitorTest, DemoReadingsStayFixedAndAMonitorThatGoesIsNotCalled) {

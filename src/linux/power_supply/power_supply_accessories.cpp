@@ -35,10 +35,8 @@ std::string nameOf(const std::string& supply, const std::string& entry) {
 }
 
 std::string addressOf(const std::string& supply, const std::string& entry) {
-    if (std::string address = findAddress(entry); !address.empty())
-        return address;
-    std::string address = findAddress(readEventValue(supply + "/device", "HID_UNIQ"));
-    return address.empty() ? entry : address; // two mice of one kind are two
+    const std::string address = findAddress(entry);
+    return address.empty() ? findAddress(readEventValue(supply + "/device", "HID_UNIQ")) : address;
 }
 
 std::optional<int> levelOf(const std::string& supply) {
@@ -94,8 +92,9 @@ AccessoriesSampler::Scan PowerSupplyAccessories::scan() {
             continue;
         }
         const std::string symbol = symbolForAccessory(name);
-        scan.accessories.push_back(
-            {std::move(name), *level, readWord(supply + "/status") == "Charging", symbol, addressOf(supply, entry)});
+        scan.accessories.push_back({{std::move(name), *level, readWord(supply + "/status") == "Charging", symbol},
+                                    addressOf(supply, entry),
+                                    entry});
     }
     scan.diagnostics = accessoriesDiagnostics("power_supply", scan.accessories, others);
     return scan;

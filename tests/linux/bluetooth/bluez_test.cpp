@@ -92,7 +92,8 @@ class BluezTest : public testing::Test {
     /// Whatever the service has sent so far has arrived once this did.
     bool levelGets(int percent) {
         bluez.change(mousePath, bluez::battery, level(percent));
-        return spinUntil([&] { return !reader->readings().empty() && reader->readings()[0].percent == percent; });
+        return spinUntil(
+            [&] { return !reader->readings().empty() && reader->readings()[0].battery.percent == percent; });
     }
 
     void addAdapterAndMouse() {
@@ -112,12 +113,13 @@ TEST_F(BluezTest, ReadsLevelsThatTheServicePublishes) {
     bluez.put(headsetPath, bluez::device, headset());
     bluez.put(headsetPath, bluez::battery, level(80));
     ASSERT_TRUE(begin("on, 1 with battery service: Desk Mouse 64% | classic: AA:BB:CC:DD:EE:02 80%"));
-    EXPECT_THAT(reader->all(), ElementsAre(AccessoryBattery{"Desk Mouse", 64, false, "computermouse"},
-                                           AccessoryBattery{"AA:BB:CC:DD:EE:02", 80, false, "headphones"}));
+    EXPECT_THAT(batteriesOf(reader->all()),
+                ElementsAre(AccessoryBattery{"Desk Mouse", 64, false, "computermouse"},
+                            AccessoryBattery{"AA:BB:CC:DD:EE:02", 80, false, "headphones"}));
     EXPECT_EQ(reader->all()[0].address, "AA:BB:CC:DD:EE:01");
     EXPECT_TRUE(levelGets(63));
     bluez.change(mousePath, bluez::battery, level(255));
-    EXPECT_TRUE(spinUntil([&] { return reader->readings()[0].percent == 100; }));
+    EXPECT_TRUE(spinUntil([&] { return reader->readings()[0].battery.percent == 100; }));
     EXPECT_EQ(bluez.asked.size(), 1u) << "the objects are asked for once, and no device ever";
 }
 

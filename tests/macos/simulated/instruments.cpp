@@ -85,8 +85,8 @@ ReadingTexts Instruments::pass() {
     const ProcessorDescription processor(*sources_.information);
     texts["processor"] = processor.brand() + ", " + processor.cores();
     texts["accessories"] = "-";
-    for (const AccessoryBattery& accessory : sources_.accessories->scan().accessories)
-        texts["accessories"] = words(accessory.name, accessory.percent, accessory.address);
+    for (const AccessoryReading& accessory : sources_.accessories->scan().accessories)
+        texts["accessories"] = words(accessory.battery.name, accessory.battery.percent, accessory.address);
     return texts;
 }
 
