@@ -230,6 +230,9 @@
     <message><source>GPU history</source><translation>GPU-Verlauf</translation></message>
     <!-- Accessories without a name, and the case of earbuds -->
     <message><source>Bluetooth device</source><translation>Bluetooth-Gerät</translation></message>
+    <message><source>Wireless device</source><translation>Kabelloses Gerät</translation></message>
+    <message><source>Graphics tablet</source><translation>Grafiktablett</translation></message>
+    <message><source>Game controller</source><translation>Gamecontroller</translation></message>
     <message><source>%@ case</source><translation>%@ (Etui)</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Zuhause</translation></message>

@@ -239,6 +239,9 @@
     <message><source>GPU history</source><translation>Historial de la GPU</translation></message>
     <!-- Accessories without a name, and the case of earbuds -->
     <message><source>Bluetooth device</source><translation>Dispositivo Bluetooth</translation></message>
+    <message><source>Wireless device</source><translation>Dispositivo inalámbrico</translation></message>
+    <message><source>Graphics tablet</source><translation>Tableta gráfica</translation></message>
+    <message><source>Game controller</source><translation>Mando de juego</translation></message>
     <message><source>%@ case</source><translation>Estuche de %@</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Casa</translation></message>

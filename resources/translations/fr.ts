@@ -236,6 +236,9 @@
     <message><source>GPU history</source><translation>Historique du GPU</translation></message>
     <!-- Accessories without a name, and the case of earbuds -->
     <message><source>Bluetooth device</source><translation>Appareil Bluetooth</translation></message>
+    <message><source>Wireless device</source><translation>Appareil sans fil</translation></message>
+    <message><source>Graphics tablet</source><translation>Tablette graphique</translation></message>
+    <message><source>Game controller</source><translation>Manette de jeu</translation></message>
     <message><source>%@ case</source><translation>Boîtier de %@</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Maison</translation></message>

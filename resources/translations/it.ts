@@ -230,6 +230,9 @@
     <message><source>GPU history</source><translation>Andamento della GPU</translation></message>
     <!-- Accessories without a name, and the case of earbuds -->
     <message><source>Bluetooth device</source><translation>Dispositivo Bluetooth</translation></message>
+    <message><source>Wireless device</source><translation>Dispositivo senza fili</translation></message>
+    <message><source>Graphics tablet</source><translation>Tavoletta grafica</translation></message>
+    <message><source>Game controller</source><translation>Controller di gioco</translation></message>
     <message><source>%@ case</source><translation>Custodia di %@</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>Casa</translation></message>

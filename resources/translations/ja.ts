@@ -212,6 +212,9 @@
     <message><source>GPU history</source><translation>GPU負荷の推移</translation></message>
     <!-- Accessories without a name, and the case of earbuds -->
     <message><source>Bluetooth device</source><translation>Bluetoothデバイス</translation></message>
+    <message><source>Wireless device</source><translation>ワイヤレスデバイス</translation></message>
+    <message><source>Graphics tablet</source><translation>ペンタブレット</translation></message>
+    <message><source>Game controller</source><translation>ゲームコントローラ</translation></message>
     <message><source>%@ case</source><translation>%@のケース</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>自宅</translation></message>

@@ -209,6 +209,9 @@
     <message><source>GPU history</source><translation>GPU 负载走势</translation></message>
     <!-- Accessories without a name, and the case of earbuds -->
     <message><source>Bluetooth device</source><translation>蓝牙设备</translation></message>
+    <message><source>Wireless device</source><translation>无线设备</translation></message>
+    <message><source>Graphics tablet</source><translation>数位板</translation></message>
+    <message><source>Game controller</source><translation>游戏手柄</translation></message>
     <message><source>%@ case</source><translation>%@充电盒</translation></message>
     <!-- Names in the readings shown as an example -->
     <message><source>Home</source><translation>家</translation></message>

@@ -2,52 +2,33 @@
 
 #include <algorithm>
 
-#include "accessories/accessory_symbol.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
+#include "linux/power_supply/accessory_name.h"
+#include "linux/sensors/sensor_files.h"
 #include "linux/sensors/supply_kind.h"
 #include "support/ascii_case.h"
 #include "support/integer.h"
-#include "support/utf8.h"
 
 namespace vantrix {
 namespace {
 
-/// The first line of a file without the blanks around it; empty when it cannot be read.
-std::string readWord(const std::string& path) {
-    const auto text = readStart(path, 256);
-    if (!text)
-        return {};
-    const std::string line = text->substr(0, text->find('\n'));
-    const auto begin = line.find_first_not_of(' ');
-    return begin == std::string::npos ? "" : line.substr(begin, line.find_last_not_of(' ') - begin + 1);
-}
-
-std::string readEventValue(const std::string& device, std::string_view key) {
-    return std::string(ueventValue(readStart(device + "/uevent").value_or(""), key));
-}
-
-std::string nameOf(const std::string& supply, const std::string& entry) {
-    std::string name = readWord(supply + "/model_name");
-    if (name.empty())
-        name = readEventValue(supply + "/device", "HID_NAME");
-    return repairedUTF8(name.empty() ? entry : name);
-}
-
 std::string addressOf(const std::string& supply, const std::string& entry) {
     const std::string address = findAddress(entry);
-    return address.empty() ? findAddress(readEventValue(supply + "/device", "HID_UNIQ")) : address;
+    return address.empty() ? findAddress(ueventValue(readStart(supply + "/device/uevent").value_or(""), "HID_UNIQ"))
+                           : address;
 }
 
-std::optional<int> levelOf(const std::string& supply) {
-    if (const auto percent = parseInteger(readWord(supply + "/capacity")))
-        return boundedPercent(*percent);
-    return percentOfLevel(readWord(supply + "/capacity_level"));
+/// Absent when the device has not told its level yet: most drivers then say 0 %, in a state that they do not know.
+std::optional<int> levelOf(const std::string& supply, std::string_view status) {
+    const auto percent = parseInteger(readName(supply + "/capacity"));
+    const bool isTold = percent && (*percent > 0 || (*percent == 0 && status != "Unknown"));
+    return isTold ? boundedPercent(*percent) : percentOfLevel(readName(supply + "/capacity_level"));
 }
 
 /// A wireless device keeps its entry while it is switched off, or out of reach of its receiver.
 bool isThere(const std::string& supply) {
-    return readWord(supply + "/online") != "0" && readWord(supply + "/present") != "0";
+    return readName(supply + "/online") != "0" && readName(supply + "/present") != "0";
 }
 
 bool isAddressAt(std::string_view text) {
@@ -85,16 +66,17 @@ AccessoriesSampler::Scan PowerSupplyAccessories::scan() {
         const std::string supply = sys_ + "/class/power_supply/" + entry;
         if (!isThere(supply))
             continue;
-        std::string name = nameOf(supply, entry);
-        const auto level = levelOf(supply);
+        AccessoryName name = accessoryName(supply, entry);
+        const std::string status = readName(supply + "/status");
+        const auto level = levelOf(supply, status);
         if (!level) {
-            others.push_back(std::move(name));
+            others.push_back(std::move(name.text));
             continue;
         }
-        const std::string symbol = symbolForAccessory(name);
-        scan.accessories.push_back({{std::move(name), *level, readWord(supply + "/status") == "Charging", symbol},
+        scan.accessories.push_back({{std::move(name.text), *level, status == "Charging", std::move(name.symbol)},
                                     addressOf(supply, entry),
-                                    entry});
+                                    entry,
+                                    name.isOwn});
     }
     scan.diagnostics = accessoriesDiagnostics("power_supply", scan.accessories, others);
     return scan;
