@@ -28,12 +28,22 @@ struct Machine {
     std::vector<std::string> packs{};    ///< folders of its battery's
 };
 
+constexpr const char* firstSocket = "sys/devices/platform/coretemp.0/hwmon/hwmon1/temp1_input";
+constexpr const char* secondSocket = "sys/devices/platform/coretemp.1/hwmon/hwmon2/temp1_input";
+
 const Machine machines[] = {
     {"cloud-machine", {"eth0"}, {"vda"}},
-    {"laptop-in-use", {"wlp3s0"}, {"nvme0n1"}},
-    {"amd-desktop-in-use", {"enp5s0"}, {"nvme0n1", "sda"}},
-    {"arm-board-in-use", {"end0", "wlan0"}, {"mmcblk0"}},
-    {"two-socket-server-in-use", {"eno1", "eno2"}, {"sda", "sdb"}},
+    {"laptop-in-use",
+     {"wlp3s0"},
+     {"nvme0n1"},
+     {"sys/devices/platform/coretemp.0/hwmon/hwmon4/temp1_input"},
+     {"sys/class/power_supply/BAT0", "sys/class/power_supply/BAT1"}},
+    {"amd-desktop-in-use",
+     {"enp5s0"},
+     {"nvme0n1", "sda"},
+     {"sys/devices/pci0000:00/0000:00:18.3/hwmon/hwmon3/temp1_input"}},
+    {"arm-board-in-use", {"end0", "wlan0"}, {"mmcblk0"}, {"sys/class/thermal/thermal_zone0/temp"}},
+    {"two-socket-server-in-use", {"eno1", "eno2"}, {"sda", "sdb"}, {firstSocket, secondSocket}},
     {"immutable-system-in-use", {"wlp2s0"}, {"nvme0n1"}},
     {"zfs-host-in-use", {"enp1s0f0"}, {"sda", "sdb"}},
 };
