@@ -15,7 +15,6 @@ TEST(RoleOf, CountsEveryByteOnce) {
         PortRole role;
     } rows[] = {
         {"a port", port, PortRole::counted},
-        {"a bridge over a port", {.index = 4, .lower = 2}, PortRole::software},
         {"slave of a bond", {.isHardware = true, .index = 4, .master = 9}, PortRole::counted},
         {"virtual function", {.isHardware = true, .index = 4, .master = 2, .lower = 4}, PortRole::enslaved},
         {"port of a switch in a bridge", {.isHardware = true, .index = 4, .master = 9, .lower = 2}, PortRole::stacked},
