@@ -1,6 +1,8 @@
 #include "linux/power_supply/power_supply_accessories.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
@@ -17,6 +19,18 @@ std::string addressOf(const std::string& supply, const std::string& entry) {
     const std::string address = findAddress(entry);
     return address.empty() ? findAddress(ueventValue(readStart(supply + "/device/uevent").value_or(""), "HID_UNIQ"))
                            : address;
+}
+
+/// For a word of the file capacity_level the percentage that upower shows for it; absent for "Unknown" and unheard
+/// ones.
+std::optional<int> percentOfLevel(std::string_view word) {
+    constexpr std::pair<std::string_view, int> levels[] = {
+        {"Critical", 5}, {"Low", 10}, {"Normal", 55}, {"High", 70}, {"Full", 100}};
+    for (const auto& [name, percent] : levels) {
+        if (word == name)
+            return percent;
+    }
+    return std::nullopt;
 }
 
 /// Absent when the device has not told its level yet: most drivers then say 0 %, in a state that they do not know.
@@ -47,16 +61,6 @@ std::string findAddress(std::string_view text) {
     while (text.size() >= length && !isAddressAt(text))
         text.remove_prefix(1);
     return text.size() >= length ? raisedASCII(text.substr(0, length)) : std::string();
-}
-
-std::optional<int> percentOfLevel(std::string_view word) {
-    constexpr std::pair<std::string_view, int> levels[] = {
-        {"Critical", 5}, {"Low", 15}, {"Normal", 50}, {"High", 75}, {"Full", 100}};
-    for (const auto& [name, percent] : levels) {
-        if (word == name)
-            return percent;
-    }
-    return std::nullopt;
 }
 
 AccessoriesSampler::Scan PowerSupplyAccessories::scan() {

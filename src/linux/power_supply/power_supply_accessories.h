@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -10,9 +9,6 @@ namespace vantrix {
 
 /// The Bluetooth address somewhere in `text`, in capitals; empty when there is none.
 std::string findAddress(std::string_view text);
-
-/// The percentage that stands for a word of the file capacity_level; absent for "Unknown" and unheard ones.
-std::optional<int> percentOfLevel(std::string_view word);
 
 /// Batteries of keyboards, mice, styluses and gamepads from the entries of /sys/class/power_supply that belong to a
 /// device. A scan may wait for answers over USB or radio.

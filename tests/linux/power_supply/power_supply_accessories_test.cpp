@@ -16,26 +16,24 @@ TEST(PowerSupplyAccessories, ReadsTheBatteriesOfDevices) {
     constexpr auto other = "dot.radiowaves.left.and.right";
     EXPECT_THAT(batteriesOf(scan.accessories),
                 ElementsAre(AccessoryBattery{"Desk Keyboard", 87, false, "keyboard"},
-                            AccessoryBattery{"Wireless Mouse", 15, false, "computermouse"},
+                            AccessoryBattery{"Wireless Mouse", 10, false, "computermouse"},
                             AccessoryBattery{"Game Pad", 100, true, other},
                             AccessoryBattery{"Graphics tablet", 30, false, other}));
     EXPECT_EQ(scan.accessories[0].address, "AA:BB:CC:00:11:22"); // of the entry's name
     EXPECT_EQ(scan.accessories[1].address, "");
     EXPECT_EQ(scan.accessories[1].identifier, "hidpp_battery_0");
     EXPECT_EQ(scan.accessories[2].address, "AA:BB:CC:DD:EE:0F"); // of the device behind it
-    EXPECT_EQ(scan.diagnostics, "power_supply: 4: Desk Keyboard 87%, Wireless Mouse 15%, Game Pad 100%, "
+    EXPECT_EQ(scan.diagnostics, "power_supply: 4: Desk Keyboard 87%, Wireless Mouse 10%, Game Pad 100%, "
                                 "Graphics tablet 30%, Silent Headset [no value]");
 }
 
 // What a driver says before the device has told anything: a mouse that sleeps, a stylus that has not come near.
 TEST(PowerSupplyAccessories, ALevelThatIsNotKnownIsNone) {
     const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
-        {"0", "Discharging", "", "1: Pen 0%"},
-        {"0", "Unknown", "", "0: Pen [no value]"},
-        {"0", "Unknown", "Full", "1: Pen 100%"},
-        {"1", "Unknown", "", "1: Pen 1%"},
-        {"-1", "Discharging", "", "0: Pen [no value]"},
-        {"140", "Discharging", "", "1: Pen 100%"},
+        {"0", "Discharging", "", "1: Pen 0%"},          {"0", "Unknown", "", "0: Pen [no value]"},
+        {"0", "Unknown", "Full", "1: Pen 100%"},        {"", "Unknown", "High", "1: Pen 70%"},
+        {"", "Unknown", "Normal", "1: Pen 55%"},        {"1", "Unknown", "", "1: Pen 1%"},
+        {"-1", "Discharging", "", "0: Pen [no value]"}, {"140", "Discharging", "", "1: Pen 100%"},
     };
     const TemporaryFolder folder;
     PowerSupplyAccessories sampler(folder.path("sys"));
