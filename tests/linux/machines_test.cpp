@@ -1,5 +1,3 @@
-#include <regex>
-
 #include <gmock/gmock.h>
 
 #include "fakes/fixture_machine.h"
@@ -116,31 +114,6 @@ TEST(Machines, ReadAsTheyAre) {
         expectMemory(sources, expected);
         expectNetwork(sources, expected);
         expectDisks(sources, expected);
-    }
-}
-
-/// The number on the line of that name; 0 without one.
-double numberNamed(const std::string& name, const std::string& text) {
-    std::smatch found;
-    std::regex_search(text, found, std::regex("(?:^|\n)" + name + "(?:: +| +4 +)(\\d+)"));
-    return found.empty() ? 0.0 : std::stod(found[1]);
-}
-
-/// They count all files in memory as cache, locked ones too, and ZFS's cache as used, which it is not for us.
-TEST(Machines, UseAsMuchMemoryAsCommonToolsTell) {
-    for (const auto& entry : std::filesystem::directory_iterator(FIXTURES)) {
-        SCOPED_TRACE(entry.path());
-        const fakes::FixtureMachine machine(entry.path().filename());
-        const auto told = [text = machine.read("proc/meminfo")](const std::string& name) {
-            return numberNamed(name, text) * 1024.0;
-        };
-        const std::string zfs = machine.read("proc/spl/kstat/zfs/arcstats");
-        const auto cached = told("Cached") + told("SReclaimable") - told("Shmem");
-        const auto used = told("MemTotal") - told("MemFree") - told("Buffers") - cached -
-                          (numberNamed("size", zfs) - numberNamed("c_min", zfs));
-        const auto sample = MemorySampler(*makeSamplingSources(machine.roots()).memory).sample();
-        EXPECT_EQ(sample.has_value(), told("MemTotal") > 0.0); // one machine has no /proc
-        EXPECT_NEAR(usedFraction(sample.value_or(MemorySample())), sample ? used / told("MemTotal") : 0.0, 0.005);
     }
 }
 

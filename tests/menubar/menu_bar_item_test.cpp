@@ -105,12 +105,6 @@ TEST_F(MenuBarItemTest, NetworkScalesItsHistoryByItsPeakButNotBelowTheFloor) {
     EXPECT_THAT(item(MenuBarModule::network).history, ElementsAre(0.25, 1.0));
 }
 
-TEST_F(MenuBarItemTest, TemperatureHistoryKeepsToItsScale) {
-    readings = withTemperature(50.0);
-    readings.cpuTemperatureHistory = {-10, 55, 220};
-    EXPECT_THAT(item(MenuBarModule::temperature).history, ElementsAre(0.0, 0.5, 1.0));
-}
-
 TEST_F(MenuBarItemTest, ModulesWithoutDataLeaveNoGap) {
     readings.cpu.total = 0.125;
     const std::vector<MenuBarModule> modules{MenuBarModule::gpu,         MenuBarModule::cpu,

@@ -58,14 +58,6 @@ TEST(Preferences, EnabledModules) {
     }
 }
 
-TEST(Preferences, Style) {
-    FakeDefaults user;
-    user.set(key::menuBarStyle, text("inline"));
-    EXPECT_EQ(menuBarStyle(user), MenuBarStyle::inlined);
-    user.set(key::menuBarStyle, text("unknown"));
-    EXPECT_EQ(menuBarStyle(user), MenuBarStyle::stacked);
-}
-
 TEST(Preferences, UpdateInterval) {
     const std::pair<QVariant, double> rows[] = {
         {0.1, 0.5}, {-3, 0.5}, {text("5"), 5.0}, {text("soon"), 2.0}, {true, 2.0},

@@ -38,16 +38,6 @@ TEST_F(MenuBarSettingsTest, ButtonsSwapNeighboursAndStoreAllSeven) {
     EXPECT_EQ(shownOrder(), u"battery,cpu,memory,network,disk,gpu,temperature") << "a change from outside";
 }
 
-TEST_F(MenuBarSettingsTest, NothingMovesOutOfTheList) {
-    const QString before = order();
-    EXPECT_FALSE(control<SymbolButton>("Move CPU up").isEnabled());
-    EXPECT_TRUE(control<SymbolButton>("Move Memory up").isEnabled());
-    EXPECT_FALSE(control<SymbolButton>("Move Battery down").isEnabled());
-    press(control<CheckBox>("CPU"), Qt::Key_Up, Qt::AltModifier);
-    press(control<CheckBox>("Battery"), Qt::Key_Down, Qt::AltModifier);
-    EXPECT_EQ(order(), before);
-}
-
 TEST_F(MenuBarSettingsTest, AltWithArrowsMovesTheRowAndTheFocusWithIt) {
     auto& memory = control<CheckBox>("Memory");
     memory.setFocus(Qt::TabFocusReason);

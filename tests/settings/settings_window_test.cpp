@@ -78,17 +78,6 @@ TEST_F(SettingsWindowTest, SwitchesFollowAndStore) {
     }
 }
 
-TEST_F(SettingsWindowTest, CardsAreStoredAsASortedSet) {
-    store(preference_key::visibleCards, QStringLiteral("network,,future,cpu,cpu"));
-    show(SettingsTab::popover);
-    EXPECT_TRUE(control<Switch>("CPU").isChecked());
-    EXPECT_FALSE(control<Switch>("Battery").isChecked());
-    control<Switch>("Battery").click();
-    EXPECT_EQ(stored(preference_key::visibleCards), u"battery,cpu,future,network");
-    control<Switch>("CPU").click();
-    EXPECT_EQ(stored(preference_key::visibleCards), u"battery,future,network");
-}
-
 TEST_F(SettingsWindowTest, TheTestNotificationsOutcomeShowsEvenWhenItComesLate) {
     show(SettingsTab::alerts);
     control<PushButton>("Send test notification").click();

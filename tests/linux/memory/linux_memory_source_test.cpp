@@ -32,16 +32,6 @@ TEST(ParseMemInfo, TakesAnyOrderAndLeavesOutNonsense) {
     EXPECT_EQ(info->shmem, std::nullopt);
 }
 
-TEST(ParsePressure, NeedsALineSomeThatMakesSense) {
-    const auto stall = parsePressure("some avg10=1.50 avg60=9.00\nfull avg10=0.25 avg60=9.00\n");
-    ASSERT_TRUE(stall);
-    EXPECT_DOUBLE_EQ(stall->some, 1.5);
-    EXPECT_DOUBLE_EQ(stall->full, 0.25);
-    for (const char* text : {"", "full avg10=1.00\n", "some avg10=\n", "some avg10=nan\n", "some avg10=-1\n",
-                             "some avg10=1e9\n", "some avg60=1\n", "some avg10=1.5x\n", "some avg10=1.50"})
-        EXPECT_FALSE(parsePressure(text)) << text;
-}
-
 TEST(MemoryPressure, ComesFromAvailableMemoryStallsAndSwap) {
     struct Row {
         std::uint64_t available; // of 1000

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "linux/temporary_folder.h"
-#include "samplers/fake_clock.h"
 
 namespace vantrix {
 namespace {
@@ -35,33 +34,11 @@ TEST(ParseNetDev, TakesOddNamesAndWholeCounters) {
 struct FakeStates : LinkStates {
     bool works;
     std::uint32_t flags;
-    int index = 2;
 
     FakeStates(bool doesWork, std::uint32_t someFlags) : works(doesWork), flags(someFlags) {}
     bool refresh() override { return works; }
-    LinkState state(std::string_view, std::size_t) override {
-        return {.isHardware = true, .flags = flags, .index = index};
-    }
+    LinkState state(std::string_view, std::size_t) override { return {.isHardware = true, .flags = flags, .index = 7}; }
 };
-
-TEST(NetDevSource, IsMeasuredInFullPerLink) {
-    const TemporaryFolder folder;
-    auto states = std::make_unique<FakeStates>(true, 0x41u);
-    FakeStates& links = *states;
-    NetDevSource source(folder.path("dev"), std::move(states), nullptr);
-    FakeClock clock;
-    NetworkSampler sampler(source, clock);
-    const auto sampleAt = [&](const std::string& received) {
-        folder.write("dev", "  eth0: " + received + " 1 2 3 4 5 6 7 20 0\n");
-        clock.now += 2.0;
-        return sampler.sample();
-    };
-    sampleAt("1000000000");
-    EXPECT_EQ(sampleAt("7000000000"), (NetworkSample{3e9, 0.0}));
-    EXPECT_EQ(sampleAt("0"), NetworkSample());
-    links.index = 3; // another link takes the name
-    EXPECT_EQ(sampleAt("7000000000"), NetworkSample());
-}
 
 TEST(NetDevSource, TurnsToTheOtherWayOfKnowingLinksForGood) {
     const TemporaryFolder folder;
@@ -76,6 +53,7 @@ TEST(NetDevSource, TurnsToTheOtherWayOfKnowingLinksForGood) {
         ASSERT_TRUE(source.read(links));
         EXPECT_EQ(links[0].flags, 2u);
         EXPECT_EQ(links[0].name, "eneth0");
+        EXPECT_EQ(links[0].index, 7) << "tells it from another that takes its name";
     }
 }
 

@@ -124,17 +124,21 @@ QJsonObject printed(const WorkingMachine& machine) {
     return line;
 }
 
-/// As free(1) and htop tell it; a cache that is not the kernel's own page cache counts as free as well.
-void expectMemory(const WorkingMachine& machine, const QJsonValue& memory) {
+/// KiB in use as htop tells it, which counts locked files as cache; ZFS's cache counts as free as well.
+double usedMemory(const TemporaryFolder& machine) {
     const std::string info = machine.read("proc/meminfo");
     const std::string arc = machine.read("proc/spl/kstat/zfs/arcstats");
+    return number(info, "MemTotal:") - number(info, "MemFree:") - number(info, "Buffers:") - number(info, "Cached:") -
+           number(info, "SReclaimable:") + number(info, "Shmem:") -
+           (number(arc, "size", 2) - number(arc, "c_min", 2)) / 1024;
+}
+
+void expectMemory(const WorkingMachine& machine, const QJsonValue& memory) {
+    const std::string info = machine.read("proc/meminfo");
     const double total = number(info, "MemTotal:");
-    const double used = total - number(info, "MemFree:") - number(info, "Buffers:") - number(info, "Cached:") -
-                        number(info, "SReclaimable:") + number(info, "Shmem:") -
-                        (number(arc, "size", 2) - number(arc, "c_min", 2)) / 1024;
     EXPECT_EQ(memory[u"total"].toDouble(), total * 1024);
     EXPECT_NEAR((memory[u"app"].toDouble() + memory[u"wired"].toDouble() + memory[u"compressed"].toDouble()) / 1024,
-                used, total * 0.005);
+                usedMemory(machine), total * 0.005);
     EXPECT_EQ(memory[u"swapUsed"].toDouble(), (number(info, "SwapTotal:") - number(info, "SwapFree:")) * 1024);
     EXPECT_EQ(memory[u"pressure"].toString(), u"normal");
 }
@@ -189,6 +193,17 @@ TEST(WholeMachines, PrintWhatTheCommonToolsTell) {
         expectRates(known, line);
         expectTemperature(machine, known, line[u"sensors"]);
         expectBattery(machine, known, line[u"battery"]);
+    }
+}
+
+TEST(EveryMachine, UsesAsMuchMemoryAsTheCommonToolsTell) {
+    for (const auto& entry : std::filesystem::directory_iterator(FIXTURES)) {
+        SCOPED_TRACE(entry.path());
+        const fakes::FixtureMachine machine(entry.path().filename());
+        const double total = number(machine.read("proc/meminfo"), "MemTotal:");
+        const auto sample = MemorySampler(*makeSamplingSources(machine.roots()).memory).sample();
+        EXPECT_EQ(sample.has_value(), total > 0.0); // one machine has no /proc
+        EXPECT_NEAR(usedFraction(sample.value_or(MemorySample())) * total, usedMemory(machine), total * 0.005);
     }
 }
 

@@ -57,13 +57,5 @@ TEST(TemperatureNames, TellWholesFromPartsAndDevicesOfOneKindApart) {
     }
 }
 
-TEST(TemperatureNames, BoardsSpeakForAComponentOnlyWhereItHasNoSensorOfItsOwn) {
-    const FoundTemperature board{"thinkpad", "CPU", "", 1, false};
-    const FoundTemperature boardGPU{"thinkpad", "GPU", "", 2, false};
-    EXPECT_THAT(temperatureNames({board, boardGPU}), ElementsAre("thinkpad CPU", "thinkpad GPU"));
-    EXPECT_THAT(temperatureNames({{"coretemp", "Core 0", "", 2, false}, board, boardGPU}),
-                ElementsAre("CPU core 0", "thinkpad processor", "thinkpad GPU"));
-}
-
 } // namespace
 } // namespace vantrix
