@@ -31,14 +31,18 @@ SourceDiagnosis memory(const DiagnosisTools& tools) {
 
 SourceDiagnosis pressure(const DiagnosisTools& tools) {
     auto row = diagnosisOfFile(tools, reading_name::pressure, tools.roots.proc + "/pressure/memory",
-                               "This kernel does not measure stalls (PSI). The level follows free memory alone.");
+                               "This kernel does not measure stalls (PSI). The level follows available memory alone.");
+    if (row.state != SourceState::ok)
+        return row;
     // Switched off at start, the file is still there and readable, but cannot be opened.
-    const bool isOff = row.state == SourceState::ok && !parsePressure(readStart(row.source).value_or(""));
-    if (isOff) {
+    if (!parsePressure(readStart(row.source).value_or(""))) {
         row.state = SourceState::absent;
         row.reason = "Measuring stalls (PSI) is switched off; the kernel parameter psi=1 turns it on. The level "
-                     "follows free memory alone.";
+                     "follows available memory alone.";
+        return row;
     }
+    row.reason = "Warning: under 12% of memory is available, or under 25% while programs stall for it. Critical: all "
+                 "of them stall, or under 5% is available while some stall or swap is short as well.";
     return row;
 }
 
