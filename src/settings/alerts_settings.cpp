@@ -73,7 +73,7 @@ void AlertsSettings::addConditions() {
 void AlertsSettings::addTest() {
     auto* holder = new QWidget;
     auto* column = new QVBoxLayout(holder);
-    column->setContentsMargins(FormRow::sidePadding - focusMargin, 7, FormRow::sidePadding, 7);
+    column->setContentsMargins(FormRow::sidePadding - focusMargin, 3, FormRow::sidePadding, 3);
     column->setSpacing(6);
     auto* button = new PushButton(theme(), localizedText("Send test notification"));
     button->setEnabled(sendTest_ != nullptr);

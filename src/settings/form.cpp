@@ -10,10 +10,9 @@
 namespace vantrix {
 namespace {
 
-constexpr double cornerRadius = 10.0;
-constexpr int sectionGap = 20;
-constexpr int headerGap = 8;
-constexpr int footerGap = 6;
+constexpr int sectionGap = 12;
+constexpr int headerGap = 5;
+constexpr int footerGap = 5;
 constexpr int remarkGap = 2;
 constexpr int textInset = 4; // of headers and remarks from the group's edge
 constexpr double footerPoints = 11.0;
@@ -29,7 +28,7 @@ class Group : public View {
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme().colors().card);
-        painter.drawRoundedRect(rect(), cornerRadius, cornerRadius);
+        painter.drawRoundedRect(rect(), FormSection::cornerRadius, FormSection::cornerRadius);
         bool first = true;
         for (int i = 0; i < layout()->count(); ++i) {
             const QWidget* row = layout()->itemAt(i)->widget();

@@ -11,6 +11,8 @@ namespace vantrix {
 /// A group of rows on a rounded background, hairlines between them, with a header above and remarks below.
 class FormSection : public View {
   public:
+    static constexpr double cornerRadius = 10.0; ///< of the background, in points
+
     /// `header` may be empty.
     FormSection(const Theme& theme, const QString& header = {}, const QStringList& footers = {});
 

@@ -15,8 +15,8 @@ namespace {
 
 constexpr int gap = 12;
 constexpr int markGap = 8;
-constexpr double leastHeight = 38.0;
-constexpr double verticalPadding = 8.0;
+constexpr double leastHeight = 32.0;
+constexpr double verticalPadding = 6.0;
 constexpr int stackedGap = 4;
 
 int rounded(double length) {
@@ -57,7 +57,7 @@ FormRow::Plan FormRow::plan(int width) const {
     const int captionWidth = beside ? roomBeside : room;
     const int captionHeight = caption_->heightForWidth(captionWidth);
     const int textHeight = std::max(captionHeight, mark.height());
-    const int line = std::max(textHeight + 2 * padding, beside ? std::max(control.height() + 4, usual) : usual);
+    const int line = std::max(textHeight + 2 * padding, beside ? std::max(control.height() + 2, usual) : usual);
     const int controlWidth = std::min(control.width(), end - sidePadding + focusMargin);
     const int controlTop =
         beside ? centred(line, control.height()) : centred(line, textHeight) + textHeight + stackedGap;

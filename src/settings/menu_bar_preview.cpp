@@ -10,6 +10,7 @@
 #include "menubar/symbol.h"
 #include "monitor/system_monitor.h"
 #include "settings/bindings.h"
+#include "settings/form.h"
 #include "support/user_defaults.h"
 #include "views/theme.h"
 
@@ -17,7 +18,7 @@ namespace vantrix {
 namespace {
 
 constexpr std::string_view gaugeSymbol = "gauge.with.dots.needle.33percent"; // what stands for an empty row
-constexpr double stripHeight = 34.0;
+constexpr double stripHeight = 32.0;
 constexpr double sidePadding = 12.0;
 
 } // namespace
@@ -47,7 +48,8 @@ void MenuBarPreview::paintEvent(QPaintEvent*) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(theme().colors().separator, 1.0));
     painter.setBrush(theme().isDark() ? QColor(18, 18, 20) : QColor(255, 255, 255));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 8.0, 8.0);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), FormSection::cornerRadius,
+                            FormSection::cornerRadius);
 
     const MenuBarPalette palette = theme().isDark() ? MenuBarPalette::onDark() : MenuBarPalette::onLight();
     const auto shown = items();

@@ -1,5 +1,6 @@
 #include "settings/menu_bar_settings.h"
 
+#include <QStackedLayout>
 #include <QVBoxLayout>
 
 #include "menubar/preferences.h"
@@ -13,6 +14,20 @@
 
 namespace vantrix {
 
+namespace {
+
+QWidget* padded(TextLabel* label) {
+    auto* holder = new QWidget;
+    auto* layout = new QVBoxLayout(holder);
+    layout->setContentsMargins(FormRow::sidePadding, 0, FormRow::sidePadding, 0);
+    layout->addStretch(1);
+    layout->addWidget(label);
+    layout->addStretch(1);
+    return holder;
+}
+
+} // namespace
+
 MenuBarSettings::MenuBarSettings(const Theme& theme, UserDefaults& defaults, const SystemMonitor& monitor)
     : Form(theme), defaults_(defaults) {
     addPreview(monitor);
@@ -24,20 +39,15 @@ MenuBarSettings::MenuBarSettings(const Theme& theme, UserDefaults& defaults, con
 }
 
 void MenuBarSettings::addPreview(const SystemMonitor& monitor) {
+    const QString nothing = localizedText("Select at least one module");
+    // One over the other: unchecking the last module must not move the list under the pointer.
     auto* holder = new QWidget;
-    auto* column = new QVBoxLayout(holder);
-    column->setContentsMargins(FormRow::sidePadding, 12, FormRow::sidePadding, 12);
-    auto* preview = new MenuBarPreview(theme(), defaults_, monitor);
-    const TextLabel::Style style{.points = bodyPoints, .color = &ThemeColors::secondary, .wraps = true};
-    auto* nothing = new TextLabel(theme(), style, localizedText("Select at least one module"));
-    column->addWidget(preview);
-    column->addWidget(nothing);
+    auto* pages = new QStackedLayout(holder);
+    pages->addWidget(new MenuBarPreview(theme(), defaults_, monitor));
+    pages->addWidget(padded(
+        new TextLabel(theme(), {.points = bodyPoints, .color = &ThemeColors::secondary, .wraps = true}, nothing)));
     addSection(localizedText("Preview")).addRow(holder);
-    follow(*holder, defaults_, [this, preview, nothing] {
-        const bool empty = enabledMenuBarModules(defaults_).empty();
-        preview->setVisible(!empty);
-        nothing->setVisible(empty);
-    });
+    follow(*holder, defaults_, [this, pages] { pages->setCurrentIndex(enabledMenuBarModules(defaults_).empty()); });
 }
 
 void MenuBarSettings::addStyle() {

@@ -20,7 +20,7 @@ namespace vantrix {
 namespace {
 
 constexpr int sideMargin = 20;
-constexpr int verticalMargin = 18;
+constexpr int verticalMargin = 10;
 
 /// What scrolls. Its height follows from its width alone: the layout's own minimum is that of the narrowest form.
 class Page : public QWidget {

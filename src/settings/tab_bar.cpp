@@ -11,7 +11,7 @@
 namespace vantrix {
 namespace {
 
-constexpr int padding = 6;
+constexpr int padding = 4;
 constexpr double usualPoints = 11.0;
 constexpr double leastPoints = 5.0;
 

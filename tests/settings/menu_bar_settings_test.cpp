@@ -28,6 +28,15 @@ class MenuBarSettingsTest : public SettingsWindowTest {
     }
 };
 
+TEST_F(MenuBarSettingsTest, TheWholeListIsInViewAndStaysWhereItIs) {
+    const auto& last = control<CheckBox>("Battery");
+    const auto bottom = [&] { return last.mapTo(controller.window(), QPoint(0, last.height())).y(); };
+    const int before = bottom();
+    EXPECT_LE(before, SettingsView::contentSize.height());
+    store(preference_key::menuBarEnabled, QString());
+    EXPECT_EQ(bottom(), before) << "the remark in the preview's place is as high";
+}
+
 TEST_F(MenuBarSettingsTest, ButtonsSwapNeighboursAndStoreAllSeven) {
     control<SymbolButton>("Move Memory up").click();
     EXPECT_EQ(order(), u"memory,cpu,network,disk,gpu,temperature,battery");

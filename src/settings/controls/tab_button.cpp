@@ -20,8 +20,8 @@ constexpr double usualPoints = 11.0;
 constexpr double leastWidth = 72.0;
 constexpr double sidePadding = 8.0;
 constexpr double symbolSide = 24.0;
-constexpr double topPadding = 5.0;
-constexpr double bottomPadding = 5.0;
+constexpr double topPadding = 4.0;
+constexpr double bottomPadding = 4.0;
 constexpr double symbolGap = 2.0;
 constexpr double radius = 8.0;
 
