@@ -1,5 +1,7 @@
 #include "settings/alerts_settings.h"
 
+#include <algorithm>
+
 #include <QHBoxLayout>
 #include <QPointer>
 
@@ -24,34 +26,46 @@ constexpr double footnotePoints = 11.0;
 
 AlertsSettings::AlertsSettings(const Theme& theme, UserDefaults& defaults, SendTest sendTest)
     : Form(theme), defaults_(defaults), sendTest_(std::move(sendTest)) {
-    addSwitch(addSection({}, {localizedText("Each alert is sent at most once every 15 minutes."),
-                              localizedText("The CPU alert uses the critical threshold from General.")}),
-              localizedText("Send notifications"), preference_key::alertsEnabled);
+    const QString send = localizedText("Send notifications");
+    auto* control = new Switch(theme, send);
+    bindSwitch(*control, defaults_, preference_key::alertsEnabled);
+    addSection({}, {localizedText("Each alert is sent at most once every 15 minutes."),
+                    localizedText("The CPU alert uses the critical threshold from General.")})
+        .addRow({.caption = send, .control = control});
     addKinds();
     addConditions();
     addTest();
 }
 
-FormRow& AlertsSettings::addSwitch(FormSection& section, const QString& caption, const QString& key) {
+/// Disables the row while one of those switches is off.
+void AlertsSettings::enableWhile(FormRow& row, const QStringList& keys) {
+    follow(row, defaults_, [this, &row, keys] {
+        row.setEnabled(std::all_of(keys.begin(), keys.end(), [this](auto& key) { return defaults_.boolean(key); }));
+    });
+}
+
+FormRow& AlertsSettings::addKind(FormSection& section, const QString& caption, const QString& key) {
     auto* control = new Switch(theme(), caption);
-    bindSwitch(*control, defaults_, key);
-    return section.addRow({.caption = caption, .control = control});
+    FormRow& row = section.addRow({.caption = caption, .control = control});
+    bindSwitch(*control, defaults_, key, preference_key::alertsEnabled);
+    enableWhile(row, {preference_key::alertsEnabled});
+    return row;
 }
 
 void AlertsSettings::addKinds() {
     FormSection& section = addSection(localizedText("Notify me about"));
-    FormRow& cpu = addSwitch(section, QString(), preference_key::alertCPU);
+    FormRow& cpu = addKind(section, QString(), preference_key::alertCPU);
     follow(cpu, defaults_, [this, &cpu] {
         const double threshold = defaults_.number(preference_key::criticalThreshold);
         const QString text = localizedText("CPU above %@", thresholdText(threshold));
         cpu.caption().setText(text);
         cpu.control().setAccessibleName(text);
     });
-    addSwitch(section, localizedText("Memory under pressure"), preference_key::alertMemory);
-    addSwitch(section, localizedText("Disk almost full"), preference_key::alertDisk);
-    addSwitch(section, localizedText("Battery at %@ or less, not charging", thresholdText(lowBattery)),
-              preference_key::alertBattery);
-    addSwitch(section, localizedText("CPU temperature above 95 °C"), preference_key::alertTemperature);
+    addKind(section, localizedText("Memory under pressure"), preference_key::alertMemory);
+    addKind(section, localizedText("Disk almost full"), preference_key::alertDisk);
+    addKind(section, localizedText("Battery at %@ or less, not charging", thresholdText(lowBattery)),
+            preference_key::alertBattery);
+    addKind(section, localizedText("CPU temperature above 95 °C"), preference_key::alertTemperature);
 }
 
 void AlertsSettings::addConditions() {
@@ -60,14 +74,14 @@ void AlertsSettings::addConditions() {
     auto* duration = new Picker(theme(), lasts);
     bindSeconds(*duration, defaults_, preference_key::alertDuration, {15, 30, 60, 120},
                 [this] { return defaults_.number(preference_key::alertDuration); });
-    section.addRow({.caption = lasts, .control = duration});
+    enableWhile(section.addRow({.caption = lasts, .control = duration}), {preference_key::alertsEnabled});
 
     auto* full = new Slider(theme(), localizedText("Disk full threshold"), {.least = 80, .most = 99, .step = 1});
     bindSlider(*full, defaults_, preference_key::diskAlertThreshold);
-    section.addRow(
-        {.caption = localizedText("Disk full alert at"),
-         .control = withPercent(theme(), full, defaults_, preference_key::diskAlertThreshold, &ThemeColors::secondary),
-         .color = &ThemeColors::secondary});
+    FormRow& row = section.addRow({.caption = localizedText("Disk full alert at"),
+                                   .control = withPercent(theme(), full, defaults_, preference_key::diskAlertThreshold,
+                                                          &ThemeColors::secondary)});
+    enableWhile(row, {preference_key::alertsEnabled, preference_key::alertDisk});
 }
 
 void AlertsSettings::addTest() {

@@ -19,7 +19,8 @@ class AlertsSettings : public Form {
     AlertsSettings(const Theme& theme, UserDefaults& defaults, SendTest sendTest);
 
   private:
-    FormRow& addSwitch(FormSection& section, const QString& caption, const QString& key);
+    FormRow& addKind(FormSection& section, const QString& caption, const QString& key);
+    void enableWhile(FormRow& row, const QStringList& keys);
     void addKinds();
     void addConditions();
     void addTest();

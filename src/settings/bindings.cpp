@@ -41,8 +41,10 @@ void follow(QObject& context, const UserDefaults& defaults, const std::function<
     show();
 }
 
-void bindSwitch(QAbstractButton& button, UserDefaults& defaults, const QString& key) {
-    follow(button, defaults, [&button, &defaults, key] { button.setChecked(defaults.boolean(key)); });
+void bindSwitch(QAbstractButton& button, UserDefaults& defaults, const QString& key, const QString& master) {
+    follow(button, defaults, [&button, &defaults, key, master] {
+        button.setChecked(defaults.boolean(key) && (master.isEmpty() || defaults.boolean(master)));
+    });
     QObject::connect(&button, &QAbstractButton::clicked, &button, [&defaults, key](bool on) { defaults.set(key, on); });
 }
 

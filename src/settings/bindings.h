@@ -18,8 +18,9 @@ class UserDefaults;
 void follow(QObject& context, const UserDefaults& defaults, const std::function<void()>& show);
 
 /// Ties a control to the setting under `key`, both ways. Only what a person does is stored: a value that the control
-/// cannot show exactly stays as it is. `defaults` outlives the control.
-void bindSwitch(QAbstractButton& button, UserDefaults& defaults, const QString& key);
+/// cannot show exactly stays as it is. `defaults` outlives the control. A switch shows off while the setting `master`,
+/// where it has one, is off.
+void bindSwitch(QAbstractButton& button, UserDefaults& defaults, const QString& key, const QString& master = {});
 void bindSlider(Slider& slider, UserDefaults& defaults, const QString& key);
 
 /// The picker offers `choices` seconds and the present value, even if it is none of them; `present` reads it.

@@ -17,7 +17,7 @@
 namespace vantrix {
 namespace {
 
-constexpr double leastHeight = 28.0;
+constexpr double leastHeight = 27.0;
 
 void scrollTo(QWidget* row) {
     for (QWidget* parent = row->parentWidget(); parent; parent = parent->parentWidget())

@@ -44,7 +44,7 @@ ModuleRow::ModuleRow(const Theme& theme, UserDefaults& defaults, MenuBarModule m
 
     setAttribute(Qt::WA_Hover);
     auto* row = new QHBoxLayout(this);
-    row->setContentsMargins(FormRow::sidePadding - focusMargin, 1, FormRow::sidePadding - focusMargin, 1);
+    row->setContentsMargins(FormRow::sidePadding - focusMargin, 0, FormRow::sidePadding - focusMargin, 0);
     row->setSpacing(0);
     row->addSpacing(handleRoom);
     row->addWidget(shown_, 1);

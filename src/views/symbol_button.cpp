@@ -42,7 +42,7 @@ void SymbolButton::paintEvent(QPaintEvent*) {
     }
     ring().paint(painter, ground, cornerRadius);
     const QRectF place = ground.adjusted(padding, padding, -padding, -padding);
-    paintSymbol(painter, symbol_, place, isEnabled() ? colors.secondary : colors.quaternary);
+    paintSymbol(painter, symbol_, place, isEnabled() ? colors.secondary : colors.disabled);
 }
 
 } // namespace vantrix

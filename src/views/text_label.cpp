@@ -88,7 +88,7 @@ void TextLabel::paintNumber(QPainter& painter, const QColor& color, const QFontM
 
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QColor color = theme().colors().*style_.color;
+    const QColor color = theme().colors().*(isEnabled() ? style_.color : &ThemeColors::disabled);
     const QFont font = theme().font(style_.points, style_.weight);
     const QFontMetricsF metrics(font);
     if (style_.monospaced)

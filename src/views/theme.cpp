@@ -45,7 +45,7 @@ QPalette Theme::palette() const {
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, over(colors_.label, ground));
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
-        palette.setColor(QPalette::Disabled, role, over(colors_.tertiary, ground));
+        palette.setColor(QPalette::Disabled, role, over(colors_.disabled, ground));
     palette.setColor(QPalette::Base, ground);
     palette.setColor(QPalette::ToolTipBase, ground);
     palette.setColor(QPalette::Highlight, colors_.accent);

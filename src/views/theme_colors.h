@@ -15,6 +15,7 @@ struct ThemeColors {
     QColor label;      ///< the text style of titles and values
     QColor secondary;  ///< the text style of labels
     QColor tertiary;   ///< the text style of remarks
+    QColor disabled;   ///< texts and symbols of what cannot be used now; fainter than any text style
     QColor quaternary; ///< tracks behind bars and rings; too faint for text
 
     // For shapes. Text in one of these colours needs `readable`.

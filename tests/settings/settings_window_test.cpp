@@ -68,6 +68,7 @@ TEST_F(SettingsWindowTest, SwitchesFollowAndStore) {
         {"CPU temperature above 95 °C", preference_key::alertTemperature},
     };
     for (const auto& [name, key] : cases) {
+        store(preference_key::alertsEnabled, key != preference_key::alertsEnabled);
         auto& control = this->control<Switch>(name);
         const bool before = defaults.boolean(key);
         EXPECT_EQ(control.isChecked(), before) << name;
@@ -76,6 +77,18 @@ TEST_F(SettingsWindowTest, SwitchesFollowAndStore) {
         store(key, before);
         EXPECT_EQ(control.isChecked(), before) << name;
     }
+}
+
+TEST_F(SettingsWindowTest, WhatASwitchedOffMasterLeavesWithoutEffectIsOffAndDisabled) {
+    show(SettingsTab::alerts);
+    const auto& disk = control<Switch>("Disk almost full");
+    const auto& threshold = control<Slider>("Disk full threshold");
+    EXPECT_FALSE(disk.isChecked() || disk.isEnabled() || threshold.isEnabled());
+    EXPECT_TRUE(defaults.boolean(preference_key::alertDisk)) << "what is stored stays";
+    control<Switch>("Send notifications").click();
+    EXPECT_TRUE(disk.isChecked() && disk.isEnabled() && threshold.isEnabled());
+    store(preference_key::alertDisk, false);
+    EXPECT_FALSE(threshold.isEnabled());
 }
 
 TEST_F(SettingsWindowTest, TheTestNotificationsOutcomeShowsEvenWhenItComesLate) {

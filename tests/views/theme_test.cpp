@@ -23,6 +23,8 @@ TEST(ThemeColors, TextsAreReadableInBothAppearances) {
         for (const auto style : {&ThemeColors::label, &ThemeColors::secondary, &ThemeColors::tertiary})
             for (const QColor& ground : {colors.window, card})
                 EXPECT_GE(contrast(over(colors.*style, ground), ground), 4.5) << dark;
+        const double disabled = contrast(over(colors.disabled, card), card);
+        EXPECT_TRUE(disabled > 1.9 && disabled < 0.6 * contrast(over(colors.tertiary, card), card)) << disabled;
         for (const auto role :
              {&ThemeColors::accent, &ThemeColors::orange, &ThemeColors::red, &ThemeColors::green, &ThemeColors::purple})
             EXPECT_GE(contrast(colors.readable(colors.*role), card), 4.5) << dark;

@@ -12,13 +12,13 @@
 namespace vantrix {
 
 QColor textColor(const QWidget& control, const Theme& theme) {
-    return control.isEnabled() ? theme.colors().label : theme.colors().tertiary;
+    return control.isEnabled() ? theme.colors().label : theme.colors().disabled;
 }
 
 void paintButtonGround(QPainter& painter, const QWidget& control, const Theme& theme, const QRectF& rect, bool down) {
     const double radius = theme.scaled(6.0);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(control.isEnabled() ? theme.colors().control : theme.colors().quaternary);
+    painter.setBrush(control.isEnabled() ? theme.colors().control : theme.colors().card);
     painter.drawRoundedRect(rect, radius, radius);
     if (down || (control.underMouse() && control.isEnabled())) {
         painter.setBrush(withAlpha(theme.colors().label, down ? 0.14 : 0.05));

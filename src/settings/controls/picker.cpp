@@ -114,7 +114,8 @@ void Picker::paintEvent(QPaintEvent*) {
     const double side = theme_.scaled(chevron);
     QRectF mark(ground.right() - padding * 0.8 - side, 0.0, side, side);
     mark.moveCenter({mark.center().x(), ground.center().y()});
-    paintSymbol(painter, "chevron.down", mirrored(*this, mark), theme_.colors().secondary);
+    paintSymbol(painter, "chevron.down", mirrored(*this, mark),
+                isEnabled() ? theme_.colors().secondary : theme_.colors().disabled);
     painter.setPen(textColor(*this, theme_));
     const QRectF room(ground.left() + padding, ground.top(), mark.left() - ground.left() - padding, ground.height());
     painter.setFont(fittingFont(theme_, currentText(), QFont::Normal, room.width()));

@@ -64,7 +64,7 @@ void Slider::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(withAlpha(theme_.colors().label, 0.2));
     painter.drawRoundedRect(room, radius, radius);
-    painter.setBrush(theme_.colors().accent);
+    painter.setBrush(isEnabled() ? theme_.colors().accent : theme_.colors().disabled);
     painter.drawRoundedRect(mirrored(*this, {room.left(), room.top(), filled, room.height()}), radius, radius);
 
     const double side = theme_.scaled(knobSide);
