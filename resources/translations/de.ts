@@ -137,6 +137,10 @@
         <source>Bars, rings and the menu bar turn orange and red above these values.</source>
         <translation>Über diesen Werten färben sich Balken, Ringe und die Menüleiste orange und rot.</translation>
     </message>
+    <message>
+        <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
+        <translation>Nichts wird orange: Die Warnschwelle liegt nicht unter der kritischen Schwelle.</translation>
+    </message>
     <message><source>Preview</source><translation>Vorschau</translation></message>
     <message>
         <source>Select at least one module</source>

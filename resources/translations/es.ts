@@ -140,6 +140,10 @@
         <source>Bars, rings and the menu bar turn orange and red above these values.</source>
         <translation>Por encima de estos valores, las barras, los anillos y la barra de menús se vuelven naranjas y rojos.</translation>
     </message>
+    <message>
+        <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
+        <translation>Nada se vuelve naranja: el umbral de advertencia no está por debajo del crítico.</translation>
+    </message>
     <message><source>Preview</source><translation>Vista previa</translation></message>
     <message>
         <source>Select at least one module</source>

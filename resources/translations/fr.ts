@@ -137,6 +137,10 @@
         <source>Bars, rings and the menu bar turn orange and red above these values.</source>
         <translation>Au-dessus de ces valeurs, les barres, les anneaux et la barre des menus passent à l’orange puis au rouge.</translation>
     </message>
+    <message>
+        <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
+        <translation>Rien ne passe à l’orange : le seuil d’avertissement n’est pas inférieur au seuil critique.</translation>
+    </message>
     <message><source>Preview</source><translation>Aperçu</translation></message>
     <message>
         <source>Select at least one module</source>

@@ -140,6 +140,10 @@
         <source>Bars, rings and the menu bar turn orange and red above these values.</source>
         <translation>Sopra questi valori le barre, gli anelli e la barra dei menu diventano arancioni e rossi.</translation>
     </message>
+    <message>
+        <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
+        <translation>Nulla diventa arancione: la soglia di attenzione non è inferiore a quella critica.</translation>
+    </message>
     <message><source>Preview</source><translation>Anteprima</translation></message>
     <message><source>Select at least one module</source><translation>Seleziona almeno un modulo</translation></message>
     <message><source>Style</source><translation>Stile</translation></message>

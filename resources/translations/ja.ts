@@ -137,6 +137,10 @@
         <source>Bars, rings and the menu bar turn orange and red above these values.</source>
         <translation>この値を超えると、バー、リング、メニューバーがオレンジや赤に変わります。</translation>
     </message>
+    <message>
+        <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
+        <translation>警告のしきい値が危険のしきい値以上のため、オレンジにはなりません。</translation>
+    </message>
     <message><source>Preview</source><translation>プレビュー</translation></message>
     <message><source>Select at least one module</source><translation>モジュールを1つ以上選択してください</translation></message>
     <message><source>Style</source><translation>スタイル</translation></message>

@@ -137,6 +137,10 @@
         <source>Bars, rings and the menu bar turn orange and red above these values.</source>
         <translation>超过这些值时，进度条、圆环和菜单栏会变为橙色和红色。</translation>
     </message>
+    <message>
+        <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
+        <translation>警告阈值不低于严重阈值，因此不会显示橙色。</translation>
+    </message>
     <message><source>Preview</source><translation>预览</translation></message>
     <message><source>Select at least one module</source><translation>请至少选择一个模块</translation></message>
     <message><source>Style</source><translation>样式</translation></message>

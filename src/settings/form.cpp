@@ -70,13 +70,19 @@ FormSection::FormSection(const Theme& theme, const QString& header, const QStrin
     auto* group = new Group(theme);
     rows_ = column(group, 0);
     parts->addWidget(group);
-    if (!footers.isEmpty())
-        parts->addSpacing(footerGap);
-    for (const QString& footer : footers) {
-        const TextLabel::Style style{.points = footerPoints, .color = &ThemeColors::secondary, .wraps = true};
-        parts->addWidget(indented(new TextLabel(theme, style, footer)));
-        parts->addSpacing(remarkGap);
-    }
+    footers_ = new QVBoxLayout;
+    footers_->setContentsMargins(0, 0, 0, 0);
+    footers_->setSpacing(remarkGap);
+    parts->addLayout(footers_);
+    for (const QString& footer : footers)
+        addFooter(footer);
+}
+
+TextLabel& FormSection::addFooter(const QString& text, ColorRole color) {
+    auto* label = new TextLabel(theme(), {.points = footerPoints, .color = color, .wraps = true}, text);
+    footers_->setContentsMargins(textInset, footerGap, textInset, 0);
+    footers_->addWidget(label);
+    return *label;
 }
 
 void FormSection::add(QWidget* row) {

@@ -23,11 +23,14 @@ class FormSection : public View {
         return *row;
     }
     FormRow& addRow(const FormRow::Content& content) { return addRow(new FormRow(theme(), content)); }
+    /// A remark below those before it; may be hidden.
+    TextLabel& addFooter(const QString& text, ColorRole color = &ThemeColors::secondary);
 
   private:
     void add(QWidget* row);
 
     QVBoxLayout* rows_;
+    QVBoxLayout* footers_;
 };
 
 /// The sections of one tab, one below the other.

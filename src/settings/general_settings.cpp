@@ -74,13 +74,23 @@ void GeneralSettings::addThresholds() {
     FormSection& section =
         addSection(localizedText("Color thresholds"),
                    {localizedText("Bars, rings and the menu bar turn orange and red above these values.")});
-    auto* warning = new Slider(theme(), localizedText("Warning threshold"), {.least = 50, .most = 95, .step = 5});
+    auto* warning =
+        new Slider(theme(), localizedText("Warning threshold"), {.least = 50, .most = 95, .step = 5, .last = 100});
     addThreshold(section, warning, preference_key::warningThreshold, localizedText("Warning"), &ThemeColors::orange);
     connect(warning, &Slider::fractionChosen, this, [this](double w) { setWarningThreshold(defaults_, w); });
 
-    auto* critical = new Slider(theme(), localizedText("Critical threshold"), {.least = 55, .most = 100, .step = 5});
+    auto* critical =
+        new Slider(theme(), localizedText("Critical threshold"), {.least = 55, .most = 100, .step = 5, .first = 50});
     addThreshold(section, critical, preference_key::criticalThreshold, localizedText("Critical"), &ThemeColors::red);
     connect(critical, &Slider::fractionChosen, this, [this](double c) { setCriticalThreshold(defaults_, c); });
+
+    TextLabel& remark =
+        section.addFooter(localizedText("Nothing turns orange: the warning threshold is not below the critical one."),
+                          &ThemeColors::label);
+    follow(remark, defaults_, [this, &remark] {
+        remark.setVisible(defaults_.number(preference_key::warningThreshold) >=
+                          defaults_.number(preference_key::criticalThreshold));
+    });
 }
 
 void GeneralSettings::addThreshold(FormSection& section, Slider* slider, const QString& key, const QString& caption,

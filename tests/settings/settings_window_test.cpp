@@ -42,6 +42,24 @@ TEST_F(SettingsWindowTest, SlidersStoreCleanNumbersAndPushTheOtherOne) {
     EXPECT_TRUE(shows("CPU above 55%")) << "the critical threshold";
 }
 
+TEST_F(SettingsWindowTest, ThresholdsStandOnOneScaleAndAreMarkedWhereTheyMeet) {
+    show(SettingsTab::general);
+    auto& warning = control<Slider>("Warning threshold");
+    auto& critical = control<Slider>("Critical threshold");
+    EXPECT_FALSE(shows("Nothing turns orange: the warning threshold is not below the critical one."));
+    store(preference_key::warningThreshold, 0.83);
+    store(preference_key::criticalThreshold, 0.83);
+    EXPECT_EQ(warning.grab().toImage(), critical.grab().toImage()) << "equal values stand at equal places";
+    EXPECT_TRUE(shows("Nothing turns orange: the warning threshold is not below the critical one."));
+    const QPoint at = warning.rect().center();
+    for (Slider* slider : {&warning, &critical}) {
+        mouse(*slider, QEvent::MouseButtonPress, at);
+        mouse(*slider, QEvent::MouseButtonRelease, at);
+        EXPECT_EQ(slider->fraction(), 0.75) << "the middle of the scale";
+    }
+    EXPECT_EQ(defaults.number(preference_key::warningThreshold), 0.7) << "pushed along";
+}
+
 TEST_F(SettingsWindowTest, ANumberStoredByHandShowsAndStays) {
     store(preference_key::criticalThreshold, 1e300);
     store(preference_key::warningThreshold, 0.83);

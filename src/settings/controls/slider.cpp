@@ -30,17 +30,18 @@ Slider::Slider(const Theme& theme, const QString& name, const Range& range)
     setPageStep(std::max(2, maximum() / 4));
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    connect(this, &QSlider::valueChanged, this, [this] { Q_EMIT fractionChosen(fraction()); });
+    connect(this, &QSlider::valueChanged, this, &Slider::choose);
 }
 
-double Slider::fraction() const {
-    return (range_.least + value() * range_.step) / 100.0; // the double nearest to the decimal number
+void Slider::choose() {
+    shown_ = (range_.least + value() * range_.step) / 100.0; // the double nearest to the decimal number
+    Q_EMIT fractionChosen(shown_);
 }
 
 void Slider::setFraction(double fraction) {
     const QSignalBlocker quietly(this);
-    const double hundredths = std::clamp(fraction * 100.0, double(range_.least), double(range_.most));
-    setValue(static_cast<int>(std::lround((hundredths - range_.least) / range_.step)));
+    shown_ = std::clamp(fraction, range_.first / 100.0, range_.last / 100.0);
+    setValue(static_cast<int>(std::lround((shown_ * 100.0 - range_.least) / range_.step)));
     update();
 }
 
@@ -60,7 +61,7 @@ void Slider::paintEvent(QPaintEvent*) {
     painter.setOpacity(isEnabled() ? 1.0 : 0.5);
     const QRectF room = groove();
     const double radius = room.height() / 2.0;
-    const double filled = room.width() * value() / std::max(maximum(), 1);
+    const double filled = room.width() * (shown_ * 100.0 - range_.first) / hundredthsLong();
     painter.setPen(Qt::NoPen);
     painter.setBrush(withAlpha(theme_.colors().label, 0.2));
     painter.drawRoundedRect(room, radius, radius);
@@ -77,7 +78,8 @@ void Slider::paintEvent(QPaintEvent*) {
 void Slider::dragTo(double x) {
     const QRectF room = groove();
     const double along = layoutDirection() == Qt::RightToLeft ? room.right() - x : x - room.left();
-    setValue(static_cast<int>(std::lround(along / std::max(room.width(), 1.0) * maximum())));
+    const double hundredths = range_.first + along / std::max(room.width(), 1.0) * hundredthsLong();
+    setValue(static_cast<int>(std::lround((hundredths - range_.least) / range_.step)));
 }
 
 void Slider::mousePressEvent(QMouseEvent* event) {

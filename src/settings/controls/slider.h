@@ -18,14 +18,18 @@ class Slider : public QSlider {
         int least;
         int most;
         int step;
+        /// What the ends of the groove stand for, where it shows more than can be chosen.
+        int first = least;
+        int last = most;
     };
 
     Slider(const Theme& theme, const QString& name, const Range& range);
 
-    double fraction() const;
+    /// What the knob stands at: the number last set, or the step last chosen.
+    double fraction() const { return shown_; }
     double leastFraction() const { return range_.least / 100.0; }
     double mostFraction() const { return range_.most / 100.0; }
-    /// Shows the nearest step, without announcing it.
+    /// Shows that number, or the nearer end of the groove, without announcing it.
     void setFraction(double fraction);
 
     QSize sizeHint() const override;
@@ -44,11 +48,14 @@ class Slider : public QSlider {
 
   private:
     QRectF groove() const;
+    double hundredthsLong() const { return range_.last - range_.first; }
     void dragTo(double x);
+    void choose();
 
     const Theme& theme_;
     FocusRing& ring_;
     Range range_;
+    double shown_ = 0.0;
 };
 
 } // namespace vantrix
