@@ -20,5 +20,17 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Benachrichtigungen sind für Vantrix deaktiviert. Aktiviere sie in den Benachrichtigungseinstellungen deines Desktops.</translation>
     </message>
+    <message>
+        <source>Menu Bar</source>
+        <translation>Leiste</translation>
+    </message>
+    <message>
+        <source>Bars, rings and the menu bar turn orange and red above these values.</source>
+        <translation>Über diesen Werten färben sich Balken, Ringe und Leiste orange und rot.</translation>
+    </message>
+    <message>
+        <source>Only the checked modules appear in the menu bar, in this order. With none selected, Vantrix shows just its icon.</source>
+        <translation>Nur die ausgewählten Module erscheinen in der Leiste, in dieser Reihenfolge. Ist keines ausgewählt, zeigt Vantrix nur sein Symbol.</translation>
+    </message>
 </context>
 </TS>

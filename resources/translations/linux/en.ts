@@ -20,5 +20,17 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Notifications are turned off for Vantrix. Enable them in your desktop’s notification settings.</translation>
     </message>
+    <message>
+        <source>Menu Bar</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Bars, rings and the menu bar turn orange and red above these values.</source>
+        <translation>Bars, rings and the panel turn orange and red above these values.</translation>
+    </message>
+    <message>
+        <source>Only the checked modules appear in the menu bar, in this order. With none selected, Vantrix shows just its icon.</source>
+        <translation>Only the checked modules appear in the panel, in this order. With none selected, Vantrix shows just its icon.</translation>
+    </message>
 </context>
 </TS>

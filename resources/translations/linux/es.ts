@@ -20,5 +20,17 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Las notificaciones de Vantrix están desactivadas. Actívalas en los ajustes de notificaciones de tu escritorio.</translation>
     </message>
+    <message>
+        <source>Menu Bar</source>
+        <translation>Panel</translation>
+    </message>
+    <message>
+        <source>Bars, rings and the menu bar turn orange and red above these values.</source>
+        <translation>Por encima de estos valores, las barras, los anillos y el panel se vuelven naranjas y rojos.</translation>
+    </message>
+    <message>
+        <source>Only the checked modules appear in the menu bar, in this order. With none selected, Vantrix shows just its icon.</source>
+        <translation>En el panel solo aparecen los módulos marcados, en este orden. Si no hay ninguno, Vantrix muestra solo su icono.</translation>
+    </message>
 </context>
 </TS>

@@ -20,5 +20,17 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Les notifications de Vantrix sont désactivées. Activez-les dans les paramètres de notification de votre bureau.</translation>
     </message>
+    <message>
+        <source>Menu Bar</source>
+        <translation>Tableau de bord</translation>
+    </message>
+    <message>
+        <source>Bars, rings and the menu bar turn orange and red above these values.</source>
+        <translation>Au-dessus de ces valeurs, les barres, les anneaux et le tableau de bord passent à l’orange puis au rouge.</translation>
+    </message>
+    <message>
+        <source>Only the checked modules appear in the menu bar, in this order. With none selected, Vantrix shows just its icon.</source>
+        <translation>Seuls les modules cochés apparaissent dans le tableau de bord, dans cet ordre. Si aucun n’est coché, Vantrix n’affiche que son icône.</translation>
+    </message>
 </context>
 </TS>

@@ -20,5 +20,17 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Le notifiche di Vantrix sono disattivate. Attivale nelle impostazioni di notifica del desktop.</translation>
     </message>
+    <message>
+        <source>Menu Bar</source>
+        <translation>Pannello</translation>
+    </message>
+    <message>
+        <source>Bars, rings and the menu bar turn orange and red above these values.</source>
+        <translation>Sopra questi valori le barre, gli anelli e il pannello diventano arancioni e rossi.</translation>
+    </message>
+    <message>
+        <source>Only the checked modules appear in the menu bar, in this order. With none selected, Vantrix shows just its icon.</source>
+        <translation>Nel pannello compaiono solo i moduli selezionati, in quest’ordine. Se non ne selezioni nessuno, Vantrix mostra solo la sua icona.</translation>
+    </message>
 </context>
 </TS>

@@ -20,5 +20,17 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Vantrixの通知はオフになっています。デスクトップの通知設定でオンにしてください。</translation>
     </message>
+    <message>
+        <source>Menu Bar</source>
+        <translation>パネル</translation>
+    </message>
+    <message>
+        <source>Bars, rings and the menu bar turn orange and red above these values.</source>
+        <translation>この値を超えると、バー、リング、パネルがオレンジや赤に変わります。</translation>
+    </message>
+    <message>
+        <source>Only the checked modules appear in the menu bar, in this order. With none selected, Vantrix shows just its icon.</source>
+        <translation>選択したモジュールだけが、この順序でパネルに表示されます。何も選択しない場合は、Vantrixのアイコンだけが表示されます。</translation>
+    </message>
 </context>
 </TS>

@@ -17,5 +17,17 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Vantrix 的通知已关闭。请在桌面的通知设置中打开。</translation>
     </message>
+    <message>
+        <source>Menu Bar</source>
+        <translation>面板</translation>
+    </message>
+    <message>
+        <source>Bars, rings and the menu bar turn orange and red above these values.</source>
+        <translation>超过这些值时，进度条、圆环和面板会变为橙色和红色。</translation>
+    </message>
+    <message>
+        <source>Only the checked modules appear in the menu bar, in this order. With none selected, Vantrix shows just its icon.</source>
+        <translation>面板中仅按此顺序显示已勾选的模块。如果一个都未勾选，Vantrix 只显示自己的图标。</translation>
+    </message>
 </context>
 </TS>
