@@ -78,6 +78,10 @@ SettingsTab SettingsView::currentTab() const {
     return settingsTabs[static_cast<std::size_t>(pages_->currentIndex())].value;
 }
 
+void SettingsView::focusTab() {
+    tabs_->focusCurrent();
+}
+
 void SettingsView::showStoredTab() {
     const QString stored = defaults_.string(preference_key::settingsTab).value_or(QString());
     const SettingsTab tab = choiceNamed(settingsTabs, stored.toStdString()).value_or(SettingsTab::general);

@@ -31,6 +31,8 @@ class SettingsView : public View {
     explicit SettingsView(const SettingsParts& parts);
 
     SettingsTab currentTab() const;
+    /// Gives the open tab's button the keyboard's focus.
+    void focusTab();
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Window; }
 

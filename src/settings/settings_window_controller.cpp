@@ -18,11 +18,14 @@ SettingsWindowController::~SettingsWindowController() = default;
 void SettingsWindowController::show(SettingsTab tab) {
     parts_.defaults.set(preference_key::settingsTab, QString::fromUtf8(choiceOf(settingsTabs, tab).rawValue));
     show();
+    window_->focusTab();
 }
 
 void SettingsWindowController::show() {
     if (!window_)
         createWindow();
+    if (!window_->isVisible())
+        window_->focusTab();
     window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
     window_->show();
     window_->raise();

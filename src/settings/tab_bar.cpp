@@ -38,6 +38,12 @@ void TabBar::setCurrent(SettingsTab tab) {
     tabs_[static_cast<std::size_t>(tab)]->setChecked(true);
 }
 
+void TabBar::focusCurrent() {
+    for (TabButton* tab : tabs_)
+        if (tab->isChecked())
+            tab->setFocus(Qt::OtherFocusReason);
+}
+
 void TabBar::resizeEvent(QResizeEvent*) {
     fitTitles();
 }

@@ -18,6 +18,8 @@ class TabBar : public View {
     QAccessible::Role accessibleRole() const override { return QAccessible::PageTabList; }
     /// Shows that tab as the selected one, without announcing it.
     void setCurrent(SettingsTab tab);
+    /// Gives the selected tab the keyboard's focus.
+    void focusCurrent();
 
   Q_SIGNALS:
     /// By the user.

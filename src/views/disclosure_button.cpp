@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include <QAccessibleWidget>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
@@ -17,10 +18,54 @@ constexpr double textSize = 11.0;
 constexpr double symbolSide = 12.0;
 constexpr double cornerRadius = 4.0;
 
+/// The toolkit takes every button that can be checked for a check box.
+class DisclosureInterface final : public QAccessibleWidget {
+  public:
+    explicit DisclosureInterface(DisclosureButton* button) : QAccessibleWidget(button, QAccessible::Button) {}
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? button().text() : QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.expandable = true;
+        state.expanded = button().isChecked();
+        state.collapsed = !button().isChecked();
+        return state;
+    }
+
+    QStringList actionNames() const override { return QStringList{pressAction()} + QAccessibleWidget::actionNames(); }
+
+    void doAction(const QString& name) override {
+        if (name == pressAction())
+            button().click();
+        else
+            QAccessibleWidget::doAction(name);
+    }
+
+  private:
+    DisclosureButton& button() const { return *static_cast<DisclosureButton*>(widget()); }
+};
+
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+    auto* button = qobject_cast<DisclosureButton*>(object);
+    return button ? new DisclosureInterface(button) : nullptr;
+}
+
 } // namespace
 
 DisclosureButton::DisclosureButton(const Theme& theme) : Button(theme) {
+    static const bool installed = (QAccessible::installFactory(makeInterface), true);
+    Q_UNUSED(installed);
     setCheckable(true);
+    connect(this, &QAbstractButton::toggled, this, [this] {
+        QAccessible::State changed;
+        changed.expanded = true;
+        changed.collapsed = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        QAccessible::updateAccessibility(&event);
+    });
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -27,6 +27,20 @@ TEST_F(SettingsWindowTest, LaunchAtLoginMirrorsTheSystem) {
     EXPECT_FALSE(launch.isChecked()) << "changed behind the window's back";
 }
 
+TEST_F(SettingsWindowTest, TheKeyboardStartsAtTheTabAskedForAndEntersTheChosenSegment) {
+    const SettingsView& window = show(SettingsTab::menuBar);
+    const auto focused = [&window] { return qobject_cast<QAbstractButton*>(window.focusWidget()); };
+    EXPECT_EQ(focused()->text(), u"Menu Bar");
+    press(*focused(), Qt::Key_Tab);
+    EXPECT_EQ(focused()->text(), u"Stacked");
+    press(*focused(), Qt::Key_Right);
+    EXPECT_EQ(focused()->text(), u"With graph");
+    press(*focused(), Qt::Key_Backtab);
+    EXPECT_EQ(focused()->text(), u"Menu Bar");
+    show(SettingsTab::general);
+    EXPECT_EQ(focused()->text(), u"General");
+}
+
 TEST_F(SettingsWindowTest, SlidersStoreCleanNumbersAndPushTheOtherOne) {
     show(SettingsTab::general);
     auto& warning = control<Slider>("Warning threshold");

@@ -6,8 +6,8 @@
 #include <QFontMetricsF>
 #include <QHBoxLayout>
 #include <QPainter>
-#include <QRadioButton>
 
+#include "settings/controls/choice_button.h"
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
 #include "views/theme.h"
@@ -20,53 +20,45 @@ constexpr double sidePadding = 11.0;
 constexpr double inset = 2.0;
 constexpr double radius = 7.0;
 
-class Segment : public QRadioButton {
+class Segment : public ChoiceButton {
   public:
-    Segment(const Theme& theme, const QString& text)
-        : QRadioButton(text), theme_(theme), ring_(*new FocusRing(*this, theme)) {
-        setAttribute(Qt::WA_Hover);
+    Segment(const Theme& theme, const QString& text) : ChoiceButton(theme, text) {
         setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
 
     QSize sizeHint() const override {
         // In the heavier weight of the chosen one, or the row would move with the choice.
-        const double text = QFontMetricsF(theme_.font(bodyPoints, QFont::Medium)).horizontalAdvance(this->text());
-        return QSizeF(std::ceil(text + theme_.scaled(2.0 * sidePadding)), theme_.scaled(segmentHeight)).toSize() +
+        const double text = QFontMetricsF(theme().font(bodyPoints, QFont::Medium)).horizontalAdvance(this->text());
+        return QSizeF(std::ceil(text + theme().scaled(2.0 * sidePadding)), theme().scaled(segmentHeight)).toSize() +
                QSize(0, 2 * focusMargin);
     }
     QSize minimumSizeHint() const override {
-        return {static_cast<int>(theme_.scaled(3.0 * sidePadding)), sizeHint().height()};
+        return {static_cast<int>(theme().scaled(3.0 * sidePadding)), sizeHint().height()};
     }
 
   protected:
-    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
-
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
-        const ThemeColors& colors = theme_.colors();
+        const ThemeColors& colors = theme().colors();
         const double margin = focusMargin + inset;
         const QRectF ground = QRectF(rect()).adjusted(inset, margin, -inset, -margin);
-        const double corner = theme_.scaled(radius) - inset;
+        const double corner = theme().scaled(radius) - inset;
         if (isChecked()) {
             painter.setPen(QPen(colors.separator, 0.5));
-            painter.setBrush(theme_.isDark() ? withAlpha(colors.label, 0.22) : colors.control);
+            painter.setBrush(theme().isDark() ? withAlpha(colors.label, 0.22) : colors.control);
             painter.drawRoundedRect(ground, corner, corner);
         } else if (underMouse()) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(withAlpha(colors.label, 0.05));
             painter.drawRoundedRect(ground, corner, corner);
         }
-        ring_.paint(painter, ground, corner);
+        ring().paint(painter, ground, corner);
         const QFont::Weight weight = isChecked() ? QFont::Medium : QFont::Normal;
-        painter.setFont(fittingFont(theme_, text(), weight, ground.width() - 4.0));
-        painter.setPen(textColor(*this, theme_));
+        painter.setFont(fittingFont(theme(), text(), weight, ground.width() - 4.0));
+        painter.setPen(textColor(*this, theme()));
         painter.drawText(ground, Qt::AlignCenter | Qt::TextSingleLine, text());
     }
-
-  private:
-    const Theme& theme_;
-    FocusRing& ring_;
 };
 
 } // namespace

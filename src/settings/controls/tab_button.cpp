@@ -28,14 +28,13 @@ constexpr double radius = 8.0;
 } // namespace
 
 TabButton::TabButton(const Theme& theme, std::string_view symbol, const QString& title)
-    : QRadioButton(title), theme_(theme), ring_(*new FocusRing(*this, theme)), symbol_(symbol), points_(usualPoints) {
+    : ChoiceButton(theme, title), symbol_(symbol), points_(usualPoints) {
     installControlAccessibility();
-    setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 
 double TabButton::widthAt(double points) const {
-    const double title = QFontMetricsF(theme_.font(points, QFont::Medium)).horizontalAdvance(text());
+    const double title = QFontMetricsF(theme().font(points, QFont::Medium)).horizontalAdvance(text());
     return std::max(std::ceil(title) + 2.0 * sidePadding, leastWidth) + 2 * focusMargin;
 }
 
@@ -47,29 +46,29 @@ void TabButton::setLook(double points, double width) {
 }
 
 QSize TabButton::sizeHint() const {
-    const double line = std::ceil(QFontMetricsF(theme_.font(points_)).height());
-    const double height = topPadding + theme_.scaled(symbolSide) + symbolGap + line + bottomPadding;
+    const double line = std::ceil(QFontMetricsF(theme().font(points_)).height());
+    const double height = topPadding + theme().scaled(symbolSide) + symbolGap + line + bottomPadding;
     return QSizeF(width_, height + 2 * focusMargin).toSize();
 }
 
 void TabButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    const ThemeColors& colors = theme_.colors();
+    const ThemeColors& colors = theme().colors();
     const QRectF ground = insideRing(*this);
     if (isChecked() || underMouse()) {
         painter.setPen(Qt::NoPen);
         painter.setBrush(isChecked() ? withAlpha(colors.label, checkedGround) : withAlpha(colors.label, 0.04));
         painter.drawRoundedRect(ground, radius, radius);
     }
-    ring_.paint(painter, ground, radius);
+    ring().paint(painter, ground, radius);
 
     const QColor behind = over(withAlpha(colors.label, checkedGround), colors.window);
     const QColor color = isChecked() ? ThemeColors::readable(colors.accent, behind) : colors.secondary;
-    const double side = theme_.scaled(symbolSide);
+    const double side = theme().scaled(symbolSide);
     const QRectF symbol(ground.center().x() - side / 2.0, ground.top() + topPadding, side, side);
     paintSymbol(painter, symbol_, symbol, color);
-    const QFont font = theme_.font(points_, QFont::Medium);
+    const QFont font = theme().font(points_, QFont::Medium);
     const QRectF line(ground.left(), symbol.bottom() + symbolGap, ground.width(),
                       ground.bottom() - bottomPadding - symbol.bottom() - symbolGap);
     painter.setFont(font);

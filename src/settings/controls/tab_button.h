@@ -2,15 +2,12 @@
 
 #include <string>
 
-#include <QRadioButton>
+#include "settings/controls/choice_button.h"
 
 namespace vantrix {
 
-class FocusRing;
-class Theme;
-
 /// One tab of a window: its symbol over its title.
-class TabButton : public QRadioButton {
+class TabButton : public ChoiceButton {
     Q_OBJECT
   public:
     TabButton(const Theme& theme, std::string_view symbol, const QString& title);
@@ -25,11 +22,8 @@ class TabButton : public QRadioButton {
 
   protected:
     void paintEvent(QPaintEvent* event) override;
-    bool hitButton(const QPoint& position) const override { return rect().contains(position); }
 
   private:
-    const Theme& theme_;
-    FocusRing& ring_;
     std::string symbol_;
     double points_;
     double width_ = 0.0;
