@@ -23,6 +23,7 @@ struct Appearance {
     bool dark = false;
     std::optional<QColor> accent;            ///< the user's highlight colour; absent: the program's own
     bool reducesMotion = false;              ///< the user wants no animations
+    bool highContrast = false;               ///< the user wants edges and texts that stand out
     std::optional<SystemColors> colors = {}; ///< of this appearance; absent: the program's own
 
     bool operator==(const Appearance&) const = default;

@@ -5,6 +5,7 @@
 
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -29,6 +30,7 @@ class Group : public View {
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme().colors().card);
         painter.drawRoundedRect(rect(), FormSection::cornerRadius, FormSection::cornerRadius);
+        paintOutline(painter, *this, theme(), rect(), FormSection::cornerRadius);
         bool first = true;
         for (int i = 0; i < layout()->count(); ++i) {
             const QWidget* row = layout()->itemAt(i)->widget();

@@ -58,7 +58,8 @@ void FocusRing::paint(QPainter& painter, const QRectF& rect, double radius) cons
         return;
     constexpr double outset = focusMargin - ringWidth / 2.0;
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(theme_.colors().accent, ringWidth));
+    const ThemeColors& colors = theme_.colors();
+    painter.setPen(QPen(colors.areHighContrast() ? colors.label : colors.accent, ringWidth));
     painter.drawRoundedRect(rect.adjusted(-outset, -outset, outset, outset), radius + outset, radius + outset);
 }
 

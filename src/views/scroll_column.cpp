@@ -36,7 +36,8 @@ class ScrollIndicator final : public QWidget {
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         painter.setPen(Qt::NoPen);
-        painter.setBrush(withAlpha(theme_.colors().label, grabbedAt_ ? 0.5 : 0.28));
+        const ThemeColors& colors = theme_.colors();
+        painter.setBrush(colors.areHighContrast() ? colors.outline : withAlpha(colors.label, grabbedAt_ ? 0.5 : 0.28));
         painter.drawRoundedRect(thumb(), thickness / 2.0, thickness / 2.0);
     }
 

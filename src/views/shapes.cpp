@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include <QPainter>
 #include <QWidget>
+
+#include "views/theme.h"
 
 namespace vantrix {
 namespace {
@@ -38,6 +41,15 @@ QPainterPath continuousRect(const QRectF& rect, double radius) {
     path.cubicTo(left, top + h, left + h, top, left + b, top);
     path.closeSubpath();
     return path;
+}
+
+void paintOutline(QPainter& painter, const QWidget& widget, const Theme& theme, const QRectF& rect, double radius) {
+    const ThemeColors& colors = theme.colors();
+    if (!colors.areHighContrast())
+        return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(widget.isEnabled() ? colors.outline : colors.disabled, 1.0));
+    painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 }
 
 QRectF mirrored(const QWidget& widget, const QRectF& rect) {

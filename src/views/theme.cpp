@@ -21,7 +21,7 @@ double desktopTextScale() {
 }
 
 ThemeColors colorsOf(const Appearance& appearance) {
-    ThemeColors colors = ThemeColors::of(appearance.dark, appearance.accent);
+    ThemeColors colors = ThemeColors::of(appearance.dark, appearance.accent, appearance.highContrast);
     if (!appearance.colors)
         return colors;
     colors.orange = appearance.colors->orange;

@@ -8,6 +8,7 @@ namespace {
 
 constexpr double leastTextContrast = 4.5;
 constexpr double leastShapeContrast = 1.9; // a desktop may choose pale yellow as its accent
+constexpr double leastEdgeContrast = 3.0;  // where the desktop asks for high contrast
 constexpr double leastMarkContrast = 2.5;
 constexpr float step = 0.04f;
 
@@ -37,6 +38,7 @@ ThemeColors darkColors() {
         .window = QColor(30, 30, 33),
         .card = shade(true, 0.06f),
         .separator = shade(true, 0.11f),
+        .outline = Qt::transparent,
         .control = shade(true, 0.12f),
         .label = shade(true, 0.93f),
         .secondary = shade(true, 0.68f),
@@ -56,6 +58,7 @@ ThemeColors lightColors() {
         .window = QColor(252, 252, 253),
         .card = shade(false, 0.06f),
         .separator = shade(false, 0.11f),
+        .outline = Qt::transparent,
         .control = QColor(255, 255, 255),
         .label = shade(false, 0.87f),
         .secondary = shade(false, 0.66f),
@@ -68,6 +71,22 @@ ThemeColors lightColors() {
         .green = QColor(30, 160, 68),
         .purple = QColor(142, 78, 226),
     };
+}
+
+ThemeColors highContrastColors(bool dark) {
+    ThemeColors colors = dark ? darkColors() : lightColors();
+    colors.window = dark ? Qt::black : Qt::white;
+    colors.separator = shade(dark, 0.5f);
+    colors.outline = shade(dark, 0.7f);
+    colors.label = shade(dark, 1.0f);
+    colors.secondary = shade(dark, 0.85f);
+    colors.tertiary = shade(dark, 0.8f);
+    colors.disabled = shade(dark, 0.5f);
+    colors.quaternary = shade(dark, 0.25f);
+    const QColor card = over(colors.card, colors.window);
+    for (const auto role : {&ThemeColors::orange, &ThemeColors::red, &ThemeColors::green, &ThemeColors::purple})
+        colors.*role = standingOut(colors.*role, card, leastEdgeContrast);
+    return colors;
 }
 
 } // namespace
@@ -89,10 +108,11 @@ double contrast(const QColor& a, const QColor& b) {
     return (lighter + 0.05) / (darker + 0.05);
 }
 
-ThemeColors ThemeColors::of(bool dark, const std::optional<QColor>& accent) {
-    ThemeColors colors = dark ? darkColors() : lightColors();
-    if (accent)
-        colors.accent = standingOut(*accent, over(colors.card, colors.window), leastShapeContrast);
+ThemeColors ThemeColors::of(bool dark, const std::optional<QColor>& accent, bool highContrast) {
+    ThemeColors colors = highContrast ? highContrastColors(dark) : dark ? darkColors() : lightColors();
+    if (accent || highContrast)
+        colors.accent = standingOut(accent.value_or(colors.accent), over(colors.card, colors.window),
+                                    highContrast ? leastTextContrast : leastShapeContrast);
     return colors;
 }
 

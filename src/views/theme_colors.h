@@ -6,11 +6,13 @@
 
 namespace vantrix {
 
-/// The colours of one appearance. The text styles are readable (contrast 4.5 or more) on the window and on a card.
+/// The colours of one appearance. The text styles are readable (contrast 4.5 or more, 7 or more where the desktop asks
+/// for high contrast) on the window and on a card.
 struct ThemeColors {
     QColor window;     ///< the background of windows; opaque
     QColor card;       ///< the background of a card or a group of controls, over the window; translucent
     QColor separator;  ///< hairlines
+    QColor outline;    ///< the edges of cards and controls; transparent unless the desktop asks for high contrast
     QColor control;    ///< the background of a button or a field at rest, over a card
     QColor label;      ///< the text style of titles and values
     QColor secondary;  ///< the text style of labels
@@ -25,8 +27,10 @@ struct ThemeColors {
     QColor green;
     QColor purple;
 
+    bool areHighContrast() const { return outline.alpha() > 0; }
+
     /// `accent` replaces the program's own where the desktop names one.
-    static ThemeColors of(bool dark, const std::optional<QColor>& accent);
+    static ThemeColors of(bool dark, const std::optional<QColor>& accent, bool highContrast = false);
 
     /// `color`, darkened or lightened until text in it can be read on a card, or on another opaque background.
     QColor readable(const QColor& color) const;

@@ -6,6 +6,7 @@
 #include "settings/controls/switch.h"
 #include "settings/form_row.h"
 #include "support/localization.h"
+#include "views/focus_ring.h"
 
 namespace vantrix {
 namespace {
@@ -121,6 +122,21 @@ TEST_F(SettingsWindowTest, WhatASwitchedOffMasterLeavesWithoutEffectIsOffAndDisa
     EXPECT_TRUE(disk.isChecked() && disk.isEnabled() && threshold.isEnabled());
     store(preference_key::alertDisk, false);
     EXPECT_FALSE(threshold.isEnabled());
+}
+
+TEST_F(SettingsWindowTest, EdgesStandOutOnlyWhereTheDesktopAsksForIt) {
+    SettingsView& window = show(SettingsTab::alerts);
+    const auto& send = control<Switch>("Send notifications");
+    const auto& test = control<PushButton>("Send test notification");
+    for (const bool high : {false, true}) {
+        appearance.set({.reducesMotion = true, .highContrast = high});
+        const QImage image = window.grab().toImage();
+        const int group = send.mapTo(&window, QPoint()).y() + send.height() / 2;
+        const int button = test.mapTo(&window, QPoint()).y() + test.height() / 2;
+        const int edge = test.mapTo(&window, QPoint(focusMargin, 0)).x();
+        EXPECT_EQ(contrast(image.pixelColor(20, group), image.pixelColor(10, group)) >= 3.0, high);
+        EXPECT_EQ(contrast(image.pixelColor(edge, button), image.pixelColor(edge + 3, button)) >= 3.0, high);
+    }
 }
 
 TEST_F(SettingsWindowTest, TheTestNotificationsOutcomeShowsEvenWhenItComesLate) {

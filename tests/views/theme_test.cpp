@@ -14,20 +14,27 @@ TEST(Contrast, IsThatOfRelativeLuminances) {
     EXPECT_NEAR(contrast(QColor(119, 119, 119), Qt::white), 4.48, 0.01); // the grey known to miss 4.5 by a hair
 }
 
-TEST(ThemeColors, TextsAreReadableInBothAppearances) {
-    for (const bool dark : {true, false}) {
-        const ThemeColors colors = ThemeColors::of(dark, std::nullopt);
+TEST(ThemeColors, TextsAreReadableInEveryAppearance) {
+    for (const auto& [dark, high] : {std::pair(true, false), {false, false}, {true, true}, {false, true}}) {
+        const ThemeColors colors = ThemeColors::of(dark, std::nullopt, high);
+        const double least = high ? 7.0 : 4.5;
         const QColor card = over(colors.card, colors.window);
         const QColor control = over(colors.control, card);
-        EXPECT_GE(contrast(over(colors.label, control), control), 4.5) << dark;
+        EXPECT_GE(contrast(over(colors.label, control), control), least) << dark;
         for (const auto style : {&ThemeColors::label, &ThemeColors::secondary, &ThemeColors::tertiary})
             for (const QColor& ground : {colors.window, card})
-                EXPECT_GE(contrast(over(colors.*style, ground), ground), 4.5) << dark;
+                EXPECT_GE(contrast(over(colors.*style, ground), ground), least) << dark;
         const double disabled = contrast(over(colors.disabled, card), card);
-        EXPECT_TRUE(disabled > 1.9 && disabled < 0.6 * contrast(over(colors.tertiary, card), card)) << disabled;
-        for (const auto role :
-             {&ThemeColors::accent, &ThemeColors::orange, &ThemeColors::red, &ThemeColors::green, &ThemeColors::purple})
+        EXPECT_TRUE(disabled > (high ? 3.0 : 1.9) && disabled < 0.6 * contrast(over(colors.tertiary, card), card))
+            << disabled;
+        for (const auto role : {&ThemeColors::accent, &ThemeColors::orange, &ThemeColors::red, &ThemeColors::green,
+                                &ThemeColors::purple}) {
             EXPECT_GE(contrast(colors.readable(colors.*role), card), 4.5) << dark;
+            EXPECT_GE(contrast(colors.*role, card), high ? 3.0 : 1.9) << dark;
+        }
+        EXPECT_EQ(colors.areHighContrast(), high);
+        for (const auto edge : {&ThemeColors::outline, &ThemeColors::separator})
+            EXPECT_EQ(contrast(over(colors.*edge, card), card) >= 3.0, high) << dark;
     }
 }
 

@@ -27,7 +27,8 @@ Appearance appearanceAfter(const DesktopWishes& wishes) {
     const auto highlight = themed ? std::optional(palette.color(QPalette::Highlight)) : std::nullopt;
     return {.dark = wishes.dark().value_or(window.lightness() < 128),
             .accent = wishes.accent() ? wishes.accent() : highlight,
-            .reducesMotion = wishes.reducesMotion()};
+            .reducesMotion = wishes.reducesMotion(),
+            .highContrast = wishes.highContrast()};
 }
 
 } // namespace

@@ -11,6 +11,7 @@ namespace {
 
 const QString commonGroup = QStringLiteral("org.freedesktop.appearance");
 const QString gnomeGroup = QStringLiteral("org.gnome.desktop.interface");
+const QString gnomeAccessGroup = QStringLiteral("org.gnome.desktop.a11y.interface");
 const QString kdeGroup = QStringLiteral("org.kde.kdeglobals.KDE");
 
 // Values in some of the portal's replies are wrapped in one more variant than those in its signal.
@@ -28,6 +29,12 @@ std::optional<T> exactly(const QVariant& value) {
 std::optional<bool> darkOf(const QVariant& value) {
     const auto scheme = exactly<uint>(value); // 1 dark, 2 light, else no preference
     return scheme == 1U || scheme == 2U ? std::optional(scheme == 1U) : std::nullopt;
+}
+
+/// Of a setting whose only wish is 1.
+std::optional<bool> wishOf(const QVariant& value) {
+    const auto number = exactly<uint>(value);
+    return number ? std::optional(*number == 1U) : std::nullopt;
 }
 
 std::optional<QColor> colorOf(const QVariant& value) {
@@ -56,7 +63,7 @@ std::optional<double> factorOf(const QVariant& value) {
 } // namespace
 
 QStringList DesktopWishes::groups() {
-    return {commonGroup, gnomeGroup, kdeGroup};
+    return {commonGroup, gnomeGroup, gnomeAccessGroup, kdeGroup};
 }
 
 void DesktopWishes::take(const QString& group, const QString& key, const QVariant& wrapped) {
@@ -66,7 +73,11 @@ void DesktopWishes::take(const QString& group, const QString& key, const QVarian
     else if (group == commonGroup && key == u"accent-color")
         accent_ = colorOf(value);
     else if (group == commonGroup && key == u"reduced-motion")
-        reducedMotion_ = exactly<uint>(value) ? std::optional(exactly<uint>(value) == 1U) : std::nullopt;
+        reducedMotion_ = wishOf(value);
+    else if (group == commonGroup && key == u"contrast")
+        contrast_ = wishOf(value);
+    else if (group == gnomeAccessGroup && key == u"high-contrast")
+        gnomeContrast_ = exactly<bool>(value);
     else if (group == gnomeGroup && key == u"enable-animations")
         gnomeAnimations_ = exactly<bool>(value);
     else if (group == kdeGroup && key == u"AnimationDurationFactor")

@@ -24,11 +24,15 @@ class DesktopWishes {
     std::optional<QColor> accent() const { return accent_; }
     /// From the setting that all desktops share, else from GNOME's, else from KDE's.
     bool reducesMotion() const;
+    /// contrast, else GNOME's older setting.
+    bool highContrast() const { return contrast_.value_or(gnomeContrast_.value_or(false)); }
 
   private:
     std::optional<bool> dark_;
     std::optional<QColor> accent_;
     std::optional<bool> reducedMotion_;
+    std::optional<bool> contrast_;
+    std::optional<bool> gnomeContrast_;
     std::optional<bool> gnomeAnimations_;
     std::optional<double> kdeDurationFactor_;
 };

@@ -64,7 +64,8 @@ void MetricCard::paintEvent(QPaintEvent* event) {
         return painter.fillRect(event->rect(), ground);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(continuousRect(rect(), cornerRadius), ground);
-    painter.setPen(QPen(ground, borderWidth));
+    const ThemeColors& colors = theme().colors();
+    painter.setPen(QPen(colors.areHighContrast() ? colors.outline : ground, borderWidth));
     const double inset = borderWidth / 2.0;
     painter.drawPath(continuousRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius - inset));
 }

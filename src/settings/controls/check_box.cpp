@@ -68,6 +68,7 @@ void CheckBox::paintBox(QPainter& painter, const QRectF& box) const {
     if (isChecked())
         paintSymbol(painter, "checkmark", box.adjusted(inset, inset, -inset, -inset),
                     ThemeColors::markOn(colors.accent));
+    paintOutline(painter, *this, theme_, box, radius);
     ring_.paint(painter, box, radius);
 }
 

@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QWidget>
 
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -27,6 +28,7 @@ void paintButtonGround(QPainter& painter, const QWidget& control, const Theme& t
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(theme.colors().separator, 1.0));
     painter.drawRoundedRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    paintOutline(painter, control, theme, rect, radius);
 }
 
 void paintKnob(QPainter& painter, const QRectF& rect, bool enabled) {

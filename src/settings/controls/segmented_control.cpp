@@ -10,6 +10,7 @@
 #include "settings/controls/choice_button.h"
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -48,6 +49,7 @@ class Segment : public ChoiceButton {
             painter.setPen(QPen(colors.separator, 0.5));
             painter.setBrush(theme().isDark() ? withAlpha(colors.label, 0.22) : colors.control);
             painter.drawRoundedRect(ground, corner, corner);
+            paintOutline(painter, *this, theme(), ground, corner);
         } else if (underMouse()) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(withAlpha(colors.label, 0.05));
@@ -95,6 +97,7 @@ void SegmentedControl::paintEvent(QPaintEvent*) {
     painter.setBrush(theme().colors().quaternary);
     const double corner = theme().scaled(radius);
     painter.drawRoundedRect(insideRing(*this), corner, corner);
+    paintOutline(painter, *this, theme(), insideRing(*this), corner);
 }
 
 } // namespace vantrix

@@ -65,6 +65,8 @@ void Slider::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(withAlpha(theme_.colors().label, 0.2));
     painter.drawRoundedRect(room, radius, radius);
+    paintOutline(painter, *this, theme_, room, radius);
+    painter.setPen(Qt::NoPen);
     painter.setBrush(isEnabled() ? theme_.colors().accent : theme_.colors().disabled);
     painter.drawRoundedRect(mirrored(*this, {room.left(), room.top(), filled, room.height()}), radius, radius);
 
@@ -72,6 +74,7 @@ void Slider::paintEvent(QPaintEvent*) {
     const QRectF knob = mirrored(
         *this, QRectF(room.left() + filled - side / 2.0, (height() - side) / 2.0, side, side).adjusted(1, 1, -1, -1));
     paintKnob(painter, knob, true);
+    paintOutline(painter, *this, theme_, knob, knob.height() / 2.0);
     ring_.paint(painter, knob, knob.height() / 2.0);
 }
 

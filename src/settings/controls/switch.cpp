@@ -62,9 +62,12 @@ void Switch::paintEvent(QPaintEvent*) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(blend(withAlpha(colors.label, 0.24), colors.accent, place_));
     painter.drawRoundedRect(ground, radius, radius);
+    paintOutline(painter, *this, theme_, ground, radius);
     const double side = ground.height() - 2.0 * theme_.scaled(knobInset);
     const double x = ground.left() + theme_.scaled(knobInset) + place_ * (ground.width() - ground.height());
-    paintKnob(painter, mirrored(*this, {x, ground.top() + theme_.scaled(knobInset), side, side}), true);
+    const QRectF knob = mirrored(*this, {x, ground.top() + theme_.scaled(knobInset), side, side});
+    paintKnob(painter, knob, true);
+    paintOutline(painter, *this, theme_, knob, side / 2.0);
     ring_.paint(painter, ground, radius);
 }
 

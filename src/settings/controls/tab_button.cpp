@@ -10,6 +10,7 @@
 #include "settings/controls/control_accessibility.h"
 #include "settings/controls/drawing.h"
 #include "views/focus_ring.h"
+#include "views/shapes.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -61,6 +62,8 @@ void TabButton::paintEvent(QPaintEvent*) {
         painter.setBrush(isChecked() ? withAlpha(colors.label, checkedGround) : withAlpha(colors.label, 0.04));
         painter.drawRoundedRect(ground, radius, radius);
     }
+    if (isChecked())
+        paintOutline(painter, *this, theme(), ground, radius);
     ring().paint(painter, ground, radius);
 
     const QColor behind = over(withAlpha(colors.label, checkedGround), colors.window);

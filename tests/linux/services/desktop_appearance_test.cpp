@@ -97,6 +97,19 @@ TEST(DesktopWishes, ReduceMotionByTheFirstDesktopThatTells) {
     }
 }
 
+TEST(DesktopWishes, RaiseTheContrastByTheFirstDesktopThatTells) {
+    const QVariant none;
+    for (const auto& [told, gnome, expected] : {std::tuple(QVariant(1U), QVariant(false), true),
+                                                {0U, true, false},
+                                                {none, true, true},
+                                                {u"1"_s, none, false}}) {
+        DesktopWishes wishes;
+        wishes.take(common, u"contrast"_s, told);
+        wishes.take(u"org.gnome.desktop.a11y.interface"_s, u"high-contrast"_s, gnome);
+        EXPECT_EQ(wishes.highContrast(), expected) << qPrintable(told.toString() + gnome.toString());
+    }
+}
+
 TEST_F(DesktopAppearanceTest, TakesAccentsThatAreColours) {
     FakePortal portal(bus.address(), dark());
     start();
@@ -130,10 +143,12 @@ TEST_F(DesktopAppearanceTest, FollowsChangesAndTellsEachOnce) {
     portal.change(gnome, u"enable-animations"_s, false);
     EXPECT_TRUE(becomes({.reducesMotion = true}));
     EXPECT_EQ(changes, 3);
+    portal.change(common, u"contrast"_s, 1U);
+    EXPECT_TRUE(becomes({.reducesMotion = true, .highContrast = true}));
     portal.change(gnome, u"enable-animations"_s, false);
     portal.change(u"org.example"_s, u"color-scheme"_s, 1U);
     settle(portal);
-    EXPECT_EQ(changes, 3 + 1);
+    EXPECT_EQ(changes, 4 + 1);
     EXPECT_FALSE(source->appearance().dark);
 }
 
