@@ -9,8 +9,6 @@
 #include <QGuiApplication>
 #include <QPalette>
 
-#include "linux/services/session_bus.h"
-
 namespace vantrix {
 
 namespace {
@@ -33,17 +31,19 @@ Appearance appearanceAfter(const DesktopWishes& wishes) {
 
 } // namespace
 
-DesktopAppearance::DesktopAppearance(const std::optional<QDBusConnection>& bus)
-    : bus_(bus), appearance_(appearanceAfter(wishes_)) {
+DesktopAppearance::DesktopAppearance(std::shared_ptr<BusLink> link)
+    : link_(std::move(link)), appearance_(appearanceAfter(wishes_)) {
     qGuiApp->installEventFilter(this);
-    if (!bus_)
-        return;
-    bus_->connect(QString(), portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
-                  SLOT(settingChanged(QDBusMessage)));
+    link_->whenConnected(this, [this](QDBusConnection& bus) { takeBus(bus); });
+}
+
+void DesktopAppearance::takeBus(QDBusConnection& bus) {
+    bus.connect(QString(), portalPath, settingsInterface, QStringLiteral("SettingChanged"), this,
+                SLOT(settingChanged(QDBusMessage)));
     // The portal often starts later than a program of the session.
-    bus_->connect(QString(), QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-                  QStringLiteral("NameOwnerChanged"), {portalName}, QString(), this,
-                  SLOT(portalOwnerChanged(QString, QString, QString)));
+    bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+                QStringLiteral("NameOwnerChanged"), {portalName}, QString(), this,
+                SLOT(portalOwnerChanged(QString, QString, QString)));
     readSettings();
 }
 
@@ -69,11 +69,14 @@ void DesktopAppearance::settingChanged(const QDBusMessage& signal) {
 }
 
 void DesktopAppearance::readSettings() {
+    QDBusConnection* bus = link_->bus();
+    if (bus == nullptr)
+        return;
     auto message = QDBusMessage::createMethodCall(portalName, portalPath, settingsInterface, QStringLiteral("ReadAll"));
     message << DesktopWishes::groups();
     // Without a portal the palette is good enough; starting one would cost too much.
     message.setAutoStartService(false);
-    auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(message), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
         done->deleteLater();
         takeSettings(done->reply());
@@ -100,11 +103,7 @@ void DesktopAppearance::announce() {
 }
 
 std::unique_ptr<AppearanceSource> makeAppearanceSource() {
-    if (!sessionBusAddress())
-        return std::make_unique<DesktopAppearance>(std::nullopt);
-    // The toolkit has this connection open anyway.
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    return std::make_unique<DesktopAppearance>(bus.isConnected() ? std::optional(bus) : std::nullopt);
+    return std::make_unique<DesktopAppearance>(sharedSessionBus());
 }
 
 } // namespace vantrix

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 
+#include "linux/services/bus_link.h"
 #include "linux/services/desktop_wishes.h"
 #include "platform/appearance.h"
 
@@ -15,8 +15,8 @@ namespace vantrix {
 class DesktopAppearance : public AppearanceSource {
     Q_OBJECT
   public:
-    /// Without a bus the palette alone decides.
-    explicit DesktopAppearance(const std::optional<QDBusConnection>& bus);
+    /// Without a bus the palette alone decides. While a bus is gone, what was told on it stands.
+    explicit DesktopAppearance(std::shared_ptr<BusLink> link);
 
     Appearance appearance() const override { return appearance_; }
 
@@ -27,11 +27,12 @@ class DesktopAppearance : public AppearanceSource {
     void settingChanged(const QDBusMessage& signal);
 
   private:
+    void takeBus(QDBusConnection& bus);
     void readSettings();
     void takeSettings(const QDBusMessage& reply);
     void announce();
 
-    std::optional<QDBusConnection> bus_;
+    std::shared_ptr<BusLink> link_;
     DesktopWishes wishes_;
     Appearance appearance_;
 };

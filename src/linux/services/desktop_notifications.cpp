@@ -5,8 +5,6 @@
 #include <QDBusPendingCallWatcher>
 #include <QTimer>
 
-#include "linux/services/session_bus.h"
-
 namespace vantrix {
 namespace {
 
@@ -34,16 +32,16 @@ std::optional<T> answerOf(const QDBusMessage& reply, QStringView signature) {
 
 } // namespace
 
-DesktopNotifications::DesktopNotifications(const std::optional<QDBusConnection>& bus) : bus_(bus) {
+DesktopNotifications::DesktopNotifications(std::shared_ptr<BusLink> link) : link_(std::move(link)) {
     // Without the service's name as the sender: the toolkit would wait for the bus to say who owns it.
-    if (bus_)
-        bus_->connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName}, QString(), this,
-                      SLOT(serviceOwnerChanged(QString, QString, QString)));
+    link_->whenConnected(this, [this](QDBusConnection& bus) {
+        bus.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName}, QString(), this,
+                    SLOT(serviceOwnerChanged(QString, QString, QString)));
+    });
+    connect(link_.get(), &BusLink::disconnected, this, &DesktopNotifications::forgetNumbers);
 }
 
 void DesktopNotifications::post(const QString& identifier, const QString& title, const QString& body) {
-    if (!bus_)
-        return;
     Posted& posted = posted_[identifier];
     if (posted.isUnanswered)
         posted.next = Texts{title, body};
@@ -78,16 +76,16 @@ void DesktopNotifications::takeAnswer(const QString& identifier, const QDBusMess
 void DesktopNotifications::serviceOwnerChanged(const QString&, const QString& oldOwner, const QString&) {
     if (oldOwner.isEmpty())
         return; // the service has just started, perhaps for our call, which it will answer
+    forgetNumbers();
+}
+
+void DesktopNotifications::forgetNumbers() {
     ++resignations_;
     for (Posted& posted : posted_)
         posted.id = 0;
 }
 
 void DesktopNotifications::requestAuthorization(std::function<void(bool)> answer) {
-    if (!bus_) {
-        QTimer::singleShot(0, this, [answer = std::move(answer)] { answer(false); });
-        return;
-    }
     askBus(QStringLiteral("NameHasOwner"), {serviceName},
            [this, answer = std::move(answer)](const QDBusMessage& reply) {
                if (answerOf<bool>(reply, u"b").value_or(false))
@@ -106,7 +104,12 @@ void DesktopNotifications::askBus(const QString& method, const QVariantList& arg
 }
 
 void DesktopNotifications::call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> take) {
-    auto* watcher = new QDBusPendingCallWatcher(bus_->asyncCall(message), this);
+    QDBusConnection* bus = link_->bus();
+    if (bus == nullptr) {
+        QTimer::singleShot(0, this, [take = std::move(take)] { take(QDBusMessage()); });
+        return;
+    }
+    auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(message), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [take = std::move(take)](QDBusPendingCallWatcher* done) {
         done->deleteLater();
         take(done->reply());
@@ -114,11 +117,7 @@ void DesktopNotifications::call(const QDBusMessage& message, std::function<void(
 }
 
 std::unique_ptr<NotificationCenter> makeNotificationCenter() {
-    if (!sessionBusAddress())
-        return std::make_unique<DesktopNotifications>(std::nullopt);
-    // The toolkit has this connection open anyway.
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    return std::make_unique<DesktopNotifications>(bus.isConnected() ? std::optional(bus) : std::nullopt);
+    return std::make_unique<DesktopNotifications>(sharedSessionBus());
 }
 
 } // namespace vantrix

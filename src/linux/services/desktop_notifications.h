@@ -1,15 +1,14 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 
-#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QHash>
 #include <QObject>
 
+#include "linux/services/bus_link.h"
 #include "platform/notification_center.h"
-
-class QDBusPendingCallWatcher;
 
 namespace vantrix {
 
@@ -20,8 +19,8 @@ namespace vantrix {
 class DesktopNotifications : public QObject, public NotificationCenter {
     Q_OBJECT
   public:
-    /// Without a bus nothing is ever shown.
-    explicit DesktopNotifications(const std::optional<QDBusConnection>& bus);
+    /// While there is no bus, nothing is shown.
+    explicit DesktopNotifications(std::shared_ptr<BusLink> link);
 
     void post(const QString& identifier, const QString& title, const QString& body) override;
 
@@ -44,13 +43,15 @@ class DesktopNotifications : public QObject, public NotificationCenter {
         std::optional<Texts> next; ///< held back until the answer
     };
 
+    void forgetNumbers();
     void notify(const QString& identifier, const Texts& texts);
     /// `isCurrent`: the service is still the one that was asked.
     void takeAnswer(const QString& identifier, const QDBusMessage& reply, bool isCurrent);
     void askBus(const QString& method, const QVariantList& arguments, std::function<void(const QDBusMessage&)> take);
+    /// `take` gets an invalid message where there is no bus.
     void call(const QDBusMessage& message, std::function<void(const QDBusMessage&)> take);
 
-    std::optional<QDBusConnection> bus_;
+    std::shared_ptr<BusLink> link_;
     int resignations_ = 0; ///< counts the services that have gone; not every toolkit version says who sent a reply
     QHash<QString, Posted> posted_;
 };

@@ -3,7 +3,6 @@
 #include <QDBusMessage>
 #include <QFileInfo>
 
-#include "linux/services/session_bus.h"
 #include "linux/settings/base_folders.h"
 #include "linux/settings/group_file.h"
 
@@ -16,27 +15,25 @@ QString widgetStorePath() {
     return base + QStringLiteral("/vantrix/defaults.json");
 }
 
-LinuxWidgetCenter::LinuxWidgetCenter(const QString& path, const std::optional<QDBusConnection>& bus)
-    : path_(QFile::encodeName(path).toStdString()), bus_(bus) {}
+LinuxWidgetCenter::LinuxWidgetCenter(const QString& path, std::shared_ptr<BusLink> link)
+    : path_(QFile::encodeName(path).toStdString()), link_(std::move(link)) {}
 
 void LinuxWidgetCenter::store(std::string_view key, std::string_view json) {
     writeGroupFile(path_, key, json);
 }
 
 void LinuxWidgetCenter::reloadAllTimelines() {
-    if (!bus_)
+    QDBusConnection* bus = link_->bus();
+    if (bus == nullptr)
         return;
     auto signal = QDBusMessage::createSignal(QStringLiteral("/vantrix/WidgetCenter"),
                                              QStringLiteral("vantrix.WidgetCenter"), QStringLiteral("Reload"));
     signal << QFile::decodeName(path_.c_str());
-    bus_->send(signal);
+    bus->send(signal);
 }
 
 std::unique_ptr<WidgetCenter> makeWidgetCenter() {
-    if (!sessionBusAddress())
-        return std::make_unique<LinuxWidgetCenter>(widgetStorePath(), std::nullopt);
-    // The toolkit has this connection open anyway.
-    return std::make_unique<LinuxWidgetCenter>(widgetStorePath(), QDBusConnection::sessionBus());
+    return std::make_unique<LinuxWidgetCenter>(widgetStorePath(), sharedSessionBus());
 }
 
 } // namespace vantrix

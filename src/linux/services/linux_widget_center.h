@@ -1,10 +1,9 @@
 #pragma once
 
-#include <optional>
+#include <memory>
 #include <string>
 
-#include <QDBusConnection>
-
+#include "linux/services/bus_link.h"
 #include "platform/widget_center.h"
 
 namespace vantrix {
@@ -15,15 +14,15 @@ QString widgetStorePath();
 /// Keeps the group's store in a file and announces it by a signal on the session bus.
 class LinuxWidgetCenter final : public WidgetCenter {
   public:
-    /// Without a bus nothing is announced.
-    LinuxWidgetCenter(const QString& path, const std::optional<QDBusConnection>& bus);
+    /// While there is no bus, nothing is announced.
+    LinuxWidgetCenter(const QString& path, std::shared_ptr<BusLink> link);
 
     void store(std::string_view key, std::string_view json) override;
     void reloadAllTimelines() override;
 
   private:
     std::string path_;
-    std::optional<QDBusConnection> bus_;
+    std::shared_ptr<BusLink> link_;
 };
 
 } // namespace vantrix

@@ -14,19 +14,14 @@ namespace vantrix {
 
 LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, const AppearanceSource& appearance,
                                  const StatusSurroundings& surroundings)
-    : handlers_(std::move(handlers)), defaults_(defaults), appearance_(appearance), surroundings_(surroundings) {
-    if (surroundings_.busAddress)
-        bus_ = std::make_unique<BusConnection>(*surroundings_.busAddress);
-    const bool onBus = bus_ && bus_->isConnected();
+    : handlers_(std::move(handlers)), defaults_(defaults), appearance_(appearance), surroundings_(surroundings),
+      watch_(surroundings_.bus, surroundings_.hostOfProcess) {
     connect(&appearance_, &AppearanceSource::changed, this, &LinuxStatusItem::redraw);
-    if (onBus) {
-        watch_ = std::make_unique<NotifierWatch>(bus_->bus(), surroundings_.hostOfProcess);
-        connect(watch_.get(), &NotifierWatch::changed, this, [this] {
-            if (kind_ == Kind::notifier)
-                hide(); // its host is gone, or another one took over
-            choose();
-        });
-    }
+    connect(&watch_, &NotifierWatch::changed, this, [this] {
+        if (kind_ == Kind::notifier)
+            hide(); // its host is gone, or another one took over
+        choose();
+    });
     if (xcbConnection() != nullptr) {
         tray_ = std::make_unique<X11Tray>();
         // Queued, because Qt is still handling the event that caused this.
@@ -71,9 +66,9 @@ void LinuxStatusItem::choose() {
         tryTray();
     if (kind_ == Kind::notifier || (candidate_ && kind_ == Kind::none))
         return;
-    if (watch_ && watch_->host())
+    if (watch_.host())
         use(Kind::notifier,
-            std::make_unique<StatusNotifier>(*surroundings_.busAddress, *watch_->host(), handlers_, appearance_,
+            std::make_unique<StatusNotifier>(surroundings_.bus->address(), *watch_.host(), handlers_, appearance_,
                                              [this] { return tray_ ? tray_->foreground() : std::nullopt; }));
     else if (kind_ == Kind::none && !stripTimer_.isActive())
         stripTimer_.start(surroundings_.stripDelay);

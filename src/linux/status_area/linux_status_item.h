@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QTimer>
 
-#include "linux/services/session_bus.h"
+#include "linux/services/bus_link.h"
 #include "linux/status_area/notifier_watch.h"
 #include "linux/status_area/status_row.h"
 #include "platform/status_item.h"
@@ -21,7 +21,7 @@ class X11Tray;
 
 /// What the status item finds on the desktop; tests set up their own.
 struct StatusSurroundings {
-    std::optional<QString> busAddress = sessionBusAddress();
+    std::shared_ptr<BusLink> bus = sharedSessionBus();
     /// How long a desktop may take to bring up its status area before the strip is shown.
     std::chrono::milliseconds stripDelay{4000};
     NotifierWatch::HostOfProcess hostOfProcess = notifierHostOfProcess;
@@ -56,8 +56,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
     UserDefaults& defaults_;
     const AppearanceSource& appearance_;
     StatusSurroundings surroundings_;
-    std::unique_ptr<BusConnection> bus_;
-    std::unique_ptr<NotifierWatch> watch_;
+    NotifierWatch watch_;
     std::unique_ptr<X11Tray> tray_;
 
     std::unique_ptr<TrayWindow> candidate_; ///< in the tray; whether there is room for it is not known yet

@@ -27,13 +27,16 @@ NotifierHost notifierHostOfProcess(uint pid) {
     return notifierHostNamed({name.constData(), static_cast<std::size_t>(name.size())});
 }
 
-NotifierWatch::NotifierWatch(const QDBusConnection& bus, HostOfProcess hostOfProcess)
-    : bus_(bus), hostOfProcess_(std::move(hostOfProcess)) {
-    bus_.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {watcherName}, QString(), this,
-                 SLOT(ownerChanged(QString, QString, QString)));
-    bus_.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
-                 QStringLiteral("Disconnected"), this, SLOT(disconnected()));
-    auto* watcher = new QDBusPendingCallWatcher(askBus(bus_, QStringLiteral("GetNameOwner"), watcherName), this);
+NotifierWatch::NotifierWatch(std::shared_ptr<BusLink> link, HostOfProcess hostOfProcess)
+    : link_(std::move(link)), hostOfProcess_(std::move(hostOfProcess)) {
+    link_->whenConnected(this, [this](QDBusConnection& bus) { takeBus(bus); });
+    connect(link_.get(), &BusLink::disconnected, this, [this] { follow({}); });
+}
+
+void NotifierWatch::takeBus(QDBusConnection& bus) {
+    bus.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {watcherName}, QString(), this,
+                SLOT(ownerChanged(QString, QString, QString)));
+    auto* watcher = new QDBusPendingCallWatcher(askBus(bus, QStringLiteral("GetNameOwner"), watcherName), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
         done->deleteLater();
         const QDBusPendingReply<QString> reply = *done;
@@ -47,10 +50,6 @@ void NotifierWatch::ownerChanged(const QString&, const QString&, const QString& 
         follow(newOwner);
 }
 
-void NotifierWatch::disconnected() {
-    follow({});
-}
-
 void NotifierWatch::follow(const QString& owner) {
     owner_ = owner;
     settle(std::nullopt);
@@ -59,8 +58,11 @@ void NotifierWatch::follow(const QString& owner) {
 }
 
 void NotifierWatch::askProcess() {
+    QDBusConnection* bus = link_->bus();
+    if (bus == nullptr)
+        return;
     auto* watcher =
-        new QDBusPendingCallWatcher(askBus(bus_, QStringLiteral("GetConnectionUnixProcessID"), owner_), this);
+        new QDBusPendingCallWatcher(askBus(*bus, QStringLiteral("GetConnectionUnixProcessID"), owner_), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, owner = owner_](QDBusPendingCallWatcher* done) {
         done->deleteLater();
         const QDBusPendingReply<uint> reply = *done;

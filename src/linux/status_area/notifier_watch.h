@@ -1,11 +1,12 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 
-#include <QDBusConnection>
 #include <QObject>
 
+#include "linux/services/bus_link.h"
 #include "linux/status_area/notifier_host.h"
 
 namespace vantrix {
@@ -20,7 +21,7 @@ class NotifierWatch : public QObject {
   public:
     using HostOfProcess = std::function<NotifierHost(uint pid)>;
 
-    explicit NotifierWatch(const QDBusConnection& bus, HostOfProcess hostOfProcess = notifierHostOfProcess);
+    explicit NotifierWatch(std::shared_ptr<BusLink> link, HostOfProcess hostOfProcess = notifierHostOfProcess);
 
     /// Absent while nobody owns the name, or its owner is not known yet.
     const std::optional<NotifierHost>& host() const { return host_; }
@@ -31,14 +32,14 @@ class NotifierWatch : public QObject {
 
   private Q_SLOTS:
     void ownerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
-    void disconnected();
 
   private:
+    void takeBus(QDBusConnection& bus);
     void follow(const QString& owner);
     void askProcess();
     void settle(std::optional<NotifierHost> host);
 
-    QDBusConnection bus_;
+    std::shared_ptr<BusLink> link_;
     HostOfProcess hostOfProcess_;
     QString owner_;
     std::optional<NotifierHost> host_;

@@ -41,8 +41,9 @@ bool onX11() {
 
 } // namespace
 
-StatusNotifier::StatusNotifier(QString busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
-                               const AppearanceSource& appearance, PanelText panelText)
+StatusNotifier::StatusNotifier(std::optional<QString> busAddress, const NotifierHost& host,
+                               const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
+                               PanelText panelText)
     : busAddress_(std::move(busAddress)), host_(host), handlers_(handlers), appearance_(appearance),
       panelText_(std::move(panelText)), paced_(host.pace, [this] { publish(); }),
       pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }) {
@@ -52,12 +53,12 @@ StatusNotifier::StatusNotifier(QString busAddress, const NotifierHost& host, con
 
 void StatusNotifier::show(const StatusRow& row) {
     row_ = row;
-    if (ids_ == wantedIds())
-        return paced_.request();
-    ids_ = wantedIds();
-    connectItems();
-    paced_.runNow();
-    registerFirst();
+    if (ids_ != wantedIds()) {
+        ids_ = wantedIds();
+        connectItems();
+    } else if (!objects_.empty()) {
+        paced_.request();
+    }
 }
 
 /// The identifiers of the items, by which hosts remember what a user has hidden or moved.
@@ -70,23 +71,37 @@ QStringList StatusNotifier::wantedIds() const {
     return ids;
 }
 
-/// Hosts drop an item only when its connection ends, so a new set of items needs a new connection.
+/// A new set of items needs a new connection.
 void StatusNotifier::connectItems() {
+    dropItems();
+    link_ = std::make_unique<BusLink>(busAddress_);
+    connect(link_.get(), &BusLink::disconnected, this, &StatusNotifier::dropItems);
+    link_->whenConnected(this, [this](QDBusConnection& bus) {
+        dropItems();
+        makeItems(bus);
+        paced_.runNow();
+        registerFirst();
+    });
+}
+
+void StatusNotifier::dropItems() {
+    registration_.stop();
     staleToolTips_.clear();
     published_.reset();
     objects_.clear();
     menu_.reset();
-    connection_ = std::make_unique<BusConnection>(busAddress_);
+}
+
+void StatusNotifier::makeItems(QDBusConnection& bus) {
     const auto count = static_cast<std::size_t>(ids_.size());
     menu_ = std::make_unique<DBusMenu>(
-        connection_->bus(), menuPath,
-        DBusMenu::Source{[this] { return menuEntries(); }, [this] { handlers_.menuWillOpen(); }});
+        bus, menuPath, DBusMenu::Source{[this] { return menuEntries(); }, [this] { handlers_.menuWillOpen(); }});
     for (std::size_t i = 0; i < count; ++i) {
         QString path = firstItemPath;
         if (!objects_.empty())
             path += QLatin1Char('/') + QString::number(objects_.size() + 1);
         objects_.push_back(std::make_unique<NotifierObject>(
-            connection_->bus(), path, ids_[static_cast<qsizetype>(tileOf(i))], menuPath,
+            bus, path, ids_[static_cast<qsizetype>(tileOf(i))], menuPath,
             [this](const StatusClick& click, QPoint point) { clicked(click, point); }));
         connect(objects_.back().get(), &NotifierObject::asked, this, [this, number = objects_.size()] {
             if (number == registered_)
@@ -98,13 +113,14 @@ void StatusNotifier::connectItems() {
 /// The first item is registered by a bus name, as the protocol asks; a name stands for one item only, so the others
 /// are registered by path. The bus keeps messages in order: by the time the watcher hears of the name, it is ours.
 void StatusNotifier::registerFirst() {
+    QDBusConnection& bus = *link_->bus();
     const QString service = nextServiceName();
     auto request =
         QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
                                        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
     request << service << 4U; // fail rather than queue
-    connection_->bus().send(request);
-    registerWithWatcher(connection_->bus(), service);
+    bus.send(request);
+    registerWithWatcher(bus, service);
     registered_ = 1;
     registration_.start(registrationPatience);
 }
@@ -113,7 +129,7 @@ void StatusNotifier::registerFirst() {
 void StatusNotifier::registerNext() {
     if (registered_ >= objects_.size())
         return registration_.stop();
-    registerWithWatcher(connection_->bus(), objects_[registered_]->path());
+    registerWithWatcher(*link_->bus(), objects_[registered_]->path());
     ++registered_;
     registration_.start(registrationPatience);
 }

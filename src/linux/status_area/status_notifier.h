@@ -7,7 +7,7 @@
 
 #include <QObject>
 
-#include "linux/services/session_bus.h"
+#include "linux/services/bus_link.h"
 #include "linux/status_area/dbus_menu.h"
 #include "linux/status_area/notifier_host.h"
 #include "linux/status_area/notifier_object.h"
@@ -27,7 +27,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     /// The colour of the panel's own text, where it is known.
     using PanelText = std::function<std::optional<QColor>()>;
 
-    StatusNotifier(QString busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
+    StatusNotifier(std::optional<QString> busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
                    const AppearanceSource& appearance, PanelText panelText);
 
     void show(const StatusRow& row) override;
@@ -37,6 +37,8 @@ class StatusNotifier : public QObject, public StatusBackend {
     bool single() const { return host_.layout != NotifierLayout::tiles; }
     QStringList wantedIds() const;
     void connectItems();
+    void makeItems(QDBusConnection& bus);
+    void dropItems();
     void registerFirst();
     void registerNext();
     MenuBarPalette palette() const;
@@ -50,15 +52,15 @@ class StatusNotifier : public QObject, public StatusBackend {
     void clicked(const StatusClick& click, QPoint point);
     std::vector<StatusMenuEntry> menuEntries() const;
 
-    QString busAddress_;
+    std::optional<QString> busAddress_;
     NotifierHost host_;
     StatusItem::Handlers handlers_;
     const AppearanceSource& appearance_;
     PanelText panelText_;
 
-    std::unique_ptr<BusConnection> connection_;
+    std::unique_ptr<BusLink> link_; ///< of its own, because hosts drop an item only when its connection ends
     std::unique_ptr<DBusMenu> menu_;
-    std::vector<std::unique_ptr<NotifierObject>> objects_;
+    std::vector<std::unique_ptr<NotifierObject>> objects_; ///< none while there is no connection
     std::size_t registered_ = 0;
     QTimer registration_;
     std::set<NotifierObject*> staleToolTips_; ///< changed, but not told to the host

@@ -33,7 +33,7 @@ class DesktopAppearanceTest : public testing::Test {
     ~DesktopAppearanceTest() override { QGuiApplication::setPalette(QPalette()); }
 
     void start() {
-        source = std::make_unique<DesktopAppearance>(connection.bus());
+        source = std::make_unique<DesktopAppearance>(bus.link());
         QObject::connect(source.get(), &AppearanceSource::changed, source.get(), [this] { ++changes; });
     }
 
@@ -50,15 +50,14 @@ class DesktopAppearanceTest : public testing::Test {
     }
 
     PrivateBus bus;
-    BusConnection connection{bus.address()};
     std::unique_ptr<DesktopAppearance> source;
     int changes = 0;
 };
 
 TEST_F(DesktopAppearanceTest, TakesThePaletteWhereNobodyTells) {
-    for (const bool onBus : {true, false}) {
+    for (const auto& link : {bus.link(), std::make_shared<BusLink>(std::nullopt)}) {
         QGuiApplication::setPalette(QPalette(QColor(239, 239, 239)));
-        DesktopAppearance appearance(onBus ? std::optional(connection.bus()) : std::nullopt);
+        DesktopAppearance appearance(link);
         EXPECT_EQ(appearance.appearance(), Appearance());
         QGuiApplication::setPalette(QPalette(QColor(30, 30, 30)));
         EXPECT_TRUE(spinUntil([&] { return appearance.appearance() == Appearance{.dark = true}; }));
@@ -131,6 +130,10 @@ TEST_F(DesktopAppearanceTest, FollowsAPortalThatComesAndGoes) {
         portal.reset();
         EXPECT_TRUE(becomes({})) << "the portal is gone: back to the palette";
     }
+    bus.kill();
+    bus.start();
+    FakePortal portal(bus.address(), dark());
+    EXPECT_TRUE(becomes({.dark = true})) << "another bus";
 }
 
 TEST_F(DesktopAppearanceTest, FollowsChangesAndTellsEachOnce) {

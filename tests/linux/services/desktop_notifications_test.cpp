@@ -37,8 +37,8 @@ class DesktopNotificationsTest : public testing::Test {
     }
 
     PrivateBus bus;
-    BusConnection connection{bus.address()};
-    DesktopNotifications center{connection.bus()};
+    std::shared_ptr<BusLink> link = bus.link();
+    DesktopNotifications center{link};
 };
 
 TEST_F(DesktopNotificationsTest, SaysWhatDaemonsUnderstand) {
@@ -141,7 +141,7 @@ TEST_F(DesktopNotificationsTest, IsAuthorizedWhereThereIsAService) {
         EXPECT_EQ(authorization(center), true) << "a service runs";
     }
     EXPECT_EQ(authorization(center), false) << "it is gone";
-    DesktopNotifications busless{std::nullopt};
+    DesktopNotifications busless{std::make_shared<BusLink>(std::nullopt)};
     busless.post(u"a"_s, {}, {});
     EXPECT_EQ(authorization(busless), false) << "no bus";
     bus.kill();
@@ -149,10 +149,24 @@ TEST_F(DesktopNotificationsTest, IsAuthorizedWhereThereIsAService) {
     post(u"a"_s);
 }
 
+TEST_F(DesktopNotificationsTest, StartsAfreshOnABusThatComesBack) {
+    for (const bool answers : {true, false, true}) {
+        ASSERT_TRUE(spinUntil([&] { return link->bus() != nullptr; }));
+        FakeNotificationService service(bus.address(), 40);
+        service.hangs = !answers;
+        post(u"a"_s);
+        ASSERT_TRUE(gets(service, 1));
+        EXPECT_EQ(replacedBy(service.asked[0]), 0U);
+        EXPECT_EQ(authorization(center), true); // by now the answer is there
+        bus.kill();
+        ASSERT_TRUE(spinUntil([&] { return link->bus() == nullptr; }));
+        bus.start();
+    }
+}
+
 TEST_F(DesktopNotificationsTest, ReplacesWhatAServiceShowsThatThePostStarted) {
     const PrivateBus starting("org.freedesktop.Notifications");
-    BusConnection own(starting.address());
-    DesktopNotifications starter(own.bus());
+    DesktopNotifications starter(starting.link());
     starter.post(u"a"_s, {}, {});
     EXPECT_EQ(authorization(starter), true) << "it can be started";
     FakeNotificationService service(starting.address(), 40); // the bus kept the post for it

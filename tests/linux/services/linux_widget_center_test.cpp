@@ -4,7 +4,6 @@
 #include <thread>
 
 #include "linux/services/private_bus.h"
-#include "linux/services/session_bus.h"
 #include "linux/settings/settings_folder.h"
 
 namespace vantrix {
@@ -30,7 +29,7 @@ class Listener : public QObject {
 class LinuxWidgetCenterTest : public settings_folder::FileDefaultsStoreTest {
   protected:
     QString file = at("run/vantrix/defaults.json");
-    LinuxWidgetCenter center{file, std::nullopt};
+    LinuxWidgetCenter center{file, std::make_shared<BusLink>(std::nullopt)};
 };
 
 TEST_F(LinuxWidgetCenterTest, ReplacesAPrivateFile) {
@@ -66,14 +65,19 @@ TEST_F(LinuxWidgetCenterTest, ReadersNeverSeeAMixture) {
 
 TEST_F(LinuxWidgetCenterTest, TellsWidgetsOnTheBus) {
     PrivateBus bus;
-    BusConnection own(bus.address());
-    BusConnection other(bus.address());
-    Listener widget(other.bus());
-    LinuxWidgetCenter telling(file, own.bus());
-    telling.reloadAllTimelines();
-    EXPECT_TRUE(spinUntil([&] { return widget.paths == QStringList{file}; }));
-    bus.kill();
-    telling.reloadAllTimelines();
+    const auto link = bus.link();
+    LinuxWidgetCenter telling(file, link);
+    for (int life = 0; life < 2; ++life) {
+        ASSERT_TRUE(spinUntil([&] { return link->bus() != nullptr; }));
+        BusConnection other(bus.address());
+        Listener widget(other.bus());
+        telling.reloadAllTimelines();
+        EXPECT_TRUE(spinUntil([&] { return widget.paths == QStringList{file}; }));
+        bus.kill();
+        telling.reloadAllTimelines();
+        ASSERT_TRUE(spinUntil([&] { return link->bus() == nullptr; }));
+        bus.start();
+    }
     center.reloadAllTimelines(); // has no bus at all
 }
 

@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include "linux/services/bus_link.h"
 #include "posix/spin_until.h"
 
 namespace vantrix {
@@ -20,29 +21,43 @@ class PrivateBus {
     explicit PrivateBus(const QByteArray& startable = {}) {
         const QByteArray folder = QFile::encodeName(folder_.path());
         put("startable.service", "[D-BUS Service]\nName=" + startable + "\nExec=/bin/sleep 20\n");
-        put("bus.conf", "<busconfig><type>session</type><listen>unix:dir=" + folder +
+        put("bus.conf", "<busconfig><type>session</type><listen>" + address().toLocal8Bit() +
                             "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
                             "<allow eavesdrop=\"true\"/></policy>" +
                             (startable.isEmpty() ? "" : "<servicedir>" + folder + "</servicedir>") + "</busconfig>\n");
         // Not left behind by a test that crashes.
         daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
         daemon_.setStandardErrorFile(QProcess::nullDevice());
+        start();
+    }
+
+    ~PrivateBus() { kill(); }
+
+    QString address() const { return QStringLiteral("unix:path=") + folder_.filePath(QStringLiteral("bus")); }
+
+    /// A connection that is there already.
+    std::shared_ptr<BusLink> link() const {
+        auto link = std::make_shared<BusLink>(address(), std::chrono::milliseconds(5));
+        EXPECT_TRUE(spinUntil([&] { return link->bus() != nullptr; }));
+        return link;
+    }
+
+    /// Takes connections, but answers nobody.
+    void freeze() { ::kill(static_cast<pid_t>(daemon_.processId()), SIGSTOP); }
+
+    void kill() {
+        daemon_.kill();
+        daemon_.waitForFinished();
+    }
+
+    /// After it was killed: another daemon at the same address.
+    void start() {
         daemon_.start(QStringLiteral("dbus-daemon"),
                       {QStringLiteral("--config-file=") + folder_.filePath(QStringLiteral("bus.conf")),
                        QStringLiteral("--print-address"), QStringLiteral("--nofork"), QStringLiteral("--nopidfile")});
         while (!daemon_.canReadLine() && daemon_.waitForReadyRead())
             continue;
-        address_ = QString::fromLocal8Bit(daemon_.readLine()).trimmed();
-        EXPECT_FALSE(address_.isEmpty()) << "no dbus-daemon";
-    }
-
-    ~PrivateBus() { kill(); }
-
-    const QString& address() const { return address_; }
-
-    void kill() {
-        daemon_.kill();
-        daemon_.waitForFinished();
+        EXPECT_FALSE(daemon_.readLine().isEmpty()) << "no dbus-daemon";
     }
 
   private:
@@ -54,7 +69,6 @@ class PrivateBus {
 
     QTemporaryDir folder_;
     QProcess daemon_;
-    QString address_;
 };
 
 } // namespace vantrix

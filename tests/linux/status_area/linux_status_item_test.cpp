@@ -31,7 +31,7 @@ class LinuxStatusItemTest : public StatusItemOnBus {
 TEST_F(LinuxStatusItemTest, ShowsAStripWhereThereIsNoBus) {
     for (const std::optional<QString>& address :
          {std::optional<QString>(), std::optional(u"unix:path=/nowhere/at/all"_s), std::optional(u"garbage"_s)}) {
-        surroundings.busAddress = address;
+        surroundings.bus = std::make_shared<BusLink>(address);
         start();
         expectStrip();
         item->show(rowOf(13));
@@ -81,6 +81,11 @@ TEST_F(LinuxStatusItemTest, OutlivesTheBus) {
     item->show(rowOf(13));
     expectStrip();
     item->show(rowOf(14));
+    bus.start();
+    host.restart();
+    ASSERT_TRUE(awaitItems(1));
+    EXPECT_EQ(strips(), 0);
+    EXPECT_EQ(host.property(host.items[0], u"Id"_s).toString(), u"vantrix"_s);
 }
 
 TEST_F(LinuxStatusItemTest, HostThatNeverAnswersHoldsNothingUp) {
@@ -88,9 +93,11 @@ TEST_F(LinuxStatusItemTest, HostThatNeverAnswersHoldsNothingUp) {
     layout.pace = milliseconds(0);
     start();
     ASSERT_TRUE(awaitKind(Kind::notifier));
-    for (int cpu = 13; cpu < 100; ++cpu)
-        item->show(rowOf(cpu));
-    EXPECT_TRUE(awaitSignals(u"NewIcon", 87));
+    int cpu = 0;
+    EXPECT_TRUE(spinUntil([&] {
+        item->show(rowOf(++cpu % 100));
+        return host.count(u"NewIcon") >= 87;
+    }));
     EXPECT_TRUE(item->anchor().isValid());
 }
 

@@ -72,7 +72,7 @@ class StatusItemOnBus : public ::testing::Test {
     fakes::FakeDefaults defaults;
     fakes::FakeAppearance appearance;
     NotifierHost layout; ///< of every process
-    StatusSurroundings surroundings{.busAddress = bus.address(),
+    StatusSurroundings surroundings{.bus = bus.link(),
                                     .stripDelay = std::chrono::milliseconds(30),
                                     .hostOfProcess = [this](uint) { return layout; }};
     std::vector<StatusMenuEntry> entries;

@@ -18,7 +18,8 @@ class StripOnScreen : public testing::Test {
     void show() {
         item.emplace(StatusItem::Handlers{.clicked = [this](const StatusClick& click) { clicks.push_back(click); }},
                      kept.defaults, appearance,
-                     StatusSurroundings{.busAddress = std::nullopt, .stripDelay = std::chrono::milliseconds(10)});
+                     StatusSurroundings{.bus = std::make_shared<BusLink>(std::nullopt),
+                                        .stripDelay = std::chrono::milliseconds(10)});
         item->show({.items = {{.label = "CPU", .lines = {"12%"}, .reference = "100%"}}});
         ASSERT_TRUE(spinUntil([&] { return item->kind() == LinuxStatusItem::Kind::strip; }));
         for (QWidget* widget : QApplication::topLevelWidgets())

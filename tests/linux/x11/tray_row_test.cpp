@@ -41,7 +41,7 @@ class TrayRow : public testing::Test {
     LinuxStatusItem item{{.clicked = [this](const StatusClick& click) { clicks.push_back(click); }},
                          kept.defaults,
                          appearance,
-                         {.busAddress = std::nullopt, .stripDelay = std::chrono::milliseconds(50)}};
+                         {.bus = std::make_shared<BusLink>(std::nullopt), .stripDelay = std::chrono::milliseconds(50)}};
 };
 
 TEST_F(TrayRow, DocksAndPaintsWithTheRoomItNeeds) {
