@@ -61,7 +61,8 @@ void StatusNotifier::show(const StatusRow& row) {
     }
 }
 
-/// The identifiers of the items, by which hosts remember what a user has hidden or moved.
+/// The identifiers of the items, by which hosts remember what a user has hidden or moved: a module keeps its own
+/// wherever it stands in the row.
 QStringList StatusNotifier::wantedIds() const {
     if (single())
         return {QStringLiteral("vantrix")};
@@ -179,14 +180,22 @@ NotifierContent StatusNotifier::contentOf(std::size_t index, const MenuBarPalett
     const std::size_t tile = tileOf(index);
     NotifierContent content;
     content.icon = samePixmaps(tile, palette) ? objects_[index]->content().icon : pixmapsOf(tile, palette);
+    content.title = titleOf(tile);
     // Only the first tile has the text of the whole row: if all had, all would have to be sent whenever one changes.
-    content.title = tile == 0 ? row_.text() : row_.tileText(tile);
-    content.toolTip = content.title;
+    content.toolTip = tile == 0 ? row_.text() : row_.tileText(tile);
     if (host_.layout == NotifierLayout::labelled) {
         content.label = row_.label();
         content.labelGuide = row_.labelGuide();
     }
     return content;
+}
+
+/// Plasma shows items in the order of their categories and, within one, of their titles, however they registered. With
+/// a number before what changes, titles are in the order of the row, and no other program's item gets between them.
+QString StatusNotifier::titleOf(std::size_t tile) const {
+    if (ids_.size() == 1)
+        return row_.text();
+    return QStringLiteral("Vantrix %1: %2").arg(QString::number(tile + 1), row_.tileText(tile));
 }
 
 NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const {

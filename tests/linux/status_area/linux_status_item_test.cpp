@@ -71,7 +71,7 @@ TEST_F(LinuxStatusItemTest, StripStepsInWhileThereIsNoWatcher) {
         ASSERT_TRUE(awaitItems(1));
         EXPECT_EQ(strips(), 0);
         EXPECT_EQ(host.property(host.items[0], u"Title"_s).toString(),
-                  u"CPU %1%, RAM 50%"_s.arg(20 + round)); // what was shown meanwhile
+                  u"Vantrix 1: CPU %1%"_s.arg(20 + round)); // what was shown meanwhile
     }
 }
 

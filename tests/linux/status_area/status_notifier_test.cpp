@@ -131,9 +131,24 @@ TEST_F(StatusNotifierTest, OnlyChangesAreSignalled) {
     ASSERT_EQ(host.count(u"NewIcon"), 1);
     for (const QDBusMessage& signal : host.signalsHeard)
         EXPECT_EQ(signal.path(), items[0].path);
-    EXPECT_EQ(title(items[0]), u"CPU 13%, RAM 50%"_s);
-    EXPECT_EQ(qdbus_cast<NotifierToolTip>(host.property(items[0], u"ToolTip"_s)).title, title(items[0]));
-    EXPECT_EQ(title(items[1]), u"RAM 50%"_s);
+    EXPECT_EQ(title(items[0]), u"Vantrix 1: CPU 13%"_s);
+    const auto toolTip = [&](const Item& at) {
+        return qdbus_cast<NotifierToolTip>(host.property(at, u"ToolTip"_s)).title;
+    };
+    EXPECT_EQ(toolTip(items[0]), u"CPU 13%, RAM 50%"_s);
+    EXPECT_EQ(toolTip(items[1]), u"RAM 50%"_s);
+}
+
+TEST_F(StatusNotifierTest, TitlesSortLikeTheRowAndIdentifiersStayWithTheirModules) {
+    startOn(quick("plasmashell"), 2);
+    StatusContent row = rowOf(12);
+    std::swap(row.items[0], row.items[1]);
+    item->show(row);
+    ASSERT_TRUE(awaitItems(4));
+    const Item first = host.items[2];
+    EXPECT_EQ(title(first), u"Vantrix 1: RAM 50%"_s);
+    EXPECT_EQ(host.property(first, u"Id"_s).toString(), u"vantrix-memory"_s);
+    EXPECT_EQ(title(host.items[3]), u"Vantrix 2: CPU 12%"_s);
 }
 
 TEST_F(StatusNotifierTest, LabelledHostHearsOfTheTextAlone) {
