@@ -4,6 +4,8 @@
 
 #include <QHBoxLayout>
 #include <QPointer>
+#include <QScrollArea>
+#include <QTimer>
 
 #include "menubar/preferences.h"
 #include "settings/bindings.h"
@@ -21,6 +23,15 @@ namespace {
 
 constexpr double lowBattery = 0.15;
 constexpr double footnotePoints = 11.0;
+constexpr int testPadding = 7; // around what is in the row of the test
+constexpr int roomBelow = 24;  // the rest of the row, and of the page
+
+/// Brings `part` into view, whole, where it stands on a page that scrolls.
+void scrollTo(QWidget& part) {
+    for (QWidget* around = part.parentWidget(); around != nullptr; around = around->parentWidget())
+        if (auto* area = qobject_cast<QScrollArea*>(around))
+            area->ensureWidgetVisible(&part, 0, roomBelow);
+}
 
 } // namespace
 
@@ -87,7 +98,7 @@ void AlertsSettings::addConditions() {
 void AlertsSettings::addTest() {
     auto* holder = new QWidget;
     auto* column = new QVBoxLayout(holder);
-    column->setContentsMargins(FormRow::sidePadding - focusMargin, 3, FormRow::sidePadding, 3);
+    column->setContentsMargins(FormRow::sidePadding - focusMargin, testPadding, FormRow::sidePadding, testPadding);
     column->setSpacing(6);
     auto* button = new PushButton(theme(), localizedText("Send test notification"));
     button->setEnabled(sendTest_ != nullptr);
@@ -108,6 +119,8 @@ void AlertsSettings::requestTest() {
             return;
         tab->outcome_->setText(outcome);
         tab->outcome_->setVisible(!outcome.isEmpty());
+        // It stands at the end of the page, which is long; later, when the page has grown by it.
+        QTimer::singleShot(0, tab->outcome_, [text = tab->outcome_] { scrollTo(*text); });
     });
 }
 

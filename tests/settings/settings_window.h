@@ -50,12 +50,12 @@ class SettingsWindowTest : public ::testing::Test {
         throw std::runtime_error(std::string("no such control: ") + name);
     }
 
-    /// True when one of the texts in view is that one.
-    bool shows(const char* text) {
+    /// The label of the open tab with that text; null when there is none.
+    const TextLabel* shows(const char* text) {
         for (const auto* label : controller.window()->findChildren<TextLabel*>())
             if (label->isVisible() && label->text() == QString::fromUtf8(text))
-                return true;
-        return false;
+                return label;
+        return nullptr;
     }
 
     QString stored(const QString& key) const { return defaults.string(key).value_or(QStringLiteral("<none>")); }

@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
-        <translation>Benachrichtigungen sind für Vantrix deaktiviert. Aktiviere sie in den Benachrichtigungseinstellungen deines Desktops.</translation>
+        <translation>Auf diesem Desktop antwortet kein Benachrichtigungsdienst, daher können keine Warnungen angezeigt werden. Jeder Benachrichtigungs-Daemon genügt.</translation>
     </message>
     <message>
         <source>Menu Bar</source>

@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
-        <translation>Notifications are turned off for Vantrix. Enable them in your desktop’s notification settings.</translation>
+        <translation>No notification service answers on this desktop, so alerts cannot be shown. Any notification daemon will do.</translation>
     </message>
     <message>
         <source>Menu Bar</source>

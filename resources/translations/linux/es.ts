@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
-        <translation>Las notificaciones de Vantrix están desactivadas. Actívalas en los ajustes de notificaciones de tu escritorio.</translation>
+        <translation>En este escritorio no responde ningún servicio de notificaciones, así que no se pueden mostrar avisos. Sirve cualquier demonio de notificaciones.</translation>
     </message>
     <message>
         <source>Menu Bar</source>

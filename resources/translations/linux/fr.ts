@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
-        <translation>Les notifications de Vantrix sont désactivées. Activez-les dans les paramètres de notification de votre bureau.</translation>
+        <translation>Aucun service de notification ne répond sur ce bureau : les alertes ne peuvent pas s’afficher. N’importe quel démon de notification convient.</translation>
     </message>
     <message>
         <source>Menu Bar</source>

@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
-        <translation>Le notifiche di Vantrix sono disattivate. Attivale nelle impostazioni di notifica del desktop.</translation>
+        <translation>Su questo desktop non risponde alcun servizio di notifica, quindi gli avvisi non possono essere mostrati. Va bene qualsiasi demone di notifica.</translation>
     </message>
     <message>
         <source>Menu Bar</source>

@@ -18,7 +18,7 @@
     </message>
     <message>
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
-        <translation>Vantrixの通知はオフになっています。デスクトップの通知設定でオンにしてください。</translation>
+        <translation>このデスクトップでは通知サービスが応答しないため、通知を表示できません。通知デーモンはどれでも使えます。</translation>
     </message>
     <message>
         <source>Menu Bar</source>

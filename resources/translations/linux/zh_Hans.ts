@@ -15,7 +15,7 @@
     <message><source>Only %@ free on the startup disk.</source><translation>系统磁盘仅剩 %@ 可用空间。</translation></message>
     <message>
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
-        <translation>Vantrix 的通知已关闭。请在桌面的通知设置中打开。</translation>
+        <translation>此桌面上没有通知服务应答，因此无法显示提醒。任何通知守护程序均可。</translation>
     </message>
     <message>
         <source>Menu Bar</source>

@@ -3,7 +3,10 @@
 #include <utility>
 
 #include <QDBusPendingCallWatcher>
+#include <QIcon>
 #include <QTimer>
+
+#include "linux/services/notification_picture.h"
 
 namespace vantrix {
 namespace {
@@ -13,13 +16,21 @@ const QString servicePath = QStringLiteral("/org/freedesktop/Notifications");
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 
+/// Of the icon theme, and of the desktop entry.
+const QString programName = QStringLiteral("vantrix");
+
 QVariantMap hints() {
     constexpr uchar normalUrgency = 1;
-    return {
+    QVariantMap hints{
         {QStringLiteral("urgency"), QVariant::fromValue(normalUrgency)},
         {QStringLiteral("sound-name"), QStringLiteral("message-new-instant")},
-        {QStringLiteral("desktop-entry"), QStringLiteral("vantrix")},
+        {QStringLiteral("desktop-entry"), programName},
     };
+    // A program that is not installed has no icon that a service could find. Elsewhere it is not sent, because some
+    // services show it beside the icon of that name.
+    if (!QIcon::hasThemeIcon(programName))
+        hints.insert(QStringLiteral("image-data"), QVariant::fromValue(programPicture()));
+    return hints;
 }
 
 /// The only argument of a reply; absent when the reply is an error or has another signature.
@@ -54,7 +65,7 @@ void DesktopNotifications::notify(const QString& identifier, const Texts& texts)
     posted.isUnanswered = true;
     auto message = QDBusMessage::createMethodCall(serviceName, servicePath, serviceName, QStringLiteral("Notify"));
     constexpr int serviceDecidesHowLong = -1;
-    message << QStringLiteral("Vantrix") << posted.id << QStringLiteral("vantrix") << texts.title
+    message << QStringLiteral("Vantrix") << posted.id << programName << texts.title
             << texts.body.toHtmlEscaped() // the body, unlike the title, is markup
             << QStringList() << hints() << serviceDecidesHowLong;
     call(message, [this, identifier, asked = resignations_](const QDBusMessage& reply) {

@@ -1,8 +1,10 @@
 #include "linux/services/desktop_notifications.h"
 
 #include <QDBusArgument>
+#include <QIcon>
 
 #include "linux/services/fake_notification_service.h"
+#include "linux/services/notification_picture.h"
 #include "linux/services/private_bus.h"
 
 namespace vantrix {
@@ -53,6 +55,29 @@ TEST_F(DesktopNotificationsTest, SaysWhatDaemonsUnderstand) {
     EXPECT_EQ(hints.value(u"urgency"_s), QVariant::fromValue(uchar{1})); // daemons refuse another type than byte
     EXPECT_EQ(hints.value(u"desktop-entry"_s), u"vantrix"_s);
     EXPECT_FALSE(hints.value(u"sound-name"_s).toString().isEmpty());
+}
+
+TEST_F(DesktopNotificationsTest, BringsItsIconWhereItIsNotInstalled) {
+    FakeNotificationService service(bus.address());
+    const QTemporaryDir icons;
+    const QStringList before = QIcon::fallbackSearchPaths();
+    QIcon::setThemeName(u"hicolor"_s);
+    for (const bool isInstalled : {false, true}) {
+        if (isInstalled) {
+            ASSERT_TRUE(QImage(8, 8, QImage::Format_RGB32).save(icons.filePath(u"vantrix.png"_s)));
+        }
+        QIcon::setFallbackSearchPaths({icons.path()}); // makes the toolkit look again
+        service.asked.clear();
+        post(u"a"_s);
+        ASSERT_TRUE(gets(service, 1));
+        const auto hints = qdbus_cast<QVariantMap>(service.asked[0].arguments()[6]);
+        const auto picture = qdbus_cast<NotificationPicture>(hints.value(u"image-data"_s));
+        EXPECT_EQ(picture, isInstalled ? NotificationPicture() : programPicture());
+        EXPECT_EQ(picture.bytes.size(), isInstalled ? 0 : 64 * 64 * 4);
+        EXPECT_EQ(picture.bytes.count('\0') < picture.bytes.size(), !isInstalled) << "nothing is drawn";
+    }
+    QIcon::setFallbackSearchPaths(before);
+    QIcon::setThemeName(QString());
 }
 
 TEST_F(DesktopNotificationsTest, ReplacesWhatTheSameServiceShowsUnderTheIdentifier) {
