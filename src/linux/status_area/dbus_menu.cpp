@@ -36,8 +36,9 @@ QDBusMessage unknownId(const QDBusMessage& message) {
     return message.createErrorReply(QDBusError::InvalidArgs, QStringLiteral("No such menu entry"));
 }
 
-// By the names that GTK has for modifiers and keys.
-QStringList keyNames(QKeyCombination keys) {
+// Modifiers have GTK's names everywhere. Hosts made with Qt translate those, "plus" and "minus", and take all else as
+// Qt writes it; GTK knows a comma only by its name.
+QStringList keyNames(QKeyCombination keys, bool isForQt) {
     QStringList names;
     const auto modifiers = keys.keyboardModifiers();
     if (modifiers & Qt::ControlModifier)
@@ -49,17 +50,18 @@ QStringList keyNames(QKeyCombination keys) {
     if (modifiers & Qt::MetaModifier)
         names << QStringLiteral("Super");
     const QString key = QKeySequence(keys.key()).toString(QKeySequence::PortableText);
-    return names << (key == QStringLiteral(",") ? QStringLiteral("comma") : key.toLower());
+    return names << (key == QStringLiteral(",") && !isForQt ? QStringLiteral("comma") : key.toLower());
 }
 
-QVariantMap describe(const StatusMenuEntry& entry) {
+QVariantMap describe(const StatusMenuEntry& entry, bool isForQt) {
     if (entry.title.isEmpty())
         return {{QStringLiteral("type"), QStringLiteral("separator")}};
     QString label = entry.title;
     label.replace(u'_', QStringLiteral("__")); // a single one marks an access key
     QVariantMap properties{{QStringLiteral("label"), label}};
     if (!entry.shortcut.isEmpty())
-        properties.insert(QStringLiteral("shortcut"), QVariant::fromValue(MenuShortcut{keyNames(entry.shortcut[0])}));
+        properties.insert(QStringLiteral("shortcut"),
+                          QVariant::fromValue(MenuShortcut{keyNames(entry.shortcut[0], isForQt)}));
     return properties;
 }
 
@@ -158,7 +160,7 @@ bool DBusMenu::has(int id) const {
 QVariantMap DBusMenu::propertiesOf(int id, const QStringList& wanted) const {
     QVariantMap properties{{QStringLiteral("children-display"), QStringLiteral("submenu")}};
     if (id > 0)
-        properties = describe(entries_[static_cast<std::size_t>(id) - 1]);
+        properties = describe(entries_[static_cast<std::size_t>(id) - 1], source_.hasQtKeys);
     if (wanted.isEmpty())
         return properties;
     erase_if(properties, [&](QVariantMap::iterator it) { return !wanted.contains(it.key()); });

@@ -19,6 +19,8 @@ class DBusMenu : public QDBusVirtualObject {
     struct Source {
         std::function<std::vector<StatusMenuEntry>()> entries;
         std::function<void()> willOpen;
+        /// The host makes the toolkit's key sequences of the names of keys, which are GTK's for others.
+        bool hasQtKeys = false;
     };
 
     DBusMenu(const QDBusConnection& bus, QString path, Source source);

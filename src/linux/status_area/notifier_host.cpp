@@ -21,7 +21,7 @@ constexpr NotifierHost waybar{.layout = NotifierLayout::wide, .darkPanel = true,
 constexpr NotifierHost mate{.layout = NotifierLayout::wide, .fetchesAll = true, .tellsClickPoint = false};
 constexpr NotifierHost gnomeShell{.layout = NotifierLayout::labelled, .darkPanel = true, .clickOpensMenu = true};
 constexpr NotifierHost xfce{.fetchesAll = true, .newestFirst = true}; // its plugins call themselves panel-6-systray
-constexpr NotifierHost plasma{.pace = milliseconds(4000), .fetchesAll = true};
+constexpr NotifierHost plasma{.pace = milliseconds(4000), .fetchesAll = true, .hasQtKeys = true};
 constexpr std::array<KnownHost, 11> knownHosts{{
     {"waybar", waybar},
     {"notification-ar", mate},
@@ -30,7 +30,7 @@ constexpr std::array<KnownHost, 11> knownHosts{{
     {"plasmashell", plasma},
     {"kded5", plasma},
     {"kded6", plasma},
-    {"lxqt-panel", {.pace = milliseconds(4000)}},
+    {"lxqt-panel", {.pace = milliseconds(4000), .hasQtKeys = true}},
     {"panel-", xfce, true},
     {"xfce4-panel", xfce},
     {"swaybar", {.darkPanel = true, .newestFirst = true, .tellsClickPoint = false}},

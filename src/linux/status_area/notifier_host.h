@@ -27,6 +27,8 @@ struct NotifierHost {
     bool tellsClickPoint = true;
     /// A left click opens the menu, which therefore begins with an entry that does what the click does elsewhere.
     bool clickOpensMenu = false;
+    /// Is made with Qt, and reads shortcuts in its menus as Qt writes them.
+    bool hasQtKeys = false;
 };
 
 /// The host whose watcher is a process of that name (as in `/proc/PID/comm`, which cuts it at 15 characters).

@@ -96,7 +96,8 @@ void StatusNotifier::dropItems() {
 void StatusNotifier::makeItems(QDBusConnection& bus) {
     const auto count = static_cast<std::size_t>(ids_.size());
     menu_ = std::make_unique<DBusMenu>(
-        bus, menuPath, DBusMenu::Source{[this] { return menuEntries(); }, [this] { handlers_.menuWillOpen(); }});
+        bus, menuPath,
+        DBusMenu::Source{[this] { return menuEntries(); }, [this] { handlers_.menuWillOpen(); }, host_.hasQtKeys});
     for (std::size_t i = 0; i < count; ++i) {
         QString path = firstItemPath;
         if (!objects_.empty())

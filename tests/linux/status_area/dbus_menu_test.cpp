@@ -51,6 +51,10 @@ class DBusMenuTest : public StatusItemOnBus {
         return reply.arguments().size() == 2 ? qdbus_cast<MenuNode>(reply.arguments()[1]) : MenuNode();
     }
 
+    static MenuShortcut shortcut(const MenuNode& root, int entry) {
+        return qdbus_cast<MenuShortcut>(root.children.value(entry).properties.value(u"shortcut"_s));
+    }
+
     static QString label(const MenuNode& node) { return node.properties.value(u"label"_s).toString(); }
 
     QDBusMessage tell(int id, const QString& kind, const QVariant& data = 0) {
@@ -71,11 +75,16 @@ TEST_F(DBusMenuTest, LaysOutItsEntries) {
     EXPECT_EQ(root.properties.value(u"children-display"_s).toString(), u"submenu"_s);
     EXPECT_EQ(label(root.children[0]), u"Settings__1"_s); // else the bar marks an access key
     EXPECT_EQ(root.children[1].properties.value(u"type"_s).toString(), u"separator"_s);
-    const auto shortcut = [&](int i) {
-        return qdbus_cast<MenuShortcut>(root.children[i].properties.value(u"shortcut"_s));
-    };
-    EXPECT_EQ(shortcut(0), MenuShortcut({{u"Control"_s, u"comma"_s}}));
-    EXPECT_EQ(shortcut(2), MenuShortcut({{u"Control"_s, u"Shift"_s, u"q"_s}}));
+    EXPECT_EQ(shortcut(root, 0), MenuShortcut({{u"Control"_s, u"comma"_s}}));
+    EXPECT_EQ(shortcut(root, 2), MenuShortcut({{u"Control"_s, u"Shift"_s, u"q"_s}}));
+}
+
+TEST_F(DBusMenuTest, WritesShortcutsAsItsHostReadsThem) {
+    for (const auto& [host, comma] : {std::pair("lxqt-panel", u","_s), {"kded6", u","_s}, {"panel-6", u"comma"_s}}) {
+        this->host.items.clear();
+        startMenu(host);
+        EXPECT_EQ(shortcut(layoutNow(), 0), MenuShortcut({{u"Control"_s, comma}})) << host;
+    }
 }
 
 TEST_F(DBusMenuTest, BeginsWithOpeningWhereAClickOpensTheMenu) {
