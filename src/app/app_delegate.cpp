@@ -162,4 +162,8 @@ void AppDelegate::handleRequest(const std::string& request) {
         showSettings(std::string_view(request).substr(settingsRequest.size()));
 }
 
+std::string AppDelegate::answerTo(const std::string& request) const {
+    return request == statusItemQuestion && statusItem_ ? statusItem_->place() : std::string();
+}
+
 } // namespace vantrix

@@ -57,6 +57,8 @@ class AppDelegate : public QObject {
     /// A request from another process: "show-popover", "show-settings", "show-settings TAB" or "quit"; anything else is
     /// ignored.
     void handleRequest(const std::string& request);
+    /// The answer to a question of another process; empty when the request is none.
+    std::string answerTo(const std::string& request) const;
 
   private:
     void createStatusItem();

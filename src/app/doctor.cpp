@@ -89,11 +89,14 @@ std::optional<DoctorInstance> Doctor::findInstance() {
     const auto pid = runningInstance();
     if (!pid)
         return std::nullopt;
-    if (*pid == 0)
-        return DoctorInstance();
+    DoctorInstance instance{.pid = *pid};
     // Its memory figures cannot be read while it is changing its address space.
-    auto statistics = inTime<Statistics>([pid = *pid] { return processStatistics(pid); });
-    return DoctorInstance{*pid, statistics.value_or(std::nullopt)};
+    if (*pid != 0)
+        instance.statistics =
+            inTime<Statistics>([pid = *pid] { return processStatistics(pid); }).value_or(std::nullopt);
+    const auto place = sendToRunningInstance(statusItemQuestion);
+    instance.statusItem = !place ? "It does not answer." : *place == "ok" ? "" : *place;
+    return instance;
 }
 
 /// Where the sources cannot be told in time, the readings are listed without them.

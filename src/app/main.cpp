@@ -73,6 +73,7 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
             .bluetooth = commandLine.watchesThisMachine() ? makeBluetooth() : Bluetooth(),
         },
         defaults);
+    channel->answer = [&](const std::string& message) { return delegate.answerTo(message); };
     channel->received = [&](const std::string& message) { delegate.handleRequest(message); };
     TerminationSignals signals([] { QApplication::quit(); });
     delegate.applicationDidFinishLaunching();

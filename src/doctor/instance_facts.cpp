@@ -36,7 +36,29 @@ std::string wakeUpsText(const ProcessStatistics& statistics) {
            std::to_string(statistics.threads) + (statistics.threads == 1 ? " thread" : " threads");
 }
 
+InstanceFacts processFacts(const DoctorInstance& instance) {
+    if (instance.pid == 0)
+        return {{"Process", "Runs, but out of sight: in another container or sandbox."}};
+    const std::string pid = std::to_string(instance.pid);
+    if (!instance.statistics)
+        return {{"Process", pid + ", whose /proc files cannot be read"}};
+    const ProcessStatistics& statistics = *instance.statistics;
+    return {{"Process", pid + ", for " + uptimeText(statistics.uptime)},
+            {"CPU time", cpuText(statistics)},
+            {"Memory", memoryTexts(statistics)},
+            {"Wake-ups", wakeUpsText(statistics)}};
+}
+
 } // namespace
+
+InstanceFacts instanceFacts(const std::optional<DoctorInstance>& instance) {
+    if (!instance)
+        return {{"", "None in this session."}};
+    InstanceFacts facts = processFacts(*instance);
+    if (!instance->statusItem.empty())
+        facts.push_back({"Status item", instance->statusItem});
+    return facts;
+}
 
 std::string uptimeText(double seconds) {
     const auto all = static_cast<long long>(seconds);
@@ -51,21 +73,6 @@ std::string uptimeText(double seconds) {
     if (all < 86400)
         return joined(all / 3600, " h", all / 60 % 60, " min");
     return joined(all / 86400, " d", all / 3600 % 24, " h");
-}
-
-std::vector<std::pair<std::string, std::string>> instanceFacts(const std::optional<DoctorInstance>& instance) {
-    if (!instance)
-        return {{"", "None in this session."}};
-    if (instance->pid == 0)
-        return {{"Process", "Runs, but out of sight: in another container or sandbox."}};
-    const std::string pid = std::to_string(instance->pid);
-    if (!instance->statistics)
-        return {{"Process", pid + ", whose /proc files cannot be read"}};
-    const ProcessStatistics& statistics = *instance->statistics;
-    return {{"Process", pid + ", for " + uptimeText(statistics.uptime)},
-            {"CPU time", cpuText(statistics)},
-            {"Memory", memoryTexts(statistics)},
-            {"Wake-ups", wakeUpsText(statistics)}};
 }
 
 } // namespace vantrix

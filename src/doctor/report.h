@@ -19,6 +19,7 @@ struct DoctorRow {
 struct DoctorInstance {
     int pid = 0; ///< 0 when it runs in another namespace of processes
     std::optional<ProcessStatistics> statistics;
+    std::string statusItem; ///< where it is shown; empty when it does not tell
 };
 
 /// What `vantrix --doctor` tells. English, and without anything private: see `SourceDiagnosis`.

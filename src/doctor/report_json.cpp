@@ -45,6 +45,7 @@ QJsonArray toJson(const std::vector<DoctorRow>& rows) {
 
 QJsonObject toJson(const DoctorInstance& instance) {
     QJsonObject object{{u"pid"_s, instance.pid}};
+    putUnlessEmpty(object, u"statusItem"_s, instance.statusItem);
     if (!instance.statistics)
         return object;
     const ProcessStatistics& statistics = *instance.statistics;

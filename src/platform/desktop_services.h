@@ -52,15 +52,21 @@ class TerminationSignals {
 class InstanceChannel {
   public:
     virtual ~InstanceChannel() = default;
-    /// Called on the main thread for each request. Set before the event loop runs.
+    /// Called on the main thread for each request, after it was answered. Set before the event loop runs.
     std::function<void(const std::string&)> received;
+    /// What to answer a request that asks something; empty for one that does not. Must not take long.
+    std::function<std::string(const std::string&)> answer;
 };
 
 /// This session's only instance; null when another one runs. Needs the application object's event loop to receive.
 std::unique_ptr<InstanceChannel> claimInstance();
 
-/// Hands `request` (one line) to the running instance; false when none answers within two seconds.
-bool sendToRunningInstance(const std::string& request);
+/// What the running instance answers when asked that way: where its status item is shown, in a few words.
+inline constexpr const char* statusItemQuestion = "tell-status-item";
+
+/// Hands `request` (one line) to the running instance and returns its answer, at most 256 bytes; absent when none
+/// answers within two seconds. "ok" to a request that asks nothing, or nothing that it knows.
+std::optional<std::string> sendToRunningInstance(const std::string& request);
 
 /// The process ID of the session's running instance, found without asking it anything. Absent when none runs; 0 when it
 /// runs in another process namespace, where it has no number here.

@@ -63,6 +63,9 @@ class StatusItem {
     /// program has to draw its menus itself.
     virtual bool popUpMenu(const std::vector<StatusMenuEntry>& /*entries*/) { return false; }
 
+    /// Where it is shown, in a few English words for a report.
+    virtual std::string place() const { return "menu bar"; }
+
     /// The item's own view, for the system's popover to point at (an NSView on a Mac); 0 where there is none.
     virtual WId nativeView() const { return 0; }
 };

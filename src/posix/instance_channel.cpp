@@ -17,6 +17,7 @@ namespace {
 
 constexpr int answerTimeout = 2; // seconds
 constexpr int patience = 100;    // milliseconds
+constexpr std::size_t mostBytes = 256;
 
 std::string pathWith(const char* ending) {
     const std::string prefix = instancePrefix();
@@ -50,7 +51,7 @@ class SocketChannel final : public InstanceChannel {
         if (!listener_)
             return;
         notifier_ = std::make_unique<QSocketNotifier>(listener_.get(), QSocketNotifier::Read);
-        QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { answer(); });
+        QObject::connect(notifier_.get(), &QSocketNotifier::activated, [this] { serve(); });
     }
 
     ~SocketChannel() override {
@@ -60,20 +61,22 @@ class SocketChannel final : public InstanceChannel {
     }
 
   private:
-    void answer() {
+    void serve() {
         const FileDescriptor peer = acceptConnection(listener_.get());
         if (!peer)
             return;
         // A request follows its connection at once; the main thread cannot wait for a slow client.
         pollfd readable{peer.get(), POLLIN, 0};
         ::poll(&readable, 1, patience);
-        char request[256];
+        char request[mostBytes];
         const ssize_t length = ::recv(peer.get(), request, sizeof request, MSG_DONTWAIT);
         if (length <= 0)
             return;
-        sendQuietly(peer.get(), "ok", MSG_DONTWAIT);
+        const std::string text(request, static_cast<std::size_t>(length));
+        const std::string told = answer ? answer(text) : std::string();
+        sendQuietly(peer.get(), told.empty() ? "ok" : told, MSG_DONTWAIT);
         if (received)
-            received(std::string(request, static_cast<std::size_t>(length)));
+            received(text);
     }
 
     FileDescriptor lock_;
@@ -112,10 +115,13 @@ std::unique_ptr<InstanceChannel> claimInstance() {
     return std::make_unique<SocketChannel>(std::move(lock), std::move(listener));
 }
 
-bool sendToRunningInstance(const std::string& request) {
+std::optional<std::string> sendToRunningInstance(const std::string& request) {
     const FileDescriptor socket = connectToInstance();
-    char answer[8];
-    return socket && sendQuietly(socket.get(), request) && ::recv(socket.get(), answer, sizeof answer, 0) > 0;
+    char answer[mostBytes];
+    if (!socket || !sendQuietly(socket.get(), request))
+        return std::nullopt;
+    const ssize_t length = ::recv(socket.get(), answer, sizeof answer, 0);
+    return length > 0 ? std::optional(std::string(answer, static_cast<std::size_t>(length))) : std::nullopt;
 }
 
 std::optional<int> runningInstance() {

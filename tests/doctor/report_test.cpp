@@ -25,7 +25,8 @@ DoctorReport aReport() {
     };
     report.services = {
         {{"Notifications", "bus", SourceState::ok, "\x1b[31mquoted \" and \\ and \n and \xc2\xb5", ""}, {}}};
-    report.instance = DoctorInstance{77, ProcessStatistics{7200.0, 3.0, 1.0, 50'331'648, 10'485'760, 14400, 4}};
+    report.instance =
+        DoctorInstance{77, ProcessStatistics{7200.0, 3.0, 1.0, 50'331'648, 10'485'760, 14400, 4}, "X11 tray"};
     return report;
 }
 
@@ -35,8 +36,8 @@ TEST(DoctorText, FitsItsColumnsAndCannotCommandTheTerminal) {
     EXPECT_THAT(text, HasSubstr("[31mquoted"));
     for (const QString& line : QString::fromStdString(text).split(u'\n'))
         EXPECT_LE(line.size(), 80) << line.toStdString();
-    for (const char* words :
-         {"12%", "single line of eighty.", "77, for 2 h", "48 MB, of which 10 MB", "2.0 per second"})
+    for (const char* words : {"12%", "single line of eighty.", "77, for 2 h", "48 MB, of which 10 MB", "2.0 per second",
+                              "Status item  X11 tray"})
         EXPECT_THAT(text, HasSubstr(words));
     const auto justStarted = instanceFacts(DoctorInstance{5, ProcessStatistics()});
     EXPECT_THAT(justStarted[1].second, HasSubstr("– s per minute")); // no division by no time
@@ -53,6 +54,7 @@ TEST(DoctorJSON, HoldsWhatTheTextDoes) {
     EXPECT_FALSE(object[u"readings"][1].toObject().contains(u"value"_s));
     EXPECT_EQ(object[u"services"][0][u"value"], u"\x1b[31mquoted \" and \\ and \n and µ"_s);
     EXPECT_EQ(object[u"instance"][u"wakeUps"], 14400);
+    EXPECT_EQ(object[u"instance"][u"statusItem"], u"X11 tray"_s);
 }
 
 TEST(DoctorReport, FoldersAreRenamedWhole) {

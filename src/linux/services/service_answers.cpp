@@ -4,11 +4,11 @@
 #include <QDBusError>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
-#include <QFile>
 #include <QMap>
 
 #include "linux/bluetooth/bluez_objects.h"
 #include "linux/services/desktop_wishes.h"
+#include "linux/status_area/notifier_watch.h"
 
 namespace vantrix {
 namespace {
@@ -75,9 +75,7 @@ bool canBeStarted(const ServiceAnswers& answers, const QString& name) {
 std::string notifierProcess(const ServiceAnswers& answers) {
     if (stateOf(answers, Question::notifierProcess, u"u") != SourceState::ok)
         return {};
-    const uint pid = argumentsOf(answers, Question::notifierProcess).constFirst().toUInt();
-    QFile file(QStringLiteral("/proc/%1/comm").arg(pid));
-    return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed().toStdString() : std::string();
+    return processName(argumentsOf(answers, Question::notifierProcess).constFirst().toUInt());
 }
 
 /// The row of a status area that has a watcher, though perhaps no panel.

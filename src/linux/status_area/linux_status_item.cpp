@@ -1,6 +1,7 @@
 #include "linux/status_area/linux_status_item.h"
 
 #include <cstdio>
+#include <utility>
 
 #include "linux/status_area/click_anchor.h"
 #include "linux/status_area/floating_strip.h"
@@ -108,6 +109,29 @@ void LinuxStatusItem::use(Kind kind, std::unique_ptr<StatusBackend> backend) {
     backend_ = std::move(backend);
     kind_ = kind;
     backend_->show(*row_);
+    if (kind_ != Kind::strip)
+        tellWhere();
+}
+
+void LinuxStatusItem::tellWhere() {
+    if (surroundings_.isOnTerminal && !std::exchange(wasTold_, true))
+        std::fputs("vantrix: now in your panel; click it there\n", stderr);
+}
+
+std::string LinuxStatusItem::place() const {
+    switch (kind_) {
+    case Kind::tray:
+        return "X11 tray";
+    case Kind::notifier: {
+        const std::string owner = watch_.ownerName();
+        return "StatusNotifier items, host " + (owner.empty() ? "unknown" : owner);
+    }
+    case Kind::strip:
+        return "a strip of its own";
+    case Kind::none:
+        break;
+    }
+    return "nowhere yet";
 }
 
 void LinuxStatusItem::hide() {

@@ -6,6 +6,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <unistd.h>
 
 #include "linux/services/bus_link.h"
 #include "linux/status_area/notifier_watch.h"
@@ -25,6 +26,8 @@ struct StatusSurroundings {
     /// How long a desktop may take to bring up its status area before the strip is shown.
     std::chrono::milliseconds stripDelay{4000};
     NotifierWatch::HostOfProcess hostOfProcess = notifierHostOfProcess;
+    /// Somebody started the program by hand, and wonders where it is.
+    bool isOnTerminal = ::isatty(STDERR_FILENO) == 1;
 };
 
 /// Shows the row in the best place there is at any time: the X11 tray where it grants the row's width, else a
@@ -41,6 +44,8 @@ class LinuxStatusItem : public QObject, public StatusItem {
     void show(const StatusContent& content) override;
     QRect anchor() const override;
 
+    std::string place() const override;
+
     Kind kind() const { return kind_; }
 
   private:
@@ -48,6 +53,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
     void redraw();
     void tryTray();
     void traySettled(bool readable);
+    void tellWhere();
     void use(Kind kind, std::unique_ptr<StatusBackend> backend);
     void hide();
     void trayChanged();
@@ -62,6 +68,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
     std::unique_ptr<TrayWindow> candidate_; ///< in the tray; whether there is room for it is not known yet
     std::unique_ptr<StatusBackend> backend_;
     Kind kind_ = Kind::none;
+    bool wasTold_ = false;           ///< that the panel shows it
     std::uint32_t rejectedTray_ = 0; ///< owner of a tray that has no room for the row
     QTimer stripTimer_;
     std::optional<StatusRow> row_;

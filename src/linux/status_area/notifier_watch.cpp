@@ -21,10 +21,13 @@ QDBusPendingCall askBus(const QDBusConnection& bus, const QString& method, const
 
 } // namespace
 
-NotifierHost notifierHostOfProcess(uint pid) {
+std::string processName(uint pid) {
     QFile file(QStringLiteral("/proc/%1/comm").arg(pid));
-    const QByteArray name = file.open(QIODevice::ReadOnly) ? file.read(64).trimmed() : QByteArray();
-    return notifierHostNamed({name.constData(), static_cast<std::size_t>(name.size())});
+    return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed().toStdString() : std::string();
+}
+
+NotifierHost notifierHostOfProcess(uint pid) {
+    return notifierHostNamed(processName(pid));
 }
 
 NotifierWatch::NotifierWatch(std::shared_ptr<BusLink> link, HostOfProcess hostOfProcess)
@@ -68,6 +71,7 @@ void NotifierWatch::askProcess() {
         const QDBusPendingReply<uint> reply = *done;
         if (owner != owner_)
             return;
+        process_ = reply.isValid() ? reply.value() : 0;
         settle(reply.isValid() ? hostOfProcess_(reply.value()) : NotifierHost());
     });
 }

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include <QObject>
 
@@ -11,7 +12,10 @@
 
 namespace vantrix {
 
-/// What kind of host the process `pid` is, after `/proc/PID/comm`.
+/// What a process calls itself, "waybar", in `/proc/PID/comm`; empty when that cannot be read.
+std::string processName(uint pid);
+
+/// What kind of host the process `pid` is, after its name.
 NotifierHost notifierHostOfProcess(uint pid);
 
 /// Follows org.kde.StatusNotifierWatcher on a session bus: who owns the name, and what kind of host that is.
@@ -25,6 +29,9 @@ class NotifierWatch : public QObject {
 
     /// Absent while nobody owns the name, or its owner is not known yet.
     const std::optional<NotifierHost>& host() const { return host_; }
+
+    /// What the owner calls itself; empty when that is not known.
+    std::string ownerName() const { return processName(process_); }
 
   Q_SIGNALS:
     /// A watcher appeared or went away. When one replaces another, both are announced in turn.
@@ -42,6 +49,7 @@ class NotifierWatch : public QObject {
     std::shared_ptr<BusLink> link_;
     HostOfProcess hostOfProcess_;
     QString owner_;
+    uint process_ = 0; ///< the owner's, once it is known
     std::optional<NotifierHost> host_;
 };
 

@@ -193,6 +193,7 @@ TEST_F(ProgramTest, ARunningInstanceIsTalkedTo) {
         EXPECT_EQ(run({u"--doctor"_s, u"json"_s}), 0);
         told = QJsonDocument::fromJson(output.toUtf8())[u"instance"];
     } while (told[u"wakeUps"].toInteger() == 0 && !deadline.hasExpired());
+    EXPECT_NE(told[u"statusItem"].toString(), QString());
     EXPECT_EQ(told[u"pid"].toInteger(), instance.processId());
     EXPECT_GT(told[u"wakeUps"].toInteger(), 0);
     EXPECT_GT(told[u"residentBytes"].toInteger(), 1'000'000);

@@ -51,12 +51,16 @@ TEST_F(LinuxStatusItemTest, WaitsForTheRowAndForTheStatusArea) {
 }
 
 TEST_F(LinuxStatusItemTest, FollowsWhoeverTakesTheNameOver) {
+    surroundings.isOnTerminal = true;
+    testing::internal::CaptureStderr();
     startOn(NotifierHost(), 2);
+    EXPECT_EQ(item->place(), "StatusNotifier items, host app_tests");
     FakeStatusHost next(bus.address()); // waits for the name
     layout = notifierHostNamed("gnome-shell");
     host.release();
     ASSERT_TRUE(spinUntil([&] { return !next.items.empty(); }));
     EXPECT_TRUE(next.properties(next.items[0]).contains(u"XAyatanaLabel"_s));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "vantrix: now in your panel; click it there\n") << "told once";
 }
 
 TEST_F(LinuxStatusItemTest, StripStepsInWhileThereIsNoWatcher) {

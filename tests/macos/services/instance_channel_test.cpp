@@ -31,7 +31,7 @@ namespace {
 bool isAnswered(const std::string& request) {
     auto answer = std::async(std::launch::async, [request] { return sendToRunningInstance(request); });
     spinUntil([&answer] { return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
-    return answer.get();
+    return answer.get().has_value();
 }
 
 TEST(InstanceChannel, TakesTheRequestsOfOthersOneInstanceAtATime) {
