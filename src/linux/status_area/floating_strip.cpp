@@ -70,11 +70,8 @@ QRect stripPlace(QSize size, const QRect& area, std::optional<QPoint> kept) {
 
 FloatingStrip::FloatingStrip(std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
                              UserDefaults& defaults)
-    : QWidget(nullptr, stripFlags()), clicked_(std::move(clicked)), appearance_(appearance), defaults_(defaults) {
+    : RowWindow(stripFlags(), std::move(clicked)), appearance_(appearance), defaults_(defaults) {
     setAttribute(Qt::WA_TranslucentBackground);
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    setAttribute(Qt::WA_AlwaysShowToolTips);
-    setAttribute(Qt::WA_QuitOnClose, false);
     setWindowTitle(QStringLiteral("Vantrix"));
     watchScreens();
 }
@@ -95,10 +92,7 @@ void FloatingStrip::watchScreens() {
 void FloatingStrip::show(const StatusRow& row) {
     const QSize before = row_.size();
     row_ = row;
-    if (toolTip() != row_.text()) {
-        setToolTip(row_.text());
-        setAccessibleName(row_.text());
-    }
+    tell(row_.text());
     if (!isVisible() || before != row_.size())
         place();
     if (!isVisible()) {
@@ -182,7 +176,7 @@ void FloatingStrip::mouseReleaseEvent(QMouseEvent* event) {
     if (dropped)
         return remember();
     if (rect().contains(event->position().toPoint()))
-        clicked_(clickOf(*event));
+        click(clickOf(*event));
 }
 
 QRect FloatingStrip::anchor() const {

@@ -3,8 +3,7 @@
 #include <functional>
 #include <optional>
 
-#include <QWidget>
-
+#include "linux/status_area/row_window.h"
 #include "linux/status_area/status_backend.h"
 #include "linux/status_area/status_row.h"
 
@@ -15,7 +14,7 @@ class UserDefaults;
 
 /// The row in a small window of its own for desktops without a status area. Always on top, without an entry in the
 /// task bar, never focused; dragged with the left button to a place that it keeps.
-class FloatingStrip : public QWidget, public StatusBackend {
+class FloatingStrip : public RowWindow, public StatusBackend {
     Q_OBJECT
   public:
     FloatingStrip(std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
@@ -36,7 +35,6 @@ class FloatingStrip : public QWidget, public StatusBackend {
     void remember();
     void watchScreens();
 
-    std::function<void(const StatusClick&)> clicked_;
     const AppearanceSource& appearance_;
     UserDefaults& defaults_;
     StatusRow row_;

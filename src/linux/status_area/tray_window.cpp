@@ -36,13 +36,10 @@ double scaleFor(int height) {
 
 TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked,
                        const AppearanceSource& appearance)
-    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint), tray_(tray),
-      clicked_(std::move(clicked)), appearance_(appearance), alpha_(tray.wantsAlpha()) {
+    : RowWindow(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint, std::move(clicked)), tray_(tray),
+      appearance_(appearance), alpha_(tray.wantsAlpha()) {
     setAttribute(Qt::WA_TranslucentBackground, alpha_);
     setAttribute(Qt::WA_OpaquePaintEvent, !alpha_);
-    setAttribute(Qt::WA_ShowWithoutActivating);
-    setAttribute(Qt::WA_AlwaysShowToolTips);
-    setAttribute(Qt::WA_QuitOnClose, false);
     verdict_.setSingleShot(true);
     backgroundTimer_.setSingleShot(true);
     connect(&verdict_, &QTimer::timeout, this, &TrayWindow::judge);
@@ -56,10 +53,7 @@ TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> cl
 
 void TrayWindow::show(const StatusRow& row) {
     row_ = row;
-    if (toolTip() != row_.text()) {
-        setToolTip(row_.text());
-        setAccessibleName(row_.text());
-    }
+    tell(row_.text());
     if (!docked_)
         dock();
     else
@@ -160,7 +154,7 @@ void TrayWindow::mousePressEvent(QMouseEvent* event) {
 
 void TrayWindow::mouseReleaseEvent(QMouseEvent* event) {
     if (rect().contains(event->position().toPoint()))
-        clicked_(clickOf(*event));
+        click(clickOf(*event));
 }
 
 QRect TrayWindow::anchor() const {

@@ -2,8 +2,8 @@
 
 #include <QImage>
 #include <QTimer>
-#include <QWidget>
 
+#include "linux/status_area/row_window.h"
 #include "linux/status_area/status_backend.h"
 #include "linux/status_area/status_row.h"
 
@@ -14,7 +14,7 @@ class X11Tray;
 
 /// The row as a window embedded in the X11 system tray. Trays grant more or less room, by resizing the window;
 /// `settled` says whether it is enough to read the row.
-class TrayWindow : public QWidget, public StatusBackend {
+class TrayWindow : public RowWindow, public StatusBackend {
     Q_OBJECT
   public:
     TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance);
@@ -42,7 +42,6 @@ class TrayWindow : public QWidget, public StatusBackend {
     MenuBarPalette rowPalette() const;
 
     X11Tray& tray_;
-    std::function<void(const StatusClick&)> clicked_;
     const AppearanceSource& appearance_;
     StatusRow row_;
     QImage background_; ///< the panel's, where the tray has no alpha channel

@@ -1,5 +1,6 @@
 #include "linux/status_area/status_item_on_bus.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 
@@ -25,6 +26,17 @@ class LinuxStatusItemTest : public StatusItemOnBus {
         EXPECT_TRUE(awaitKind(Kind::strip));
         EXPECT_EQ(strips(), 1);
         EXPECT_TRUE(item->anchor().isValid());
+        for (QWidget* widget : QApplication::topLevelWidgets())
+            if (qobject_cast<RowWindow*>(widget))
+                expectButton(QAccessible::queryAccessibleInterface(widget));
+    }
+
+    void expectButton(QAccessibleInterface* strip) {
+        EXPECT_EQ(strip->role(), QAccessible::Button);
+        EXPECT_TRUE(strip->text(QAccessible::Name).startsWith(u"CPU "_s));
+        clicks.clear();
+        strip->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_EQ(clicks, std::vector{StatusClick::Button::left});
     }
 };
 
