@@ -16,15 +16,16 @@ constexpr double cornerRadius = 12.0;
 
 } // namespace
 
-PopoverFrame::PopoverFrame(const Theme& theme, std::unique_ptr<QWidget> view) : View(theme) {
+PopoverFrame::PopoverFrame(const Theme& theme, std::unique_ptr<QWidget> view) : View(theme), view_(view.release()) {
     setWindowFlags(Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
     setWindowTitle(localizedText("Vantrix"));
     setAccessibleName(windowTitle());
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSizeConstraint(QLayout::SetNoConstraint); // the screen decides how large the popover is
-    layout->addWidget(view.release());
+    layout->setSizeConstraint(QLayout::SetNoConstraint); // it is placed beside the status item
+    layout->addWidget(view_);
+    view_->installEventFilter(this);
     setPalette(theme.palette());
     connect(&theme, &Theme::changed, this, [this] { setPalette(this->theme().palette()); });
 }
@@ -43,6 +44,12 @@ bool PopoverFrame::event(QEvent* event) {
     return View::event(event);
 }
 
+bool PopoverFrame::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest)
+        Q_EMIT contentChanged();
+    return false;
+}
+
 void PopoverFrame::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel))
         return hide();
@@ -58,6 +65,7 @@ void PopoverFrame::mousePressEvent(QMouseEvent* event) {
 
 void PopoverFrame::showEvent(QShowEvent* event) {
     closingPress_.reset();
+    Q_EMIT opening();
     roundWindow(*this, cornerRadius); // a compositor may have come or gone meanwhile
     View::showEvent(event);
 }

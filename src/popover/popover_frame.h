@@ -23,7 +23,16 @@ class PopoverFrame : public View {
     /// `item`, however long ago, or, where presses are not reported, the popover closed within the last `milliseconds`.
     bool closedBySameClick(const QRect& item, qint64 milliseconds);
 
+    /// How tall its view would like to be.
+    int contentHeight() const { return view_->sizeHint().height(); }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
   Q_SIGNALS:
+    /// Its view is up to date, and the window not yet on the screen.
+    void opening();
+    /// The view may want another height.
+    void contentChanged();
     void closed();
 
   protected:
@@ -36,6 +45,7 @@ class PopoverFrame : public View {
     void paintEvent(QPaintEvent* event) override;
 
   private:
+    QWidget* view_;
     QElapsedTimer sinceHidden_;
     std::optional<QPoint> closingPress_; ///< on the screen
 };

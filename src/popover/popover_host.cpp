@@ -13,14 +13,6 @@ constexpr int popoverWidth = 340;
 constexpr int fadeDuration = 120; // milliseconds
 constexpr qint64 sameClick = 300; // milliseconds between a click's press and its release
 
-QScreen* screenAt(const QRect& anchor) {
-    const QList<QScreen*> screens = QGuiApplication::screens();
-    std::vector<QRect> places;
-    for (const QScreen* screen : screens)
-        places.push_back(screen->geometry());
-    return screens.isEmpty() ? nullptr : screens[static_cast<qsizetype>(screenOf(anchor, places))];
-}
-
 } // namespace
 
 PopoverHost::PopoverHost(const Theme& theme, MakeView makeView, std::function<bool()> canFade)
@@ -38,13 +30,19 @@ void PopoverHost::makeFrame() {
     QObject::connect(&fade_, &QVariantAnimation::valueChanged, frame_.get(),
                      [this](const QVariant& opacity) { frame_->setWindowOpacity(opacity.toDouble()); });
     QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, frame_.get(), &QWidget::hide);
+    QObject::connect(frame_.get(), &PopoverFrame::opening, frame_.get(), [this] { place(); });
+    QObject::connect(frame_.get(), &PopoverFrame::contentChanged, frame_.get(), [this] { follow(); });
     QObject::connect(frame_.get(), &PopoverFrame::closed, &fade_, &QVariantAnimation::stop);
 }
 
 void PopoverHost::show(const QRect& anchor) {
     if (!frame_)
         makeFrame();
-    place(anchor);
+    anchor_ = anchor;
+    if (QScreen* shownOn = screen())
+        watch(*shownOn);
+    if (isShown())
+        place();
     if (canFade_() && !theme_.reducesMotion())
         fadeIn();
     else
@@ -54,17 +52,35 @@ void PopoverHost::show(const QRect& anchor) {
     frame_->setFocus(Qt::PopupFocusReason);
 }
 
-void PopoverHost::place(const QRect& anchor) {
-    QScreen* screen = screenAt(anchor);
-    const QRect visible = screen ? screen->availableGeometry() : QRect();
-    const QSize size(popoverWidth, popoverHeight(visible.height()));
-    if (screen) {
-        frame_->setScreen(screen); // the place is meant in its scale factor
-        // It would stand in the wrong place; the next click opens it in the right one.
-        for (const auto moved : {&QScreen::availableGeometryChanged, &QScreen::geometryChanged})
-            QObject::connect(screen, moved, frame_.get(), &QWidget::hide, Qt::UniqueConnection);
-    }
-    frame_->setGeometry(screen ? popoverPlace(size, anchor, visible) : QRect(anchor.bottomLeft(), size));
+QScreen* PopoverHost::screen() const {
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    std::vector<QRect> places;
+    for (const QScreen* screen : screens)
+        places.push_back(screen->geometry());
+    return screens.isEmpty() ? nullptr : screens[static_cast<qsizetype>(screenOf(anchor_, places))];
+}
+
+void PopoverHost::watch(QScreen& screen) {
+    frame_->setScreen(&screen); // the place is meant in its scale factor
+    // It would stand in the wrong place; the next click opens it in the right one.
+    for (const auto moved : {&QScreen::availableGeometryChanged, &QScreen::geometryChanged})
+        QObject::connect(&screen, moved, frame_.get(), &QWidget::hide, Qt::UniqueConnection);
+}
+
+void PopoverHost::place() {
+    const QScreen* shownOn = screen();
+    const QRect visible = shownOn ? shownOn->availableGeometry() : QRect();
+    const QSize size(popoverWidth, popoverHeight(visible.height(), frame_->contentHeight()));
+    frame_->setGeometry(shownOn ? popoverPlace(size, anchor_, visible) : QRect(anchor_.bottomLeft(), size));
+}
+
+void PopoverHost::follow() {
+    const QScreen* shownOn = screen();
+    if (!isShown() || !shownOn)
+        return;
+    const QRect visible = shownOn->availableGeometry();
+    const int height = popoverHeight(visible.height(), frame_->contentHeight());
+    frame_->setGeometry(resizedPlace(frame_->geometry(), height, anchor_, visible));
 }
 
 void PopoverHost::fadeIn() {

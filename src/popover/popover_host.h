@@ -11,11 +11,14 @@
 #include "platform/status_item.h"
 #include "popover/popover_frame.h"
 
+class QScreen;
+
 namespace vantrix {
 
 class Theme;
 
-/// The popover in a window of the toolkit's, which is made when it is first shown, and kept.
+/// The popover in a window of the toolkit's, which is made when it is first shown, and kept. It is as tall as its view
+/// wants to be, as far as the screen allows, and follows it while it is open.
 class PopoverHost : public PopoverWindow {
   public:
     /// `theme` outlives the host. `canFade` says whether this display can fade windows in.
@@ -33,13 +36,17 @@ class PopoverHost : public PopoverWindow {
 
   private:
     void makeFrame();
-    void place(const QRect& anchor);
+    QScreen* screen() const;
+    void watch(QScreen& screen);
+    void place();
+    void follow();
     void fadeIn();
 
     const Theme& theme_;
     MakeView makeView_;
     std::function<bool()> canFade_;
     std::unique_ptr<PopoverFrame> frame_;
+    QRect anchor_;           ///< the status item's rectangle when it was last shown
     QVariantAnimation fade_; ///< of the frame's opacity
 };
 

@@ -43,6 +43,10 @@ int popoverHeight(double visibleHeight) {
     return std::max(static_cast<int>(std::lround(visibleHeight)) - screenMargin, leastHeight);
 }
 
+int popoverHeight(double visibleHeight, int contentHeight) {
+    return std::clamp(contentHeight, leastHeight, popoverHeight(visibleHeight));
+}
+
 std::size_t screenOf(const QRect& anchor, const std::vector<QRect>& screens) {
     const auto nearest = std::min_element(screens.begin(), screens.end(), [&](const QRect& a, const QRect& b) {
         return distance(anchor.center(), a) < distance(anchor.center(), b);
@@ -72,6 +76,21 @@ QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible)
     if (choose(place, right, left, visible))
         return place;
     return {QPoint(centredX, kept(below.y(), size.height(), visible.top(), visible.bottom())), size};
+}
+
+QRect resizedPlace(const QRect& place, int height, const QRect& anchor, const QRect& visible) {
+    const bool isBelow = place.top() > anchor.bottom();
+    const bool isAbove = place.bottom() < anchor.top();
+    const int room = isBelow   ? visible.bottom() + 1 - place.top()
+                     : isAbove ? place.bottom() + 1 - visible.top()
+                               : visible.height();
+    QRect resized = place;
+    resized.setHeight(std::min(height, std::max(room, place.height())));
+    if (isAbove)
+        resized.moveBottom(place.bottom());
+    else if (!isBelow)
+        resized.moveTop(kept(anchor.top(), resized.height(), visible.top(), visible.bottom()));
+    return resized;
 }
 
 } // namespace vantrix

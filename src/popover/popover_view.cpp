@@ -1,7 +1,9 @@
 #include "popover/popover_view.h"
 
+#include <algorithm>
 #include <array>
 
+#include <QCoreApplication>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -79,6 +81,7 @@ PopoverView::PopoverView(const SystemMonitor& monitor, const CardContext& contex
 
 QWidget* PopoverView::makeColumn() {
     auto* column = new QWidget;
+    column->installEventFilter(this);
     column_ = new QVBoxLayout(column);
     column_->setContentsMargins(columnPadding, columnPadding, columnPadding, columnPadding);
     column_->setSpacing(cardGap);
@@ -121,13 +124,25 @@ std::vector<PopoverCard> PopoverView::shownCards() const {
 }
 
 QSize PopoverView::sizeHint() const {
-    return {contentWidth, layout()->heightForWidth(contentWidth)};
+    int height = std::max(column_->heightForWidth(contentWidth), column_->minimumSize().height());
+    for (int i = 0; i + 1 < layout()->count(); ++i) // what stands above it
+        height += layout()->itemAt(i)->sizeHint().height();
+    return {contentWidth, height};
+}
+
+/// A column that scrolls tells nobody further up that its height has changed.
+bool PopoverView::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest)
+        QCoreApplication::postEvent(this, new QEvent(QEvent::LayoutRequest));
+    return false;
 }
 
 void PopoverView::showEvent(QShowEvent*) {
     connect(&monitor_, &SystemMonitor::changed, this, &PopoverView::scheduleRefresh);
     connect(&context_.defaults, &UserDefaults::changed, this, &PopoverView::scheduleRefresh);
     refresh();
+    // Cards post that their heights have changed; whoever shows the view wants to know its own before it appears.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
 }
 
 void PopoverView::hideEvent(QHideEvent*) {

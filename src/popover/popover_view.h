@@ -26,7 +26,10 @@ class PopoverView : public View {
     /// The cards in the column, from the top.
     std::vector<PopoverCard> shownCards() const;
 
+    /// As tall as all its cards.
     QSize sizeHint() const override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
   protected:
     void showEvent(QShowEvent* event) override;

@@ -3,10 +3,12 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QVBoxLayout>
 
 #include <gmock/gmock.h>
 
 #include "fakes/fake_appearance.h"
+#include "popover/popover_place.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -18,6 +20,9 @@ class PopoverHostTest : public ::testing::Test {
         ++viewsMade;
         auto made = std::make_unique<QWidget>();
         view = made.get();
+        auto* content = new QVBoxLayout(view);
+        content->setContentsMargins({});
+        content->addSpacerItem(height);
         return made;
     }
 
@@ -37,6 +42,7 @@ class PopoverHostTest : public ::testing::Test {
     const QRect anchor{100, 0, 50, 22};
     bool canFade = false;
     int viewsMade = 0;
+    QSpacerItem* height = new QSpacerItem(0, 500); // its view owns it
     QWidget* view = nullptr;
     fakes::FakeAppearance appearance;
     Theme theme{appearance};
@@ -53,6 +59,18 @@ TEST_F(PopoverHostTest, MakesItsViewWhenItIsFirstShownAndKeepsIt) {
         EXPECT_FALSE(host.isShown() || view->isVisible());
     }
     EXPECT_EQ(viewsMade, 1);
+}
+
+TEST_F(PopoverHostTest, IsAsTallAsItsContentAndFollowsIt) {
+    host.show(anchor);
+    const QPoint corner = window()->pos();
+    for (const int wanted : {500, 600, 300, 5000}) {
+        height->changeSize(0, wanted);
+        view->layout()->invalidate();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window()->height(), popoverHeight(window()->screen()->availableGeometry().height(), wanted));
+        EXPECT_EQ(window()->pos(), corner);
+    }
 }
 
 TEST_F(PopoverHostTest, AClickOutsideClosesItAndDoesNotReopenIt) {

@@ -9,6 +9,8 @@ TEST(PopoverHeight, LeavesAMarginButNeverBecomesUseless) {
     EXPECT_EQ(popoverHeight(1080.0), 1050);
     EXPECT_EQ(popoverHeight(400.0), 480);
     EXPECT_EQ(popoverHeight(0.0), 870); // no screen
+    for (const auto& [content, height] : {std::pair(300, 480), {700, 700}, {2000, 1050}})
+        EXPECT_EQ(popoverHeight(1080.0, content), height);
 }
 
 TEST(PopoverPlace, StaysInTheVisibleAreaBesideTheItem) {
@@ -46,6 +48,25 @@ TEST(PopoverPlace, GetsLowerWhereAPanelIsCountedToTheVisibleArea) {
     const QSize size(340, popoverHeight(1080.0));
     EXPECT_EQ(popoverPlace(size, {1700, 0, 100, 28}, screen), QRect(1579, 32, 340, 1048));
     EXPECT_EQ(popoverPlace(size, {1700, 1050, 100, 30}, screen), QRect(1579, 0, 340, 1046));
+}
+
+TEST(PopoverPlace, KeepsTheEdgeAtTheItemWhenItsHeightChanges) {
+    const struct {
+        const char* name;
+        QRect place;
+        int height;
+        QRect anchor;
+        QRect expected;
+    } cases[] = {
+        {"grows downwards", {379, 34, 340, 500}, 600, {500, 0, 100, 30}, {379, 34, 340, 600}},
+        {"as far as there is room", {379, 34, 340, 500}, 900, {500, 0, 100, 30}, {379, 34, 340, 696}},
+        {"grows upwards", {379, 226, 340, 500}, 600, {500, 730, 100, 30}, {379, 126, 340, 600}},
+        {"shrinks downwards", {379, 126, 340, 600}, 500, {500, 730, 100, 30}, {379, 226, 340, 500}},
+        {"beside", {446, 130, 340, 600}, 500, {790, 200, 200, 30}, {446, 200, 340, 500}},
+        {"beside, at the lower edge", {446, 200, 340, 500}, 600, {790, 200, 200, 30}, {446, 130, 340, 600}},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(resizedPlace(c.place, c.height, c.anchor, {0, 30, 1000, 700}), c.expected) << c.name;
 }
 
 TEST(ScreenOf, IsTheOneUnderTheItemOrTheNearest) {

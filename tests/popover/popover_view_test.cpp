@@ -138,6 +138,24 @@ TEST_F(PopoverViewTest, KeysScrollItWithoutAFocusOfItsOwn) {
     EXPECT_EQ(bar->value(), 0);
 }
 
+TEST_F(PopoverViewTest, AsksForTheHeightOfItsCards) {
+    monitor.loadDemo();
+    const auto view = makeView();
+    view->show();
+    const QSize all = view->sizeHint(); // known at once
+    view->resize(all);
+    settle();
+    EXPECT_EQ(view->sizeHint(), all);
+    const auto* bar = view->findChild<QScrollArea*>()->verticalScrollBar();
+    EXPECT_EQ(bar->maximum(), 0);
+    view->resize(all - QSize(0, 1));
+    settle();
+    EXPECT_EQ(bar->maximum(), 1);
+    defaults.set(preference_key::visibleCards, u"cpu"_s);
+    settle();
+    EXPECT_LT(view->sizeHint().height(), all.height() / 4);
+}
+
 TEST_F(PopoverViewTest, EverythingFitsInItsWidth) {
     monitor.loadDemo();
     for (const int pixels : {13, 27}) {
