@@ -221,7 +221,12 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Benachrichtigungen sind für Vantrix deaktiviert. Aktiviere sie unter „Systemeinstellungen → Mitteilungen“.</translation>
     </message>
+    <!-- A value in a graph: how long ago it was -->
+    <message><source>now</source><translation>jetzt</translation></message>
+    <message><source>%lld s ago</source><translation>vor %lld Sek.</translation></message>
+    <message><source>%lld min ago</source><translation>vor %lld Min.</translation></message>
     <!-- Read out by assistive programs -->
+    <message><source>now %@, lowest %@, highest %@</source><translation>jetzt %@, niedrigster Wert %@, höchster Wert %@</translation></message>
     <message><source>CPU load</source><translation>CPU-Auslastung</translation></message>
     <message><source>Load of each core</source><translation>Auslastung der einzelnen Kerne</translation></message>
     <message><source>Memory in use</source><translation>Belegter Speicher</translation></message>

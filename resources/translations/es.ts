@@ -230,7 +230,12 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Las notificaciones de Vantrix están desactivadas. Actívalas en Ajustes del Sistema → Notificaciones.</translation>
     </message>
+    <!-- A value in a graph: how long ago it was -->
+    <message><source>now</source><translation>ahora</translation></message>
+    <message><source>%lld s ago</source><translation>hace %lld s</translation></message>
+    <message><source>%lld min ago</source><translation>hace %lld min</translation></message>
     <!-- Read out by assistive programs -->
+    <message><source>now %@, lowest %@, highest %@</source><translation>ahora %@, mínimo %@, máximo %@</translation></message>
     <message><source>CPU load</source><translation>Carga de la CPU</translation></message>
     <message><source>Load of each core</source><translation>Carga de cada núcleo</translation></message>
     <message><source>Memory in use</source><translation>Memoria en uso</translation></message>

@@ -227,7 +227,12 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Les notifications de Vantrix sont désactivées. Activez-les dans Réglages Système → Notifications.</translation>
     </message>
+    <!-- A value in a graph: how long ago it was -->
+    <message><source>now</source><translation>maintenant</translation></message>
+    <message><source>%lld s ago</source><translation>il y a %lld s</translation></message>
+    <message><source>%lld min ago</source><translation>il y a %lld min</translation></message>
     <!-- Read out by assistive programs -->
+    <message><source>now %@, lowest %@, highest %@</source><translation>actuellement %@, minimum %@, maximum %@</translation></message>
     <message><source>CPU load</source><translation>Charge du CPU</translation></message>
     <message><source>Load of each core</source><translation>Charge de chaque cœur</translation></message>
     <message><source>Memory in use</source><translation>Mémoire utilisée</translation></message>

@@ -221,7 +221,12 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Le notifiche di Vantrix sono disattivate. Attivale in Impostazioni di Sistema → Notifiche.</translation>
     </message>
+    <!-- A value in a graph: how long ago it was -->
+    <message><source>now</source><translation>adesso</translation></message>
+    <message><source>%lld s ago</source><translation>%lld s fa</translation></message>
+    <message><source>%lld min ago</source><translation>%lld min fa</translation></message>
     <!-- Read out by assistive programs -->
+    <message><source>now %@, lowest %@, highest %@</source><translation>ora %@, minimo %@, massimo %@</translation></message>
     <message><source>CPU load</source><translation>Carico della CPU</translation></message>
     <message><source>Load of each core</source><translation>Carico di ogni core</translation></message>
     <message><source>Memory in use</source><translation>Memoria in uso</translation></message>

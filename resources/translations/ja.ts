@@ -203,7 +203,12 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Vantrixの通知はオフになっています。「システム設定」→「通知」でオンにしてください。</translation>
     </message>
+    <!-- A value in a graph: how long ago it was -->
+    <message><source>now</source><translation>現在</translation></message>
+    <message><source>%lld s ago</source><translation>%lld秒前</translation></message>
+    <message><source>%lld min ago</source><translation>%lld分前</translation></message>
     <!-- Read out by assistive programs -->
+    <message><source>now %@, lowest %@, highest %@</source><translation>現在%@、最低%@、最高%@</translation></message>
     <message><source>CPU load</source><translation>CPUの負荷</translation></message>
     <message><source>Load of each core</source><translation>各コアの負荷</translation></message>
     <message><source>Memory in use</source><translation>使用中のメモリ</translation></message>

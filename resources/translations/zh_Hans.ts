@@ -200,7 +200,12 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Vantrix 的通知已关闭。请在“系统设置”→“通知”中打开。</translation>
     </message>
+    <!-- A value in a graph: how long ago it was -->
+    <message><source>now</source><translation>现在</translation></message>
+    <message><source>%lld s ago</source><translation>%lld 秒前</translation></message>
+    <message><source>%lld min ago</source><translation>%lld 分钟前</translation></message>
     <!-- Read out by assistive programs -->
+    <message><source>now %@, lowest %@, highest %@</source><translation>现在 %@，最低 %@，最高 %@</translation></message>
     <message><source>CPU load</source><translation>CPU 负载</translation></message>
     <message><source>Load of each core</source><translation>各核心负载</translation></message>
     <message><source>Memory in use</source><translation>已用内存</translation></message>

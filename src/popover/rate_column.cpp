@@ -19,7 +19,8 @@ constexpr int columnGap = 16;
 
 RateColumn::RateColumn(const Theme& theme, const Style& style)
     : View(theme), rate_(new TextLabel(theme, {.points = rateSize, .weight = QFont::DemiBold, .monospaced = true})),
-      history_(new Sparkline(theme, style.historyName, style.color, {{}, style.minimumScale})), label_(style.label) {
+      history_(new Sparkline(theme, style.historyName, style.color, {{}, style.minimumScale}, rateText)),
+      label_(style.label) {
     auto* caption = new QHBoxLayout;
     caption->setSpacing(4);
     if (!style.symbol.empty())
@@ -38,9 +39,9 @@ RateColumn::RateColumn(const Theme& theme, const Style& style)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
-void RateColumn::setRate(double rate, std::span<const double> history) {
+void RateColumn::setRate(double rate, std::span<const double> history, double interval) {
     rate_->setText(rateText(rate));
-    history_->setValues(history);
+    history_->setValues(history, interval);
 }
 
 QString RateColumn::accessibleText() const {

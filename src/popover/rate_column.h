@@ -26,8 +26,8 @@ class RateColumn : public View {
 
     RateColumn(const Theme& theme, const Style& style);
 
-    /// Bytes per second.
-    void setRate(double rate, std::span<const double> history);
+    /// Bytes per second; the history's are `interval` seconds apart.
+    void setRate(double rate, std::span<const double> history, double interval);
 
     QString accessibleText() const override;
 

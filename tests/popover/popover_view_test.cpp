@@ -209,7 +209,9 @@ TEST_F(CardsTest, TheNetworkCardLeavesOutWhatIsNotKnown) {
     const auto details = [this](NetworkInfo info) {
         readings.networkInfo = std::move(info);
         std::vector<std::string> texts = textsOf(*shown<NetworkCard>());
-        texts.erase(texts.begin(), std::ranges::find(texts, "Upload history") + 1); // what stands above them
+        texts.erase(texts.begin(), std::ranges::find_if(texts, [](const std::string& text) {
+                                       return text.starts_with("Upload history");
+                                   }) + 1); // what stands above them
         return texts;
     };
     EXPECT_THAT(details(demoReadings().networkInfo),
@@ -240,6 +242,21 @@ TEST_F(CardsTest, TheDiskCardShowsAbsentRatesAsZeroAndSurvivesAnEmptyVolume) {
     const auto card = shown<DiskCard>();
     EXPECT_THAT(textsOf(*card), Contains("0 KB free"));
     EXPECT_EQ(std::ranges::count(textsOf(*card), "0 KB/s"), 2);
+}
+
+TEST_F(CardsTest, TheGraphSharesTheColourOfItsFigure) {
+    readings.gpu = 0.95;
+    readings.gpuHistory = History(historyLength, 0.95);
+    const auto card = shown<GPUCard>();
+    const QImage picture = drawn(*card, card->sizeHint(), Qt::black);
+    const QRect graph = viewOf(*card, "GPU history")->geometry();
+    const auto isDrawn = [&](const QColor& color) {
+        for (int y = graph.top(); y <= graph.bottom(); ++y)
+            if (picture.pixelColor(graph.center().x(), y) == color)
+                return true;
+        return false;
+    };
+    EXPECT_TRUE(isDrawn(theme.colors().red));
 }
 
 TEST_F(CardsTest, TheBatteryCardTellsTimesAndDetailsThatItKnows) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <QWidget>
@@ -16,6 +17,14 @@ inline std::vector<std::string> textsOf(const QWidget& root) {
         if (view->isVisibleTo(&root) && !view->accessibleText().isEmpty())
             texts.push_back(view->accessibleText().toStdString());
     return texts;
+}
+
+/// The first view in `root` whose text begins with `text`; null where there is none.
+inline View* viewOf(const QWidget& root, std::string_view text) {
+    for (View* view : root.findChildren<View*>())
+        if (view->accessibleText().toStdString().starts_with(text))
+            return view;
+    return nullptr;
 }
 
 } // namespace vantrix

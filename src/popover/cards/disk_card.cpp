@@ -32,8 +32,8 @@ void DiskCard::showReadings(const Readings& readings) {
     const DiskSample& disk = readings.disk;
     free_->setText(byteText(disk.available), localizedText("%@ free"));
     used_->setSegments({{0, usedFraction(disk), &ThemeColors::accent}});
-    read_->setRate(disk.readRate.value_or(0.0), readings.diskReadHistory);
-    write_->setRate(disk.writeRate.value_or(0.0), readings.diskWriteHistory);
+    read_->setRate(disk.readRate.value_or(0.0), readings.diskReadHistory, readings.interval);
+    write_->setRate(disk.writeRate.value_or(0.0), readings.diskWriteHistory, readings.interval);
 }
 
 } // namespace vantrix

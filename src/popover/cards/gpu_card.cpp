@@ -12,8 +12,8 @@ namespace vantrix {
 
 GPUCard::GPUCard(const CardContext& context)
     : Card(context.theme, localizedText("GPU"), "display"), defaults_(context.defaults),
-      load_(new Headline(context.theme)),
-      history_(new Sparkline(context.theme, localizedText("GPU history"), &ThemeColors::accent, {1.0, 0.0})) {
+      load_(new Headline(context.theme)), history_(new Sparkline(context.theme, localizedText("GPU history"),
+                                                                 &ThemeColors::accent, {1.0, 0.0}, percentText)) {
     content().addWidget(load_);
     content().addWidget(history_);
 }
@@ -21,8 +21,10 @@ GPUCard::GPUCard(const CardContext& context)
 void GPUCard::showReadings(const Readings& readings) {
     const double load = readings.gpu.value_or(0.0);
     load_->setText(percentText(load));
-    load_->setColor(thresholdColor(load, defaults_));
-    history_->setValues(readings.gpuHistory);
+    const ColorRole severity = thresholdColor(load, defaults_);
+    load_->setColor(severity);
+    history_->setColor(severity);
+    history_->setValues(readings.gpuHistory, readings.interval);
 }
 
 } // namespace vantrix

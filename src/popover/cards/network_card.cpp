@@ -94,8 +94,8 @@ NetworkCard::NetworkCard(const CardContext& context)
 
 void NetworkCard::showReadings(const Readings& readings) {
     setSymbol(symbolOf(readings.networkInfo.kind));
-    download_->setRate(readings.network.download, readings.downloadHistory);
-    upload_->setRate(readings.network.upload, readings.uploadHistory);
+    download_->setRate(readings.network.download, readings.downloadHistory, readings.interval);
+    upload_->setRate(readings.network.upload, readings.uploadHistory, readings.interval);
     showConnection(readings.networkInfo);
 }
 

@@ -4,10 +4,13 @@
 #include <cmath>
 
 #include <QLinearGradient>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QToolTip>
 
 #include "monitor/readings.h"
+#include "support/localization.h"
 #include "views/theme.h"
 
 namespace vantrix {
@@ -17,6 +20,16 @@ constexpr int chartHeight = 34;
 constexpr double lineWidth = 1.5;
 constexpr double opacityAtTop = 0.35;
 constexpr double opacityAtBottom = 0.02;
+constexpr double dotRadius = 2.5; // of the value that is pointed at
+constexpr double mostSeconds = 120.0;
+
+QString ageText(double seconds) {
+    if (seconds < 0.5)
+        return localizedText("now");
+    const bool inMinutes = seconds >= mostSeconds;
+    const auto age = std::llround(inMinutes ? seconds / 60.0 : seconds);
+    return QString::fromStdString(formatted(localized(inMinutes ? "%lld min ago" : "%lld s ago"), {age}));
+}
 
 /// The curve's slope at each point: flat enough that the curve rises only where the points do.
 std::vector<double> slopes(std::span<const QPointF> points) {
@@ -53,16 +66,27 @@ QPainterPath monotoneCurve(std::span<const QPointF> points) {
     return path;
 }
 
-Sparkline::Sparkline(const Theme& theme, const QString& name, ColorRole color, const Scale& scale)
-    : View(theme), color_(color), scale_(scale) {
+Sparkline::Sparkline(const Theme& theme, const QString& name, ColorRole color, const Scale& scale, Text text)
+    : View(theme), color_(color), scale_(scale), text_(text) {
     setAccessibleName(name);
+    setMouseTracking(true);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
-void Sparkline::setValues(std::span<const double> values) {
+void Sparkline::setValues(std::span<const double> values, double interval) {
+    interval_ = interval;
     if (std::ranges::equal(values, values_))
         return;
     values_.assign(values.begin(), values.end());
+    tell();
+    update();
+    announceChange();
+}
+
+void Sparkline::setColor(ColorRole color) {
+    if (color == color_)
+        return;
+    color_ = color;
     update();
 }
 
@@ -77,16 +101,60 @@ QSize Sparkline::sizeHint() const {
     return {40, chartHeight};
 }
 
+double Sparkline::step() const {
+    return static_cast<double>(width()) / (historyLength - 1);
+}
+
+std::optional<std::size_t> Sparkline::nearest(double x) const {
+    const auto age = static_cast<std::size_t>(std::lround(std::max(width() - x, 0.0) / std::max(step(), 1e-3)));
+    return age < values_.size() ? std::optional(values_.size() - 1 - age) : std::nullopt;
+}
+
+QString Sparkline::textAt(double x) const {
+    const auto index = nearest(x);
+    if (!index)
+        return {};
+    const auto age = static_cast<double>(values_.size() - 1 - *index) * interval_;
+    return text_(values_[*index]) + QStringLiteral(" · ") + ageText(age);
+}
+
+QString Sparkline::accessibleText() const {
+    if (values_.empty())
+        return accessibleName();
+    const auto [least, most] = std::ranges::minmax_element(values_);
+    const auto written = [this](double value) { return text_(value).toStdString(); };
+    const std::string summary = formatted(localized("now %@, lowest %@, highest %@"),
+                                          {written(values_.back()), written(*least), written(*most)});
+    return accessibleName() + QStringLiteral(": ") + QString::fromStdString(summary);
+}
+
+void Sparkline::mouseMoveEvent(QMouseEvent* event) {
+    pointer_ = event->position().toPoint();
+    tell();
+    update();
+}
+
+void Sparkline::leaveEvent(QEvent*) {
+    pointer_.reset();
+    update();
+}
+
+void Sparkline::tell() {
+    if (pointer_)
+        QToolTip::showText(mapToGlobal(*pointer_), textAt(pointer_->x()), this, rect());
+}
+
 std::vector<QPointF> Sparkline::points() const {
     // Half the line's width stays free above and below, or a value at an edge would lose half its line.
     const double bottom = height() - lineWidth / 2.0;
     const double span = bottom - lineWidth / 2.0;
-    const double step = static_cast<double>(width()) / (historyLength - 1);
+    const double oldest = width() - static_cast<double>(values_.size() - 1) * step();
     const double scale = top() > 0.0 ? span / top() : 0.0;
     std::vector<QPointF> points;
     points.reserve(values_.size());
     for (std::size_t i = 0; i < values_.size(); ++i)
-        points.emplace_back(static_cast<double>(i) * step, bottom - std::clamp(values_[i] * scale, 0.0, span));
+        points.emplace_back(oldest + static_cast<double>(i) * step(),
+                            bottom - std::clamp(values_[i] * scale, 0.0, span));
     return points;
 }
 
@@ -109,8 +177,21 @@ void Sparkline::paintEvent(QPaintEvent*) {
 
     painter.setPen(QPen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     if (marks.size() == 1)
-        return painter.drawPoint(marks.front());
-    painter.drawPath(line);
+        painter.drawPoint(marks.front());
+    else
+        painter.drawPath(line);
+    if (const auto index = pointer_ ? nearest(pointer_->x()) : std::nullopt)
+        paintPointed(painter, marks[*index]);
+}
+
+void Sparkline::paintPointed(QPainter& painter, const QPointF& mark) const {
+    const QPointF inside(std::clamp(mark.x(), dotRadius, width() - dotRadius),
+                         std::clamp(mark.y(), dotRadius, height() - dotRadius));
+    painter.setPen(QPen(theme().colors().tertiary, 1.0));
+    painter.drawLine(QPointF(inside.x(), 0.0), QPointF(inside.x(), height()));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(theme().colors().label);
+    painter.drawEllipse(inside, dotRadius, dotRadius);
 }
 
 } // namespace vantrix

@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QDeadlineTimer>
+#include <QMouseEvent>
 #include <QPainterPath>
+#include <QToolTip>
 
 #include <gmock/gmock.h>
 
@@ -13,6 +15,7 @@
 #include "popover/charts/segmented_bar.h"
 #include "popover/charts/sparkline.h"
 #include "popover/charts/stat_row.h"
+#include "popover/reading_text.h"
 #include "views/drawn.h"
 #include "views/theme.h"
 
@@ -41,11 +44,31 @@ TEST_F(ChartsTest, SparklineScale) {
         {"all below zero", {{}, -5.0}, {-3.0}, 0.0},
     };
     for (const auto& c : cases) {
-        Sparkline line(theme, {}, &ThemeColors::accent, c.scale);
-        line.setValues(c.values);
+        Sparkline line(theme, {}, &ThemeColors::accent, c.scale, percentText);
+        line.setValues(c.values, 2.0);
         EXPECT_EQ(line.top(), c.top) << c.name;
         drawn(line, {100, 34}, Qt::black); // and nothing divides by zero
     }
+}
+
+TEST_F(ChartsTest, SparklineEndsAtTheRightAndTellsItsValues) {
+    Sparkline line(theme, QStringLiteral("GPU history"), &ThemeColors::accent, {1.0, 0.0}, percentText);
+    EXPECT_EQ(line.accessibleText(), QStringLiteral("GPU history"));
+    line.setValues(std::vector{0.4}, 2.0);
+    EXPECT_GE(inkOf(drawn(line, {118, 34}, Qt::black), Qt::black).left(), 116);
+    line.setValues(std::vector{0.4, 0.9, 0.1, 0.3}, 2.0);
+    EXPECT_EQ(line.accessibleText(), QStringLiteral("GPU history: now 30%, lowest 10%, highest 90%"));
+    EXPECT_EQ(line.textAt(118.0), QStringLiteral("30% · now"));
+    EXPECT_EQ(line.textAt(114.3), QStringLiteral("90% · 4 s ago"));
+    EXPECT_EQ(line.textAt(100.0), QString());
+    line.setValues(std::vector(60, 0.5), 10.0);
+    EXPECT_EQ(line.textAt(0.0), QStringLiteral("50% · 10 min ago"));
+    QMouseEvent move(QEvent::MouseMove, QPointF(114.3, 5), QPointF(114.3, 5), Qt::NoButton, {}, {});
+    const QImage before = drawn(line, {118, 34}, Qt::black);
+    QApplication::sendEvent(&line, &move);
+    EXPECT_EQ(QToolTip::text(), QStringLiteral("50% · 20 s ago"));
+    EXPECT_NE(drawn(line, {118, 34}, Qt::black), before) << "the value is marked";
+    QToolTip::hideText();
 }
 
 TEST_F(ChartsTest, SparklineNeverSwingsBeyondItsValues) {
