@@ -297,6 +297,18 @@ TEST_F(CardsTest, ASensorThatIsGoneLeavesNoHoleAndNoWork) {
     EXPECT_GT(refresh(), 0) << "a change is painted";
 }
 
+TEST_F(CardsTest, ATemperatureIsMarkedByHowHotItIs) {
+    const std::pair<double, QColor> cases[] = {
+        {79.9, theme.colors().green}, {80.0, theme.colors().orange}, {90.0, theme.colors().red}};
+    for (const auto& [celsius, color] : cases) {
+        readings.sensors.ssd = celsius;
+        const auto card = shown<SensorsCard>();
+        const QImage picture = drawn(*card, card->sizeHint(), Qt::black);
+        const View* row = viewOf(*card, "SSD");
+        EXPECT_EQ(picture.pixelColor(row->mapTo(card.get(), QPoint(3, row->height() / 2))), color) << celsius;
+    }
+}
+
 TEST_F(CardsTest, EverySensorIsListedOnDemand) {
     const auto card = shown<SensorsCard>();
     auto* button = card->findChild<QAbstractButton*>();

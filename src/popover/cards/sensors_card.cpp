@@ -1,8 +1,5 @@
 #include "popover/cards/sensors_card.h"
 
-#include <array>
-
-#include <QGridLayout>
 #include <QVBoxLayout>
 
 #include "monitor/readings.h"
@@ -17,14 +14,13 @@
 namespace vantrix {
 namespace {
 
-constexpr int columnGap = 16;
 constexpr double hot = 90.0; // °C, as in the status item
 constexpr double warm = 80.0;
 
 ColorRole heatOf(double temperature) {
     if (temperature >= hot)
         return &ThemeColors::red;
-    return temperature >= warm ? &ThemeColors::orange : &ThemeColors::accent;
+    return temperature >= warm ? &ThemeColors::orange : &ThemeColors::green;
 }
 
 void showTemperature(StatRow* row, const std::optional<double>& temperature) {
@@ -89,24 +85,14 @@ SensorsCard::SensorsCard(const CardContext& context)
 
 QLayout* SensorsCard::makeTemperatures() {
     const auto row = [this](const QString& label) {
-        return new StatRow(theme(), label, StatRow::Lead::mark(&ThemeColors::accent));
+        return new StatRow(theme(), label, StatRow::Lead::mark(&ThemeColors::green));
     };
     cpu_ = row(localizedText("CPU"));
     gpu_ = row(localizedText("GPU"));
     soc_ = row(localizedText("SoC"));
     ssd_ = row(localizedText("SSD"));
     battery_ = row(localizedText("Battery"));
-    for (StatRow* placedLater : {gpu_, soc_, ssd_, battery_})
-        placedLater->setParent(details_); // or showing it would open a window
-    auto* column = columnOf({cpu_});
-    auto* grid = new QGridLayout;
-    grid->setHorizontalSpacing(columnGap);
-    grid->setVerticalSpacing(rowGap);
-    grid->setColumnStretch(0, 1);
-    grid->setColumnStretch(1, 1);
-    column->addLayout(grid);
-    grid_ = grid;
-    return column;
+    return columnOf({cpu_, gpu_, soc_, ssd_, battery_});
 }
 
 QLayout* SensorsCard::makePowers() {
@@ -142,21 +128,10 @@ void SensorsCard::showTemperatures(const SensorsSample& sensors) {
         cpu_->setValue(cpuText(sensors));
         cpu_->setMarker(heatOf(*sensors.cpu));
     }
-    const std::array named{std::pair(gpu_, sensors.gpu), std::pair(soc_, sensors.soc), std::pair(ssd_, sensors.ssd),
-                           std::pair(battery_, sensors.battery)};
-    // Two to a line, without holes where one is missing.
-    int place = 0;
-    for (const auto& [row, temperature] : named) {
-        showTemperature(row, temperature);
-        if (!temperature) {
-            grid_->removeWidget(row); // or it would keep its place
-            continue;
-        }
-        if (grid_->itemAtPosition(place / 2, place % 2) == nullptr ||
-            grid_->itemAtPosition(place / 2, place % 2)->widget() != row)
-            grid_->addWidget(row, place / 2, place % 2);
-        ++place;
-    }
+    showTemperature(gpu_, sensors.gpu);
+    showTemperature(soc_, sensors.soc);
+    showTemperature(ssd_, sensors.ssd);
+    showTemperature(battery_, sensors.battery);
 }
 
 void SensorsCard::showPowers(const SensorsSample& sensors) {

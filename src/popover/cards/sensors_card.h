@@ -5,8 +5,6 @@
 #include "popover/cards/card.h"
 #include "sensors/sensors_sample.h"
 
-class QGridLayout;
-
 namespace vantrix {
 
 class DisclosureButton;
@@ -29,7 +27,6 @@ class SensorsCard : public Card {
 
     TextLabel* unavailable_;
     QWidget* details_;
-    QGridLayout* grid_ = nullptr; // of all temperatures but the CPU's
     StatRow* cpu_;
     StatRow* gpu_;
     StatRow* soc_;
