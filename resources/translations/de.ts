@@ -54,6 +54,7 @@
     <message><source>Pressure: critical</source><translation>Auslastung: kritisch</translation></message>
     <message><source>of %@</source><translation>von %@</translation></message>
     <message><source>%@ free</source><translation>%@ frei</translation></message>
+    <message><source>%@ free of %@</source><translation>%@ von %@ frei</translation></message>
     <message><source>Download</source><translation>Download</translation></message>
     <message><source>Upload</source><translation>Upload</translation></message>
     <message><source>Network name unavailable</source><translation>Netzwerkname nicht verfügbar</translation></message>

@@ -57,6 +57,7 @@
     <message><source>Pressure: critical</source><translation>Presión: crítica</translation></message>
     <message><source>of %@</source><translation>de %@</translation></message>
     <message><source>%@ free</source><translation>%@ libres</translation></message>
+    <message><source>%@ free of %@</source><translation>%@ libres de %@</translation></message>
     <message><source>Download</source><translation>Bajada</translation></message>
     <message><source>Upload</source><translation>Subida</translation></message>
     <message><source>Network name unavailable</source><translation>Nombre de red no disponible</translation></message>

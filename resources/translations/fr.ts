@@ -54,6 +54,7 @@
     <message><source>Pressure: critical</source><translation>Pression : critique</translation></message>
     <message><source>of %@</source><translation>sur %@</translation></message>
     <message><source>%@ free</source><translation>%@ libres</translation></message>
+    <message><source>%@ free of %@</source><translation>%@ libres sur %@</translation></message>
     <message><source>Download</source><translation>Réception</translation></message>
     <message><source>Upload</source><translation>Envoi</translation></message>
     <message><source>Network name unavailable</source><translation>Nom du réseau indisponible</translation></message>

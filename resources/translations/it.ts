@@ -54,6 +54,7 @@
     <message><source>Pressure: critical</source><translation>Pressione: critica</translation></message>
     <message><source>of %@</source><translation>di %@</translation></message>
     <message><source>%@ free</source><translation>%@ liberi</translation></message>
+    <message><source>%@ free of %@</source><translation>%@ liberi su %@</translation></message>
     <message><source>Download</source><translation>Download</translation></message>
     <message><source>Upload</source><translation>Upload</translation></message>
     <message>

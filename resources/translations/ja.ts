@@ -54,6 +54,7 @@
     <message><source>Pressure: critical</source><translation>メモリプレッシャー: 深刻</translation></message>
     <message><source>of %@</source><translation>/ %@</translation></message>
     <message><source>%@ free</source><translation>空き%@</translation></message>
+    <message><source>%@ free of %@</source><translation>空き%@ / %@</translation></message>
     <message><source>Download</source><translation>ダウンロード</translation></message>
     <message><source>Upload</source><translation>アップロード</translation></message>
     <message><source>Network name unavailable</source><translation>ネットワーク名を取得できません</translation></message>

@@ -54,6 +54,7 @@
     <message><source>Pressure: critical</source><translation>压力：严重</translation></message>
     <message><source>of %@</source><translation>/ %@</translation></message>
     <message><source>%@ free</source><translation>%@ 可用</translation></message>
+    <message><source>%@ free of %@</source><translation>%@ 可用，共 %@</translation></message>
     <message><source>Download</source><translation>下载</translation></message>
     <message><source>Upload</source><translation>上传</translation></message>
     <message><source>Network name unavailable</source><translation>网络名称不可用</translation></message>

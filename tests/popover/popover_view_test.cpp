@@ -238,6 +238,7 @@ TEST_F(CardsTest, AWithheldNetworkNameIsAskedFor) {
 }
 
 TEST_F(CardsTest, TheDiskCardShowsAbsentRatesAsZeroAndSurvivesAnEmptyVolume) {
+    EXPECT_THAT(textsOf(*shown<DiskCard>()), Contains("186 GB free of 500 GB"));
     readings.disk = {0, 0, std::nullopt, std::nullopt};
     const auto card = shown<DiskCard>();
     EXPECT_THAT(textsOf(*card), Contains("0 KB free"));
@@ -333,6 +334,10 @@ TEST_F(CardsTest, TheAccessoriesCardFollowsItsList) {
     card->showReadings(readings);
     EXPECT_THAT(textsOf(*card), Contains("Mouse: 64%, Charging"));
     EXPECT_THAT(textsOf(*card), Not(Contains(StartsWith("Keyboard"))));
+    readings.accessories = {{"Mouse", 20, false, ""}, {"Pen", 21, false, ""}, {"Pad", 10, true, ""}};
+    card->showReadings(readings);
+    EXPECT_THAT(textsOf(*card),
+                AllOf(Contains("Mouse: 20%, Battery low"), Contains("Pen: 21%"), Contains("Pad: 10%, Charging")));
 }
 
 TEST_F(CardsTest, TheHeadlineNeedsNoMoreThanItsRoom) {

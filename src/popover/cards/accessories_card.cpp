@@ -12,9 +12,23 @@ namespace vantrix {
 namespace {
 
 constexpr int rowGap = 7;
+constexpr int low = 20; // percent, as in the status item
+constexpr int critical = 10;
 
 bool sameDevice(const AccessoryBattery& a, const AccessoryBattery& b) {
     return a.name == b.name && a.symbol == b.symbol;
+}
+
+void showCharge(StatRow& row, const AccessoryBattery& accessory) {
+    const bool isLow = !accessory.isCharging && accessory.percent <= low;
+    const bool isCritical = isLow && accessory.percent <= critical;
+    row.setValue(QString::number(accessory.percent) + u'%');
+    row.setSymbol(accessory.isCharging ? "bolt.fill"
+                  : isCritical         ? "battery.0percent"
+                  : isLow              ? "battery.25percent"
+                                       : "");
+    row.setValueColor(isCritical ? &ThemeColors::red : isLow ? &ThemeColors::orange : nullptr);
+    row.setNote(accessory.isCharging ? localizedText("Charging") : isLow ? localizedText("Battery low") : QString());
 }
 
 } // namespace
@@ -44,11 +58,8 @@ void AccessoriesCard::showReadings(const Readings& readings) {
         makeRows(accessories);
     shown_ = accessories;
     setSubtitle(QString::fromStdString(localizedCount("%lld connected", static_cast<long long>(accessories.size()))));
-    for (std::size_t i = 0; i < rows_.size(); ++i) {
-        rows_[i]->setSymbol(accessories[i].isCharging ? "bolt.fill" : "");
-        rows_[i]->setValue(QString::number(accessories[i].percent) + u'%');
-        rows_[i]->setNote(accessories[i].isCharging ? localizedText("Charging") : QString());
-    }
+    for (std::size_t i = 0; i < rows_.size(); ++i)
+        showCharge(*rows_[i], accessories[i]);
 }
 
 } // namespace vantrix

@@ -7,11 +7,20 @@
 #include "popover/headline.h"
 #include "popover/rate_column.h"
 #include "popover/reading_text.h"
+#include "support/localization.h"
 
 namespace vantrix {
 namespace {
 
 constexpr double leastScale = 1'000'000.0; // bytes per second: less than this is an idle disk
+
+/// With a mark in the place of the free space.
+QString freeSpacePattern(const DiskSample& disk) {
+    if (disk.total == 0)
+        return localizedText("%@ free");
+    return QString::fromStdString(
+        formatted(localized("%@ free of %@"), {std::string_view("%@"), byteText(disk.total).toStdString()}));
+}
 
 } // namespace
 
@@ -30,7 +39,7 @@ DiskCard::DiskCard(const CardContext& context)
 
 void DiskCard::showReadings(const Readings& readings) {
     const DiskSample& disk = readings.disk;
-    free_->setText(byteText(disk.available), localizedText("%@ free"));
+    free_->setText(byteText(disk.available), freeSpacePattern(disk));
     used_->setSegments({{0, usedFraction(disk), &ThemeColors::accent}});
     read_->setRate(disk.readRate.value_or(0.0), readings.diskReadHistory, readings.interval);
     write_->setRate(disk.writeRate.value_or(0.0), readings.diskWriteHistory, readings.interval);

@@ -62,6 +62,13 @@ void StatRow::setMarker(ColorRole color) {
     update();
 }
 
+void StatRow::setValueColor(ColorRole color) {
+    if (color == valueColor_)
+        return;
+    valueColor_ = color;
+    update();
+}
+
 void StatRow::setSymbol(std::string_view symbol) {
     if (symbol == symbol_)
         return;
@@ -178,16 +185,21 @@ void StatRow::paintValue(QPainter& painter, const QRectF& place) const {
         const double side = symbolWidth() - symbolGap;
         const double middle = baseline(place) - theme().digits(textSize).capHeight() / 2.0;
         const double symbolX = mirrored ? x + shownWidth - side : x;
-        paintSymbol(painter, symbol_, QRectF(symbolX, middle - side / 2.0, side, side), theme().colors().secondary);
+        paintSymbol(painter, symbol_, QRectF(symbolX, middle - side / 2.0, side, side),
+                    valueColor(theme().colors().secondary));
         x += mirrored ? 0.0 : symbolWidth();
     }
     if (valueWidth() <= place.width())
         return theme().digits(textSize).draw(painter, {x, baseline(place)}, value_.toStdString(),
-                                             theme().colors().label);
+                                             valueColor(theme().colors().label));
     painter.setFont(theme().font(textSize));
-    painter.setPen(theme().colors().label);
+    painter.setPen(valueColor(theme().colors().label));
     const double room = place.width() - symbolWidth();
     painter.drawText(QPointF(x, baseline(place)), metricsOf(theme()).elidedText(value_, Qt::ElideMiddle, room));
+}
+
+QColor StatRow::valueColor(const QColor& usual) const {
+    return valueColor_ != nullptr ? theme().colors().readable(theme().colors().*valueColor_) : usual;
 }
 
 void StatRow::paintEvent(QPaintEvent*) {

@@ -33,6 +33,8 @@ class StatRow : public View {
     /// The symbol's meaning, for assistive programs; empty: none.
     void setNote(const QString& note) { note_ = note; }
     void setMarker(ColorRole color);
+    /// The colour of the value and its symbol, made readable; null: the usual ones.
+    void setValueColor(ColorRole color);
 
     /// Shows `value` as `text` says, or hides the row where there is no value.
     template<typename Value, typename Text>
@@ -66,12 +68,14 @@ class StatRow : public View {
     void paintLead(QPainter& painter) const;
     void paintLabel(QPainter& painter, const QRectF& place) const;
     void paintValue(QPainter& painter, const QRectF& place) const;
+    QColor valueColor(const QColor& usual) const;
     double baseline(const QRectF& line) const;
 
     QString label_;
     QString value_;
     Lead lead_;
     std::string symbol_;
+    ColorRole valueColor_ = nullptr;
     QString note_;
 };
 
