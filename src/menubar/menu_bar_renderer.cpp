@@ -39,10 +39,11 @@ const std::string& lineOf(const MenuBarItem& item, std::size_t index) {
     return index < item.lines.size() ? item.lines[index] : nothing;
 }
 
-double inlineValueWidth(const MenuBarItem& item, const MonospacedFont& font) {
+/// What the value takes up or is reserved for it.
+double inlineSlot(const MenuBarItem& item, const MonospacedFont& font) {
     const auto count = static_cast<double>(item.lines.size());
     const double reserved = count * font.width(item.reference) + (count - 1.0) * font.width(" ");
-    return std::ceil(std::max(font.width(valueText(item)), reserved));
+    return std::max(font.width(valueText(item)), reserved);
 }
 
 double stackedValueWidth(const MenuBarItem& item, const MonospacedFont& font) {
@@ -85,7 +86,14 @@ class RowPainter {
     void drawInline(const MenuBarItem& item, const MenuBarRenderer::Layout& layout, double x) {
         const double base = (MenuBarRenderer::height - fonts().value.capHeight()) / 2.0;
         text(fonts().label, x, base, item.label, captionColor());
-        text(fonts().value, x + layout.labelWidth + labelGap, base, valueText(item), valueColor(item));
+        // From the right, each line at the right end of its own slot: what changes its width moves nothing else.
+        const MonospacedFont& font = fonts().value;
+        double right = x + layout.labelWidth + labelGap + inlineSlot(item, font);
+        for (auto line = item.lines.rbegin(); line != item.lines.rend(); ++line) {
+            const double width = font.width(*line);
+            text(font, right - width, base, *line, valueColor(item));
+            right -= std::max(width, font.width(item.reference)) + font.width(" ");
+        }
     }
 
     void drawStacked(const MenuBarItem& item, double columnWidth, double x) {
@@ -205,7 +213,7 @@ MenuBarRenderer::Layout MenuBarRenderer::layout(const MenuBarItem& item, MenuBar
     Layout layout;
     if (style == MenuBarStyle::inlined) {
         layout.labelWidth = std::ceil(fonts().label.width(item.label));
-        layout.columnWidth = inlineValueWidth(item, fonts().value);
+        layout.columnWidth = std::ceil(inlineSlot(item, fonts().value));
         layout.total = layout.labelWidth + labelGap + layout.columnWidth;
         return layout;
     }

@@ -83,6 +83,20 @@ TEST(MenuBarRenderer, NothingIsDrawnBeyondTheRowsSize) {
             }
 }
 
+TEST(MenuBarRenderer, InlineValuesStandAtTheRightOfTheirSlots) {
+    const auto left = [](const char* lines) {
+        return inkOf(rendered({percentItem("", lines)}, MenuBarStyle::inlined), Qt::transparent).left();
+    };
+    const auto right = [](const std::vector<std::string>& lines) {
+        MenuBarItem item{"", lines, MenuBarSeverity::normal, {}, 0.0, "↓99M"};
+        return inkOf(rendered({item}, MenuBarStyle::inlined), Qt::transparent).right();
+    };
+    EXPECT_GT(left("5%"), left("55%") + 3);
+    EXPECT_EQ(right({"0K"}), right({"888K"}));
+    EXPECT_EQ(right({"↓0K", ""}), right({"↓888K", ""})) << "each in a slot of its own";
+    EXPECT_GT(right({"↓0K", "8K"}), right({"↓0K", ""}) + 10);
+}
+
 TEST(MenuBarRenderer, TellsSeveritiesApartOnlyWhenAsked) {
     for (const MenuBarStyle style : styles) {
         MenuBarItem item = percentItem("CPU", "88%");
