@@ -23,6 +23,7 @@ namespace {
 
 constexpr int sidePadding = 10;
 constexpr int topPadding = 4;
+constexpr int air = 4;    // to panels and the screen's edges at least
 constexpr int margin = 8; // to the screen's edges, where nobody has moved the strip
 constexpr double cornerRadius = 9.0;
 
@@ -62,9 +63,12 @@ QScreen* keptScreen(const UserDefaults& defaults) {
 QRect stripPlace(QSize size, const QRect& area, std::optional<QPoint> kept) {
     const QPoint offset = kept.value_or(QPoint(-margin, margin));
     const int right = area.right() + 1 + offset.x();
-    const int x = std::clamp(right - size.width(), area.left(), std::max(area.left(), area.right() + 1 - size.width()));
-    const int y =
-        std::clamp(area.top() + offset.y(), area.top(), std::max(area.top(), area.bottom() + 1 - size.height()));
+    const QRect inner = area.adjusted(air, air, -air, -air);
+    const auto inside = [](int start, int length, int low, int high) {
+        return std::clamp(start, low, std::max(low, high + 1 - length));
+    };
+    const int x = inside(right - size.width(), size.width(), inner.left(), inner.right());
+    const int y = inside(area.top() + offset.y(), size.height(), inner.top(), inner.bottom());
     return {QPoint(x, y), size};
 }
 

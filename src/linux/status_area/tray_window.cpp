@@ -26,10 +26,15 @@ constexpr auto layoutPatience = 500ms;
 constexpr auto backgroundDelay = 60ms;
 constexpr double leastShare = 0.9; // of the row's width
 constexpr double leastContrast = 0.35;
+constexpr int air = 4; // points to the neighbours on both sides
 
 /// The factor by which the row is scaled down to fit a tray that is not as high.
 double scaleFor(int height) {
     return std::min(1.0, height / MenuBarRenderer::height);
+}
+
+QSize withAir(const StatusRow& row) {
+    return row.size() + QSize(2 * air, 0);
 }
 
 } // namespace
@@ -63,9 +68,9 @@ void TrayWindow::show(const StatusRow& row) {
 
 void TrayWindow::dock() {
     docked_ = true;
-    resize(row_.size());
+    resize(withAir(row_));
     const auto window = static_cast<xcb_window_t>(winId());
-    setMinimumSize(row_.size()); // after winId(): trays read this hint from the window when they embed it
+    setMinimumSize(withAir(row_)); // after winId(): trays read this hint from the window when they embed it
     if (!alpha_) {
         const std::uint32_t parentRelative = XCB_BACK_PIXMAP_PARENT_RELATIVE;
         xcb_change_window_attributes(xcbConnection(), window, XCB_CW_BACK_PIXMAP, &parentRelative);
@@ -87,7 +92,7 @@ void TrayWindow::reparented(std::uint32_t window, std::uint32_t parent) {
 
 /// Some trays go by the window's size hints, others by its size, so both are set.
 void TrayWindow::askForRoom() {
-    const int width = static_cast<int>(std::ceil(row_.size().width() * scaleFor(height())));
+    const int width = static_cast<int>(std::ceil(withAir(row_).width() * scaleFor(height())));
     if (minimumWidth() == width)
         return;
     setMinimumWidth(width);

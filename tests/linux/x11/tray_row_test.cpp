@@ -52,7 +52,7 @@ TEST_F(TrayRow, DocksAndPaintsWithTheRoomItNeeds) {
         SCOPED_TRACE(testing::Message() << count << " modules");
         content = row(count);
         item.show(content);
-        const QRect place(QPoint(304, 4), StatusRow(content).size());
+        const QRect place(QPoint(304, 4), StatusRow(content).size() + QSize(8, 0));
         EXPECT_TRUE(becomes(tray, [&] { return tray.rootRect(tray.icon) == place; }));
         EXPECT_TRUE(becomes(tray, [&] { return item.anchor() == place; }));
         EXPECT_TRUE(becomes(tray, [&] { return shows(tray.picture(), Qt::white); }));
