@@ -3,14 +3,12 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMenu>
-#include <QPointer>
 #include <QScreen>
 #include <QToolTip>
 
 #include "menubar/preferences.h"
 #include "platform/desktop_services.h"
 #include "popover/popover_place.h"
-#include "popover/popover_view.h"
 #include "support/localization.h"
 #include "support/user_defaults.h"
 #include "views/shortcut_menu.h"
@@ -42,7 +40,9 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
           theme_,
           [this] {
               const CardContext context{theme_, defaults_, processor_, [this] { monitor_.requestLocationAccess(); }};
-              return std::make_unique<PopoverView>(monitor_, context, [this] { return menuEntries(); });
+              auto view = std::make_unique<PopoverView>(monitor_, context, [this] { return menuEntries(); });
+              popoverView_ = view.get();
+              return view;
           })),
       settings_({theme_, defaults_, monitor_, *loginItem_, [this](auto done) { alerts_.sendTest(std::move(done)); }}) {}
 
@@ -98,7 +98,7 @@ void AppDelegate::statusItemClicked(const StatusClick& click) {
     if (click.button == StatusClick::Button::right || click.control)
         showMenu();
     else
-        togglePopover();
+        togglePopover(click.module);
 }
 
 std::vector<StatusMenuEntry> AppDelegate::menuEntries() {
@@ -122,9 +122,13 @@ void AppDelegate::showMenu() {
     menu_->popup(menuPlace(menu_->sizeHint(), statusItem_->anchor()));
 }
 
-void AppDelegate::togglePopover() {
-    if (statusItem_)
-        popover_->toggle(*statusItem_);
+/// Where it opens, it shows the card of `module`.
+void AppDelegate::togglePopover(std::optional<MenuBarModule> module) {
+    if (!statusItem_)
+        return;
+    popover_->toggle(*statusItem_);
+    if (module && popoverView_ && popover_->isShown())
+        popoverView_->showCardOf(*module);
 }
 
 void AppDelegate::showPopover() {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include <QObject>
+#include <QPointer>
 
 #include "alerts/alert_manager.h"
 #include "monitor/system_monitor.h"
@@ -13,6 +14,7 @@
 #include "platform/popover_window.h"
 #include "platform/status_item.h"
 #include "platform/widget_center.h"
+#include "popover/popover_view.h"
 #include "samplers/processor_description.h"
 #include "settings/settings_window_controller.h"
 #include "views/theme.h"
@@ -66,7 +68,7 @@ class AppDelegate : public QObject {
     void monitorDidUpdate();
     void refreshStatusItem();
     void showMenu();
-    void togglePopover();
+    void togglePopover(std::optional<MenuBarModule> module);
     void showSettings(std::string_view tab);
     std::vector<StatusMenuEntry> menuEntries();
 
@@ -81,6 +83,7 @@ class AppDelegate : public QObject {
     ProcessorDescription processor_;
     SystemMonitor monitor_;
     Theme theme_;
+    QPointer<PopoverView> popoverView_; // the popover's; null until it is first shown
     std::unique_ptr<PopoverWindow> popover_;
     SettingsWindowController settings_;
     std::unique_ptr<StatusItem> statusItem_; // none until launch has finished

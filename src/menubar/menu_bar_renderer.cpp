@@ -229,6 +229,16 @@ QSizeF MenuBarRenderer::size(const std::vector<MenuBarItem>& items, MenuBarStyle
     return {rowWidth(layoutsOf(items, style), style), height};
 }
 
+std::size_t MenuBarRenderer::itemAt(const std::vector<MenuBarItem>& items, MenuBarStyle style, double x) {
+    double end = -spacing(style) / 2.0;
+    for (std::size_t i = 0; i + 1 < items.size(); ++i) {
+        end += layout(items[i], style).total + spacing(style);
+        if (x < end)
+            return i;
+    }
+    return items.size() - 1;
+}
+
 void MenuBarRenderer::paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
                             const MenuBarPalette& palette) {
     painter.save();

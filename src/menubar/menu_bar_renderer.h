@@ -42,6 +42,9 @@ class MenuBarRenderer {
     /// Size of the row; the width is a whole number, at least 1.
     static QSizeF size(const std::vector<MenuBarItem>& items, MenuBarStyle style);
 
+    /// Index of the item at `x` points from the row's left edge, or the nearest. `items` is not empty.
+    static std::size_t itemAt(const std::vector<MenuBarItem>& items, MenuBarStyle style, double x);
+
     /// Draws the row with its top left corner at the painter's origin, sharp at whatever scale the painter has.
     static void paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
                       const MenuBarPalette& palette);

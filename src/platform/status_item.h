@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,8 @@ struct StatusClick {
 
     Button button = Button::left;
     bool control = false; ///< the Control key was held
+    /// What was clicked; absent where the system does not tell, or nothing but the gauge is shown.
+    std::optional<MenuBarModule> module = {};
 };
 
 /// One entry of the status item's menu; an empty title is a separator.

@@ -33,6 +33,11 @@ constexpr int cardGap = 10;
 constexpr double emptyTextSize = 12.0;
 constexpr int emptyTextPadding = 24;
 
+/// In the order of the modules.
+constexpr std::array cardOfModule{PopoverCard::cpu, PopoverCard::memory,  PopoverCard::network, PopoverCard::disk,
+                                  PopoverCard::gpu, PopoverCard::sensors, PopoverCard::battery};
+static_assert(cardOfModule.size() == menuBarModules.size());
+
 struct CardKind {
     PopoverCard card;
     Card* (*make)(const CardContext&);
@@ -74,9 +79,9 @@ PopoverView::PopoverView(const SystemMonitor& monitor, const CardContext& contex
     layout->setSpacing(0);
     layout->addWidget(new HeaderView(context.theme, context.processor.brand(), std::move(menuEntries)));
     layout->addWidget(new Divider(context.theme));
-    auto* scrolling = new ScrollColumn(context.theme, makeColumn());
-    layout->addWidget(scrolling, 1);
-    addScrollKeys(*scrolling->verticalScrollBar());
+    scrolling_ = new ScrollColumn(context.theme, makeColumn());
+    layout->addWidget(scrolling_, 1);
+    addScrollKeys(*scrolling_->verticalScrollBar());
 }
 
 QWidget* PopoverView::makeColumn() {
@@ -121,6 +126,14 @@ std::vector<PopoverCard> PopoverView::shownCards() const {
     for (const auto& [card, view] : cards_)
         shown.push_back(card);
     return shown;
+}
+
+void PopoverView::showCardOf(MenuBarModule module) {
+    const auto found = cards_.find(cardOfModule[static_cast<std::size_t>(module)]);
+    if (found == cards_.end())
+        return;
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest); // it may have just been placed
+    scrolling_->verticalScrollBar()->setValue(found->second->y() - columnPadding);
 }
 
 QSize PopoverView::sizeHint() const {

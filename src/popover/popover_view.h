@@ -11,6 +11,7 @@ class QVBoxLayout;
 
 namespace vantrix {
 
+class ScrollColumn;
 class SystemMonitor;
 
 /// What the popover shows: a header, and the chosen cards in a column that scrolls. It follows the monitor and the
@@ -25,6 +26,9 @@ class PopoverView : public View {
 
     /// The cards in the column, from the top.
     std::vector<PopoverCard> shownCards() const;
+
+    /// Scrolls as far as it can to the card that tells more about `module`, if it is in the column.
+    void showCardOf(MenuBarModule module);
 
     /// As tall as all its cards.
     QSize sizeHint() const override;
@@ -45,6 +49,7 @@ class PopoverView : public View {
 
     const SystemMonitor& monitor_;
     CardContext context_;
+    ScrollColumn* scrolling_ = nullptr;
     QVBoxLayout* column_ = nullptr;
     QWidget* emptySelection_ = nullptr;  // says so
     std::map<PopoverCard, Card*> cards_; // those in the column; it owns them

@@ -138,6 +138,21 @@ TEST_F(PopoverViewTest, KeysScrollItWithoutAFocusOfItsOwn) {
     EXPECT_EQ(bar->value(), 0);
 }
 
+TEST_F(PopoverViewTest, OpensAtTheCardOfAModule) {
+    monitor.loadDemo();
+    const auto view = makeView();
+    view->resize(PopoverView::contentWidth, 480);
+    view->show();
+    view->showCardOf(MenuBarModule::temperature); // at once
+    settle();
+    const View* card = viewOf(*view, "Sensors");
+    const auto* area = view->findChild<QScrollArea*>();
+    EXPECT_EQ(card->mapTo(area->viewport(), QPoint()).y(), 12);
+    defaults.set(preference_key::visibleCards, u"cpu"_s);
+    settle();
+    view->showCardOf(MenuBarModule::temperature); // not there any more
+}
+
 TEST_F(PopoverViewTest, AsksForTheHeightOfItsCards) {
     monitor.loadDemo();
     const auto view = makeView();

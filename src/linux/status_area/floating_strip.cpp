@@ -135,6 +135,11 @@ void FloatingStrip::resizeEvent(QResizeEvent* event) {
     roundWindow(*this, cornerRadius);
 }
 
+QPoint FloatingStrip::rowCorner() const {
+    const QSize spare = (size() - row_.size()) / 2; // whole points keep the row sharp
+    return {spare.width(), spare.height()};
+}
+
 void FloatingStrip::paintEvent(QPaintEvent*) {
     const bool dark = appearance_.appearance().dark;
     QPainter painter(this);
@@ -145,8 +150,7 @@ void FloatingStrip::paintEvent(QPaintEvent*) {
     painter.setPen(dark ? QColor(255, 255, 255, 38) : QColor(0, 0, 0, 38));
     painter.setBrush(dark ? QColor(32, 33, 36, 235) : QColor(250, 250, 250, 240));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
-    const QSize spare = (size() - row_.size()) / 2; // whole points keep the row sharp
-    painter.translate(spare.width(), spare.height());
+    painter.translate(rowCorner());
     row_.paint(painter, paletteForPanel(dark));
 }
 
@@ -179,8 +183,11 @@ void FloatingStrip::mouseReleaseEvent(QMouseEvent* event) {
     }
     if (dropped)
         return remember();
-    if (rect().contains(event->position().toPoint()))
-        click(clickOf(*event));
+    if (!rect().contains(event->position().toPoint()))
+        return;
+    StatusClick told = clickOf(*event);
+    told.module = row_.moduleAt(event->position().x() - rowCorner().x());
+    click(told);
 }
 
 QRect FloatingStrip::anchor() const {

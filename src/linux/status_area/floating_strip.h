@@ -33,6 +33,7 @@ class FloatingStrip : public RowWindow, public StatusBackend {
   private:
     void place();
     void remember();
+    QPoint rowCorner() const;
     void watchScreens();
 
     const AppearanceSource& appearance_;

@@ -104,7 +104,7 @@ void StatusNotifier::makeItems(QDBusConnection& bus) {
             path += QLatin1Char('/') + QString::number(objects_.size() + 1);
         objects_.push_back(std::make_unique<NotifierObject>(
             bus, path, ids_[static_cast<qsizetype>(tileOf(i))], menuPath,
-            [this](const StatusClick& click, QPoint point) { clicked(click, point); }));
+            [this, i](const StatusClick& click, QPoint point) { clicked(i, click, point); }));
         connect(objects_.back().get(), &NotifierObject::asked, this, [this, number = objects_.size()] {
             if (number == registered_)
                 registerNext();
@@ -233,7 +233,7 @@ void StatusNotifier::announceToolTips() {
         object->announce(QStringLiteral("NewToolTip"));
 }
 
-void StatusNotifier::clicked(const StatusClick& click, QPoint point) {
+void StatusNotifier::clicked(std::size_t index, StatusClick click, QPoint point) {
     clickRect_.reset();
     if (onX11())
         point = fromNativePoint(point);
@@ -242,6 +242,8 @@ void StatusNotifier::clicked(const StatusClick& click, QPoint point) {
     // In a Wayland session the pointer is unknown while it is over a panel.
     else if (onX11() && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && isOnScreenEdge(QCursor::pos()))
         clickRect_ = panelRectAt(QCursor::pos());
+    if (!single())
+        click.module = row_.tileModule(tileOf(index));
     handlers_.clicked(click);
 }
 

@@ -50,7 +50,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     NotifierPixmaps pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const;
     bool samePixmaps(std::size_t tile, const MenuBarPalette& palette) const;
     void announceToolTips();
-    void clicked(const StatusClick& click, QPoint point);
+    void clicked(std::size_t index, StatusClick click, QPoint point);
     std::vector<StatusMenuEntry> menuEntries() const;
 
     std::optional<QString> busAddress_;

@@ -79,6 +79,16 @@ QString StatusRow::tileText(std::size_t index) const {
     return textOf(content_.items[index]);
 }
 
+std::optional<MenuBarModule> StatusRow::tileModule(std::size_t index) const {
+    return content_.items.empty() ? std::nullopt : std::optional(content_.items[index].module);
+}
+
+std::optional<MenuBarModule> StatusRow::moduleAt(double x) const {
+    if (content_.items.empty())
+        return std::nullopt;
+    return tileModule(MenuBarRenderer::itemAt(content_.items, content_.style, x));
+}
+
 bool StatusRow::sameTile(const StatusRow& other, std::size_t index) const {
     if (content_.items.empty() || other.content_.items.empty())
         return content_.items.empty() == other.content_.items.empty();

@@ -38,6 +38,10 @@ class StatusRow {
     /// What square `index` shows, as text: "CPU 12%".
     QString tileText(std::size_t index) const;
 
+    /// The module that square `index` shows, and the one `x` points from the row's left edge; absent without items.
+    std::optional<MenuBarModule> tileModule(std::size_t index) const;
+    std::optional<MenuBarModule> moduleAt(double x) const;
+
     /// True when square `index` of both rows looks the same.
     bool sameTile(const StatusRow& other, std::size_t index) const;
 

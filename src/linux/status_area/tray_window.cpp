@@ -138,18 +138,23 @@ MenuBarPalette TrayWindow::rowPalette() const {
     return paletteForPanel(ground ? *ground < 0.5 : appearance_.appearance().dark);
 }
 
+/// From the row's own points to the window's.
+QTransform TrayWindow::rowPlace() const {
+    const QSize row = row_.size();
+    const double scale = std::min(scaleFor(height()), width() / static_cast<double>(row.width()));
+    // Whole points keep the row sharp.
+    const double x = std::floor((width() - row.width() * scale) / 2.0);
+    const double y = std::floor((height() - row.height() * scale) / 2.0);
+    return QTransform::fromTranslate(x, y).scale(scale, scale);
+}
+
 void TrayWindow::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     if (!alpha_ && background_.isNull())
         painter.fillRect(rect(), palette().window());
     else if (!alpha_)
         painter.drawImage(QPoint(0, 0), background_);
-    const QSize row = row_.size();
-    const double scale = std::min(scaleFor(height()), width() / static_cast<double>(row.width()));
-    // Whole points keep the row sharp.
-    painter.translate(std::floor((width() - row.width() * scale) / 2.0),
-                      std::floor((height() - row.height() * scale) / 2.0));
-    painter.scale(scale, scale);
+    painter.setTransform(rowPlace(), true);
     row_.paint(painter, rowPalette());
 }
 
@@ -158,8 +163,11 @@ void TrayWindow::mousePressEvent(QMouseEvent* event) {
 }
 
 void TrayWindow::mouseReleaseEvent(QMouseEvent* event) {
-    if (rect().contains(event->position().toPoint()))
-        click(clickOf(*event));
+    if (!rect().contains(event->position().toPoint()))
+        return;
+    StatusClick told = clickOf(*event);
+    told.module = row_.moduleAt(rowPlace().inverted().map(event->position()).x());
+    click(told);
 }
 
 QRect TrayWindow::anchor() const {

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QTimer>
+#include <QTransform>
 
 #include "linux/status_area/row_window.h"
 #include "linux/status_area/status_backend.h"
@@ -40,6 +41,7 @@ class TrayWindow : public RowWindow, public StatusBackend {
     void judge();
     void takeBackground();
     MenuBarPalette rowPalette() const;
+    QTransform rowPlace() const;
 
     X11Tray& tray_;
     const AppearanceSource& appearance_;

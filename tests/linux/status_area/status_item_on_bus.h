@@ -34,7 +34,11 @@ class StatusItemOnBus : public ::testing::Test {
     using Item = FakeStatusHost::Item;
 
     void start() {
-        StatusItem::Handlers handlers{.clicked = [this](const StatusClick& click) { clicks.push_back(click.button); },
+        StatusItem::Handlers handlers{.clicked =
+                                          [this](const StatusClick& click) {
+                                              clicks.push_back(click.button);
+                                              modules.push_back(click.module);
+                                          },
                                       .menu = [this] { return entries; },
                                       .menuWillOpen = [this] { ++menusOpened; }};
         item = std::make_unique<LinuxStatusItem>(std::move(handlers), defaults, appearance, surroundings);
@@ -77,6 +81,7 @@ class StatusItemOnBus : public ::testing::Test {
                                     .hostOfProcess = [this](uint) { return layout; }};
     std::vector<StatusMenuEntry> entries;
     std::vector<StatusClick::Button> clicks;
+    std::vector<std::optional<MenuBarModule>> modules; ///< of the clicks
     int menusOpened = 0;
     std::unique_ptr<LinuxStatusItem> item;
 };

@@ -2,6 +2,8 @@
 
 #include <sys/prctl.h>
 
+#include <gmock/gmock.h>
+
 namespace vantrix {
 namespace {
 
@@ -107,12 +109,13 @@ TEST_F(StatusNotifierTest, WrongCallsGetErrors) {
 }
 
 TEST_F(StatusNotifierTest, ClicksArriveWithTheirButtonAndPlace) {
-    const Item at = startOn(quick("unheard-of"), 2).front();
+    const Item at = startOn(quick("unheard-of"), 2).back();
     for (const auto& member : {u"Activate"_s, u"SecondaryActivate"_s, u"ContextMenu"_s})
         EXPECT_EQ(ask(at, member, {300, 2}).type(), QDBusMessage::ReplyMessage);
     ASSERT_TRUE(spinUntil([&] { return clicks.size() == 3; }));
     using Button = StatusClick::Button;
     EXPECT_EQ(clicks, (std::vector{Button::left, Button::middle, Button::right}));
+    EXPECT_THAT(modules, testing::Each(MenuBarModule::memory));
     EXPECT_TRUE(item->anchor().contains(300, 2));
     // No panel is there: not a place to believe.
     ask(at, u"Activate"_s, {300, 300});

@@ -17,12 +17,14 @@ using fakes::FakeTray;
 using fakes::shows;
 using Kind = LinuxStatusItem::Kind;
 
-MenuBarItem item(const char* label, const char* value) {
-    return {.label = label, .lines = {value}, .fraction = 0.5, .reference = "100%"};
+MenuBarItem item(const char* label, const char* value, MenuBarModule module) {
+    return {.label = label, .lines = {value}, .fraction = 0.5, .reference = "100%", .module = module};
 }
 
 StatusContent row(int count) {
-    static const MenuBarItem items[] = {item("CPU", "12%"), item("RAM", "48%"), item("SSD", "83%")};
+    static const MenuBarItem items[] = {item("CPU", "12%", MenuBarModule::cpu),
+                                        item("RAM", "48%", MenuBarModule::memory),
+                                        item("SSD", "83%", MenuBarModule::disk)};
     return {.items = {items, items + count}, .accessibilityLabel = "row"};
 }
 
@@ -128,6 +130,7 @@ TEST_F(TrayRow, PassesClicksOnWhenTheButtonIsReleased) {
         ASSERT_TRUE(becomes(tray, [&] { return clicks.size() == 1; }));
         EXPECT_EQ(clicks[0].button, row.expected);
         EXPECT_EQ(clicks[0].control, row.modifiers != 0);
+        EXPECT_EQ(clicks[0].module, MenuBarModule::cpu);
     }
 }
 
