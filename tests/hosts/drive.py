@@ -1,0 +1,140 @@
+"""Drives one host and Vantrix in it, and prints what came of every check, a line of JSON each.
+
+To be started by run.py, in processes of its own that end with it. Usage: drive.py HOST BINARY FOLDER SHOTS"""
+
+import json
+import sys
+import time
+import traceback
+from pathlib import Path
+
+import appearance_checks
+from desktop import Desktop, soon
+from gesture_checks import Gestures
+from hosts import HOSTS
+from machine import Machine
+from place import find_place
+from program import Program
+from reference import reference_row
+
+SETTLED = 4  # seconds: two readings, and the host's own pace
+
+
+class Drive:
+    def __init__(self, host, binary, folder, shots):
+        self.host, self.shots = host, Path(shots)
+        machine = Machine(Path(folder) / "machine")
+        self.wanted = reference_row(Path(folder) / "reference", binary, machine)
+        self.desktop = Desktop(Path(folder) / "session", host.size)
+        self.empty = {}  # the screen without the program, dark and light
+        self.program = Program(self.desktop, binary, machine, **host.environment)
+
+    def tell(self, check, reason, ok="ok"):
+        print(json.dumps({"check": check, "verdict": "RED" if reason else ok, "reason": reason or ""}), flush=True)
+
+    def shot(self, name):
+        title = f"{self.host.name}-{name}".replace(" ", "_")
+        self.desktop.screen.picture().save(self.shots / f"{title}.png")
+        (self.shots / f"{title}.txt").write_text(self.desktop.inner.tree())
+
+    def run(self):
+        self.host.start(self.desktop)
+        self.desktop.screen.point(self.desktop.screen.rect.middle)
+        time.sleep(SETTLED)
+        self.dark = self.host.themes[-1] if self.host.themes else None
+        self.program.start()
+        time.sleep(SETTLED + 3)  # a tray without room for the row is given up by then
+        if not self.program.row_window():
+            self.picture_empty()
+        place = self.find()
+        if not place:
+            self.shot("nothing")
+            return self.tell("shown as", "nothing in the status area")
+        self.tell("shown as", None, ok=str(place))
+        for check, reason in self.look(place, "start"):
+            self.tell(check, reason)
+        self.gestures(self.best([place, *self.themes()]))
+        self.restart()
+
+    def picture_empty(self):
+        """Only what differs from the panel without the program can be known as an item of it."""
+        self.program.end()
+        for dark in self.host.themes or (None,):
+            self.turn(dark)
+            self.empty[dark] = self.desktop.screen.picture()
+        self.program.start()
+
+    def best(self, places):
+        """The last place, unless the row cannot be seen there any more."""
+        latest, widest = places[-1], max(places, key=lambda place: place.visible.width)
+        return widest if latest.visible.width < widest.visible.width // 2 else latest
+
+    def turn(self, dark):
+        if dark is not None:
+            self.host.go(self.desktop, dark)
+            self.dark = dark
+        time.sleep(SETTLED)
+
+    def find(self):
+        """Where the row is once it has settled; None where there is none."""
+        search = lambda: find_place(self.program, self.empty.get(self.dark), self.host)
+        if not soon(search, 12):
+            return None
+        time.sleep(SETTLED)
+        return search()
+
+    def look(self, place, moment):
+        """Pairs of check and fault."""
+        self.shot(moment)
+        if place.visible.empty:
+            yield "whole", "nothing is to be seen of it"
+            return
+        picture = self.desktop.screen.picture(place.visible)
+        yield "whole", appearance_checks.whole(place, picture, self.wanted)
+        yield "readable", appearance_checks.readable(picture)
+        yield "no box", appearance_checks.blends(self.desktop.screen, place, picture)
+
+    def look_again(self, moment):
+        """The place, after telling as one check how the row looks by now."""
+        place = self.find()
+        if not place:
+            self.shot(moment)
+            self.tell(moment, "the row is gone")
+            return None
+        self.tell(moment, "; ".join(reason for _, reason in self.look(place, moment) if reason))
+        return place
+
+    def themes(self):
+        places = []
+        for dark in self.host.themes:
+            self.turn(dark)
+            places.append(self.look_again("turned dark" if dark else "turned light"))
+        return list(filter(None, places))
+
+    def gestures(self, place):
+        gestures = Gestures(self.program, place, self.shot)
+        for check, act in (("5 clicks", gestures.five_clicks), ("right click", gestures.right_click),
+                           ("right click over popover", gestures.right_click_over_popover),
+                           ("Escape", gestures.escape), ("click outside", gestures.click_outside)):
+            self.tell(check, act())
+        gestures.reset()
+
+    def restart(self):
+        if self.host.restarts:
+            self.host.restart(self.desktop)
+            self.look_again("panel restarted")
+
+
+def main():
+    name, *rest = sys.argv[1:]
+    host = next(host for host in HOSTS if host.name == name)
+    drive = Drive(host, *rest)
+    try:
+        drive.run()
+    except Exception as failure:  # whatever goes wrong is a result
+        traceback.print_exc()
+        drive.shot("failed")
+        drive.tell("drive", f"{type(failure).__name__}: {failure}")
+
+
+main()

@@ -1,0 +1,67 @@
+"""sway, nested in the X screen, with one of two bars: its own, or waybar."""
+
+import os
+import time
+
+from desktop import displays
+from hosts.host import Host
+from rectangle import Rectangle
+from screen import Screen
+
+CONFIG = """xwayland force
+default_border none
+output * resolution 1280x800 background #3a6ea5 solid_color
+bar {{
+    position top
+    {bar}
+}}
+"""
+SWAYBAR = "colors {{ background #{ground}\n statusline #{text} }}\n tray_output *"
+WAYBAR = "swaybar_command waybar"
+STYLE = "window#waybar {{ background: #{ground}; color: #{text}; }}"
+COLOURS = {True: {"ground": "323232", "text": "ffffff"}, False: {"ground": "eeeeee", "text": "000000"}}
+
+
+class Sway(Host):
+    """With `bar`, which is "swaybar" or "waybar"."""
+
+    themes = (False, True)
+    panel = Rectangle(0, 0, 1280, 40)
+
+    def __init__(self, bar):
+        self.name = f"{bar} on sway"
+        self.bar = bar
+        self.programs = ("sway", "swaymsg", "swaybar", "Xwayland") + (("waybar",) if bar == "waybar" else ())
+
+    def configure(self, desktop, dark):
+        bar = WAYBAR if self.bar == "waybar" else SWAYBAR.format(**COLOURS[dark])
+        desktop.write(".config/sway/config", CONFIG.format(bar=bar))
+        if self.bar == "waybar":
+            desktop.write(".config/waybar/config", '{"position": "top", "height": 30, "modules-right": ["tray"]}')
+            desktop.write(".config/waybar/style.css", STYLE.format(**COLOURS[dark]))
+
+    def start(self, desktop):
+        self.configure(desktop, dark=True)
+        desktop.environment |= {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman", "XDG_CURRENT_DESKTOP": "sway",
+                                "WLR_LIBINPUT_NO_DEVICES": "1"}
+        runtime = desktop.environment["XDG_RUNTIME_DIR"]
+        outer = desktop.environment["DISPLAY"]
+        before = displays()
+        desktop.start("sway")
+        name = desktop.wait("sway", lambda: next((n for n in os.listdir(runtime) if n.startswith("sway-ipc")), None))
+        desktop.environment |= {"SWAYSOCK": f"{runtime}/{name}", "WAYLAND_DISPLAY": "wayland-1"}
+        number = desktop.wait("XWayland", lambda: min(displays() - before, default=None))
+        desktop.environment["DISPLAY"] = f":{number}"
+        desktop.inner = Screen(f":{number}")
+        time.sleep(3)
+
+    def restart(self, desktop):
+        self.reload(desktop)
+
+    def reload(self, desktop):
+        """Starts the bar anew, too."""
+        desktop.run("swaymsg", "reload")
+
+    def go(self, desktop, dark):
+        self.configure(desktop, dark)
+        self.reload(desktop)
