@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick check-darwin check-debian bench ground-truth format clean
+.PHONY: run build test test-asan check check-quick check-darwin check-debian hosts bench ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -42,6 +42,11 @@ check-darwin:
 check-debian:
 	scripts/setup.sh debian
 	scripts/check_debian.sh
+
+# Optional: brings many desktops. Tries the program in each, and leaves pictures in build/hosts.
+hosts: build
+	scripts/setup.sh hosts
+	tests/hosts/run.py build/release/vantrix build/hosts $(HOSTS)
 
 bench:
 	scripts/setup.sh build test bench

@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs the packages that the named groups of work need and this machine lacks. Groups: build test check bench truth debian.
+# Installs the packages that the named groups of work need and this machine lacks.
+# Groups: build test check bench truth debian hosts.
 set -euo pipefail
 
 declare -A packages=(
@@ -9,6 +10,10 @@ declare -A packages=(
   [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb xauth"
   [truth]="stress-ng iproute2 python3"
   [debian]="debootstrap git"
+  [hosts]="xvfb dbus python3-xlib python3-pil python3-dbus python3-dbusmock libglib2.0-bin fonts-dejavu-core openbox trayer
+    xfce4-panel xfce4-settings xfwm4 gnome-themes-extra mate-panel mate-settings-daemon mate-themes marco lxqt-panel
+    lxqt-branding-debian sway waybar xwayland plasma-desktop kwin-x11 xdg-desktop-portal-kde gnome-shell
+    gnome-shell-extension-appindicator xdg-desktop-portal-gnome"
 )
 
 if ! command -v apt-get >/dev/null; then
