@@ -1,6 +1,6 @@
 """Is the row there as a whole, and can it be read?"""
 
-from picture import contrast, ground, ink, ink_picture, least_contrast, likeness, luminance, median
+from picture import FAINT, contrast, ground, ink, ink_picture, least_contrast, likeness, luminance, median
 from tiles import tile_faults
 
 LEAST_CONTRAST = 3.0
@@ -10,14 +10,24 @@ SEAM = 1.25  # contrast from which on the row's ground stands out of the panel a
 
 def whole(place, picture, wanted):
     """Why the row, in `picture`, is not all there; None where it is. `wanted` is its ink where nothing cuts it."""
-    if place.visible != place.rect:
-        return f"of its window {place.rect} only {place.visible} is seen"
+    lines = ink(picture)
+    cut = f"of its window {place.rect} only {place.visible} is seen"
+    if runs_into_cut(place, lines):
+        return cut
     if len(place.items) > 1:
         return tile_faults(place, picture, LEAST_LIKENESS)
-    alike = likeness(ink_picture(ink(picture)), wanted)
+    alike = likeness(ink_picture(lines), wanted)
     if alike >= LEAST_LIKENESS:
         return None
-    return f"what is seen in {place.visible} is not the whole row ({alike:.2f} like it)"
+    return cut if place.visible != place.rect else f"what is seen in {place.rect} is unlike the row ({alike:.2f})"
+
+
+def runs_into_cut(place, lines):
+    """The window's parents may leave less of it than it draws into; empty margins are nobody's loss."""
+    edges = {"left": [line[0] for line in lines], "top": lines[0], "right": [line[-1] for line in lines],
+             "bottom": lines[-1]}
+    return any(getattr(place.visible, side) != getattr(place.rect, side) and max(edge) > FAINT
+               for side, edge in edges.items())
 
 
 def readable(picture):

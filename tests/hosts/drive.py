@@ -8,23 +8,26 @@ import time
 import traceback
 from pathlib import Path
 
+from PIL import Image
+
 import appearance_checks
 from desktop import Desktop, soon
 from gesture_checks import Gestures
 from hosts import HOSTS
 from machine import Machine
+from picture import ink, ink_picture
 from place import find_place
 from program import Program
-from reference import reference_row
 
+REFERENCE = "reference.png"
 SETTLED = 4  # seconds: two readings, and the host's own pace
 
 
 class Drive:
     def __init__(self, host, binary, folder, shots):
         self.host, self.shots = host, Path(shots)
+        self.wanted = ink_picture(ink(Image.open(self.shots / REFERENCE)))
         machine = Machine(Path(folder) / "machine")
-        self.wanted = reference_row(Path(folder) / "reference", binary, machine)
         self.desktop = Desktop(Path(folder) / "session", host.size)
         self.empty = {}  # the screen without the program, dark and light
         self.program = Program(self.desktop, binary, machine, **host.environment)

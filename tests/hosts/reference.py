@@ -1,20 +1,23 @@
-"""The row as the program draws it where nothing cuts it: in a tray that gives each window what it asks for."""
+"""The row as the program draws it where nothing cuts it: in a tray that gives each window what it asks for.
 
+To be started by run.py, in processes of its own that end with it. Usage: reference.py BINARY FOLDER PICTURE"""
+
+import sys
 import time
+from pathlib import Path
 
 from Xlib import X
 
 from desktop import Desktop, soon
-from picture import ink, ink_picture
+from machine import Machine
 from program import Program
 
 
 class Tray:
     def __init__(self, screen):
         self.screen, self.display = screen, screen.display
-        visual = X.CopyFromParent
-        self.window = screen.root.create_window(0, 0, 600, 60, 0, screen.display.screen().root_depth,
-                                                visual=visual, background_pixel=screen.display.screen().white_pixel)
+        root = screen.display.screen()
+        self.window = screen.root.create_window(0, 0, 600, 60, 0, root.root_depth, background_pixel=root.white_pixel)
         self.window.map()
         self.window.set_selection_owner(self.display.get_atom("_NET_SYSTEM_TRAY_S0"), X.CurrentTime)
         self.display.sync()
@@ -32,16 +35,16 @@ class Tray:
         return False
 
 
-def reference_row(folder, binary, machine):
-    """The ink of the whole row."""
-    desktop = Desktop(folder)
+def reference_row(folder, binary):
+    """The whole row's picture."""
+    desktop = Desktop(folder / "session")
     tray = Tray(desktop.screen)
-    program = Program(desktop, binary, machine)
+    program = Program(desktop, binary, Machine(folder / "machine"))
     program.start()
     desktop.wait("row to embed", tray.embed)
-    time.sleep(4)  # until every reading is there
-    row = soon(program.row_window, 5)
-    picture = desktop.screen.picture(row.rect)
-    for name in ("vantrix", "dbus-daemon", "Xvfb"):
-        desktop.end(name)
-    return ink_picture(ink(picture))
+    time.sleep(6)  # until every reading is there
+    return desktop.screen.picture(soon(program.row_window, 5).rect)
+
+
+if __name__ == "__main__":
+    reference_row(Path(sys.argv[2]), sys.argv[1]).save(sys.argv[3])

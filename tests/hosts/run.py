@@ -15,7 +15,8 @@ from table import Table
 
 HERE = Path(__file__).parent
 NOBODY = 65534
-LONGEST = 240  # seconds for one host
+LONGEST = 300  # seconds for one host
+FOLDER = object()  # stands for the folder in a script's arguments
 
 
 def contained():
@@ -26,27 +27,33 @@ def contained():
             f"--regid={NOBODY}", "--clear-groups"]
 
 
-def drive(host, binary, shots):
+def contained_run(script, *arguments):
+    """What the script says, and why it failed, if it did. It gets a folder that is gone afterwards."""
     with tempfile.TemporaryDirectory(prefix="vantrix-hosts-") as folder:
         os.chmod(folder, 0o777)
-        command = [*contained(), "nice", sys.executable, str(HERE / "drive.py"), host.name, binary, folder, shots]
+        command = [*contained(), "nice", sys.executable, str(HERE / script),
+                   *(folder if argument is FOLDER else argument for argument in arguments)]
         try:
             done = subprocess.run(command, stdout=subprocess.PIPE, text=True, timeout=LONGEST, check=False)
-            failure = f"ended with status {done.returncode}" if done.returncode else None
+            return done.stdout, f"ended with status {done.returncode}" if done.returncode else None
         except subprocess.TimeoutExpired as late:
-            done, failure = late, f"not done after {LONGEST} s"
-        return results(done.stdout or "", failure)
+            return (late.stdout or b"").decode(), f"not done after {LONGEST} s"
 
 
-def results(told, failure):
-    lines = (told.decode() if isinstance(told, bytes) else told).splitlines()
-    failed = [{"check": "drive", "verdict": "RED", "reason": failure}] if failure else []
-    return [json.loads(line) for line in lines] + failed
+def drive(host, binary, shots):
+    told, failure = contained_run("drive.py", host.name, binary, FOLDER, shots)
+    results = [json.loads(line) for line in told.splitlines()]
+    return results + ([{"check": "drive", "verdict": "RED", "reason": failure}] if failure else [])
 
 
 def main():
     binary, shots, *names = sys.argv[1:]
+    binary, shots = os.path.abspath(binary), os.path.abspath(shots)
     os.makedirs(shots, exist_ok=True)
+    if not os.getuid():
+        os.chmod(shots, 0o777)
+    if failure := contained_run("reference.py", binary, FOLDER, os.path.join(shots, "reference.png"))[1]:
+        sys.exit(f"hosts: the row's own picture: {failure}")
     table = Table()
     for host in HOSTS:
         if names and host.name not in names:
@@ -55,7 +62,7 @@ def main():
         if missing:
             table.skip(host.name, f"not installed: {', '.join(missing)}")
         else:
-            table.add(host.name, drive(host, os.path.abspath(binary), os.path.abspath(shots)))
+            table.add(host.name, drive(host, binary, shots))
         (Path(shots) / "table.md").write_text(table.markdown() + "\n")
     print(table.markdown())
     return 1 if table.red else 0
