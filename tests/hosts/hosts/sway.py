@@ -59,8 +59,8 @@ class Sway(Host):
         self.reload(desktop)
 
     def reload(self, desktop):
-        """Starts the bar anew, too."""
-        desktop.run("swaymsg", "reload")
+        """Starts the bar anew, too. Not waited for: the answer comes late, or never."""
+        desktop.start("swaymsg", "reload")
 
     def go(self, desktop, dark):
         self.configure(desktop, dark)
