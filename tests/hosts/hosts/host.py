@@ -2,6 +2,8 @@
 
 import shutil
 
+import dbus
+
 
 class Host:
     name = ""
@@ -31,3 +33,9 @@ class Host:
 
 def tray_owner(desktop):
     return desktop.inner.owner("_NET_SYSTEM_TRAY_S0")
+
+
+def watched(desktop):
+    """There is a status area on the bus."""
+    bus = dbus.bus.BusConnection(desktop.environment["DBUS_SESSION_BUS_ADDRESS"])
+    return bus.name_has_owner("org.kde.StatusNotifierWatcher")

@@ -1,10 +1,9 @@
 """sway, nested in the X screen, with one of two bars: its own, or waybar."""
 
 import os
-import time
 
 from desktop import displays
-from hosts.host import Host
+from hosts.host import Host, watched
 from rectangle import Rectangle
 from screen import Screen
 
@@ -53,7 +52,7 @@ class Sway(Host):
         number = desktop.wait("XWayland", lambda: min(displays() - before, default=None))
         desktop.environment["DISPLAY"] = f":{number}"
         desktop.inner = Screen(f":{number}")
-        time.sleep(3)
+        desktop.wait("bar", lambda: watched(desktop))
 
     def restart(self, desktop):
         self.reload(desktop)
