@@ -19,7 +19,7 @@ class Plasma(Host):
     name = "Plasma"
     programs = ("plasmashell", "kwin_x11", "plasma-apply-colorscheme", "gdbus")
     themes = (True, False)
-    panel = Rectangle(640, 740, 1280, 800)
+    panel = Rectangle(640, 740, 1224, 800)  # left of the symbols that the status area has of its own
 
     def start(self, desktop):
         version = "6" if shutil.which("kded6") else "5"
