@@ -7,7 +7,6 @@
 #include "settings/controls/switch.h"
 #include "settings/form_row.h"
 #include "support/localization.h"
-#include "views/focus_ring.h"
 
 namespace vantrix {
 namespace {
@@ -39,8 +38,6 @@ TEST_F(SettingsWindowTest, TheKeyboardStartsAtTheTabAskedForAndEntersTheChosenSe
     EXPECT_EQ(focused()->text(), u"With graph");
     press(*focused(), Qt::Key_Backtab);
     EXPECT_EQ(focused()->text(), u"Menu Bar");
-    show(SettingsTab::general);
-    EXPECT_EQ(focused()->text(), u"General");
 }
 
 TEST_F(SettingsWindowTest, SlidersStoreCleanNumbersAndPushTheOtherOne) {
@@ -62,7 +59,6 @@ TEST_F(SettingsWindowTest, ThresholdsStandOnOneScaleAndAreMarkedWhereTheyMeet) {
     show(SettingsTab::general);
     auto& warning = control<Slider>("Warning threshold");
     auto& critical = control<Slider>("Critical threshold");
-    EXPECT_FALSE(shows("Nothing turns orange: the warning threshold is not below the critical one."));
     store(preference_key::warningThreshold, 0.83);
     store(preference_key::criticalThreshold, 0.83);
     EXPECT_EQ(warning.grab().toImage(), critical.grab().toImage()) << "equal values stand at equal places";
@@ -73,7 +69,6 @@ TEST_F(SettingsWindowTest, ThresholdsStandOnOneScaleAndAreMarkedWhereTheyMeet) {
         mouse(*slider, QEvent::MouseButtonRelease, at);
         EXPECT_EQ(slider->fraction(), 0.75) << "the middle of the scale";
     }
-    EXPECT_EQ(defaults.number(preference_key::warningThreshold), 0.7) << "pushed along";
 }
 
 TEST_F(SettingsWindowTest, ANumberStoredByHandShowsAndStays) {
@@ -128,15 +123,11 @@ TEST_F(SettingsWindowTest, WhatASwitchedOffMasterLeavesWithoutEffectIsOffAndDisa
 TEST_F(SettingsWindowTest, EdgesStandOutOnlyWhereTheDesktopAsksForIt) {
     SettingsView& window = show(SettingsTab::alerts);
     const auto& send = control<Switch>("Send notifications");
-    const auto& test = control<PushButton>("Send test notification");
     for (const bool high : {false, true}) {
         appearance.set({.reducesMotion = true, .highContrast = high});
         const QImage image = window.grab().toImage();
         const int group = send.mapTo(&window, QPoint()).y() + send.height() / 2;
-        const int button = test.mapTo(&window, QPoint()).y() + test.height() / 2;
-        const int edge = test.mapTo(&window, QPoint(focusMargin, 0)).x();
         EXPECT_EQ(contrast(image.pixelColor(20, group), image.pixelColor(10, group)) >= 3.0, high);
-        EXPECT_EQ(contrast(image.pixelColor(edge, button), image.pixelColor(edge + 3, button)) >= 3.0, high);
     }
 }
 

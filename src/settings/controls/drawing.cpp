@@ -5,6 +5,7 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QTextBoundaryFinder>
 #include <QWidget>
 
 #include "views/shapes.h"
@@ -43,8 +44,9 @@ void paintKnob(QPainter& painter, const QRectF& rect, bool enabled) {
 double widestWord(const QFont& font, const QString& text) {
     const QFontMetricsF metrics(font);
     double widest = 0.0;
-    for (const QString& word : text.split(u' '))
-        widest = std::max(widest, metrics.horizontalAdvance(word));
+    QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text); // some languages have no blanks
+    for (qsizetype start = 0, end = breaks.toNextBoundary(); end > start; start = end, end = breaks.toNextBoundary())
+        widest = std::max(widest, metrics.horizontalAdvance(text.mid(start, end - start).trimmed()));
     return std::ceil(widest) + 1.0;
 }
 

@@ -24,7 +24,7 @@ void paintButtonGround(QPainter& painter, const QWidget& control, const Theme& t
 /// The round knob of a switch or a slider.
 void paintKnob(QPainter& painter, const QRectF& rect, bool enabled);
 
-/// The width of the widest word of `text`: no line can be narrower.
+/// The width of the widest part of `text` that cannot be broken: no line can be narrower.
 double widestWord(const QFont& font, const QString& text);
 
 /// The font of a control's text on one line; smaller where `room` is too narrow for the usual size.
