@@ -22,11 +22,14 @@ constexpr double cornerRadius = 3.0;
 constexpr std::size_t graphValues = 24;
 constexpr double tileTextWidth = 21.5; // of the 22 points of a tile
 
+constexpr double captionSize = 7.5;
+constexpr double labelSize = 9.0;
+
 struct Fonts {
     MonospacedFont value{11.5, QFont::Medium};
     MonospacedFont twoLines{9.5, QFont::Medium};
-    MonospacedFont caption{7.5, QFont::Bold};
-    MonospacedFont label{9.0, QFont::DemiBold};
+    MonospacedFont caption{captionSize, QFont::Bold};
+    MonospacedFont label{labelSize, QFont::DemiBold};
 };
 
 const Fonts& fonts() {
@@ -223,6 +226,18 @@ MenuBarRenderer::Layout MenuBarRenderer::layout(const MenuBarItem& item, MenuBar
         layout.columnWidth = std::max(layout.columnWidth, std::ceil(fonts().caption.width(item.label)));
     layout.total = layout.columnWidth + (style == MenuBarStyle::graph ? graphAdvance : 0.0);
     return layout;
+}
+
+double MenuBarRenderer::inkHeight(MenuBarStyle style) {
+    constexpr double rounding = 1.0; // on each side: round letters are higher, and lines are moved to whole pixels
+    const auto& [value, twoLines, caption, label] = fonts();
+    if (style == MenuBarStyle::inlined) // whose captions may have a tail, like that of "Q"
+        return value.capHeight() + 2.0 * (labelSize / 4.0 + rounding);
+    return std::max(value.capHeight() + caption.capHeight(), 2.0 * twoLines.capHeight()) + lineGap + 2.0 * rounding;
+}
+
+double MenuBarRenderer::smallestType(MenuBarStyle style) {
+    return style == MenuBarStyle::inlined ? labelSize : captionSize;
 }
 
 QSizeF MenuBarRenderer::size(const std::vector<MenuBarItem>& items, MenuBarStyle style) {

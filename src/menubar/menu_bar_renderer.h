@@ -39,6 +39,12 @@ class MenuBarRenderer {
 
     static Layout layout(const MenuBarItem& item, MenuBarStyle style);
 
+    /// The height of what is drawn around the row's middle, in points; less than that of the row.
+    static double inkHeight(MenuBarStyle style);
+
+    /// The smallest size of type, in points.
+    static double smallestType(MenuBarStyle style);
+
     /// Size of the row; the width is a whole number, at least 1.
     static QSizeF size(const std::vector<MenuBarItem>& items, MenuBarStyle style);
 

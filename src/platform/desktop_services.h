@@ -34,6 +34,9 @@ bool windowsAreBlended();
 /// True when a whole window can be made more or less opaque.
 bool windowsCanFade();
 
+/// True while a button of the mouse is held down, in whichever window; false where the display does not tell.
+bool mouseIsPressed();
+
 /// From now on, writing to a closed pipe is an error and does not end the program.
 void ignoreBrokenPipes();
 

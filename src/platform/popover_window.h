@@ -22,8 +22,7 @@ class PopoverWindow {
     virtual void show(const StatusItem& item) = 0;
     virtual void close() = 0;
 
-    /// Closes the popover if it is shown, else opens it; does nothing when the same click, landing outside, has just
-    /// closed it.
+    /// Closes the popover if it is shown, else opens it; does nothing when the same click has just closed it.
     virtual void toggle(const StatusItem& item) = 0;
 };
 

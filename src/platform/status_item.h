@@ -62,6 +62,9 @@ class StatusItem {
     /// menu open beside it. Never null once something was shown.
     virtual QRect anchor() const = 0;
 
+    /// To be called for a click on the item that another window of the program took.
+    virtual void click(const StatusClick& /*click*/) const {}
+
     /// Shows a menu of `entries` the way the system's own items do, and returns when it has closed. False where the
     /// program has to draw its menus itself.
     virtual bool popUpMenu(const std::vector<StatusMenuEntry>& /*entries*/) { return false; }

@@ -30,17 +30,11 @@ PopoverFrame::PopoverFrame(const Theme& theme, std::unique_ptr<QWidget> view) : 
     connect(&theme, &Theme::changed, this, [this] { setPalette(this->theme().palette()); });
 }
 
-bool PopoverFrame::closedBySameClick(const QRect& item, qint64 milliseconds) {
-    const bool recently = sinceHidden_.isValid() && sinceHidden_.elapsed() < milliseconds;
-    const bool pressed = closingPress_ && item.contains(*closingPress_);
-    sinceHidden_.invalidate();
-    closingPress_.reset();
-    return recently || pressed;
-}
-
 bool PopoverFrame::event(QEvent* event) {
-    if (event->type() == QEvent::WindowDeactivate)
+    if (event->type() == QEvent::WindowDeactivate && isVisible()) {
         hide();
+        Q_EMIT lostFocus();
+    }
     return View::event(event);
 }
 
@@ -58,20 +52,18 @@ void PopoverFrame::keyPressEvent(QKeyEvent* event) {
 
 void PopoverFrame::mousePressEvent(QMouseEvent* event) {
     const bool outside = !rect().contains(event->position().toPoint());
-    if (outside)
-        closingPress_ = event->globalPosition().toPoint();
     View::mousePressEvent(event); // closes it
+    if (outside)
+        Q_EMIT pressedOutside(event->globalPosition().toPoint(), event->button(), event->modifiers());
 }
 
 void PopoverFrame::showEvent(QShowEvent* event) {
-    closingPress_.reset();
     Q_EMIT opening();
     roundWindow(*this, cornerRadius); // a compositor may have come or gone meanwhile
     View::showEvent(event);
 }
 
 void PopoverFrame::hideEvent(QHideEvent* event) {
-    sinceHidden_.start();
     Q_EMIT closed();
     View::hideEvent(event);
 }

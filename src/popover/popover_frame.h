@@ -1,9 +1,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
-
-#include <QElapsedTimer>
 
 #include "views/view.h"
 
@@ -19,10 +16,6 @@ class PopoverFrame : public View {
 
     QAccessible::Role accessibleRole() const override { return QAccessible::Dialog; }
 
-    /// True once if the click that now asks for the popover is the one that has just closed it: its press was on
-    /// `item`, however long ago, or, where presses are not reported, the popover closed within the last `milliseconds`.
-    bool closedBySameClick(const QRect& item, qint64 milliseconds);
-
     /// How tall its view would like to be.
     int contentHeight() const { return view_->sizeHint().height(); }
 
@@ -34,6 +27,10 @@ class PopoverFrame : public View {
     /// The view may want another height.
     void contentChanged();
     void closed();
+    /// A press outside closed it; `place` is on the screen.
+    void pressedOutside(QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers);
+    /// It closed because the user turned to another window, perhaps by a click that it was not told of.
+    void lostFocus();
 
   protected:
     bool event(QEvent* event) override;
@@ -46,8 +43,6 @@ class PopoverFrame : public View {
 
   private:
     QWidget* view_;
-    QElapsedTimer sinceHidden_;
-    std::optional<QPoint> closingPress_; ///< on the screen
 };
 
 } // namespace vantrix

@@ -11,12 +11,16 @@ namespace {
 
 constexpr int popoverWidth = 340;
 constexpr int fadeDuration = 120; // milliseconds
-constexpr qint64 sameClick = 300; // milliseconds between a click's press and its release
+constexpr qint64 sameClick = 300; // milliseconds from a click's press until a status area tells of it
+constexpr int mouseInterval = 20; // milliseconds
+constexpr int ticksUntilTold = 5; // from the release of a button until a status area has told of the click
 
 } // namespace
 
-PopoverHost::PopoverHost(const Theme& theme, MakeView makeView, std::function<bool()> canFade)
-    : theme_(theme), makeView_(std::move(makeView)), canFade_(std::move(canFade)) {
+PopoverHost::PopoverHost(const Theme& theme, MakeView makeView, PopoverDisplay display)
+    : theme_(theme), makeView_(std::move(makeView)), display_(std::move(display)) {
+    mouseTimer_.setInterval(mouseInterval);
+    QObject::connect(&mouseTimer_, &QTimer::timeout, &mouseTimer_, [this] { watchMouse(); });
     fade_.setStartValue(0.0);
     fade_.setEndValue(1.0);
     fade_.setDuration(fadeDuration);
@@ -33,6 +37,43 @@ void PopoverHost::makeFrame() {
     QObject::connect(frame_.get(), &PopoverFrame::opening, frame_.get(), [this] { place(); });
     QObject::connect(frame_.get(), &PopoverFrame::contentChanged, frame_.get(), [this] { follow(); });
     QObject::connect(frame_.get(), &PopoverFrame::closed, &fade_, &QVariantAnimation::stop);
+    QObject::connect(frame_.get(), &PopoverFrame::lostFocus, frame_.get(), [this] { sinceFocusLost_.start(); });
+    QObject::connect(frame_.get(), &PopoverFrame::pressedOutside, frame_.get(),
+                     [this](QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
+                         const auto kind =
+                             button == Qt::RightButton ? StatusClick::Button::right : StatusClick::Button::left;
+                         closedByPress(place, {kind, modifiers.testFlag(Qt::ControlModifier)});
+                     });
+}
+
+/// The popover has the mouse to itself: nobody else is told of the press.
+void PopoverHost::closedByPress(QPoint place, const StatusClick& click) {
+    closingPress_ = place;
+    sinceFocusLost_.invalidate(); // it lost that by the press
+    ticksReleased_ = 0;
+    mouseTimer_.start();
+    const bool wantsMenu = click.button == StatusClick::Button::right || click.control;
+    if (wantsMenu && item_ && item_->anchor().contains(place))
+        item_->click(click);
+}
+
+/// Many status areas tell of a click when its button is released, which may be long after its press. What they tell of
+/// later is another click.
+void PopoverHost::watchMouse() {
+    ticksReleased_ = display_.isMousePressed() ? 0 : ticksReleased_ + 1;
+    if (ticksReleased_ < ticksUntilTold)
+        return;
+    mouseTimer_.stop();
+    closingPress_.reset();
+}
+
+/// Whether a click on the item at `anchor` is the one that has just closed the popover; asked once a click.
+bool PopoverHost::isOfClosingClick(const QRect& anchor) {
+    const bool wasPressed = closingPress_ && anchor.contains(*closingPress_);
+    const bool lostFocus = sinceFocusLost_.isValid() && sinceFocusLost_.elapsed() < sameClick;
+    closingPress_.reset();
+    sinceFocusLost_.invalidate();
+    return wasPressed || lostFocus;
 }
 
 void PopoverHost::show(const QRect& anchor) {
@@ -43,7 +84,9 @@ void PopoverHost::show(const QRect& anchor) {
         watch(*shownOn);
     if (isShown())
         place();
-    if (canFade_() && !theme_.reducesMotion())
+    closingPress_.reset();
+    sinceFocusLost_.invalidate();
+    if (display_.canFade() && !theme_.reducesMotion())
         fadeIn();
     else
         frame_->setWindowOpacity(1.0);
@@ -95,10 +138,19 @@ void PopoverHost::close() {
 
 void PopoverHost::toggle(const QRect& anchor) {
     if (isShown())
-        return close();
-    if (frame_ && frame_->closedBySameClick(anchor, sameClick))
-        return;
-    show(anchor);
+        close();
+    else if (!isOfClosingClick(anchor))
+        show(anchor);
+}
+
+void PopoverHost::show(const StatusItem& item) {
+    item_ = &item;
+    show(item.anchor());
+}
+
+void PopoverHost::toggle(const StatusItem& item) {
+    item_ = &item;
+    toggle(item.anchor());
 }
 
 } // namespace vantrix

@@ -69,6 +69,11 @@ bool windowsAreBlended() {
     return connection == nullptr || xcbComposited(connection);
 }
 
+bool mouseIsPressed() {
+    xcb_connection_t* connection = xcbConnection();
+    return connection != nullptr && xcbIsMousePressed(connection);
+}
+
 bool windowsCanFade() {
     return xcbConnection() != nullptr && windowsAreBlended();
 }

@@ -10,7 +10,6 @@
 #include <QWindow>
 
 #include "linux/status_area/click_anchor.h"
-#include "linux/status_area/mouse_click.h"
 #include "linux/status_area/panel_palette.h"
 #include "linux/status_area/xcb_support.h"
 #include "platform/appearance.h"
@@ -155,6 +154,7 @@ void FloatingStrip::paintEvent(QPaintEvent*) {
 }
 
 void FloatingStrip::mousePressEvent(QMouseEvent* event) {
+    clicks_.press(*event);
     if (event->button() == Qt::LeftButton)
         grabbed_ = event->position().toPoint();
 }
@@ -176,6 +176,7 @@ void FloatingStrip::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void FloatingStrip::mouseReleaseEvent(QMouseEvent* event) {
+    const bool wasPressed = clicks_.release(*event);
     const bool dropped = event->button() == Qt::LeftButton && dragging_;
     if (event->button() == Qt::LeftButton) {
         grabbed_.reset();
@@ -183,7 +184,7 @@ void FloatingStrip::mouseReleaseEvent(QMouseEvent* event) {
     }
     if (dropped)
         return remember();
-    if (!rect().contains(event->position().toPoint()))
+    if (!wasPressed || !rect().contains(event->position().toPoint()))
         return;
     StatusClick told = clickOf(*event);
     told.module = row_.moduleAt(event->position().x() - rowCorner().x());

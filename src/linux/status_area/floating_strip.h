@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 
+#include "linux/status_area/mouse_click.h"
 #include "linux/status_area/row_window.h"
 #include "linux/status_area/status_backend.h"
 #include "linux/status_area/status_row.h"
@@ -40,6 +41,7 @@ class FloatingStrip : public RowWindow, public StatusBackend {
     UserDefaults& defaults_;
     StatusRow row_;
     std::optional<QPoint> grabbed_; ///< within the strip, while the left button is down
+    PressedButtons clicks_;
     bool dragging_ = false;
 };
 

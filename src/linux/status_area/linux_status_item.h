@@ -43,6 +43,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
 
     void show(const StatusContent& content) override;
     QRect anchor() const override;
+    void click(const StatusClick& click) const override { handlers_.clicked(click); }
 
     std::string place() const override;
 

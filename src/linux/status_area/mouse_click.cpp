@@ -14,4 +14,14 @@ StatusClick clickOf(const QMouseEvent& event) {
     return click;
 }
 
+void PressedButtons::press(const QMouseEvent& event) {
+    pressed_ |= event.button();
+}
+
+bool PressedButtons::release(const QMouseEvent& event) {
+    const bool wasPressed = pressed_.testFlag(event.button());
+    pressed_.setFlag(event.button(), false);
+    return wasPressed;
+}
+
 } // namespace vantrix

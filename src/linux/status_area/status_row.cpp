@@ -39,6 +39,20 @@ QSize StatusRow::size() const {
     return {static_cast<int>(MenuBarRenderer::size(content_.items, content_.style).width()), height};
 }
 
+double StatusRow::inkHeight() const {
+    return content_.items.empty() ? gaugeSide : MenuBarRenderer::inkHeight(content_.style);
+}
+
+double StatusRow::smallestType() const {
+    return content_.items.empty() ? gaugeSide : MenuBarRenderer::smallestType(content_.style);
+}
+
+StatusRow StatusRow::inlined() const {
+    StatusRow row = *this;
+    row.content_.style = MenuBarStyle::inlined;
+    return row;
+}
+
 void StatusRow::paint(QPainter& painter, const MenuBarPalette& palette) const {
     if (!content_.items.empty()) {
         MenuBarRenderer::paint(painter, content_.items, content_.style, content_.colorize, palette);

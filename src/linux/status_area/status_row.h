@@ -20,6 +20,15 @@ class StatusRow {
     /// In points; 22 high.
     QSize size() const;
 
+    /// The height of what is drawn, around the row's middle, in points.
+    double inkHeight() const;
+
+    /// The smallest size of type in it, in points; that of the gauge is its side.
+    double smallestType() const;
+
+    /// The same row with each value beside its caption.
+    StatusRow inlined() const;
+
     /// Draws the row with its top left corner at the painter's origin.
     void paint(QPainter& painter, const MenuBarPalette& palette) const;
 

@@ -8,8 +8,8 @@
 #include <QPainter>
 
 #include "linux/status_area/click_anchor.h"
-#include "linux/status_area/mouse_click.h"
 #include "linux/status_area/panel_palette.h"
+#include "linux/status_area/row_fit.h"
 #include "linux/status_area/x11_tray.h"
 #include "linux/status_area/xcb_support.h"
 #include "platform/appearance.h"
@@ -24,14 +24,8 @@ constexpr auto embeddingPatience = 3s;
 // Trays embed a window at its own size and cut it later, when they lay out their contents.
 constexpr auto layoutPatience = 500ms;
 constexpr auto backgroundDelay = 60ms;
-constexpr double leastShare = 0.9; // of the row's width
 constexpr double leastContrast = 0.35;
 constexpr int air = 4; // points to the neighbours on both sides
-
-/// The factor by which the row is scaled down to fit a tray that is not as high.
-double scaleFor(int height) {
-    return std::min(1.0, height / MenuBarRenderer::height);
-}
 
 QSize withAir(const StatusRow& row) {
     return row.size() + QSize(2 * air, 0);
@@ -50,6 +44,7 @@ TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> cl
     connect(&verdict_, &QTimer::timeout, this, &TrayWindow::judge);
     connect(&backgroundTimer_, &QTimer::timeout, this, &TrayWindow::takeBackground);
     connect(&tray_, &X11Tray::reparented, this, &TrayWindow::reparented);
+    connect(&tray_, &X11Tray::slotChanged, this, [this] { verdict_.start(layoutPatience); });
     connect(&tray_, &X11Tray::looksChanged, this, [this] {
         backgroundTimer_.start(backgroundDelay);
         update();
@@ -83,6 +78,7 @@ void TrayWindow::reparented(std::uint32_t window, std::uint32_t parent) {
     if (!docked_ || window != winId())
         return;
     embedded_ = parent != 0;
+    tray_.watchSlot(embedded_ ? xcbAncestors(xcbConnection(), window) : std::vector<xcb_window_t>());
     // Shown only while embedded: any earlier it would flash in a corner of the screen, and GTK's trays would take it
     // for withdrawn; thrown out, it would be left lying on the screen.
     setVisible(embedded_);
@@ -90,28 +86,51 @@ void TrayWindow::reparented(std::uint32_t window, std::uint32_t parent) {
     verdict_.start(layoutPatience);
 }
 
-/// Some trays go by the window's size hints, others by its size, so both are set.
+/// Some trays go by the window's size hints, others by its size, so both are set; others again give a width in
+/// proportion to the height, so that a window higher than its slot would get too little.
 void TrayWindow::askForRoom() {
-    const int width = static_cast<int>(std::ceil(withAir(row_).width() * scaleFor(height())));
-    if (minimumWidth() == width)
+    const auto fit = fitRowInHeight(row_, slot().height(), devicePixelRatioF());
+    if (!fit)
         return;
-    setMinimumWidth(width);
-    resize(width, height());
+    const int high = std::min(height(), static_cast<int>(std::ceil(slot().height())));
+    const QSize least(static_cast<int>(std::ceil(fit->width())) + 2 * air, std::min(high, row_.size().height()));
+    if (minimumSize() == least)
+        return;
+    setMinimumSize(least);
+    resize(least.width(), high);
     verdict_.start(layoutPatience);
 }
 
-bool TrayWindow::fits() const {
-    return embedded_ && width() >= row_.size().width() * scaleFor(height()) * leastShare;
+/// The part of the window that can be seen: trays cut it without a word.
+QRectF TrayWindow::slot() const {
+    return seen_ ? *seen_ & QRectF(rect()) : QRectF(rect());
 }
 
+/// Looks at what the tray has made of the window.
 void TrayWindow::judge() {
-    Q_EMIT settled(fits());
+    if (embedded_)
+        measureSlot();
+    askForRoom();
+    Q_EMIT settled(embedded_ && fitRow(row_, slot().size(), devicePixelRatioF()));
+}
+
+void TrayWindow::measureSlot() {
+    const auto window = static_cast<xcb_window_t>(winId());
+    const QRect pixels = xcbVisibleRect(xcbConnection(), window, xcbAncestors(xcbConnection(), window));
+    const double scale = devicePixelRatioF();
+    const QRectF seen(QPointF(pixels.topLeft()) / scale, QSizeF(pixels.size()) / scale);
+    if (seen_ == seen)
+        return;
+    seen_ = seen;
+    update();
 }
 
 void TrayWindow::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     if (!embedded_)
         return;
+    if (seen_)
+        measureSlot();
     askForRoom();
     backgroundTimer_.start(backgroundDelay);
     verdict_.start(layoutPatience);
@@ -138,14 +157,10 @@ MenuBarPalette TrayWindow::rowPalette() const {
     return paletteForPanel(ground ? *ground < 0.5 : appearance_.appearance().dark);
 }
 
-/// From the row's own points to the window's.
-QTransform TrayWindow::rowPlace() const {
-    const QSize row = row_.size();
-    const double scale = std::min(scaleFor(height()), width() / static_cast<double>(row.width()));
-    // Whole points keep the row sharp.
-    const double x = std::floor((width() - row.width() * scale) / 2.0);
-    const double y = std::floor((height() - row.height() * scale) / 2.0);
-    return QTransform::fromTranslate(x, y).scale(scale, scale);
+/// The row as it is drawn, squeezed for as long as the tray has not given it the width that it asked for.
+std::optional<RowFit> TrayWindow::drawnRow() const {
+    const auto fit = fitRowInHeight(row_, slot().height(), devicePixelRatioF());
+    return fit ? std::optional(fit->narrowedTo(slot().width())) : std::nullopt;
 }
 
 void TrayWindow::paintEvent(QPaintEvent*) {
@@ -154,19 +169,24 @@ void TrayWindow::paintEvent(QPaintEvent*) {
         painter.fillRect(rect(), palette().window());
     else if (!alpha_)
         painter.drawImage(QPoint(0, 0), background_);
-    painter.setTransform(rowPlace(), true);
-    row_.paint(painter, rowPalette());
+    const auto drawn = drawnRow();
+    if (!drawn)
+        return;
+    painter.setTransform(drawn->place(slot(), devicePixelRatioF()), true);
+    drawn->row.paint(painter, rowPalette());
 }
 
 void TrayWindow::mousePressEvent(QMouseEvent* event) {
-    event->accept();
+    clicks_.press(*event);
 }
 
 void TrayWindow::mouseReleaseEvent(QMouseEvent* event) {
-    if (!rect().contains(event->position().toPoint()))
+    if (!clicks_.release(*event) || !rect().contains(event->position().toPoint()))
         return;
     StatusClick told = clickOf(*event);
-    told.module = row_.moduleAt(rowPlace().inverted().map(event->position()).x());
+    if (const auto drawn = drawnRow())
+        told.module =
+            drawn->row.moduleAt(drawn->place(slot(), devicePixelRatioF()).inverted().map(event->position()).x());
     click(told);
 }
 

@@ -1,9 +1,13 @@
 #pragma once
 
-#include <QImage>
-#include <QTimer>
-#include <QTransform>
+#include <optional>
 
+#include <QImage>
+#include <QRectF>
+#include <QTimer>
+
+#include "linux/status_area/mouse_click.h"
+#include "linux/status_area/row_fit.h"
 #include "linux/status_area/row_window.h"
 #include "linux/status_area/status_backend.h"
 #include "linux/status_area/status_row.h"
@@ -37,15 +41,18 @@ class TrayWindow : public RowWindow, public StatusBackend {
     void dock();
     void reparented(std::uint32_t window, std::uint32_t parent);
     void askForRoom();
-    bool fits() const;
+    QRectF slot() const;
     void judge();
+    void measureSlot();
     void takeBackground();
     MenuBarPalette rowPalette() const;
-    QTransform rowPlace() const;
+    std::optional<RowFit> drawnRow() const;
 
     X11Tray& tray_;
     const AppearanceSource& appearance_;
     StatusRow row_;
+    std::optional<QRectF> seen_; ///< the part that the tray leaves of the window, in points, as last measured
+    PressedButtons clicks_;
     QImage background_; ///< the panel's, where the tray has no alpha channel
     QTimer verdict_;
     QTimer backgroundTimer_;

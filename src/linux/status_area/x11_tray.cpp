@@ -1,5 +1,7 @@
 #include "linux/status_area/x11_tray.h"
 
+#include <algorithm>
+
 #include <QGuiApplication>
 
 #include "linux/status_area/xcb_support.h"
@@ -9,6 +11,7 @@ namespace vantrix {
 namespace {
 
 constexpr std::uint32_t requestDock = 0;
+constexpr std::uint32_t watchedEvents = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
 
 bool hasAlpha(const xcb_screen_t* screen, std::uint32_t visual) {
     for (auto depth = xcb_screen_allowed_depths_iterator(screen); depth.rem > 0; xcb_depth_next(&depth)) {
@@ -64,15 +67,21 @@ void X11Tray::dock(std::uint32_t window) const {
     xcb_flush(connection_);
 }
 
+void X11Tray::watchSlot(std::vector<std::uint32_t> windows) {
+    slot_ = std::move(windows);
+    for (const std::uint32_t window : slot_)
+        xcb_change_window_attributes(connection_, window, XCB_CW_EVENT_MASK, &watchedEvents);
+    xcb_flush(connection_);
+}
+
 void X11Tray::findOwner() {
     // Grabbed, so that the owner cannot go away before its end is being watched for.
     xcb_grab_server(connection_);
     const auto cookie = xcb_get_selection_owner(connection_, selection_);
     const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(connection_, cookie, nullptr));
     owner_ = reply ? reply->owner : static_cast<std::uint32_t>(XCB_NONE);
-    const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
     if (owner_ != XCB_NONE)
-        xcb_change_window_attributes(connection_, owner_, XCB_CW_EVENT_MASK, &mask);
+        xcb_change_window_attributes(connection_, owner_, XCB_CW_EVENT_MASK, &watchedEvents);
     xcb_ungrab_server(connection_);
     xcb_flush(connection_);
     readForeground();
@@ -101,6 +110,10 @@ bool X11Tray::nativeEventFilter(const QByteArray& eventType, void* message, qint
             readForeground();
             Q_EMIT looksChanged();
         }
+    } else if (type == XCB_CONFIGURE_NOTIFY) {
+        const auto* changed = reinterpret_cast<const xcb_configure_notify_event_t*>(event);
+        if (std::find(slot_.begin(), slot_.end(), changed->window) != slot_.end())
+            Q_EMIT slotChanged();
     } else if (type == XCB_REPARENT_NOTIFY) {
         const auto* moved = reinterpret_cast<const xcb_reparent_notify_event_t*>(event);
         Q_EMIT reparented(moved->window, moved->parent == root_ ? 0 : moved->parent);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 #include <QAbstractNativeEventFilter>
 #include <QColor>
@@ -32,6 +33,9 @@ class X11Tray : public QObject, public QAbstractNativeEventFilter {
     /// Asks the tray to embed `window`.
     void dock(std::uint32_t window) const;
 
+    /// Tells by `slotChanged` when one of these windows, which are the tray's, moves or changes its size.
+    void watchSlot(std::vector<std::uint32_t> windows);
+
     bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
   Q_SIGNALS:
@@ -39,6 +43,7 @@ class X11Tray : public QObject, public QAbstractNativeEventFilter {
     void ownerChanged();
     /// The tray's colours may have changed.
     void looksChanged();
+    void slotChanged();
     /// `window` has another parent now; `parent` is 0 when that is the root window.
     void reparented(std::uint32_t window, std::uint32_t parent);
 
@@ -55,6 +60,7 @@ class X11Tray : public QObject, public QAbstractNativeEventFilter {
     std::uint32_t colorsProperty_;
     std::uint32_t owner_ = 0;
     std::optional<QColor> foreground_;
+    std::vector<std::uint32_t> slot_;
 };
 
 } // namespace vantrix

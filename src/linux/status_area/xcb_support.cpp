@@ -46,6 +46,31 @@ QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window) {
     return {place->dst_x, place->dst_y, geometry->width, geometry->height};
 }
 
+std::vector<xcb_window_t> xcbAncestors(xcb_connection_t* connection, xcb_window_t window) {
+    constexpr std::size_t most = 32; // no panel nests its windows deeper
+    std::vector<xcb_window_t> ancestors;
+    while (ancestors.size() < most) {
+        const auto cookie = xcb_query_tree(connection, ancestors.empty() ? window : ancestors.back());
+        xcb_generic_error_t* error = nullptr;
+        const XcbReply<xcb_query_tree_reply_t> reply(xcb_query_tree_reply(connection, cookie, &error));
+        const XcbReply<xcb_generic_error_t> ownedError(error);
+        if (!reply)
+            return {};
+        if (reply->parent == reply->root || reply->parent == XCB_NONE)
+            break;
+        ancestors.push_back(reply->parent);
+    }
+    return ancestors;
+}
+
+QRect xcbVisibleRect(xcb_connection_t* connection, xcb_window_t window, const std::vector<xcb_window_t>& ancestors) {
+    const QRect own = xcbRootRect(connection, window);
+    QRect visible = own & xcbRootRect(connection, xcbScreen(connection)->root);
+    for (const xcb_window_t ancestor : ancestors)
+        visible &= xcbRootRect(connection, ancestor);
+    return visible.translated(-own.topLeft());
+}
+
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size) {
     xcb_clear_area(connection, 0, window, 0, 0, 0, 0);
     const auto cookie =
@@ -69,6 +94,13 @@ void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window) {
     set("_NET_WM_WINDOW_TYPE", {atom("_NET_WM_WINDOW_TYPE_DOCK")});
     set("_NET_WM_STATE", {atom("_NET_WM_STATE_ABOVE"), atom("_NET_WM_STATE_STICKY"), atom("_NET_WM_STATE_SKIP_TASKBAR"),
                           atom("_NET_WM_STATE_SKIP_PAGER")});
+}
+
+bool xcbIsMousePressed(xcb_connection_t* connection) {
+    constexpr std::uint16_t buttons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
+    const auto cookie = xcb_query_pointer(connection, xcbScreen(connection)->root);
+    const XcbReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(connection, cookie, nullptr));
+    return reply && (reply->mask & buttons) != 0;
 }
 
 bool xcbComposited(xcb_connection_t* connection) {

@@ -34,6 +34,13 @@ std::vector<std::uint32_t> xcbValues(xcb_connection_t* connection, xcb_window_t 
 /// The window's place on the root window, in device pixels; empty when it is gone.
 QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window);
 
+/// The windows around it, from its parent up to, but without, the root window. Empty when it is gone.
+std::vector<xcb_window_t> xcbAncestors(xcb_connection_t* connection, xcb_window_t window);
+
+/// The part of the window that `ancestors`, its own, and the root window leave of it, in its own device pixels; empty
+/// when nothing is left, or one of them is gone.
+QRect xcbVisibleRect(xcb_connection_t* connection, xcb_window_t window, const std::vector<xcb_window_t>& ancestors);
+
 /// Clears the window to its parent's background and returns what the screen then shows there; null when that cannot be
 /// read.
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size);
@@ -41,6 +48,9 @@ QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QS
 /// Makes window managers treat a window as a dock: on every desktop, above all windows but those that fill the screen,
 /// without an entry in task bars. To be called before the window is shown.
 void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window);
+
+/// True while any button of the mouse is held down.
+bool xcbIsMousePressed(xcb_connection_t* connection);
 
 /// True when windows with an alpha channel are blended with what is behind them.
 bool xcbComposited(xcb_connection_t* connection);

@@ -40,6 +40,10 @@ bool windowsAreBlended() {
     return true;
 }
 
+bool mouseIsPressed() {
+    return false; // nobody asks: the system's popover knows its own clicks
+}
+
 bool windowsCanFade() {
     return true;
 }
