@@ -76,7 +76,7 @@ void LinuxStatusItem::choose() {
 }
 
 void LinuxStatusItem::tryTray() {
-    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_.clicked, appearance_);
+    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_.clicked, appearance_, surroundings_.lookInterval);
     connect(candidate_.get(), &TrayWindow::settled, this, &LinuxStatusItem::traySettled, Qt::QueuedConnection);
     candidate_->show(*row_);
 }

@@ -25,6 +25,8 @@ struct StatusSurroundings {
     std::shared_ptr<BusLink> bus = sharedSessionBus();
     /// How long a desktop may take to bring up its status area before the strip is shown.
     std::chrono::milliseconds stripDelay{4000};
+    /// How often at most the panel's colour is looked at, while the row changes.
+    std::chrono::milliseconds lookInterval{4000};
     NotifierWatch::HostOfProcess hostOfProcess = notifierHostOfProcess;
     /// Somebody started the program by hand, and wonders where it is.
     bool isOnTerminal = ::isatty(STDERR_FILENO) == 1;

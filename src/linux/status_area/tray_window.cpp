@@ -34,9 +34,9 @@ QSize withAir(const StatusRow& row) {
 } // namespace
 
 TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked,
-                       const AppearanceSource& appearance)
+                       const AppearanceSource& appearance, std::chrono::milliseconds lookInterval)
     : RowWindow(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint, std::move(clicked)), tray_(tray),
-      appearance_(appearance), alpha_(tray.wantsAlpha()) {
+      appearance_(appearance), lookInterval_(lookInterval), alpha_(tray.wantsAlpha()) {
     setAttribute(Qt::WA_TranslucentBackground, alpha_);
     setAttribute(Qt::WA_OpaquePaintEvent, !alpha_);
     verdict_.setSingleShot(true);
@@ -54,6 +54,7 @@ TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> cl
 void TrayWindow::show(const StatusRow& row) {
     row_ = row;
     tell(row_.text());
+    lookAtPanel();
     if (!docked_)
         dock();
     else
@@ -145,12 +146,34 @@ void TrayWindow::takeBackground() {
     update();
 }
 
+/// Panels change their colours without a word, and tell the old ones on: now and then it is looked how they are.
+void TrayWindow::lookAtPanel() {
+    if (!embedded_ || !seen_ || !showsScreen_ ||
+        (sinceLook_.isValid() && !sinceLook_.hasExpired(lookInterval_.count())))
+        return;
+    sinceLook_.start();
+    constexpr int columns = 2;
+    const QRect place = xcbRootRect(xcbConnection(), static_cast<xcb_window_t>(winId()));
+    // Through a window with an alpha channel the panel itself is seen beside the row, else only outside.
+    const int left = alpha_ ? place.x() : place.x() - columns;
+    const auto color =
+        xcbScreenColor(xcbConnection(), QRect(std::max(left, 0), place.y(), columns,
+                                              static_cast<int>(std::ceil(slot().height() * devicePixelRatioF()))));
+    if (color == panel_)
+        return;
+    panel_ = color;
+    if (alpha_)
+        update();
+    else
+        takeBackground();
+}
+
 /// In the tray's own text colour, unless that is too close to the panel's background.
 MenuBarPalette TrayWindow::rowPalette() const {
-    std::optional<double> ground;
+    std::optional<QColor> color = alpha_ ? panel_ : std::nullopt;
     if (!background_.isNull())
-        ground = perceivedLightness(
-            background_.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0));
+        color = background_.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
+    const std::optional<double> ground = color ? std::optional(perceivedLightness(*color)) : std::nullopt;
     const std::optional<QColor> text = tray_.foreground();
     if (text && (!ground || std::abs(perceivedLightness(*text) - *ground) > leastContrast))
         return paletteForText(*text);

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <chrono>
 #include <optional>
 
+#include <QColor>
+#include <QElapsedTimer>
 #include <QImage>
 #include <QRectF>
 #include <QTimer>
@@ -22,7 +25,8 @@ class X11Tray;
 class TrayWindow : public RowWindow, public StatusBackend {
     Q_OBJECT
   public:
-    TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance);
+    TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
+               std::chrono::milliseconds lookInterval);
 
     void show(const StatusRow& row) override;
     QRect anchor() const override;
@@ -45,15 +49,21 @@ class TrayWindow : public RowWindow, public StatusBackend {
     void judge();
     void measureSlot();
     void takeBackground();
+    void lookAtPanel();
     MenuBarPalette rowPalette() const;
     std::optional<RowFit> drawnRow() const;
 
     X11Tray& tray_;
     const AppearanceSource& appearance_;
+    std::chrono::milliseconds lookInterval_;
     StatusRow row_;
     std::optional<QRectF> seen_; ///< the part that the tray leaves of the window, in points, as last measured
     PressedButtons clicks_;
-    QImage background_; ///< the panel's, where the tray has no alpha channel
+    QImage background_;           ///< the panel's, where the tray has no alpha channel
+    std::optional<QColor> panel_; ///< the colour beside the row, as last seen
+    QElapsedTimer sinceLook_;
+    /// False under Wayland, where the X server's screen shows nothing but its own clients.
+    bool showsScreen_ = !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
     QTimer verdict_;
     QTimer backgroundTimer_;
     bool alpha_ = false;

@@ -1,5 +1,8 @@
 #include "linux/status_area/xcb_support.h"
 
+#include <algorithm>
+#include <map>
+
 #include <QGuiApplication>
 
 namespace vantrix {
@@ -71,18 +74,39 @@ QRect xcbVisibleRect(xcb_connection_t* connection, xcb_window_t window, const st
     return visible.translated(-own.topLeft());
 }
 
-QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size) {
-    xcb_clear_area(connection, 0, window, 0, 0, 0, 0);
+namespace {
+
+/// What is shown in `rect` of a window and of those within it; null when that cannot be read.
+QImage imageOf(xcb_connection_t* connection, xcb_window_t window, const QRect& rect) {
     const auto cookie =
-        xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, 0, 0, static_cast<std::uint16_t>(size.width()),
-                      static_cast<std::uint16_t>(size.height()), ~0U);
+        xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, static_cast<std::int16_t>(rect.x()),
+                      static_cast<std::int16_t>(rect.y()), static_cast<std::uint16_t>(rect.width()),
+                      static_cast<std::uint16_t>(rect.height()), ~0U);
     xcb_generic_error_t* error = nullptr;
     const XcbReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(connection, cookie, &error));
     const XcbReply<xcb_generic_error_t> ownedError(error);
-    const auto wanted = qsizetype{size.width()} * size.height() * 4;
+    const auto wanted = qsizetype{rect.width()} * rect.height() * 4;
     if (!reply || reply->depth < 24 || xcb_get_image_data_length(reply.get()) < wanted)
         return {};
-    return QImage(xcb_get_image_data(reply.get()), size.width(), size.height(), QImage::Format_RGB32).copy();
+    return QImage(xcb_get_image_data(reply.get()), rect.width(), rect.height(), QImage::Format_RGB32).copy();
+}
+
+} // namespace
+
+QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size) {
+    xcb_clear_area(connection, 0, window, 0, 0, 0, 0);
+    return imageOf(connection, window, QRect(QPoint(0, 0), size));
+}
+
+std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& rect) {
+    const QImage image = rect.isEmpty() ? QImage() : imageOf(connection, xcbScreen(connection)->root, rect);
+    std::map<QRgb, int> pixels;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            ++pixels[image.pixel(x, y)];
+    const auto usual = std::max_element(pixels.begin(), pixels.end(),
+                                        [](const auto& a, const auto& b) { return a.second < b.second; });
+    return usual == pixels.end() ? std::nullopt : std::optional(QColor(usual->first));
 }
 
 void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window) {

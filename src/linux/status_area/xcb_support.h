@@ -2,9 +2,11 @@
 
 #include <cstdlib>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <QByteArray>
+#include <QColor>
 #include <QImage>
 #include <QRect>
 
@@ -44,6 +46,10 @@ QRect xcbVisibleRect(xcb_connection_t* connection, xcb_window_t window, const st
 /// Clears the window to its parent's background and returns what the screen then shows there; null when that cannot be
 /// read.
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size);
+
+/// The usual colour of what the screen shows in `rect`, in device pixels of the root window; absent when that cannot be
+/// read.
+std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& rect);
 
 /// Makes window managers treat a window as a dock: on every desktop, above all windows but those that fill the screen,
 /// without an entry in task bars. To be called before the window is shown.

@@ -57,6 +57,14 @@ class FakeTray {
         xcb_flush(connection_);
     }
 
+    /// Changes the panel's colour as a new theme does, without a word to the windows in it.
+    void paint(const QColor& panel) {
+        const std::uint32_t pixel = panel.rgb() & 0xffffffU;
+        xcb_change_window_attributes(connection_, window_, XCB_CW_BACK_PIXEL, &pixel);
+        xcb_clear_area(connection_, 0, window_, 0, 0, 0, 0);
+        xcb_flush(connection_);
+    }
+
     /// Does what the windows and the server asked for since the last call.
     void pump() {
         while (const XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_)})

@@ -43,7 +43,9 @@ class TrayRow : public testing::Test {
     LinuxStatusItem item{{.clicked = [this](const StatusClick& click) { clicks.push_back(click); }},
                          kept.defaults,
                          appearance,
-                         {.bus = std::make_shared<BusLink>(std::nullopt), .stripDelay = std::chrono::milliseconds(50)}};
+                         {.bus = std::make_shared<BusLink>(std::nullopt),
+                          .stripDelay = std::chrono::milliseconds(50),
+                          .lookInterval = std::chrono::milliseconds(0)}};
 };
 
 TEST_F(TrayRow, DocksAndPaintsWithTheRoomItNeeds) {
@@ -156,6 +158,20 @@ TEST_F(TrayRow, TakesItsColoursFromThePanel) {
             return shows(picture, row.expected) && shows(picture, row.panel, 2);
         }));
     }
+}
+
+TEST_F(TrayRow, StaysReadableWhereThePanelTurnsDarkAndSaysNothing) {
+    const QColor light(240, 220, 160);
+    FakeTray tray(FakeTray::all, light);
+    tray.tellColors(QColor(40, 40, 40));
+    start(tray);
+    tray.paint(QColor(40, 40, 40));
+    int pass = 0;
+    EXPECT_TRUE(becomes(tray, [&] {
+        content.items[0].lines = {std::to_string(++pass % 100) + "%"};
+        item.show(content);
+        return shows(tray.picture(), Qt::white) && !shows(tray.picture(), light, 2);
+    }));
 }
 
 } // namespace
