@@ -41,6 +41,8 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
 LinuxStatusItem::~LinuxStatusItem() = default;
 
 void LinuxStatusItem::show(const StatusContent& content) {
+    if (backend_)
+        backend_->lookAround();
     StatusRow row(content);
     if (row_ && row_->looksLike(row))
         return;

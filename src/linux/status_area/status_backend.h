@@ -14,6 +14,9 @@ class StatusBackend {
     /// Shows `row`; also called with an unchanged row after the desktop's colours changed.
     virtual void show(const StatusRow& row) = 0;
 
+    /// Called once a pass, whether or not the row is another one.
+    virtual void lookAround() {}
+
     /// The rectangle beside which the popover and the menu open, in device-independent pixels.
     virtual QRect anchor() const = 0;
 };

@@ -42,10 +42,11 @@ TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> cl
     verdict_.setSingleShot(true);
     backgroundTimer_.setSingleShot(true);
     connect(&verdict_, &QTimer::timeout, this, &TrayWindow::judge);
-    connect(&backgroundTimer_, &QTimer::timeout, this, &TrayWindow::takeBackground);
+    connect(&backgroundTimer_, &QTimer::timeout, this, &TrayWindow::takeGround);
     connect(&tray_, &X11Tray::reparented, this, &TrayWindow::reparented);
     connect(&tray_, &X11Tray::slotChanged, this, [this] { verdict_.start(layoutPatience); });
     connect(&tray_, &X11Tray::looksChanged, this, [this] {
+        panel_.reset(); // what is told now is the better guide, until the panel has drawn itself anew
         backgroundTimer_.start(backgroundDelay);
         update();
     });
@@ -54,7 +55,6 @@ TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> cl
 void TrayWindow::show(const StatusRow& row) {
     row_ = row;
     tell(row_.text());
-    lookAtPanel();
     if (!docked_)
         dock();
     else
@@ -137,6 +137,12 @@ void TrayWindow::resizeEvent(QResizeEvent* event) {
     verdict_.start(layoutPatience);
 }
 
+void TrayWindow::takeGround() {
+    sinceLook_.invalidate();
+    takeBackground();
+    lookAround();
+}
+
 void TrayWindow::takeBackground() {
     if (alpha_ || !embedded_)
         return;
@@ -147,7 +153,7 @@ void TrayWindow::takeBackground() {
 }
 
 /// Panels change their colours without a word, and tell the old ones on: now and then it is looked how they are.
-void TrayWindow::lookAtPanel() {
+void TrayWindow::lookAround() {
     if (!embedded_ || !seen_ || !showsScreen_ ||
         (sinceLook_.isValid() && !sinceLook_.hasExpired(lookInterval_.count())))
         return;

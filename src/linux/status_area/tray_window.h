@@ -29,6 +29,7 @@ class TrayWindow : public RowWindow, public StatusBackend {
                std::chrono::milliseconds lookInterval);
 
     void show(const StatusRow& row) override;
+    void lookAround() override;
     QRect anchor() const override;
 
   Q_SIGNALS:
@@ -49,7 +50,7 @@ class TrayWindow : public RowWindow, public StatusBackend {
     void judge();
     void measureSlot();
     void takeBackground();
-    void lookAtPanel();
+    void takeGround();
     MenuBarPalette rowPalette() const;
     std::optional<RowFit> drawnRow() const;
 

@@ -166,10 +166,8 @@ TEST_F(TrayRow, StaysReadableWhereThePanelTurnsDarkAndSaysNothing) {
     tray.tellColors(QColor(40, 40, 40));
     start(tray);
     tray.paint(QColor(40, 40, 40));
-    int pass = 0;
     EXPECT_TRUE(becomes(tray, [&] {
-        content.items[0].lines = {std::to_string(++pass % 100) + "%"};
-        item.show(content);
+        item.show(content); // a pass after which nothing is another number
         return shows(tray.picture(), Qt::white) && !shows(tray.picture(), light, 2);
     }));
 }
