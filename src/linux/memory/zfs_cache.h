@@ -14,7 +14,7 @@ namespace vantrix {
 std::optional<std::uint64_t> parseReclaimableCache(std::string_view text);
 
 /// ZFS's cache of files, which the kernel does not count as such, from /proc/spl/kstat/zfs/arcstats. Few machines
-/// have it, so it is looked for now and then.
+/// have it, so it is looked for once in many passes.
 class ZFSCache {
   public:
     explicit ZFSCache(const std::string& proc) : schedule_({proc + "/spl/kstat"}), path_(pathOf(proc)) {}
