@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QToolTip>
 
+#include "app/status_details.h"
 #include "menubar/preferences.h"
 #include "platform/desktop_services.h"
 #include "popover/popover_place.h"
@@ -66,6 +67,7 @@ void AppDelegate::createStatusItem() {
     statusItem_ = makeStatusItem_({
         .clicked = [this](const StatusClick& click) { statusItemClicked(click); },
         .menu = [this] { return menuEntries(); },
+        .details = [this](std::optional<MenuBarModule> module) { return statusDetails(monitor_.readings(), module); },
         .menuWillOpen = [this] { popover_->close(); },
     });
 }

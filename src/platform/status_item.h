@@ -49,6 +49,9 @@ class StatusItem {
         std::function<void(const StatusClick&)> clicked;
         /// The menu's entries, asked anew each time it is about to be shown.
         std::function<std::vector<StatusMenuEntry>()> menu;
+        /// What the row has no room for, as lines of plain text, of one module or of all; asked when somebody looks at
+        /// it or the row changes. The answer may be empty.
+        std::function<QString(std::optional<MenuBarModule>)> details;
         /// Called before a menu that the system itself draws opens.
         std::function<void()> menuWillOpen;
     };

@@ -71,9 +71,9 @@ QRect stripPlace(QSize size, const QRect& area, std::optional<QPoint> kept) {
     return {QPoint(x, y), size};
 }
 
-FloatingStrip::FloatingStrip(std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
+FloatingStrip::FloatingStrip(const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
                              UserDefaults& defaults)
-    : RowWindow(stripFlags(), std::move(clicked)), appearance_(appearance), defaults_(defaults) {
+    : RowWindow(stripFlags(), handlers), appearance_(appearance), defaults_(defaults) {
     setAttribute(Qt::WA_TranslucentBackground);
     setWindowTitle(QStringLiteral("Vantrix"));
     watchScreens();

@@ -18,8 +18,7 @@ class UserDefaults;
 class FloatingStrip : public RowWindow, public StatusBackend {
     Q_OBJECT
   public:
-    FloatingStrip(std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
-                  UserDefaults& defaults);
+    FloatingStrip(const StatusItem::Handlers& handlers, const AppearanceSource& appearance, UserDefaults& defaults);
 
     void show(const StatusRow& row) override;
     QRect anchor() const override;

@@ -34,7 +34,7 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
         if (kind_ != Kind::none || candidate_ || !row_)
             return; // something is shown, or a tray is being tried
         std::fputs("vantrix: no status area answers on this desktop; showing a strip instead\n", stderr);
-        use(Kind::strip, std::make_unique<FloatingStrip>(handlers_.clicked, appearance_, defaults_));
+        use(Kind::strip, std::make_unique<FloatingStrip>(handlers_, appearance_, defaults_));
     });
 }
 
@@ -78,7 +78,7 @@ void LinuxStatusItem::choose() {
 }
 
 void LinuxStatusItem::tryTray() {
-    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_.clicked, appearance_, surroundings_.lookInterval);
+    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_, appearance_, surroundings_.lookInterval);
     connect(candidate_.get(), &TrayWindow::settled, this, &LinuxStatusItem::traySettled, Qt::QueuedConnection);
     candidate_->show(*row_);
 }

@@ -1,6 +1,8 @@
 #include "linux/status_area/row_window.h"
 
 #include <QAccessibleWidget>
+#include <QHelpEvent>
+#include <QToolTip>
 
 namespace vantrix {
 namespace {
@@ -23,8 +25,8 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
 
 } // namespace
 
-RowWindow::RowWindow(Qt::WindowFlags flags, std::function<void(const StatusClick&)> clicked)
-    : QWidget(nullptr, flags), clicked_(std::move(clicked)) {
+RowWindow::RowWindow(Qt::WindowFlags flags, const StatusItem::Handlers& handlers)
+    : QWidget(nullptr, flags), handlers_(handlers) {
     QAccessible::installFactory(makeInterface); // once only, however often it is called
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_AlwaysShowToolTips);
@@ -32,10 +34,17 @@ RowWindow::RowWindow(Qt::WindowFlags flags, std::function<void(const StatusClick
 }
 
 void RowWindow::tell(const QString& text) {
-    if (toolTip() == text)
-        return;
-    setToolTip(text);
-    setAccessibleName(text);
+    if (accessibleName() != text)
+        setAccessibleName(text);
+}
+
+bool RowWindow::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const QString details = handlers_.details({});
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), details.isEmpty() ? accessibleName() : details,
+                       this);
+    return true;
 }
 
 } // namespace vantrix

@@ -1,27 +1,27 @@
 #pragma once
 
-#include <functional>
-
 #include <QWidget>
 
 #include "platform/status_item.h"
 
 namespace vantrix {
 
-/// A window that is the status item: one button to assistive programs, named after what the row says.
+/// A window that is the status item: one button to assistive programs, named after what the row says. Its tool tip, put
+/// together when it is asked for, tells the rest.
 class RowWindow : public QWidget {
     Q_OBJECT
   public:
-    RowWindow(Qt::WindowFlags flags, std::function<void(const StatusClick&)> clicked);
+    RowWindow(Qt::WindowFlags flags, const StatusItem::Handlers& handlers);
 
-    void click(const StatusClick& click) { clicked_(click); }
+    void click(const StatusClick& click) { handlers_.clicked(click); }
 
   protected:
-    /// What the row says, also as a tool tip.
+    bool event(QEvent* event) override;
+    /// What the row says.
     void tell(const QString& text);
 
   private:
-    std::function<void(const StatusClick&)> clicked_;
+    StatusItem::Handlers handlers_;
 };
 
 } // namespace vantrix

@@ -183,7 +183,7 @@ NotifierContent StatusNotifier::contentOf(std::size_t index, const MenuBarPalett
     content.icon = samePixmaps(tile, palette) ? objects_[index]->content().icon : pixmapsOf(tile, palette);
     content.title = titleOf(tile);
     // Only the first tile has the text of the whole row: if all had, all would have to be sent whenever one changes.
-    content.toolTip = tile == 0 ? row_.text() : row_.tileText(tile);
+    content.toolTip = toolTipOf(tile);
     if (host_.layout == NotifierLayout::labelled) {
         content.label = row_.label();
         content.labelGuide = row_.labelGuide();
@@ -197,6 +197,14 @@ QString StatusNotifier::titleOf(std::size_t tile) const {
     if (ids_.size() == 1)
         return row_.text();
     return QStringLiteral("Vantrix %1: %2").arg(QString::number(tile + 1), row_.tileText(tile));
+}
+
+/// The first tile's is that of the whole row; the others tell of their own module alone, so that few change at once.
+QString StatusNotifier::toolTipOf(std::size_t tile) const {
+    const QString details = handlers_.details(tile == 0 ? std::nullopt : row_.tileModule(tile));
+    if (!details.isEmpty())
+        return details;
+    return tile == 0 ? row_.text() : row_.tileText(tile);
 }
 
 NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const {

@@ -47,6 +47,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     void update(std::size_t index, const MenuBarPalette& palette);
     NotifierContent contentOf(std::size_t index, const MenuBarPalette& palette) const;
     QString titleOf(std::size_t tile) const;
+    QString toolTipOf(std::size_t tile) const;
     NotifierPixmaps pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const;
     bool samePixmaps(std::size_t tile, const MenuBarPalette& palette) const;
     void announceToolTips();

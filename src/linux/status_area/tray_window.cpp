@@ -33,9 +33,9 @@ QSize withAir(const StatusRow& row) {
 
 } // namespace
 
-TrayWindow::TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked,
-                       const AppearanceSource& appearance, std::chrono::milliseconds lookInterval)
-    : RowWindow(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint, std::move(clicked)), tray_(tray),
+TrayWindow::TrayWindow(X11Tray& tray, const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
+                       std::chrono::milliseconds lookInterval)
+    : RowWindow(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint, handlers), tray_(tray),
       appearance_(appearance), lookInterval_(lookInterval), alpha_(tray.wantsAlpha()) {
     setAttribute(Qt::WA_TranslucentBackground, alpha_);
     setAttribute(Qt::WA_OpaquePaintEvent, !alpha_);

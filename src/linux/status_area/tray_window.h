@@ -25,7 +25,7 @@ class X11Tray;
 class TrayWindow : public RowWindow, public StatusBackend {
     Q_OBJECT
   public:
-    TrayWindow(X11Tray& tray, std::function<void(const StatusClick&)> clicked, const AppearanceSource& appearance,
+    TrayWindow(X11Tray& tray, const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
                std::chrono::milliseconds lookInterval);
 
     void show(const StatusRow& row) override;

@@ -60,7 +60,7 @@ QRect fromScreen(NSRect rect) {
 /// The program's item in the menu bar (NSStatusItem).
 class MacStatusItem final : public StatusItem {
   public:
-    explicit MacStatusItem(Handlers handlers) {
+    explicit MacStatusItem(Handlers handlers) : details_(std::move(handlers.details)) {
         // No Dock icon and no menu bar of its own.
         [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
         item_ = [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
@@ -82,6 +82,7 @@ class MacStatusItem final : public StatusItem {
             shown_ = content;
             button.image = statusImage(content, button);
             button.accessibilityLabel = nativeText(content.accessibilityLabel);
+            button.toolTip = nativeText(details_({}).toStdString());
         }
     }
 
@@ -107,6 +108,7 @@ class MacStatusItem final : public StatusItem {
     WId nativeView() const override { return reinterpret_cast<WId>((__bridge void*)item_.button); }
 
   private:
+    std::function<QString(std::optional<MenuBarModule>)> details_;
     NSStatusItem* item_;
     VantrixClickTarget* target_;
     NSMenu* menu_ = nil; ///< the last one shown: its chosen action may run after it has closed

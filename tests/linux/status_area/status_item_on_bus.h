@@ -34,13 +34,15 @@ class StatusItemOnBus : public ::testing::Test {
     using Item = FakeStatusHost::Item;
 
     void start() {
-        StatusItem::Handlers handlers{.clicked =
-                                          [this](const StatusClick& click) {
-                                              clicks.push_back(click.button);
-                                              modules.push_back(click.module);
-                                          },
-                                      .menu = [this] { return entries; },
-                                      .menuWillOpen = [this] { ++menusOpened; }};
+        StatusItem::Handlers handlers{
+            .clicked =
+                [this](const StatusClick& click) {
+                    clicks.push_back(click.button);
+                    modules.push_back(click.module);
+                },
+            .menu = [this] { return entries; },
+            .details = [](auto module) { return module ? QString() : QStringLiteral("details"); },
+            .menuWillOpen = [this] { ++menusOpened; }};
         item = std::make_unique<LinuxStatusItem>(std::move(handlers), defaults, appearance, surroundings);
         item->show(rowOf(12));
     }

@@ -140,6 +140,7 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 @property NSRect frame;
 @property NSRect bounds;
 @property NSAutoresizingMaskOptions autoresizingMask;
+@property(nullable, copy) NSString* toolTip;
 - (instancetype)initWithFrame:(NSRect)frameRect NS_DESIGNATED_INITIALIZER;
 - (void)setFrameSize:(NSSize)newSize;
 - (void)addSubview:(NSView*)view;

@@ -1,0 +1,85 @@
+#include "app/status_details.h"
+
+#include "monitor/readings.h"
+#include "popover/reading_text.h"
+#include "support/localization.h"
+#include "views/view.h"
+
+namespace vantrix {
+namespace {
+
+QString line(const QString& label, const QString& value) {
+    return value.isEmpty() ? QString() : label + QStringLiteral(": ") + value;
+}
+
+/// Some hosts read tool tips as markup and some do not, so neither escaping nor leaving as it is suits all. A network's
+/// name may hold anything.
+QString withoutMarkup(QString text) {
+    return text.replace(u'<', u'\u2039').replace(u'>', u'\u203a').replace(u'&', u'\uff06').simplified();
+}
+
+QString memoryLine(const Readings& readings) {
+    const MemorySample& memory = readings.memory;
+    if (memory.total == 0)
+        return {};
+    return line(localizedText("Memory"),
+                memoryText(usedMemory(memory)) + u' ' + localizedText("of %@", memoryText(memory.total)));
+}
+
+QString networkLine(const Readings& readings) {
+    return line(localizedText("Network"),
+                withoutMarkup(QString::fromStdString(readings.networkInfo.ssid.value_or(std::string()))));
+}
+
+QString diskLine(const Readings& readings) {
+    const DiskSample& disk = readings.disk;
+    if (disk.total == 0)
+        return {};
+    const std::string free = formatted(localized("%@ free of %@"),
+                                       {byteText(disk.available).toStdString(), byteText(disk.total).toStdString()});
+    return line(localizedText("Disk"), QString::fromStdString(free));
+}
+
+QString temperatureLine(const Readings& readings) {
+    const SensorsSample& sensors = readings.sensors;
+    const std::pair<std::string_view, std::optional<double>> named[] = {
+        {"CPU", sensors.cpu}, {"GPU", sensors.gpu}, {"SoC", sensors.soc}, {"SSD", sensors.ssd}};
+    QStringList texts;
+    for (const auto& [name, celsius] : named)
+        if (celsius)
+            texts += QString::fromStdString(localized(name)) + u' ' + temperatureText(*celsius);
+    return line(localizedText("Temperature"), texts.join(QStringLiteral(" · ")));
+}
+
+QString powerLine(const Readings& readings) {
+    const SensorsSample& sensors = readings.sensors;
+    if (sensors.systemPower)
+        return line(localizedText("System power"), powerText(*sensors.systemPower));
+    if (sensors.components && sensors.components->cpu)
+        return line(localizedText("CPU power"), powerText(*sensors.components->cpu));
+    return {};
+}
+
+struct Detail {
+    MenuBarModule module;
+    QString (*text)(const Readings&);
+};
+
+constexpr Detail details[] = {{MenuBarModule::memory, memoryLine},
+                              {MenuBarModule::network, networkLine},
+                              {MenuBarModule::disk, diskLine},
+                              {MenuBarModule::temperature, temperatureLine},
+                              {MenuBarModule::temperature, powerLine}};
+
+} // namespace
+
+QString statusDetails(const Readings& readings, std::optional<MenuBarModule> module) {
+    QStringList lines;
+    for (const Detail& detail : details)
+        if (!module || *module == detail.module)
+            lines += detail.text(readings);
+    lines.removeAll(QString());
+    return lines.join(u'\n');
+}
+
+} // namespace vantrix
