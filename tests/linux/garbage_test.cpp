@@ -8,7 +8,7 @@
 #include "linux/network/link_messages.h"
 #include "linux/network/proc_net_route.h"
 #include "linux/network/route_messages.h"
-#include "linux/power_supply/power_supply_accessories.h"
+#include "linux/power_supply/accessory_name.h"
 #include "linux/processor/cpu_topology.h"
 #include "linux/processor/processor_brand.h"
 #include "monitor/samplers.h"

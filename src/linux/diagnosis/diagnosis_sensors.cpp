@@ -2,7 +2,7 @@
 
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/kernel/device_rest.h"
-#include "linux/power_supply/power_supply_accessories.h"
+#include "linux/power_supply/accessory_name.h"
 #include "linux/sensors/hwmon_chips.h"
 #include "linux/sensors/supply_kind.h"
 #include "linux/sensors/temperature_names.h"

@@ -6,7 +6,6 @@
 #include "accessories/accessory_symbol.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
-#include "linux/power_supply/power_supply_accessories.h"
 #include "linux/sensors/sensor_files.h"
 #include "support/ascii_case.h"
 #include "support/localization.h"
@@ -34,6 +33,15 @@ bool hasLetter(std::string_view word) {
         const char small = loweredASCII(c);
         return (small >= 'a' && small <= 'z') || static_cast<unsigned char>(c) >= 0x80;
     });
+}
+
+bool isAddressAt(std::string_view text) {
+    constexpr std::string_view pattern = "xx:xx:xx:xx:xx:xx";
+    constexpr std::string_view hex = "0123456789abcdefABCDEF";
+    return text.size() >= pattern.size() &&
+           std::equal(pattern.begin(), pattern.end(), text.begin(), [&](char expected, char c) {
+               return expected == ':' ? c == ':' : hex.find(c) != std::string_view::npos;
+           });
 }
 
 bool isCommonWord(std::string_view word) {
@@ -83,6 +91,13 @@ std::string_view kindOf(std::string_view entry) {
 }
 
 } // namespace
+
+std::string findAddress(std::string_view text) {
+    constexpr std::size_t length = 17;
+    while (text.size() >= length && !isAddressAt(text))
+        text.remove_prefix(1);
+    return text.size() >= length ? raisedASCII(text.substr(0, length)) : std::string();
+}
 
 std::string tellingName(std::string_view reported) {
     std::string name;

@@ -12,6 +12,9 @@ struct AccessoryName {
     bool isOwn = true;  ///< false for its kind, in the language of the interface
 };
 
+/// The Bluetooth address somewhere in `text`, in capitals; empty when there is none.
+std::string findAddress(std::string_view text);
+
 /// The part of a reported name that tells people something: "Stylus" of "ELAN9008:00 04F3:2A1C Stylus". Empty when
 /// there is none, as in "hidpp_battery_0" and "HID 256c:006d".
 std::string tellingName(std::string_view reported);

@@ -1,6 +1,5 @@
 #include "linux/power_supply/power_supply_accessories.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -9,7 +8,6 @@
 #include "linux/power_supply/accessory_name.h"
 #include "linux/sensors/sensor_files.h"
 #include "linux/sensors/supply_kind.h"
-#include "support/ascii_case.h"
 #include "support/integer.h"
 
 namespace vantrix {
@@ -45,23 +43,7 @@ bool isThere(const std::string& supply) {
     return readName(supply + "/online") != "0" && readName(supply + "/present") != "0";
 }
 
-bool isAddressAt(std::string_view text) {
-    constexpr std::string_view pattern = "xx:xx:xx:xx:xx:xx";
-    constexpr std::string_view hex = "0123456789abcdefABCDEF";
-    return text.size() >= pattern.size() &&
-           std::equal(pattern.begin(), pattern.end(), text.begin(), [&](char expected, char c) {
-               return expected == ':' ? c == ':' : hex.find(c) != std::string_view::npos;
-           });
-}
-
 } // namespace
-
-std::string findAddress(std::string_view text) {
-    constexpr std::size_t length = 17;
-    while (text.size() >= length && !isAddressAt(text))
-        text.remove_prefix(1);
-    return text.size() >= length ? raisedASCII(text.substr(0, length)) : std::string();
-}
 
 AccessoriesSampler::Scan PowerSupplyAccessories::scan() {
     Scan scan;
