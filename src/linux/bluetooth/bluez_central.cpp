@@ -85,7 +85,7 @@ Bluetooth makeBluetooth() {
     const auto address = systemBusAddress();
     if (!address)
         return {};
-    const auto watch = std::make_shared<BluezWatch>(*address);
+    const auto watch = std::make_shared<BluezWatch>(std::make_shared<BusLink>(address));
     return {std::make_unique<BluezCentral>(watch), std::make_unique<BluezClassicDevices>(watch),
             std::make_unique<QtRepeatingTimer>()};
 }

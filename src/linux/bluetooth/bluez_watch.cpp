@@ -10,8 +10,6 @@
 #include <QDBusPendingReply>
 #include <QTimer>
 
-#include "linux/services/bus_probe.h"
-
 namespace vantrix {
 namespace {
 
@@ -22,7 +20,6 @@ const QString propertiesSignal = QStringLiteral("PropertiesChanged");
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 
-constexpr std::chrono::seconds busPatience{2};
 constexpr int usualTimeout = -1;
 // Nobody would ask again, so the objects of a slow service may come at any time.
 constexpr int noTimeout = std::numeric_limits<int>::max();
@@ -36,28 +33,17 @@ const QStringList& followedInterfaces() {
 
 } // namespace
 
-BluezWatch::BluezWatch(const QString& address, std::chrono::milliseconds retry) : retry_(retry) {
-    const auto made = std::make_shared<std::unique_ptr<BusConnection>>();
-    runner_.run(
-        [made, address] {
-            if (busAnswers(address, busPatience))
-                *made = std::make_unique<BusConnection>(address);
-        },
-        [this, made] {
-            connection_ = std::move(*made);
-            takeBus();
-        });
+BluezWatch::BluezWatch(std::shared_ptr<BusLink> link, std::chrono::milliseconds retry)
+    : link_(std::move(link)), retry_(retry) {
+    link_->whenConnected(this, [this](QDBusConnection& bus) { takeBus(bus); });
+    connect(link_.get(), &BusLink::disconnected, this, [this] { follow({}); });
 }
 
-void BluezWatch::takeBus() {
-    if (!connection_ || !connection_->isConnected())
-        return settle(Phase::absent);
+void BluezWatch::takeBus(QDBusConnection& bus) {
+    settle(Phase::starting);
     // Without the service's name as the sender: the toolkit would wait for the bus to say who owns it.
-    connection_->bus().connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName},
-                               QString(), this, SLOT(ownerChanged(QString, QString, QString)));
-    connection_->bus().connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-                               QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
-                               SLOT(disconnected()));
+    bus.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName}, QString(), this,
+                SLOT(ownerChanged(QString, QString, QString)));
     auto message = QDBusMessage::createMethodCall(busName, busPath, busName, QStringLiteral("GetNameOwner"));
     message << serviceName;
     call(message, usualTimeout, [this](const QDBusMessage& reply) {
@@ -72,19 +58,15 @@ void BluezWatch::ownerChanged(const QString&, const QString&, const QString& new
         follow(newOwner);
 }
 
-void BluezWatch::disconnected() {
-    follow({});
-}
-
 void BluezWatch::follow(const QString& owner) {
     if (!owner_.isEmpty())
         forgetOwner();
     owner_ = owner;
     if (owner_.isEmpty())
         return settle(Phase::absent);
+    QDBusConnection& bus = *link_->bus();
     phase_ = Phase::loading;
     // With the unique name as the sender, nobody else's signals arrive.
-    QDBusConnection& bus = connection_->bus();
     bus.connect(owner_, QString(), managerInterface, QStringLiteral("InterfacesAdded"), this,
                 SLOT(interfacesAdded(QDBusMessage)));
     bus.connect(owner_, QString(), managerInterface, QStringLiteral("InterfacesRemoved"), this,
@@ -96,14 +78,15 @@ void BluezWatch::follow(const QString& owner) {
 }
 
 void BluezWatch::forgetOwner() {
-    QDBusConnection& bus = connection_->bus();
-    bus.disconnect(owner_, QString(), managerInterface, QStringLiteral("InterfacesAdded"), this,
-                   SLOT(interfacesAdded(QDBusMessage)));
-    bus.disconnect(owner_, QString(), managerInterface, QStringLiteral("InterfacesRemoved"), this,
-                   SLOT(interfacesRemoved(QDBusMessage)));
-    for (const QString& interface : followedInterfaces())
-        bus.disconnect(owner_, QString(), propertiesInterface, propertiesSignal, {interface}, QString(), this,
-                       SLOT(propertiesChanged(QDBusMessage)));
+    if (QDBusConnection* bus = link_->bus()) {
+        bus->disconnect(owner_, QString(), managerInterface, QStringLiteral("InterfacesAdded"), this,
+                        SLOT(interfacesAdded(QDBusMessage)));
+        bus->disconnect(owner_, QString(), managerInterface, QStringLiteral("InterfacesRemoved"), this,
+                        SLOT(interfacesRemoved(QDBusMessage)));
+        for (const QString& interface : followedInterfaces())
+            bus->disconnect(owner_, QString(), propertiesInterface, propertiesSignal, {interface}, QString(), this,
+                            SLOT(propertiesChanged(QDBusMessage)));
+    }
     for (const QString& path : QSet(followed_))
         unfollowCharacteristic(path);
     objects_.clear();
@@ -207,6 +190,8 @@ void BluezWatch::propertiesChanged(const QDBusMessage& signal) {
 }
 
 void BluezWatch::readCharacteristic(const QString& path, std::function<void(std::optional<QByteArray>)> take) {
+    if (owner_.isEmpty())
+        return take(std::nullopt);
     auto message = QDBusMessage::createMethodCall(owner_, path, bluez::gattCharacteristic, QStringLiteral("ReadValue"));
     message << QVariantMap();
     call(message, usualTimeout, [take = std::move(take)](const QDBusMessage& reply) {
@@ -219,8 +204,8 @@ void BluezWatch::followCharacteristic(const QString& path) {
     if (owner_.isEmpty() || followed_.contains(path))
         return;
     followed_.insert(path);
-    connection_->bus().connect(owner_, path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic},
-                               QString(), this, SLOT(propertiesChanged(QDBusMessage)));
+    link_->bus()->connect(owner_, path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic}, QString(),
+                          this, SLOT(propertiesChanged(QDBusMessage)));
     const auto message =
         QDBusMessage::createMethodCall(owner_, path, bluez::gattCharacteristic, QStringLiteral("StartNotify"));
     call(message, usualTimeout, [this, path, owner = owner_](const QDBusMessage& reply) {
@@ -230,14 +215,15 @@ void BluezWatch::followCharacteristic(const QString& path) {
 }
 
 void BluezWatch::unfollowCharacteristic(const QString& path) {
-    if (followed_.remove(path))
-        connection_->bus().disconnect(owner_, path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic},
-                                      QString(), this, SLOT(propertiesChanged(QDBusMessage)));
+    QDBusConnection* bus = link_->bus();
+    if (followed_.remove(path) && bus != nullptr)
+        bus->disconnect(owner_, path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic}, QString(),
+                        this, SLOT(propertiesChanged(QDBusMessage)));
 }
 
 void BluezWatch::call(QDBusMessage message, int timeout, std::function<void(const QDBusMessage&)> take) {
     message.setAutoStartService(false);
-    auto* watcher = new QDBusPendingCallWatcher(connection_->bus().asyncCall(message, timeout), this);
+    auto* watcher = new QDBusPendingCallWatcher(link_->bus()->asyncCall(message, timeout), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [take = std::move(take)](QDBusPendingCallWatcher* done) {
         done->deleteLater();
         take(done->reply());

@@ -10,8 +10,7 @@
 
 #include "accessories/bluetooth_central.h"
 #include "linux/bluetooth/bluez_objects.h"
-#include "linux/services/session_bus.h"
-#include "monitor/task_runner.h"
+#include "linux/services/bus_link.h"
 
 namespace vantrix {
 
@@ -23,8 +22,7 @@ class BluezWatch : public QObject {
     /// How long to wait before asking for the objects again when that failed.
     static constexpr std::chrono::milliseconds usualRetry = std::chrono::minutes(1);
 
-    /// Connects to the bus at `address` on another thread.
-    explicit BluezWatch(const QString& address, std::chrono::milliseconds retry = usualRetry);
+    explicit BluezWatch(std::shared_ptr<BusLink> link, std::chrono::milliseconds retry = usualRetry);
 
     /// `unknown` until it is known whether the service runs. On when any adapter is.
     BluetoothState state() const;
@@ -43,7 +41,6 @@ class BluezWatch : public QObject {
 
   private Q_SLOTS:
     void ownerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
-    void disconnected();
     void interfacesAdded(const QDBusMessage& signal);
     void interfacesRemoved(const QDBusMessage& signal);
     void propertiesChanged(const QDBusMessage& signal);
@@ -51,7 +48,7 @@ class BluezWatch : public QObject {
   private:
     enum class Phase { starting, absent, loading, denied, loaded };
 
-    void takeBus();
+    void takeBus(QDBusConnection& bus);
     void follow(const QString& owner);
     void forgetOwner();
     void load();
@@ -62,14 +59,13 @@ class BluezWatch : public QObject {
     void unfollowCharacteristic(const QString& path);
     void call(QDBusMessage message, int timeout, std::function<void(const QDBusMessage&)> take);
 
+    std::shared_ptr<BusLink> link_;
     std::chrono::milliseconds retry_;
-    std::unique_ptr<BusConnection> connection_; ///< null while the bus does not answer
-    QString owner_;                             ///< unique name; empty while there is none
+    QString owner_; ///< unique name; empty while there is none
     Phase phase_ = Phase::starting;
     BluetoothState announced_ = BluetoothState::unknown;
     BluezObjects objects_;
     QSet<QString> followed_;
-    ThreadTaskRunner runner_; // last: it uses what stands above
 };
 
 } // namespace vantrix

@@ -65,15 +65,14 @@ void BusLink::take(std::unique_ptr<BusConnection> made) {
 }
 
 void BusLink::lose() {
-    if (!std::exchange(isConnected_, false))
-        return;
-    tryAgain();
-    Q_EMIT disconnected();
+    if (std::exchange(isConnected_, false))
+        tryAgain();
 }
 
 void BusLink::tryAgain() {
     retry_.start(pause_ * (1 << std::min(failures_, mostDoublings)));
     ++failures_;
+    Q_EMIT disconnected();
 }
 
 std::shared_ptr<BusLink> sharedSessionBus() {

@@ -35,6 +35,7 @@ class BusLink : public QObject {
 
   Q_SIGNALS:
     void connected();
+    /// There is no connection: it was lost, or an attempt to make one has failed.
     void disconnected();
 
   private Q_SLOTS:

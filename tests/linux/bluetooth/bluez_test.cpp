@@ -50,7 +50,8 @@ class BluezTest : public testing::Test {
   protected:
     /// Starts reading, with a timer that the test fires.
     void read(std::chrono::milliseconds retry = BluezWatch::usualRetry) {
-        auto watch = std::make_shared<BluezWatch>(bus.address(), retry);
+        auto link = std::make_shared<BusLink>(bus.address(), std::chrono::milliseconds(5));
+        auto watch = std::make_shared<BluezWatch>(std::move(link), retry);
         auto ownTimer = std::make_unique<fakes::FakeTimer>();
         timer = ownTimer.get();
         reader = std::make_unique<BluetoothBatteryReader>(
@@ -144,6 +145,12 @@ TEST_F(BluezTest, SaysWhyThereIsNothing) {
                          "classic: "));
     bus.kill();
     ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
+    bus.start(); // with another daemon
+    FakeBluez successor(bus.address());
+    ASSERT_TRUE(successor.appear());
+    successor.put(adapterPath, bluez::adapter, powered(true));
+    ASSERT_TRUE(saysSoon("on, 0 with battery service | classic: "));
+    bus.kill();
     read(); // without a bus from the start
     ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
 }

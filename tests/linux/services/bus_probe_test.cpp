@@ -47,7 +47,7 @@ TEST(BusAnswers, TellsDaemonsThatWorkFromThoseThatDoNot) {
 TEST(BluezWatchTest, AMuteSystemBusHoldsUpNoOtherConnection) {
     const MuteBus mute;
     const PrivateBus bus;
-    BluezWatch watch(mute.address());
+    BluezWatch watch(std::make_shared<BusLink>(mute.address()));
     EXPECT_TRUE(BusConnection(bus.address()).isConnected());
     EXPECT_TRUE(spinUntil([&] { return watch.state() == BluetoothState::unsupported; }));
 }
