@@ -82,6 +82,7 @@ Readings demoReadings() {
     readings.disk = {500'000'000'000, 186'000'000'000, 31'000'000.0, 9'400'000.0};
     readings.gpu = 0.21;
     readings.sensors = demoSensors();
+    readings.activeComponents = *readings.sensors.components;
     readings.battery = BatterySample{82, false, false, 410, 142, 96, 31.0, 6.2};
     readings.accessories = {{localized("Keyboard"), 90, false, "keyboard"},
                             {localized("Mouse"), 64, false, "computermouse"},

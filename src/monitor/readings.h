@@ -33,6 +33,7 @@ struct Readings {
     DiskSample disk;
     std::optional<double> gpu; ///< load fraction; absent on machines without a readable GPU
     SensorsSample sensors;
+    ComponentPower activeComponents;      ///< of the sensors, those that drew power within the length of a history
     std::optional<BatterySample> battery; ///< absent on machines without one
     std::vector<AccessoryBattery> accessories;
     std::string accessoriesDiagnostics; ///< how the last accessory scans went, for a bug report
@@ -58,6 +59,7 @@ enum class Reading {
     disk,
     gpu,
     sensors,
+    activeComponents,
     battery,
     accessories,
     accessoriesDiagnostics,

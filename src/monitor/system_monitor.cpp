@@ -140,6 +140,8 @@ void SystemMonitor::sampleGPU() {
 void SystemMonitor::sampleSensors() {
     const SensorsSample& sample = samplers_.sensors.sample();
     store(&Readings::sensors, sample, Reading::sensors);
+    if (sample.components)
+        store(&Readings::activeComponents, activeComponents_.among(*sample.components), Reading::activeComponents);
     if (sample.cpu)
         appendTo(&Readings::cpuTemperatureHistory, *sample.cpu, Reading::cpuTemperatureHistory);
     if (sample.systemPower)

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include "accessories/bluetooth_battery_reader.h"
+#include "monitor/active_components.h"
 #include "monitor/qt_repeating_timer.h"
 #include "monitor/readings.h"
 #include "monitor/samplers.h"
@@ -78,6 +79,7 @@ class SystemMonitor : public QObject {
     LocationAccess location_;
 
     Readings readings_;
+    ActiveComponents activeComponents_;
     std::unique_ptr<RepeatingTimer> timer_;
     std::unique_ptr<TaskRunner> background_;
     bool isScheduled_ = false;

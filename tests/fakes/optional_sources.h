@@ -16,6 +16,7 @@ struct OptionalSources {
     Properties gpu{{"Device Utilization %", std::int64_t{40}}};
     const Properties powerSource{{"Type", "InternalBattery"}, {"Current Capacity", std::int64_t{50}}};
     std::optional<double> temperature = 52.0;
+    std::int64_t gpuEnergy = 0; ///< that the GPU takes up in a pass, millijoules
     std::optional<std::string_view> route = "en0";
 
     void addTo(SamplingSources& sources) {
@@ -23,6 +24,7 @@ struct OptionalSources {
         sources.gpu = std::make_unique<Source>(*this);
         sources.temperatures = std::make_unique<Source>(*this);
         sources.sensorKeys = std::make_unique<Source>(*this);
+        sources.energy = std::make_unique<Source>(*this);
         sources.battery = std::make_unique<Source>(*this);
     }
 
@@ -32,6 +34,7 @@ struct OptionalSources {
                     GPUSampler::Source,
                     HIDTemperatureSampler::Source,
                     SensorKeys,
+                    IOReportSampler::Source,
                     BatterySampler::Source {
         explicit Source(OptionalSources& e) : extras(e) {}
 
@@ -59,6 +62,11 @@ struct OptionalSources {
         }
         std::optional<double> value(std::string_view key) override {
             return key == "PSTR" ? std::optional(9.5) : std::nullopt;
+        }
+        bool takeSnapshot() override { return true; }
+        bool readDifference(std::vector<IOReportSampler::Channel>& channels) override {
+            channels = {{"Energy Model", "GPU Energy", "mJ", extras.gpuEnergy}};
+            return true;
         }
         std::optional<std::span<const Properties>> powerSources() override {
             extras.asked.emplace_back("battery");

@@ -174,6 +174,24 @@ TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
     EXPECT_THAT(readings().gpuHistory, ElementsAre(0.4, 0.4));
 }
 
+TEST_F(SystemMonitorTest, AComponentIsActiveUntilItDrewNoPowerForAWholeHistory) {
+    fakes::OptionalSources extras;
+    auto sources = machine.makeSources();
+    extras.addTo(sources);
+    make(std::move(sources));
+    const auto gpuAfter = [&](std::int64_t energy, std::size_t passes) {
+        extras.gpuEnergy = energy;
+        while (passes-- > 0)
+            pass();
+        return readings().activeComponents.gpu;
+    };
+    EXPECT_EQ(gpuAfter(0, 3), std::nullopt);
+    EXPECT_EQ(gpuAfter(300, 1), 0.15);
+    EXPECT_EQ(gpuAfter(100, historyLength - 1), 0.05);
+    EXPECT_EQ(gpuAfter(100, 1), std::nullopt);
+    EXPECT_EQ(readings().sensors.components->gpu, 0.05);
+}
+
 TEST_F(SystemMonitorTest, ChangingTheIntervalReplacesARunningTimerOnly) {
     defaults.set(preference_key::updateInterval, 0.2);
     monitor->setInterval(3.0);

@@ -116,7 +116,7 @@ void SensorsCard::showReadings(const Readings& readings) {
     if (!available)
         return;
     showTemperatures(sensors);
-    showPowers(sensors);
+    showPowers(sensors, readings.activeComponents);
     showFans(sensors);
     all_ = sensors.all;
     showAll();
@@ -134,8 +134,7 @@ void SensorsCard::showTemperatures(const SensorsSample& sensors) {
     showTemperature(battery_, sensors.battery);
 }
 
-void SensorsCard::showPowers(const SensorsSample& sensors) {
-    const ComponentPower components = sensors.components.value_or(ComponentPower());
+void SensorsCard::showPowers(const SensorsSample& sensors, const ComponentPower& components) {
     systemPower_->showIfKnown(sensors.systemPower, powerText);
     adapterPower_->showIfKnown(sensors.adapterPower, powerText);
     cpuPower_->showIfKnown(components.cpu, powerText);

@@ -21,7 +21,7 @@ class SensorsCard : public Card {
     QLayout* makeTemperatures();
     QLayout* makePowers();
     void showTemperatures(const SensorsSample& sensors);
-    void showPowers(const SensorsSample& sensors);
+    void showPowers(const SensorsSample& sensors, const ComponentPower& components);
     void showFans(const SensorsSample& sensors);
     void showAll();
 
