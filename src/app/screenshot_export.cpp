@@ -117,6 +117,7 @@ class Export {
         log_.log(QStringLiteral("creo il monitor"));
         monitor_.loadDemo();
         log_.log(QStringLiteral("dati di esempio caricati"));
+        defaults_.set(preference_key::alertsEnabled, true); // or all of their page would be disabled
         drawAll(true);
         drawAll(false);
     }
