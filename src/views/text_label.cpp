@@ -80,8 +80,9 @@ void TextLabel::paintNumber(QPainter& painter, const QColor& color, const QFontM
     const double scale = std::min(1.0, width() / std::max(naturalWidth(), 1.0));
     const auto side = QStyle::visualAlignment(layoutDirection(), style_.side);
     const double spare = width() - naturalWidth() * scale;
+    const double baseline = (height() - metrics.height()) / 2.0 + metrics.ascent(); // as the toolkit centres text
     const double x = side & Qt::AlignRight ? spare : side & Qt::AlignHCenter ? spare / 2.0 : 0.0;
-    painter.translate(x, std::round((height() - metrics.height()) / 2.0 + metrics.ascent()));
+    painter.translate(x, baseline);
     painter.scale(scale, scale);
     theme().digits(style_.points, style_.weight).draw(painter, {}, text_.toStdString(), color);
 }
@@ -97,7 +98,7 @@ void TextLabel::paintEvent(QPaintEvent*) {
     painter.setPen(color);
     const auto alignment = QStyle::visualAlignment(layoutDirection(), style_.side);
     if (style_.wraps)
-        return painter.drawText(rect(), static_cast<int>(alignment | Qt::AlignTop) | Qt::TextWordWrap, text_);
+        return painter.drawText(rect(), static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextWordWrap, text_);
     // A little smaller is better than cut.
     const double scale = std::clamp(width() / std::max(naturalWidth(), 1.0), leastScale, 1.0);
     const QRectF room(0.0, 0.0, width() / scale, height() / scale);
