@@ -68,7 +68,9 @@ void BatteryCard::showBattery(const BatterySample& battery) {
     setSymbol(symbolOf(battery));
     setSubtitle(statusOf(battery));
     charge_->setText(QString::number(battery.percent) + u'%');
-    bar_->setSegments({{0, battery.percent / 100.0, colorOf(battery)}});
+    const ColorRole color = colorOf(battery);
+    charge_->setColor(color == &ThemeColors::green ? nullptr : color);
+    bar_->setSegments({{0, battery.percent / 100.0, color}});
 
     time_->setVisible(battery.minutesRemaining.has_value());
     if (battery.minutesRemaining) {

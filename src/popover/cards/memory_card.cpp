@@ -26,6 +26,12 @@ QString pressureLine(MemorySample::Pressure pressure) {
     return localizedText("Pressure: normal");
 }
 
+ColorRole colorOf(MemorySample::Pressure pressure) {
+    if (pressure == MemorySample::Pressure::normal)
+        return nullptr;
+    return pressure == MemorySample::Pressure::critical ? &ThemeColors::red : &ThemeColors::orange;
+}
+
 } // namespace
 
 MemoryCard::MemoryCard(const CardContext& context)
@@ -46,6 +52,7 @@ void MemoryCard::showReadings(const Readings& readings) {
     const MemorySample& memory = readings.memory;
     used_->setText(memoryText(usedMemory(memory)),
                    QStringLiteral("%@ ") + localizedText("of %@", memoryText(memory.total)));
+    used_->setColor(colorOf(memory.pressure));
     shares_->setSegments({{0, fractionOf(memory.app, memory.total), &ThemeColors::accent},
                           {1, fractionOf(memory.wired, memory.total), &ThemeColors::orange},
                           {2, fractionOf(memory.compressed, memory.total), &ThemeColors::purple}});

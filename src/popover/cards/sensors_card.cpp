@@ -23,10 +23,16 @@ ColorRole heatOf(double temperature) {
     return temperature >= warm ? &ThemeColors::orange : &ThemeColors::green;
 }
 
+void showHeat(StatRow* row, double temperature) {
+    const ColorRole heat = heatOf(temperature);
+    row->setMarker(heat);
+    row->setValueColor(heat == &ThemeColors::green ? nullptr : heat);
+}
+
 void showTemperature(StatRow* row, const std::optional<double>& temperature) {
     row->showIfKnown(temperature, temperatureText);
     if (temperature)
-        row->setMarker(heatOf(*temperature));
+        showHeat(row, *temperature);
 }
 
 QString cpuText(const SensorsSample& sensors) {
@@ -96,15 +102,14 @@ QLayout* SensorsCard::makeTemperatures() {
 }
 
 QLayout* SensorsCard::makePowers() {
-    const auto row = [this](const QString& label, ColorRole color) {
-        return new StatRow(theme(), label, StatRow::Lead::mark(color));
-    };
-    systemPower_ = row(localizedText("System power"), &ThemeColors::accent);
-    adapterPower_ = row(localizedText("Adapter input"), &ThemeColors::green);
-    cpuPower_ = row(localizedText("CPU power"), &ThemeColors::orange);
-    gpuPower_ = row(localizedText("GPU power"), &ThemeColors::red);
-    neuralPower_ = row(localizedText("Neural Engine"), &ThemeColors::purple);
-    memoryPower_ = row(localizedText("Memory (DRAM)"), &ThemeColors::green);
+    // Without marks: what is much depends on the machine, and a colour beside those of the temperatures would judge.
+    const auto row = [this](const QString& label) { return new StatRow(theme(), label, StatRow::Lead::room()); };
+    systemPower_ = row(localizedText("System power"));
+    adapterPower_ = row(localizedText("Adapter input"));
+    cpuPower_ = row(localizedText("CPU power"));
+    gpuPower_ = row(localizedText("GPU power"));
+    neuralPower_ = row(localizedText("Neural Engine"));
+    memoryPower_ = row(localizedText("Memory (DRAM)"));
     return columnOf({systemPower_, adapterPower_, cpuPower_, gpuPower_, neuralPower_, memoryPower_});
 }
 
@@ -126,7 +131,7 @@ void SensorsCard::showTemperatures(const SensorsSample& sensors) {
     cpu_->setVisible(sensors.cpu.has_value());
     if (sensors.cpu) {
         cpu_->setValue(cpuText(sensors));
-        cpu_->setMarker(heatOf(*sensors.cpu));
+        showHeat(cpu_, *sensors.cpu);
     }
     showTemperature(gpu_, sensors.gpu);
     showTemperature(soc_, sensors.soc);

@@ -74,15 +74,17 @@ void RingGauge::paintEvent(QPaintEvent*) {
     painter.drawEllipse(circle);
     painted_ = spring_.value();
     const double shown = std::clamp(painted_, 0.0, 1.0);
+    const ColorRole severity = thresholdColor(fraction_, defaults_);
     if (shown > 0.0) {
-        const QColor color = theme().colors().*thresholdColor(fraction_, defaults_);
-        painter.setPen(QPen(color, lineWidth_, Qt::SolidLine, shown < 1.0 ? Qt::RoundCap : Qt::FlatCap));
+        painter.setPen(
+            QPen(theme().colors().*severity, lineWidth_, Qt::SolidLine, shown < 1.0 ? Qt::RoundCap : Qt::FlatCap));
         painter.drawArc(circle, static_cast<int>(quarter), -static_cast<int>(std::lround(shown * fullCircle)));
     }
-    paintText(painter);
+    const ThemeColors& colors = theme().colors();
+    paintText(painter, severity == &ThemeColors::accent ? colors.label : colors.readable(colors.*severity));
 }
 
-void RingGauge::paintText(QPainter& painter) const {
+void RingGauge::paintText(QPainter& painter, const QColor& color) const {
     const MonospacedFont& font = theme().digits(textSize, QFont::DemiBold);
     const std::string percentage = text().toStdString();
     // Large text must not run into the ring.
@@ -91,7 +93,7 @@ void RingGauge::paintText(QPainter& painter) const {
     painter.translate(width() / 2.0, height() / 2.0);
     painter.scale(scale, scale);
     const double baseline = std::round(font.capHeight() / 2.0);
-    font.draw(painter, {-font.width(percentage) / 2.0, baseline}, percentage, theme().colors().label);
+    font.draw(painter, {-font.width(percentage) / 2.0, baseline}, percentage, color);
 }
 
 } // namespace vantrix

@@ -35,7 +35,7 @@ class RingGauge : public View {
     void hideEvent(QHideEvent* event) override;
 
   private:
-    void paintText(QPainter& painter) const;
+    void paintText(QPainter& painter, const QColor& color) const;
 
     const UserDefaults& defaults_;
     double lineWidth_;
