@@ -57,12 +57,15 @@ FormRow::Plan FormRow::plan(int width) const {
     const int captionWidth = beside ? roomBeside : room;
     const int captionHeight = caption_->heightForWidth(captionWidth);
     const int textHeight = std::max(captionHeight, mark.height());
-    const int line = std::max(textHeight + 2 * padding, beside ? std::max(control.height() + 2, usual) : usual);
+    int line = std::max(textHeight + 2 * padding, beside ? std::max(control.height() + 2, usual) : usual);
+    if (beside)
+        line += (line - control.height()) % 2; // or the middle of the control would be half a point higher
     const int controlWidth = std::min(control.width(), end - sidePadding + focusMargin);
     const int controlTop =
         beside ? centred(line, control.height()) : centred(line, textHeight) + textHeight + stackedGap;
     return {.mark = {QPoint(sidePadding, centred(line, mark.height())), mark},
-            .caption = {start, centred(line, captionHeight), captionWidth, captionHeight},
+            .caption = beside ? QRect(start, 0, captionWidth, line)
+                              : QRect(start, centred(line, captionHeight), captionWidth, captionHeight),
             .control = {end - controlWidth, controlTop, controlWidth, control.height()},
             .height = beside ? line : controlTop + control.height() + padding - focusMargin};
 }

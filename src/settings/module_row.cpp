@@ -163,7 +163,8 @@ void ModuleRow::paintEvent(QPaintEvent*) {
         painter.drawRoundedRect(QRectF(rect()).adjusted(4.5, 0.5, -4.5, -0.5), 8.0, 8.0);
     }
     painter.setPen(Qt::NoPen);
-    painter.setBrush(withAlpha(colors.label, underMouse() || lifted_ ? 0.5 : 0.28));
+    const QColor handle = withAlpha(colors.label, underMouse() || lifted_ ? 0.5 : 0.28);
+    painter.setBrush(colors.areHighContrast() ? colors.outline : handle);
     const double top = height() / 2.0 - handleStep - handleDot / 2.0;
     for (int line = 0; line < 3; ++line)
         for (int column = 0; column < 2; ++column)

@@ -149,10 +149,10 @@ double StatRow::baseline(const QRectF& line) const {
 }
 
 void StatRow::paintLead(QPainter& painter) const {
-    // Beside the first line, centred on its letters.
+    // Beside the first line, centred on its letters, most of which are small: of two places the lower one.
     const QRectF line(0.0, 0.0, 0.0, std::min<double>(metricsOf(theme()).height(), height()));
     const double side = lead_.symbol.empty() ? markerSide : leadWidth() - spacing;
-    const double top = std::round(baseline(line) - (theme().digits(textSize).capHeight() + side) / 2.0);
+    const double top = std::ceil(baseline(line) - (theme().digits(textSize).capHeight() + side) / 2.0);
     const QRect place(0, static_cast<int>(top), static_cast<int>(side), static_cast<int>(side));
     if (!lead_.symbol.empty())
         return paintSymbol(painter, lead_.symbol, QStyle::visualRect(layoutDirection(), rect(), place),
