@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QFontMetricsF>
 #include <QPainter>
 
 #include "views/theme.h"
@@ -65,13 +64,13 @@ double Headline::naturalWidth() const {
 }
 
 QSize Headline::sizeHint() const {
-    const QFontMetricsF metrics(theme().font(largeSize, QFont::DemiBold));
+    const QFontMetricsF& metrics = theme().measure(largeSize, QFont::DemiBold).metrics();
     return {static_cast<int>(std::ceil(naturalWidth())), static_cast<int>(std::ceil(metrics.height()))};
 }
 
 void Headline::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QFontMetricsF metrics(theme().font(largeSize, QFont::DemiBold));
+    const QFontMetricsF& metrics = theme().measure(largeSize, QFont::DemiBold).metrics();
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
     const double scale = std::min(1.0, QWidget::width() / std::max(naturalWidth(), 1.0));
     painter.translate(mirrored ? QWidget::width() : 0.0, std::round(metrics.ascent()));

@@ -175,25 +175,29 @@ void PopoverView::refresh() {
     isScheduled_ = false;
     if (!isVisible())
         return;
-    placeCards();
-    for (const auto& [card, view] : cards_)
-        view->showReadings(monitor_.readings());
+    // Else every card that appears would lay all of them out.
+    column_->setEnabled(false);
+    showCards(monitor_.readings());
+    column_->setEnabled(true);
 }
 
-void PopoverView::placeCards() {
+void PopoverView::showCards(const Readings& readings) {
     const NameSet chosen = visibleCards(context_.defaults);
     emptySelection_->setVisible(chosen.empty());
     int place = 1; // below the words for an empty selection
     for (const CardKind& kind : cardKinds) {
-        const bool wanted =
-            contains(chosen, choiceOf(popoverCards, kind.card).rawValue) && kind.applies(monitor_.readings());
+        const bool wanted = contains(chosen, choiceOf(popoverCards, kind.card).rawValue) && kind.applies(readings);
         const auto present = cards_.find(kind.card);
-        if (wanted && present == cards_.end()) {
+        if (wanted && present != cards_.end()) {
+            present->second->showReadings(readings);
+        } else if (wanted) {
             Card* card = kind.make(context_);
+            card->showReadings(readings); // while nothing is laid out
             column_->insertWidget(place, card);
             card->show(); // now, not when the layout gets to it
             cards_[kind.card] = card;
-        } else if (!wanted && present != cards_.end()) {
+        } else if (present != cards_.end()) {
+            column_->removeWidget(present->second); // a layout that is off would not notice
             delete present->second;
             cards_.erase(present);
         }

@@ -45,7 +45,7 @@ class PopoverView : public View {
     void addScrollKeys(QScrollBar& bar);
     void scheduleRefresh();
     void refresh();
-    void placeCards();
+    void showCards(const Readings& readings);
 
     const SystemMonitor& monitor_;
     CardContext context_;

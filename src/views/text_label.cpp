@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
 
@@ -41,14 +40,18 @@ QString TextLabel::accessibleText() const {
     return accessibleName().isEmpty() ? text_ : accessibleName();
 }
 
+const TextMeasure& TextLabel::measure() const {
+    return theme().measure(style_.points, style_.weight);
+}
+
 double TextLabel::naturalWidth() const {
     if (style_.monospaced)
         return theme().digits(style_.points, style_.weight).width(text_.toStdString());
-    return QFontMetricsF(theme().font(style_.points, style_.weight)).horizontalAdvance(text_);
+    return measure().width(text_);
 }
 
 QSize TextLabel::sizeHint() const {
-    const QFontMetricsF metrics(theme().font(style_.points, style_.weight));
+    const QFontMetricsF& metrics = measure().metrics();
     return QSizeF(std::ceil(naturalWidth()), std::ceil(metrics.height())).toSize();
 }
 
@@ -59,7 +62,7 @@ QSize TextLabel::minimumSizeHint() const {
 int TextLabel::heightForWidth(int width) const {
     if (!style_.wraps)
         return -1;
-    const QFontMetricsF metrics(theme().font(style_.points, style_.weight));
+    const QFontMetricsF& metrics = measure().metrics();
     const QRectF bounds = metrics.boundingRect(QRectF(0, 0, width, unbounded), Qt::TextWordWrap, text_);
     return static_cast<int>(std::ceil(std::max(bounds.height(), metrics.height())));
 }
@@ -90,11 +93,10 @@ void TextLabel::paintNumber(QPainter& painter, const QColor& color, const QFontM
 void TextLabel::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const QColor color = theme().colors().*(isEnabled() ? style_.color : &ThemeColors::disabled);
-    const QFont font = theme().font(style_.points, style_.weight);
-    const QFontMetricsF metrics(font);
+    const QFontMetricsF& metrics = measure().metrics();
     if (style_.monospaced)
         return paintNumber(painter, color, metrics);
-    painter.setFont(font);
+    painter.setFont(measure().font());
     painter.setPen(color);
     const auto alignment = QStyle::visualAlignment(layoutDirection(), style_.side);
     if (style_.wraps)

@@ -9,6 +9,8 @@ class QFontMetricsF;
 
 namespace vantrix {
 
+class TextMeasure;
+
 /// A text that takes as many lines as it needs or, where it has to stay on one, shrinks a little, then ends in an
 /// ellipsis and is shown whole in its tool tip.
 class TextLabel : public View {
@@ -41,6 +43,7 @@ class TextLabel : public View {
     void resizeEvent(QResizeEvent* event) override;
 
   private:
+    const TextMeasure& measure() const;
     double naturalWidth() const;
     void paintNumber(QPainter& painter, const QColor& color, const QFontMetricsF& metrics) const;
     void updateToolTip();

@@ -53,11 +53,15 @@ QPalette Theme::palette() const {
     return palette;
 }
 
-QFont Theme::font(double points, QFont::Weight weight) const {
-    QFont font(family_);
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(scaled(points)))));
-    font.setWeight(weight);
-    return font;
+const TextMeasure& Theme::measure(double points, QFont::Weight weight) const {
+    auto& measure = measures_[{points, weight}];
+    if (!measure) {
+        QFont font(family_);
+        font.setPixelSize(std::max(1, static_cast<int>(std::lround(scaled(points)))));
+        font.setWeight(weight);
+        measure = std::make_unique<TextMeasure>(font);
+    }
+    return *measure;
 }
 
 const MonospacedFont& Theme::digits(double points, QFont::Weight weight) const {
@@ -83,6 +87,7 @@ void Theme::refresh() {
     colors_ = colorsOf(appearance);
     family_ = family;
     textScale_ = textScale;
+    measures_.clear();
     digits_.clear();
     Q_EMIT changed();
 }

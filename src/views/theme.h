@@ -9,6 +9,7 @@
 
 #include "menubar/monospaced_font.h"
 #include "platform/appearance.h"
+#include "views/text_measure.h"
 #include "views/theme_colors.h"
 
 namespace vantrix {
@@ -34,7 +35,9 @@ class Theme : public QObject {
     QPalette palette() const;
 
     /// The system font; `points` at the usual text size.
-    QFont font(double points, QFont::Weight weight = QFont::Normal) const;
+    QFont font(double points, QFont::Weight weight = QFont::Normal) const { return measure(points, weight).font(); }
+    /// How large texts are in it. Stays valid until `changed`.
+    const TextMeasure& measure(double points, QFont::Weight weight = QFont::Normal) const;
     /// The same with digits of equal advance. Stays valid until `changed`.
     const MonospacedFont& digits(double points, QFont::Weight weight = QFont::Normal) const;
 
@@ -51,7 +54,9 @@ class Theme : public QObject {
     ThemeColors colors_;
     QString family_;
     double textScale_ = 1.0;
-    mutable std::map<std::pair<double, QFont::Weight>, std::unique_ptr<MonospacedFont>> digits_;
+    using Kind = std::pair<double, QFont::Weight>; // points at the usual text size
+    mutable std::map<Kind, std::unique_ptr<TextMeasure>> measures_;
+    mutable std::map<Kind, std::unique_ptr<MonospacedFont>> digits_;
 };
 
 } // namespace vantrix

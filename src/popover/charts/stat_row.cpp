@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QFontMetricsF>
 #include <QPainter>
 #include <QStyle>
 
@@ -22,8 +21,8 @@ constexpr double symbolGap = 4.0;
 constexpr double leadSymbolSide = 15.0;
 constexpr double unbounded = 1e6;
 
-QFontMetricsF metricsOf(const Theme& theme) {
-    return QFontMetricsF(theme.font(textSize));
+const QFontMetricsF& metricsOf(const Theme& theme) {
+    return theme.measure(textSize).metrics();
 }
 
 } // namespace
@@ -104,7 +103,7 @@ double StatRow::symbolWidth() const {
 }
 
 double StatRow::labelWidth() const {
-    return std::ceil(metricsOf(theme()).horizontalAdvance(label_));
+    return std::ceil(theme().measure(textSize).width(label_));
 }
 
 double StatRow::valueWidth() const {
@@ -119,7 +118,7 @@ bool StatRow::fitsOneLine(double width) const {
 int StatRow::wrapFlag(double width) const {
     const auto words = label_.split(u' ');
     const bool doAllFit = std::all_of(words.begin(), words.end(), [&](const QString& word) {
-        return metricsOf(theme()).horizontalAdvance(word) <= width;
+        return theme().measure(textSize).width(word) <= width;
     });
     return doAllFit ? Qt::TextWordWrap : Qt::TextWrapAnywhere;
 }
@@ -144,7 +143,7 @@ int StatRow::heightForWidth(int width) const {
 }
 
 double StatRow::baseline(const QRectF& line) const {
-    const QFontMetricsF metrics = metricsOf(theme());
+    const QFontMetricsF& metrics = metricsOf(theme());
     return std::round(line.top() + (line.height() - metrics.height()) / 2.0 + metrics.ascent());
 }
 
