@@ -55,6 +55,12 @@ class SystemMonitorTest : public ::testing::Test {
                          [this](Reading reading) { changes.push_back(reading); });
     }
 
+    void makeWithExtras() {
+        auto sources = machine.makeSources();
+        extras.addTo(sources);
+        make(std::move(sources));
+    }
+
     void pass(double seconds = 2.0) {
         machine.clock->now += seconds;
         if (machine.cpu->cores)
@@ -74,6 +80,7 @@ class SystemMonitorTest : public ::testing::Test {
     const Readings& readings() const { return monitor->readings(); }
 
     fakes::FakeMachine machine;
+    fakes::OptionalSources extras;
     fakes::FakeDefaults defaults;
     std::vector<ManualRunner::Task> tasks;
     std::vector<Reading> changes;
@@ -128,14 +135,6 @@ TEST_F(SystemMonitorTest, FailedReadsKeepWhatWasKnown) {
     EXPECT_THAT(readings().diskReadHistory, ElementsAre(0.0, 0.0, 0.0)); // a missing rate counts as none
 }
 
-TEST(History, KeepsTheNewestSixty) {
-    History history;
-    for (int i = 0; i < 61; ++i)
-        append(history, i);
-    EXPECT_EQ(history.size(), 60u);
-    EXPECT_EQ(history.back(), 60.0);
-}
-
 TEST_F(SystemMonitorTest, TellsOfEachReadingOnceAPassAndThenOfItsEnd) {
     monitor->start();
     pass();
@@ -150,10 +149,7 @@ TEST_F(SystemMonitorTest, TellsOfEachReadingOnceAPassAndThenOfItsEnd) {
 }
 
 TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
-    fakes::OptionalSources extras;
-    auto sources = machine.makeSources();
-    extras.addTo(sources);
-    make(std::move(sources));
+    makeWithExtras();
     pass();
     EXPECT_THAT(extras.asked, ElementsAre("connection", "gpu", "sensors", "battery"));
     EXPECT_EQ(readings().networkInfo.kind, NetworkInfo::Kind::ethernet);
@@ -174,22 +170,20 @@ TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
     EXPECT_THAT(readings().gpuHistory, ElementsAre(0.4, 0.4));
 }
 
-TEST_F(SystemMonitorTest, AComponentIsActiveUntilItDrewNoPowerForAWholeHistory) {
-    fakes::OptionalSources extras;
-    auto sources = machine.makeSources();
-    extras.addTo(sources);
-    make(std::move(sources));
+TEST_F(SystemMonitorTest, ForgetsWhatLiesSixtyPassesBack) {
+    makeWithExtras();
     const auto gpuAfter = [&](std::int64_t energy, std::size_t passes) {
         extras.gpuEnergy = energy;
         while (passes-- > 0)
             pass();
         return readings().activeComponents.gpu;
     };
-    EXPECT_EQ(gpuAfter(0, 3), std::nullopt);
+    EXPECT_EQ(gpuAfter(0, 3), std::nullopt) << "it draws nothing";
     EXPECT_EQ(gpuAfter(300, 1), 0.15);
-    EXPECT_EQ(gpuAfter(100, historyLength - 1), 0.05);
+    EXPECT_EQ(gpuAfter(100, 59), 0.05) << "as good as nothing, but only for 59 passes";
+    extras.temperature = 60.0;
     EXPECT_EQ(gpuAfter(100, 1), std::nullopt);
-    EXPECT_EQ(readings().sensors.components->gpu, 0.05);
+    EXPECT_THAT(readings().cpuTemperatureHistory, testing::AllOf(testing::SizeIs(60), testing::Contains(60.0)));
 }
 
 TEST_F(SystemMonitorTest, ChangingTheIntervalReplacesARunningTimerOnly) {

@@ -31,6 +31,19 @@ TEST_F(TextLabelTest, ACutTextTellsItselfInItsToolTip) {
     EXPECT_EQ(label.toolTip(), QString());
 }
 
+TEST_F(TextLabelTest, ANumberStandsOnTheBaselineOfATextBesideIt) {
+    const auto bottom = [this](const TextLabel::Style& style) {
+        TextLabel label(theme, style, QStringLiteral("7"));
+        label.resize(30, 24);
+        QImage image(60, 48, QImage::Format_RGB32);
+        image.setDevicePixelRatio(2.0);
+        image.fill(Qt::white);
+        label.render(&image, {}, {}, QWidget::DrawChildren);
+        return inkOf(image, Qt::white).bottom();
+    };
+    EXPECT_EQ(bottom({.points = 13.0, .monospaced = true}), bottom({.points = 13.0, .wraps = true}));
+}
+
 TEST_F(TextLabelTest, ANumberTooWideForItsRoomIsSetSmaller) {
     TextLabel label(theme, {.points = 20.0, .monospaced = true}, QStringLiteral("1234567.1"));
     const QSize half(label.sizeHint().width() / 2, label.sizeHint().height());
