@@ -22,7 +22,7 @@ accessories:accessories|support
 monitor:monitor|$rules|platform/sampling_sources.h|platform/bluetooth.h|platform/thread_priority.h|menubar/preferences.h
 menubar:menubar|monitor|support|samplers/memory_sampler.h|platform/system_symbols.h
 views:views|menubar|support|platform/appearance.h|platform/status_item.h|platform/desktop_services.h
-popover:popover|views|monitor|menubar|$rules|platform/status_item.h|platform/popover_window.h|platform/desktop_services.h
+popover:popover|views|monitor|menubar|$rules|platform/status_item.h|platform/popover_window.h|platform/popup_input.h|platform/desktop_services.h
 settings:settings|views|monitor|menubar|support|platform/login_item.h
 alerts:alerts|monitor|menubar|support|samplers|accessories|platform/notification_center.h
 widget:widget|monitor|menubar|support|samplers|accessories|platform/widget_center.h

@@ -9,6 +9,7 @@
 #include "app/status_details.h"
 #include "menubar/preferences.h"
 #include "platform/desktop_services.h"
+#include "platform/popup_input.h"
 #include "popover/popover_place.h"
 #include "support/localization.h"
 #include "support/user_defaults.h"
@@ -121,6 +122,8 @@ void AppDelegate::showMenu() {
         return;
     menu_ = makeMenu(entries);
     menu_->setPalette(theme_.palette());
+    menuInput_ = takeInput(statusItem_->placeIsKnown(), [this] { menu_->close(); });
+    connect(menu_.get(), &QMenu::aboutToHide, this, [this] { menuInput_.reset(); });
     menu_->popup(menuPlace(menu_->sizeHint(), statusItem_->anchor()));
 }
 

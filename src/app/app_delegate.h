@@ -88,6 +88,7 @@ class AppDelegate : public QObject {
     SettingsWindowController settings_;
     std::unique_ptr<StatusItem> statusItem_; // none until launch has finished
     std::unique_ptr<QMenu> menu_;            // the one that was shown last
+    std::shared_ptr<void> menuInput_;        // while it is open
 };
 
 } // namespace vantrix

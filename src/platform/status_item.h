@@ -65,6 +65,9 @@ class StatusItem {
     /// menu open beside it. Never null once something was shown.
     virtual QRect anchor() const = 0;
 
+    /// True when `anchor` is no guess.
+    virtual bool placeIsKnown() const { return false; }
+
     /// To be called for a click on the item that another window of the program took.
     virtual void click(const StatusClick& /*click*/) const {}
 

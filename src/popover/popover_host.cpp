@@ -1,6 +1,6 @@
 #include "popover/popover_host.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
 
 #include "popover/popover_place.h"
@@ -37,6 +37,7 @@ void PopoverHost::makeFrame() {
     QObject::connect(frame_.get(), &PopoverFrame::opening, frame_.get(), [this] { place(); });
     QObject::connect(frame_.get(), &PopoverFrame::contentChanged, frame_.get(), [this] { follow(); });
     QObject::connect(frame_.get(), &PopoverFrame::closed, &fade_, &QVariantAnimation::stop);
+    QObject::connect(frame_.get(), &PopoverFrame::closed, frame_.get(), [this] { input_.reset(); });
     QObject::connect(frame_.get(), &PopoverFrame::lostFocus, frame_.get(), [this] { sinceFocusLost_.start(); });
     QObject::connect(frame_.get(), &PopoverFrame::pressedOutside, frame_.get(),
                      [this](QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
@@ -90,9 +91,18 @@ void PopoverHost::show(const QRect& anchor) {
         fadeIn();
     else
         frame_->setWindowOpacity(1.0);
+    if (!input_)
+        input_ = display_.takeInput(item_ && item_->placeIsKnown(), [this] { inputLost(); });
     frame_->show();
+    frame_->raise();
     frame_->activateWindow();
     frame_->setFocus(Qt::PopupFocusReason);
+}
+
+void PopoverHost::inputLost() {
+    while (QWidget* popup = QApplication::activePopupWidget()) // a menu of the popover's first
+        popup->close();
+    sinceFocusLost_.start();
 }
 
 QScreen* PopoverHost::screen() const {

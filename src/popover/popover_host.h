@@ -11,6 +11,7 @@
 
 #include "platform/desktop_services.h"
 #include "platform/popover_window.h"
+#include "platform/popup_input.h"
 #include "platform/status_item.h"
 #include "popover/popover_frame.h"
 
@@ -24,6 +25,7 @@ class Theme;
 struct PopoverDisplay {
     std::function<bool()> canFade = windowsCanFade;
     std::function<bool()> isMousePressed = mouseIsPressed;
+    std::function<std::shared_ptr<void>(bool takesMouse, std::function<void()> lost)> takeInput = vantrix::takeInput;
 };
 
 /// The popover in a window of the toolkit's, which is made when it is first shown, and kept. It is as tall as its view
@@ -50,6 +52,7 @@ class PopoverHost : public PopoverWindow {
     void place();
     void follow();
     void fadeIn();
+    void inputLost();
     void closedByPress(QPoint place, const StatusClick& click);
     void watchMouse();
     bool isOfClosingClick(const QRect& anchor);
@@ -61,6 +64,7 @@ class PopoverHost : public PopoverWindow {
     const StatusItem* item_ = nullptr;   ///< that it was opened from
     std::optional<QPoint> closingPress_; ///< on the screen; forgotten soon after the button is released
     QElapsedTimer sinceFocusLost_;       ///< valid when that closed it
+    std::shared_ptr<void> input_;        ///< while it is open, where it has to be taken
     QTimer mouseTimer_;
     int ticksReleased_ = 0;
     QRect anchor_;           ///< the status item's rectangle when it was last shown

@@ -57,6 +57,10 @@ class PopoverHostTest : public ::testing::Test {
     bool canFade = false;
     bool isMousePressed = false;
     int asked = 0;
+    bool takesMouse = false;
+    int inputsTaken = 0;
+    std::function<void()> inputLost;
+    std::shared_ptr<int> input;
     int viewsMade = 0;
     QSpacerItem* height = new QSpacerItem(0, 500); // its view owns it
     QWidget* view = nullptr;
@@ -68,6 +72,11 @@ class PopoverHostTest : public ::testing::Test {
                       [this] {
                           ++asked;
                           return isMousePressed;
+                      },
+                      [this](bool mouse, std::function<void()> lost) {
+                          takesMouse = mouse;
+                          inputLost = std::move(lost);
+                          return input = std::make_shared<int>(++inputsTaken);
                       }}};
 };
 
@@ -117,6 +126,7 @@ TEST_F(PopoverHostTest, AClickActsOnWhatIsSeen) {
          },
          false},
         {"another window, the item's for one", [&] { send(QEvent::WindowDeactivate); }, true},
+        {"another window, on a display where the input had to be taken", [&] { inputLost(); }, true},
         {"Escape", [&] { press(window(), Qt::Key_Escape); }, false},
         {"Escape in a view", [&] { press(view, Qt::Key_Escape); }, false},
     };
@@ -125,6 +135,7 @@ TEST_F(PopoverHostTest, AClickActsOnWhatIsSeen) {
         host.show(anchor);
         row.close();
         EXPECT_FALSE(host.isShown());
+        EXPECT_EQ(input.use_count(), 1) << "it is let go of";
         if (row.isClick) {
             host.toggle(anchor);
             EXPECT_FALSE(host.isShown());
@@ -147,6 +158,7 @@ class PressedItem : public StatusItem {
   public:
     void show(const StatusContent&) override {}
     QRect anchor() const override { return {100, 0, 50, 22}; }
+    bool placeIsKnown() const override { return true; }
     void click(const StatusClick& click) const override { clicks.push_back(click.button); }
 
     mutable std::vector<StatusClick::Button> clicks;
@@ -158,6 +170,7 @@ TEST_F(PopoverHostTest, ARightClickOnTheItemIsPassedOn) {
                                         {anchor.center(), Qt::RightButton},
                                         {QPoint(900, 600), Qt::RightButton}}) {
         host.show(item);
+        EXPECT_TRUE(takesMouse) << "or a press on the item goes to the panel";
         press(place, button);
         EXPECT_FALSE(host.isShown());
     }

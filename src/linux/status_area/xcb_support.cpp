@@ -91,11 +91,29 @@ QImage imageOf(xcb_connection_t* connection, xcb_window_t window, const QRect& r
     return QImage(xcb_get_image_data(reply.get()), rect.width(), rect.height(), QImage::Format_RGB32).copy();
 }
 
+void setAtoms(xcb_connection_t* connection, xcb_window_t window, const QByteArray& property,
+              const std::vector<QByteArray>& names) {
+    std::vector<xcb_atom_t> values;
+    for (const QByteArray& name : names)
+        values.push_back(xcbAtom(connection, name));
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, xcbAtom(connection, property), XCB_ATOM_ATOM, 32,
+                        static_cast<std::uint32_t>(values.size()), values.data());
+}
+
 } // namespace
 
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size) {
     xcb_clear_area(connection, 0, window, 0, 0, 0, 0);
     return imageOf(connection, window, QRect(QPoint(0, 0), size));
+}
+
+void xcbFill(xcb_connection_t* connection, xcb_window_t window, std::uint32_t pixel) {
+    const xcb_gcontext_t context = xcb_generate_id(connection);
+    const xcb_rectangle_t everything{0, 0, INT16_MAX, INT16_MAX};
+    xcb_create_gc(connection, context, window, XCB_GC_FOREGROUND, &pixel);
+    xcb_poly_fill_rectangle(connection, window, context, 1, &everything);
+    xcb_free_gc(connection, context);
+    xcb_flush(connection);
 }
 
 std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& rect) {
@@ -110,14 +128,13 @@ std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& 
 }
 
 void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window) {
-    const auto set = [&](const QByteArray& property, const std::vector<xcb_atom_t>& values) {
-        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, xcbAtom(connection, property), XCB_ATOM_ATOM, 32,
-                            static_cast<std::uint32_t>(values.size()), values.data());
-    };
-    const auto atom = [&](const QByteArray& name) { return xcbAtom(connection, name); };
-    set("_NET_WM_WINDOW_TYPE", {atom("_NET_WM_WINDOW_TYPE_DOCK")});
-    set("_NET_WM_STATE", {atom("_NET_WM_STATE_ABOVE"), atom("_NET_WM_STATE_STICKY"), atom("_NET_WM_STATE_SKIP_TASKBAR"),
-                          atom("_NET_WM_STATE_SKIP_PAGER")});
+    setAtoms(connection, window, "_NET_WM_WINDOW_TYPE", {"_NET_WM_WINDOW_TYPE_DOCK"});
+    setAtoms(connection, window, "_NET_WM_STATE",
+             {"_NET_WM_STATE_ABOVE", "_NET_WM_STATE_STICKY", "_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"});
+}
+
+void xcbLeaveOutOfLists(xcb_connection_t* connection, xcb_window_t window) {
+    setAtoms(connection, window, "_NET_WM_STATE", {"_NET_WM_STATE_SKIP_TASKBAR", "_NET_WM_STATE_SKIP_PAGER"});
 }
 
 bool xcbIsMousePressed(xcb_connection_t* connection) {

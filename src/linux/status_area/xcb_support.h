@@ -47,6 +47,9 @@ QRect xcbVisibleRect(xcb_connection_t* connection, xcb_window_t window, const st
 /// read.
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size);
 
+/// Fills a window with one pixel value, which means what the window's visual makes of it.
+void xcbFill(xcb_connection_t* connection, xcb_window_t window, std::uint32_t pixel);
+
 /// The usual colour of what the screen shows in `rect`, in device pixels of the root window; absent when that cannot be
 /// read.
 std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& rect);
@@ -54,6 +57,9 @@ std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& 
 /// Makes window managers treat a window as a dock: on every desktop, above all windows but those that fill the screen,
 /// without an entry in task bars. To be called before the window is shown.
 void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window);
+
+/// Leaves a window out of task bars and lists of windows. To be called before the window is shown.
+void xcbLeaveOutOfLists(xcb_connection_t* connection, xcb_window_t window);
 
 /// True while any button of the mouse is held down.
 bool xcbIsMousePressed(xcb_connection_t* connection);

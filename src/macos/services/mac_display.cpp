@@ -5,6 +5,7 @@
 #include <CoreGraphics/CoreGraphics.h>
 
 #include "macos/kernel/cf_ref.h"
+#include "platform/popup_input.h"
 
 namespace vantrix {
 namespace {
@@ -42,6 +43,10 @@ bool windowsAreBlended() {
 
 bool mouseIsPressed() {
     return false; // nobody asks: the system's popover knows its own clicks
+}
+
+std::shared_ptr<void> takeInput(bool /*takesMouse*/, std::function<void()> /*lost*/) {
+    return nullptr;
 }
 
 bool windowsCanFade() {

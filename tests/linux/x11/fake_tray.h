@@ -80,6 +80,12 @@ class FakeTray {
         resizeIcon(rootRect(icon).size());
     }
 
+    /// Takes the keyboard away from whichever window has it.
+    void focusRoot() {
+        xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_NONE, screen_->root, XCB_CURRENT_TIME);
+        xcb_flush(connection_);
+    }
+
     bool isMapped(xcb_window_t window) const {
         const auto cookie = xcb_get_window_attributes(connection_, window);
         const XcbReply<xcb_get_window_attributes_reply_t> reply(

@@ -1,5 +1,6 @@
 #include <QApplication>
-#include <QMenu>
+#include <QScreen>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -49,6 +50,30 @@ TEST_F(PopoverOnScreen, OnlyAClickOutsideClosesIt) {
     press({-100, 300});
     EXPECT_TRUE(spinUntil([&] { return !host.isShown(); }));
     EXPECT_TRUE(spinUntil([&] { return !mouse.isMapped(window); }));
+}
+
+class Item : public StatusItem {
+  public:
+    void show(const StatusContent&) override {}
+    QRect anchor() const override { return {600, 0, 80, 22}; }
+    bool placeIsKnown() const override { return true; }
+};
+
+/// There the X server is asked for everything that it can give, as the compositor gives pop-ups nothing.
+TEST_F(PopoverOnScreen, UnderWaylandItTakesKeyboardAndMouse) {
+    host.close();
+    qputenv("WAYLAND_DISPLAY", "wayland-0");
+    const Item item;
+    host.show(item);
+    qunsetenv("WAYLAND_DISPLAY");
+    const QRect screen = QGuiApplication::primaryScreen()->geometry();
+    const auto windows = QGuiApplication::topLevelWindows();
+    EXPECT_TRUE(std::any_of(windows.begin(), windows.end(), [&](const QWindow* field) {
+        return field->isVisible() && field->geometry() == screen.adjusted(0, 0, 0, -1);
+    }));
+    ASSERT_TRUE(spinUntil([] { return QGuiApplication::focusWindow() != nullptr; }));
+    mouse.focusRoot();
+    EXPECT_TRUE(spinUntil([&] { return !host.isShown(); }));
 }
 
 } // namespace
