@@ -9,7 +9,7 @@ namespace {
 constexpr int screenMargin = 30;
 constexpr int leastHeight = 480;
 constexpr int heightWithoutScreen = 870;
-constexpr int gap = 4; // between the status item and the popover
+constexpr int gap = 8; // to the status item, its panel and the edges of the screen
 constexpr int highestPanel = 96;
 constexpr int panelMargin = 8; // around items in a panel; a strip on the desktop is further from the edge
 
@@ -55,41 +55,43 @@ std::size_t screenOf(const QRect& anchor, const std::vector<QRect>& screens) {
 }
 
 QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible) {
-    const int centredX = kept(anchor.center().x() - size.width() / 2, size.width(), visible.left(), visible.right());
-    const int besideY = kept(anchor.top(), size.height(), visible.top(), visible.bottom());
+    const QRect area = visible.adjusted(gap, gap, -gap, -gap);
+    const int centredX = kept(anchor.center().x() - size.width() / 2, size.width(), area.left(), area.right());
+    const int besideY = kept(anchor.top(), size.height(), area.top(), area.bottom());
     // An item is often thinner than the panel it lies in, whose edge then decides.
-    const QPoint below(centredX, std::max(anchor.bottom() + 1 + gap, visible.top()));
-    const QPoint above(centredX, std::min(anchor.top() - gap, visible.bottom() + 1) - size.height());
-    const QPoint right(std::max(anchor.right() + 1 + gap, visible.left()), besideY);
-    const QPoint left(std::min(anchor.left() - gap, visible.right() + 1) - size.width(), besideY);
+    const QPoint below(centredX, std::max(anchor.bottom() + 1 + gap, area.top()));
+    const QPoint above(centredX, std::min(anchor.top() - gap, area.bottom() + 1) - size.height());
+    const QPoint right(std::max(anchor.right() + 1 + gap, area.left()), besideY);
+    const QPoint left(std::min(anchor.left() - gap, area.right() + 1) - size.width(), besideY);
     const bool inSidePanel = anchor.right() < visible.left() || anchor.left() > visible.right();
     QRect place(QPoint(), size);
-    if (!inSidePanel && choose(place, below, above, visible))
+    if (!inSidePanel && choose(place, below, above, area))
         return place;
     // Some systems count the panel as visible area: the space that it leaves is then a little too short.
-    const int roomBelow = visible.bottom() + 1 - below.y();
-    const int roomAbove = anchor.top() - gap - visible.top();
+    const int roomBelow = area.bottom() + 1 - below.y();
+    const int roomAbove = std::min(anchor.top() - gap, area.bottom() + 1) - area.top();
     const int room = std::max(roomBelow, roomAbove);
     const bool inPanel = anchor.top() - visible.top() < panelMargin || visible.bottom() - anchor.bottom() < panelMargin;
     if (!inSidePanel && inPanel && room >= std::max(size.height() - highestPanel, leastHeight))
-        return {QPoint(centredX, roomBelow >= roomAbove ? below.y() : visible.top()), QSize(size.width(), room)};
-    if (choose(place, right, left, visible))
+        return {QPoint(centredX, roomBelow >= roomAbove ? below.y() : area.top()), QSize(size.width(), room)};
+    if (choose(place, right, left, area))
         return place;
-    return {QPoint(centredX, kept(below.y(), size.height(), visible.top(), visible.bottom())), size};
+    return {QPoint(centredX, kept(below.y(), size.height(), area.top(), area.bottom())), size};
 }
 
 QRect resizedPlace(const QRect& place, int height, const QRect& anchor, const QRect& visible) {
+    const QRect area = visible.adjusted(gap, gap, -gap, -gap);
     const bool isBelow = place.top() > anchor.bottom();
     const bool isAbove = place.bottom() < anchor.top();
-    const int room = isBelow   ? visible.bottom() + 1 - place.top()
-                     : isAbove ? place.bottom() + 1 - visible.top()
-                               : visible.height();
+    const int room = isBelow   ? area.bottom() + 1 - place.top()
+                     : isAbove ? place.bottom() + 1 - area.top()
+                               : area.height();
     QRect resized = place;
     resized.setHeight(std::min(height, std::max(room, place.height())));
     if (isAbove)
         resized.moveBottom(place.bottom());
     else if (!isBelow)
-        resized.moveTop(kept(anchor.top(), resized.height(), visible.top(), visible.bottom()));
+        resized.moveTop(kept(anchor.top(), resized.height(), area.top(), area.bottom()));
     return resized;
 }
 

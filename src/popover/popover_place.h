@@ -16,9 +16,9 @@ int popoverHeight(double visibleHeight, int contentHeight);
 /// Index of the screen that `anchor` is on, or the nearest one. `screens` is not empty.
 std::size_t screenOf(const QRect& anchor, const std::vector<QRect>& screens);
 
-/// Where a popover of `size` opens: below `anchor` where it fits, else above it, centred on it, else beside it. A
-/// little shorter where a panel takes some of the space. Wholly inside `visible` wherever that is large enough. Always
-/// beside an item that lies in a panel on the left or right.
+/// Where a popover of `size` opens: below `anchor` where it fits, else above it, centred on it, else beside it; 8
+/// points from `anchor` and the edges of `visible`. A little shorter where a panel takes some of the space. Wholly
+/// inside `visible` wherever that is large enough. Always beside an item that lies in a panel on the left or right.
 QRect popoverPlace(const QSize& size, const QRect& anchor, const QRect& visible);
 
 /// Where a popover that stands at `place` goes when it gets another height: it stays on its side of `anchor` and beside

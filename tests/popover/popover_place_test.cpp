@@ -13,7 +13,7 @@ TEST(PopoverHeight, LeavesAMarginButNeverBecomesUseless) {
         EXPECT_EQ(popoverHeight(1080.0, content), height);
 }
 
-TEST(PopoverPlace, StaysInTheVisibleAreaBesideTheItem) {
+TEST(PopoverPlace, KeepsAwayFromItemPanelAndEdges) {
     struct Case {
         const char* name;
         QSize size;
@@ -27,17 +27,17 @@ TEST(PopoverPlace, StaysInTheVisibleAreaBesideTheItem) {
     const QSize small(340, 200);
     const QSize tall(340, 670);
     const Case cases[] = {
-        {"below a top panel, centred", tall, {500, 0, 100, 30}, area, {379, 34}},
-        {"pushed in from the right edge", tall, {960, 0, 40, 30}, area, {660, 34}},
-        {"above a bottom panel", tall, {500, 730, 100, 30}, area, {379, 56}},
-        {"below a panel that is thicker than the item", tall, {500, 2, 100, 16}, area, {379, 30}},
-        {"right of a panel on the left", {340, 730}, {5, 400, 30, 22}, middle, {40, 30}},
-        {"left of a panel on the right", {340, 730}, {965, 20, 30, 22}, middle, {620, 20}},
-        {"beside a strip on the desktop", tall, {790, 38, 200, 30}, area, {446, 38}},
-        {"where nothing is free", {900, 670}, {400, 300, 200, 30}, area, {49, 60}},
-        {"an item on a screen to the left", {340, 964}, {-120, 794, 100, 30}, leftScreen, {-340, -174}},
-        {"higher than the area", {340, 480}, {500, 0, 100, 30}, {0, 30, 1000, 400}, {379, 30}},
-        {"an anchor off the screen", small, {-500, -500, 10, 10}, area, {0, 30}},
+        {"below a top panel, centred", tall, {500, 0, 100, 30}, area, {379, 38}},
+        {"pushed in from the right edge", tall, {960, 0, 40, 30}, area, {652, 38}},
+        {"above a bottom panel", tall, {500, 730, 100, 30}, area, {379, 52}},
+        {"below a panel that is thicker than the item", tall, {500, 2, 100, 16}, area, {379, 38}},
+        {"right of a panel on the left", {340, 730}, {5, 400, 30, 22}, middle, {48, 22}},
+        {"left of a panel on the right", {340, 730}, {965, 20, 30, 22}, middle, {612, 20}},
+        {"beside a strip on the desktop", tall, {790, 38, 200, 30}, area, {442, 38}},
+        {"where nothing is free", {900, 670}, {400, 300, 200, 30}, area, {49, 52}},
+        {"an item on a screen to the left", {340, 964}, {-120, 794, 100, 30}, leftScreen, {-348, -178}},
+        {"higher than the area", {340, 480}, {500, 0, 100, 30}, {0, 30, 1000, 400}, {379, 38}},
+        {"an anchor off the screen", small, {-500, -500, 10, 10}, area, {8, 38}},
     };
     for (const Case& c : cases)
         EXPECT_EQ(popoverPlace(c.size, c.anchor, c.visible), QRect(c.expected, c.size)) << c.name;
@@ -46,8 +46,8 @@ TEST(PopoverPlace, StaysInTheVisibleAreaBesideTheItem) {
 TEST(PopoverPlace, GetsLowerWhereAPanelIsCountedToTheVisibleArea) {
     const QRect screen(0, 0, 1920, 1080);
     const QSize size(340, popoverHeight(1080.0));
-    EXPECT_EQ(popoverPlace(size, {1700, 0, 100, 28}, screen), QRect(1579, 32, 340, 1048));
-    EXPECT_EQ(popoverPlace(size, {1700, 1050, 100, 30}, screen), QRect(1579, 0, 340, 1046));
+    EXPECT_EQ(popoverPlace(size, {1700, 0, 100, 28}, screen), QRect(1572, 36, 340, 1036));
+    EXPECT_EQ(popoverPlace(size, {1700, 1050, 100, 30}, screen), QRect(1572, 8, 340, 1034));
 }
 
 TEST(PopoverPlace, KeepsTheEdgeAtTheItemWhenItsHeightChanges) {
@@ -58,12 +58,12 @@ TEST(PopoverPlace, KeepsTheEdgeAtTheItemWhenItsHeightChanges) {
         QRect anchor;
         QRect expected;
     } cases[] = {
-        {"grows downwards", {379, 34, 340, 500}, 600, {500, 0, 100, 30}, {379, 34, 340, 600}},
-        {"as far as there is room", {379, 34, 340, 500}, 900, {500, 0, 100, 30}, {379, 34, 340, 696}},
-        {"grows upwards", {379, 226, 340, 500}, 600, {500, 730, 100, 30}, {379, 126, 340, 600}},
-        {"shrinks downwards", {379, 126, 340, 600}, 500, {500, 730, 100, 30}, {379, 226, 340, 500}},
+        {"grows downwards", {379, 38, 340, 500}, 600, {500, 0, 100, 30}, {379, 38, 340, 600}},
+        {"as far as there is room", {379, 38, 340, 500}, 900, {500, 0, 100, 30}, {379, 38, 340, 684}},
+        {"grows upwards", {379, 222, 340, 500}, 600, {500, 730, 100, 30}, {379, 122, 340, 600}},
+        {"shrinks downwards", {379, 122, 340, 600}, 500, {500, 730, 100, 30}, {379, 222, 340, 500}},
         {"beside", {446, 130, 340, 600}, 500, {790, 200, 200, 30}, {446, 200, 340, 500}},
-        {"beside, at the lower edge", {446, 200, 340, 500}, 600, {790, 200, 200, 30}, {446, 130, 340, 600}},
+        {"beside, at the lower edge", {446, 200, 340, 500}, 600, {790, 200, 200, 30}, {446, 122, 340, 600}},
     };
     for (const auto& c : cases)
         EXPECT_EQ(resizedPlace(c.place, c.height, c.anchor, {0, 30, 1000, 700}), c.expected) << c.name;

@@ -10,6 +10,7 @@ namespace vantrix {
 namespace {
 
 constexpr int itemSide = 22;
+constexpr int usualPanel = 32; // points; where the screen does not tell, as under most Wayland compositors
 constexpr int thickestPanel = 96; // points; beyond this a point is not on a panel
 
 // Qt keeps a screen's position in device pixels and scales its size only.
@@ -72,12 +73,12 @@ bool isOnScreenEdge(QPoint point) {
 QRect panelCorner(int width) {
     const QScreen* screen = QGuiApplication::primaryScreen();
     if (screen == nullptr)
-        return {0, 0, std::max(width, 1), itemSide};
+        return {0, 0, std::max(width, 1), usualPanel};
     const QRect whole = screen->geometry();
     const QRect free = screen->availableGeometry();
     const bool atBottom = free.top() == whole.top() && free.bottom() < whole.bottom();
     const int thickness = atBottom ? whole.bottom() - free.bottom() : free.top() - whole.top();
-    const int height = thickness > 0 ? thickness : itemSide;
+    const int height = thickness > 0 ? thickness : usualPanel;
     const int top = atBottom ? whole.bottom() + 1 - height : whole.top();
     width = std::clamp(width, 1, whole.width());
     return {whole.right() + 1 - width, top, width, height};

@@ -35,7 +35,7 @@ class PopoverOnScreen : public testing::Test {
 };
 
 TEST_F(PopoverOnScreen, StandsBelowTheItemWithItsCornersCutOff) {
-    EXPECT_TRUE(spinUntil([&] { return mouse.rootRect(window) == QRect(469, 26, 340, 480); }));
+    EXPECT_TRUE(spinUntil([&] { return mouse.rootRect(window) == QRect(469, 30, 340, 480); }));
     EXPECT_FALSE(view->window()->mask().contains(QPoint(0, 0)));
     EXPECT_TRUE(view->window()->mask().contains(QPoint(170, 0)));
     EXPECT_EQ(view->window()->windowOpacity(), 1.0) << "without a compositor there is nothing to fade";
