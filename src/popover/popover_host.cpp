@@ -10,10 +10,10 @@ namespace vantrix {
 namespace {
 
 constexpr int popoverWidth = 340;
-constexpr int fadeDuration = 120; // milliseconds
-constexpr qint64 sameClick = 300; // milliseconds from a click's press until a status area tells of it
-constexpr int mouseInterval = 20; // milliseconds
-constexpr int ticksUntilTold = 5; // from the release of a button until a status area has told of the click
+constexpr int fadeDuration = 120;  // milliseconds
+constexpr qint64 sameClick = 300;  // milliseconds from a click's press until a status area tells of it
+constexpr int mouseInterval = 20;  // milliseconds
+constexpr int ticksUntilTold = 15; // from the release of a button until a status area has told of the click
 
 } // namespace
 
@@ -58,11 +58,13 @@ void PopoverHost::closedByPress(QPoint place, const StatusClick& click) {
         item_->click(click);
 }
 
-/// Many status areas tell of a click when its button is released, which may be long after its press. What they tell of
-/// later is another click.
+/// Many status areas tell of a click when its button is released, which may be long after its press, and a busy one a
+/// little later. What they tell of after that, or when a button was pressed again, is another click.
 void PopoverHost::watchMouse() {
-    ticksReleased_ = display_.isMousePressed() ? 0 : ticksReleased_ + 1;
-    if (ticksReleased_ < ticksUntilTold)
+    const bool pressed = display_.isMousePressed();
+    const bool again = pressed && ticksReleased_ > 0;
+    ticksReleased_ = pressed ? 0 : ticksReleased_ + 1;
+    if (!again && ticksReleased_ < ticksUntilTold)
         return;
     mouseTimer_.stop();
     closingPress_.reset();
