@@ -122,6 +122,7 @@ void AppDelegate::showMenu() {
         return;
     menu_ = makeMenu(entries);
     menu_->setPalette(theme_.palette());
+    menu_->setFixedSize(menu_->sizeHint()); // or it becomes a tile on some Wayland compositors
     menuInput_ = takeInput(statusItem_->placeIsKnown(), [this] { menu_->close(); });
     connect(menu_.get(), &QMenu::aboutToHide, this, [this] { menuInput_.reset(); });
     menu_->popup(menuPlace(menu_->sizeHint(), statusItem_->anchor()));

@@ -31,6 +31,9 @@ PopoverHost::~PopoverHost() = default;
 
 void PopoverHost::makeFrame() {
     frame_ = std::make_unique<PopoverFrame>(theme_, makeView_());
+    // Compositors that lay out their windows like tiles leave those alone that cannot be made wider.
+    frame_->setFixedWidth(popoverWidth);
+    frame_->setMinimumHeight(1);
     QObject::connect(&fade_, &QVariantAnimation::valueChanged, frame_.get(),
                      [this](const QVariant& opacity) { frame_->setWindowOpacity(opacity.toDouble()); });
     QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, frame_.get(), &QWidget::hide);

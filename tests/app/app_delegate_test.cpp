@@ -94,6 +94,8 @@ TEST_F(AppDelegateTest, ClicksOpenWhatTheyShould) {
         delegate.showPopover();
         click(button, control);
         EXPECT_TRUE(menuIsOpen());
+        const QWidget* menu = QApplication::activePopupWidget();
+        EXPECT_EQ(menu->minimumSize(), menu->maximumSize()) << "a tiling compositor makes a tile of it";
         QApplication::activePopupWidget()->close();
         EXPECT_EQ(QApplication::activePopupWidget(), nullptr) << "the menu closes the popover first";
     }
