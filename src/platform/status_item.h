@@ -68,6 +68,9 @@ class StatusItem {
     /// True when `anchor` is no guess.
     virtual bool placeIsKnown() const { return false; }
 
+    /// To be called when the popover opens and closes: a tool tip of the panel's must not cover it.
+    virtual void popoverShown(bool /*shown*/) const {}
+
     /// To be called for a click on the item that another window of the program took.
     virtual void click(const StatusClick& /*click*/) const {}
 

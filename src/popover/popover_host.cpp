@@ -40,7 +40,11 @@ void PopoverHost::makeFrame() {
     QObject::connect(frame_.get(), &PopoverFrame::opening, frame_.get(), [this] { place(); });
     QObject::connect(frame_.get(), &PopoverFrame::contentChanged, frame_.get(), [this] { follow(); });
     QObject::connect(frame_.get(), &PopoverFrame::closed, &fade_, &QVariantAnimation::stop);
-    QObject::connect(frame_.get(), &PopoverFrame::closed, frame_.get(), [this] { input_.reset(); });
+    QObject::connect(frame_.get(), &PopoverFrame::closed, frame_.get(), [this] {
+        input_.reset();
+        if (item_)
+            item_->popoverShown(false);
+    });
     QObject::connect(frame_.get(), &PopoverFrame::lostFocus, frame_.get(), [this] { sinceFocusLost_.start(); });
     QObject::connect(frame_.get(), &PopoverFrame::pressedOutside, frame_.get(),
                      [this](QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
@@ -98,6 +102,8 @@ void PopoverHost::show(const QRect& anchor) {
         frame_->setWindowOpacity(1.0);
     if (!input_)
         input_ = display_.takeInput(item_ && item_->placeIsKnown(), [this] { inputLost(); });
+    if (item_)
+        item_->popoverShown(true);
     frame_->show();
     frame_->raise();
     frame_->activateWindow();

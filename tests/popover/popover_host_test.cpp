@@ -179,6 +179,9 @@ class PressedItem : public StatusItem {
     bool placeIsKnown() const override { return true; }
     void click(const StatusClick& click) const override { clicks.push_back(click.button); }
 
+    void popoverShown(bool now) const override { knowsItIsShown = now; }
+
+    mutable bool knowsItIsShown = false;
     mutable std::vector<StatusClick::Button> clicks;
 };
 
@@ -189,8 +192,9 @@ TEST_F(PopoverHostTest, ARightClickOnTheItemIsPassedOn) {
                                         {QPoint(900, 600), Qt::RightButton}}) {
         host.show(item);
         EXPECT_TRUE(takesMouse) << "or a press on the item goes to the panel";
+        EXPECT_TRUE(item.knowsItIsShown);
         press(place, button);
-        EXPECT_FALSE(host.isShown());
+        EXPECT_FALSE(host.isShown() || item.knowsItIsShown);
     }
     EXPECT_THAT(item.clicks, testing::ElementsAre(StatusClick::Button::right));
 }

@@ -10,7 +10,7 @@ namespace vantrix {
 namespace {
 
 constexpr int itemSide = 22;
-constexpr int usualPanel = 32; // points; where the screen does not tell, as under most Wayland compositors
+constexpr int usualPanel = 32;    // points; where the screen does not tell, as under most Wayland compositors
 constexpr int thickestPanel = 96; // points; beyond this a point is not on a panel
 
 // Qt keeps a screen's position in device pixels and scales its size only.

@@ -147,6 +147,11 @@ QRect LinuxStatusItem::anchor() const {
     return candidate_ ? candidate_->anchor() : panelCorner(row_ ? row_->size().width() : 1);
 }
 
+void LinuxStatusItem::popoverShown(bool shown) const {
+    if (backend_)
+        backend_->popoverShown(shown);
+}
+
 std::unique_ptr<StatusItem> makeStatusItem(StatusItem::Handlers handlers, UserDefaults& defaults,
                                            const AppearanceSource& appearance) {
     return std::make_unique<LinuxStatusItem>(std::move(handlers), defaults, appearance);

@@ -46,6 +46,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
     void show(const StatusContent& content) override;
     QRect anchor() const override;
     bool placeIsKnown() const override { return kind_ == Kind::tray || kind_ == Kind::strip; }
+    void popoverShown(bool shown) const override;
     void click(const StatusClick& click) const override { handlers_.clicked(click); }
 
     std::string place() const override;

@@ -17,7 +17,8 @@ struct KnownHost {
 // Panels of gnome-shell, waybar and swaybar are dark unless the user has restyled them, which cannot be found out.
 // plasmashell and lxqt-panel leak memory with every signal, so they get fewer. Plasma's watcher runs in kded.
 // waybar fetches everything on any signal, but uses only what the signal names.
-constexpr NotifierHost waybar{.layout = NotifierLayout::wide, .darkPanel = true, .tellsClickPoint = false};
+constexpr NotifierHost waybar{
+    .layout = NotifierLayout::wide, .darkPanel = true, .tellsClickPoint = false, .coversPopover = true};
 constexpr NotifierHost mate{.layout = NotifierLayout::wide, .fetchesAll = true, .tellsClickPoint = false};
 constexpr NotifierHost gnomeShell{.layout = NotifierLayout::labelled, .darkPanel = true, .clickOpensMenu = true};
 constexpr NotifierHost xfce{.fetchesAll = true, .newestFirst = true}; // its plugins call themselves panel-6-systray

@@ -27,6 +27,8 @@ struct NotifierHost {
     bool tellsClickPoint = true;
     /// A left click opens the menu, which therefore begins with an entry that does what the click does elsewhere.
     bool clickOpensMenu = false;
+    /// Draws its tool tips above the popover.
+    bool coversPopover = false;
     /// Is made with Qt, and reads shortcuts in its menus as Qt writes them.
     bool hasQtKeys = false;
 };

@@ -17,6 +17,9 @@ class StatusBackend {
     /// Called once a pass, whether or not the row is another one.
     virtual void lookAround() {}
 
+    /// Keeps the tool tip away from the open popover, where panels draw it above.
+    virtual void popoverShown(bool /*shown*/) {}
+
     /// The rectangle beside which the popover and the menu open, in device-independent pixels.
     virtual QRect anchor() const = 0;
 };

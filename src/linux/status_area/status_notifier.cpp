@@ -19,6 +19,8 @@ const QString menuPath = QStringLiteral("/StatusNotifierItem/Menu");
 // Tooltips are looked at rarely, so hosts that fetch them separately need not do so on every pass.
 constexpr int toolTipPaceFactor = 3;
 
+constexpr auto toolTipPatience = std::chrono::milliseconds(150); // until a host has read the one that it was told of
+
 constexpr auto registrationPatience = std::chrono::milliseconds(300);
 
 QString nextServiceName() {
@@ -49,6 +51,11 @@ StatusNotifier::StatusNotifier(std::optional<QString> busAddress, const Notifier
       pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }) {
     registration_.setSingleShot(true);
     connect(&registration_, &QTimer::timeout, this, &StatusNotifier::registerNext);
+    titleTimer_.setSingleShot(true);
+    connect(&titleTimer_, &QTimer::timeout, this, [this] {
+        hasTitle_ = false;
+        publish();
+    });
 }
 
 void StatusNotifier::show(const StatusRow& row) {
@@ -59,6 +66,18 @@ void StatusNotifier::show(const StatusRow& row) {
     } else if (!objects_.empty()) {
         paced_.request();
     }
+}
+
+/// Without a tool tip such hosts show the title, and they take an empty title for none only once they know that there
+/// is no tool tip.
+void StatusNotifier::popoverShown(bool shown) {
+    if (!host_.coversPopover || !published_)
+        return;
+    hasToolTip_ = !shown;
+    hasTitle_ = true;
+    publish();
+    pacedToolTips_.runNow();
+    shown ? titleTimer_.start(toolTipPatience) : titleTimer_.stop();
 }
 
 /// The identifiers of the items, by which hosts remember what a user has hidden or moved: a module keeps its own
@@ -168,6 +187,8 @@ void StatusNotifier::update(std::size_t index, const MenuBarPalette& palette) {
     const bool newIcon = content.icon != before.icon;
     if (newIcon)
         object.announce(QStringLiteral("NewIcon"));
+    if (content.title.isEmpty() != before.title.isEmpty())
+        object.announce(QStringLiteral("NewTitle"));
     if (content.label != before.label)
         object.announce(QStringLiteral("XAyatanaNewLabel"), {*content.label, content.labelGuide});
     // Hosts that show labels show no tooltips; those that fetch everything already have it.
@@ -181,9 +202,10 @@ NotifierContent StatusNotifier::contentOf(std::size_t index, const MenuBarPalett
     const std::size_t tile = tileOf(index);
     NotifierContent content;
     content.icon = samePixmaps(tile, palette) ? objects_[index]->content().icon : pixmapsOf(tile, palette);
-    content.title = titleOf(tile);
+    content.title = hasTitle_ ? titleOf(tile) : QString();
     // Only the first tile has the text of the whole row: if all had, all would have to be sent whenever one changes.
-    content.toolTip = toolTipOf(tile);
+    if (hasToolTip_)
+        content.toolTip = toolTipOf(tile);
     if (host_.layout == NotifierLayout::labelled) {
         content.label = row_.label();
         content.labelGuide = row_.labelGuide();

@@ -31,6 +31,7 @@ class StatusNotifier : public QObject, public StatusBackend {
                    const AppearanceSource& appearance, PanelText panelText);
 
     void show(const StatusRow& row) override;
+    void popoverShown(bool shown) override;
     QRect anchor() const override;
 
   private:
@@ -73,6 +74,9 @@ class StatusNotifier : public QObject, public StatusBackend {
     MenuBarPalette publishedPalette_;
     PacedUpdate paced_;
     PacedUpdate pacedToolTips_;
+    bool hasToolTip_ = true;
+    bool hasTitle_ = true;
+    QTimer titleTimer_;
     std::optional<QRect> clickRect_;
 };
 

@@ -142,6 +142,24 @@ TEST_F(StatusNotifierTest, OnlyChangesAreSignalled) {
     EXPECT_EQ(toolTip(items[1]), u"RAM 50%"_s) << "there are none of this module";
 }
 
+/// waybar shows the title in place of an empty tool tip, so both have to go, the tool tip first.
+TEST_F(StatusNotifierTest, NoToolTipCoversThePopover) {
+    const auto items = startOn(notifierHostNamed("waybar"));
+    const auto texts = [&] {
+        const QVariantMap all = host.properties(items[0]);
+        return std::pair(qdbus_cast<NotifierToolTip>(all[u"ToolTip"_s]).title, all[u"Title"_s].toString());
+    };
+    const auto shown = texts();
+    item->popoverShown(true);
+    ASSERT_TRUE(awaitSignals(u"NewToolTip", 1));
+    EXPECT_EQ(texts(), std::pair(QString(), shown.second));
+    ASSERT_TRUE(awaitSignals(u"NewTitle", 1));
+    EXPECT_EQ(texts(), std::pair(QString(), QString()));
+    item->popoverShown(false);
+    ASSERT_TRUE(awaitSignals(u"NewToolTip", 2));
+    EXPECT_EQ(texts(), shown);
+}
+
 TEST_F(StatusNotifierTest, TitlesSortLikeTheRowAndIdentifiersStayWithTheirModules) {
     startOn(quick("plasmashell"), 2);
     StatusContent row = rowOf(12);
