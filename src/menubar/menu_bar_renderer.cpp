@@ -187,8 +187,10 @@ class RowPainter {
     }
 
     QColor valueColor(const MenuBarItem& item) const { return severityColor(item, palette_.label); }
-    QColor graphColor(const MenuBarItem& item) const { return severityColor(item, withAlpha(palette_.label, 0.7)); }
-    QColor captionColor() const { return withAlpha(palette_.label, 0.6); }
+    QColor graphColor(const MenuBarItem& item) const {
+        return severityColor(item, withAlpha(palette_.label, palette_.barOpacity));
+    }
+    QColor captionColor() const { return withAlpha(palette_.label, palette_.captionOpacity); }
 
     double snappedY(double y) const {
         const double scale = transform_.m22();

@@ -17,6 +17,8 @@ struct MenuBarPalette {
     QColor label;
     QColor orange;
     QColor red;
+    double captionOpacity = 0.6; ///< of the label colour, 0 to 1; the same for the bars
+    double barOpacity = 0.7;
 
     static MenuBarPalette onDark();
     static MenuBarPalette onLight();

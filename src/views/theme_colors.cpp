@@ -24,15 +24,6 @@ QColor shade(bool dark, float alpha) {
     return withAlpha(dark ? Qt::white : Qt::black, alpha);
 }
 
-/// `color`, moved towards black or white until it stands out from `ground`.
-QColor standingOut(const QColor& color, const QColor& ground, double least) {
-    const bool lighten = luminance(ground) < 0.18; // at 0.18 black and white stand out alike
-    QColor result = color;
-    for (float share = step; contrast(result, ground) < least && share < 1.0f; share += step)
-        result = over(shade(lighten, share), color);
-    return result;
-}
-
 ThemeColors darkColors() {
     return {
         .window = QColor(30, 30, 33),
@@ -106,6 +97,14 @@ QColor over(const QColor& color, const QColor& ground) {
 double contrast(const QColor& a, const QColor& b) {
     const auto [darker, lighter] = std::minmax({luminance(a), luminance(b)});
     return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor standingOut(const QColor& color, const QColor& ground, double least) {
+    const bool lighten = luminance(ground) < 0.18; // at 0.18 black and white stand out alike
+    QColor result = color;
+    for (float share = step; contrast(result, ground) < least && share < 1.0f; share += step)
+        result = over(shade(lighten, share), color);
+    return result;
 }
 
 ThemeColors ThemeColors::of(bool dark, const std::optional<QColor>& accent, bool highContrast) {

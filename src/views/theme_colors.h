@@ -49,6 +49,9 @@ using ColorRole = QColor ThemeColors::*;
 /// The contrast of two opaque colours by their relative luminances: 1 (none) to 21 (black and white).
 double contrast(const QColor& a, const QColor& b);
 
+/// `color`, moved towards black or white until its contrast with an opaque `ground` is `least`, 1 to 4.5.
+QColor standingOut(const QColor& color, const QColor& ground, double least);
+
 /// `color` with that opacity, 0 to 1.
 QColor withAlpha(QColor color, double alpha);
 

@@ -24,7 +24,6 @@ constexpr auto embeddingPatience = 3s;
 // Trays embed a window at its own size and cut it later, when they lay out their contents.
 constexpr auto layoutPatience = 500ms;
 constexpr auto backgroundDelay = 60ms;
-constexpr double leastContrast = 0.35;
 constexpr int air = 4; // points to the neighbours on both sides
 
 QSize withAir(const StatusRow& row) {
@@ -179,11 +178,10 @@ MenuBarPalette TrayWindow::rowPalette() const {
     std::optional<QColor> color = alpha_ ? panel_ : std::nullopt;
     if (!background_.isNull())
         color = background_.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
-    const std::optional<double> ground = color ? std::optional(perceivedLightness(*color)) : std::nullopt;
     const std::optional<QColor> text = tray_.foreground();
-    if (text && (!ground || std::abs(perceivedLightness(*text) - *ground) > leastContrast))
-        return paletteForText(*text);
-    return paletteForPanel(ground ? *ground < 0.5 : appearance_.appearance().dark);
+    if (color)
+        return paletteOn(*color, text);
+    return text ? paletteForText(*text) : paletteForPanel(appearance_.appearance().dark);
 }
 
 /// The row as it is drawn, squeezed for as long as the tray has not given it the width that it asked for.
