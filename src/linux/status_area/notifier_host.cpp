@@ -34,7 +34,7 @@ constexpr std::array<KnownHost, 11> knownHosts{{
     {"lxqt-panel", {.pace = milliseconds(4000), .hasQtKeys = true}},
     {"panel-", xfce, true},
     {"xfce4-panel", xfce},
-    {"swaybar", {.darkPanel = true, .newestFirst = true, .tellsClickPoint = false}},
+    {"swaybar", {.darkPanel = true, .premultiplied = true, .newestFirst = true, .tellsClickPoint = false}},
 }};
 
 } // namespace

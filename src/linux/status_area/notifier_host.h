@@ -19,6 +19,8 @@ struct NotifierHost {
     std::chrono::milliseconds pace{2000};
     /// The panel is dark whatever the desktop's colour scheme says.
     bool darkPanel = false;
+    /// Takes pictures to have been multiplied by their alpha channel.
+    bool premultiplied = false;
     /// Fetches everything again on any signal, so that one signal is enough.
     bool fetchesAll = false;
     /// Puts each new item before those it has.

@@ -5,12 +5,13 @@
 
 namespace vantrix {
 
-NotifierPixmap toNotifierPixmap(const QImage& image) {
-    const QImage straight = image.convertToFormat(QImage::Format_ARGB32);
-    const qsizetype row = qsizetype{straight.width()} * 4;
-    NotifierPixmap pixmap{straight.width(), straight.height(), QByteArray(row * straight.height(), Qt::Uninitialized)};
-    for (int y = 0; y < straight.height(); ++y)
-        qToBigEndian<quint32>(straight.constScanLine(y), straight.width(), pixmap.bytes.data() + row * y);
+NotifierPixmap toNotifierPixmap(const QImage& image, bool premultiplied) {
+    const QImage argb =
+        image.convertToFormat(premultiplied ? QImage::Format_ARGB32_Premultiplied : QImage::Format_ARGB32);
+    const qsizetype row = qsizetype{argb.width()} * 4;
+    NotifierPixmap pixmap{argb.width(), argb.height(), QByteArray(row * argb.height(), Qt::Uninitialized)};
+    for (int y = 0; y < argb.height(); ++y)
+        qToBigEndian<quint32>(argb.constScanLine(y), argb.width(), pixmap.bytes.data() + row * y);
     return pixmap;
 }
 

@@ -8,7 +8,7 @@
 
 namespace vantrix {
 
-/// One size of an icon as StatusNotifierItem sends it: ARGB with straight alpha, most significant byte first.
+/// One size of an icon as StatusNotifierItem sends it: ARGB, most significant byte first.
 struct NotifierPixmap {
     int width = 0;
     int height = 0;
@@ -27,7 +27,8 @@ struct NotifierToolTip {
     QString text;
 };
 
-NotifierPixmap toNotifierPixmap(const QImage& image);
+/// With straight alpha, as hosts expect it, or `premultiplied`.
+NotifierPixmap toNotifierPixmap(const QImage& image, bool premultiplied = false);
 
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);

@@ -234,11 +234,11 @@ NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const MenuBarPalette
     for (const int scale : {1, 2}) {
         const int side = 22 * scale;
         if (host_.layout == NotifierLayout::wide)
-            pixmaps << toNotifierPixmap(row_.image(palette, scale));
+            pixmaps << toNotifierPixmap(row_.image(palette, scale), host_.premultiplied);
         else if (host_.layout == NotifierLayout::labelled)
-            pixmaps << toNotifierPixmap(gaugeTile(palette, side)); // the label says the rest
+            pixmaps << toNotifierPixmap(gaugeTile(palette, side), host_.premultiplied); // the label says the rest
         else
-            pixmaps << toNotifierPixmap(row_.tile(tile, palette, side));
+            pixmaps << toNotifierPixmap(row_.tile(tile, palette, side), host_.premultiplied);
     }
     return pixmaps;
 }

@@ -20,6 +20,14 @@ class StatusNotifierTest : public StatusItemOnBus {
         return host;
     }
 
+    /// No colour is lighter than its alpha channel.
+    static bool isPremultiplied(const QByteArray& argb) {
+        for (qsizetype i = 0; i < argb.size(); ++i)
+            if (static_cast<uchar>(argb[i]) > static_cast<uchar>(argb[i / 4 * 4]))
+                return false;
+        return true;
+    }
+
     QDBusMessage ask(const Item& at, const QString& member, const QVariantList& arguments) {
         return host.call(at, FakeStatusHost::itemInterface, member, arguments);
     }
@@ -33,9 +41,11 @@ TEST_F(StatusNotifierTest, EachHostGetsTheItemsAndPicturesItShows) {
         QStringList ids;
         bool wide = false;
         bool label = false;
+        bool premultiplied = false;
     } cases[] = {
         {"unheard-of", {u"vantrix-cpu"_s, u"vantrix-memory"_s}},
         {"xfce4-panel", {u"vantrix-memory"_s, u"vantrix-cpu"_s}}, // puts new items before those it has
+        {"swaybar", {u"vantrix-memory"_s, u"vantrix-cpu"_s}, false, false, true},
         {"waybar", {u"vantrix"_s}, true},
         {"gnome-shell", {u"vantrix"_s}, false, true},
     };
@@ -53,6 +63,7 @@ TEST_F(StatusNotifierTest, EachHostGetsTheItemsAndPicturesItShows) {
                 EXPECT_EQ(pictures[i].height, 22 * (i + 1));
                 EXPECT_EQ(pictures[i].bytes.size(), pictures[i].width * pictures[i].height * 4);
                 EXPECT_LT(pictures[i].bytes.count('\0'), pictures[i].bytes.size()) << "nothing is drawn";
+                EXPECT_EQ(isPremultiplied(pictures[i].bytes), expected.premultiplied);
             }
             EXPECT_EQ(pictures[1].width, 2 * pictures[0].width);
             EXPECT_EQ(pictures[0].width > 44, expected.wide);
