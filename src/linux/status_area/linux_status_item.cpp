@@ -71,8 +71,9 @@ void LinuxStatusItem::choose() {
         return;
     if (watch_.host())
         use(Kind::notifier,
-            std::make_unique<StatusNotifier>(surroundings_.bus->address(), *watch_.host(), handlers_, appearance_,
-                                             [this] { return tray_ ? tray_->foreground() : std::nullopt; }));
+            std::make_unique<StatusNotifier>(
+                surroundings_.bus->address(), *watch_.host(), handlers_, appearance_,
+                [this] { return tray_ ? tray_->foreground() : std::nullopt; }, surroundings_.lookInterval));
     else if (kind_ == Kind::none && !stripTimer_.isActive())
         stripTimer_.start(surroundings_.stripDelay);
 }

@@ -14,7 +14,6 @@ struct KnownHost {
     bool isPrefix = false;
 };
 
-// Panels of gnome-shell, waybar and swaybar are dark unless the user has restyled them, which cannot be found out.
 // plasmashell and lxqt-panel leak memory with every signal, so they get fewer. Plasma's watcher runs in kded.
 // waybar fetches everything on any signal, but uses only what the signal names.
 constexpr NotifierHost waybar{
@@ -22,7 +21,7 @@ constexpr NotifierHost waybar{
 constexpr NotifierHost mate{.layout = NotifierLayout::wide, .fetchesAll = true, .tellsClickPoint = false};
 constexpr NotifierHost gnomeShell{.layout = NotifierLayout::labelled, .darkPanel = true, .clickOpensMenu = true};
 constexpr NotifierHost xfce{.fetchesAll = true, .newestFirst = true}; // its plugins call themselves panel-6-systray
-constexpr NotifierHost plasma{.pace = milliseconds(4000), .fetchesAll = true, .hasQtKeys = true};
+constexpr NotifierHost plasma{.pace = milliseconds(4000), .isPlasma = true, .fetchesAll = true, .hasQtKeys = true};
 constexpr std::array<KnownHost, 11> knownHosts{{
     {"waybar", waybar},
     {"notification-ar", mate},

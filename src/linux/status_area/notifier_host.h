@@ -17,8 +17,10 @@ struct NotifierHost {
     NotifierLayout layout = NotifierLayout::tiles;
     /// Least time between two signals for one item.
     std::chrono::milliseconds pace{2000};
-    /// The panel is dark whatever the desktop's colour scheme says.
+    /// The panel is dark whatever the desktop's colour scheme says, unless the user has restyled it.
     bool darkPanel = false;
+    /// Plasma's configuration says what colour the panel has.
+    bool isPlasma = false;
     /// Takes pictures to have been multiplied by their alpha channel.
     bool premultiplied = false;
     /// Fetches everything again on any signal, so that one signal is enough.
@@ -33,6 +35,8 @@ struct NotifierHost {
     bool coversPopover = false;
     /// Is made with Qt, and reads shortcuts in its menus as Qt writes them.
     bool hasQtKeys = false;
+    /// The watcher's, which often is that of the panel; 0 where it is not known.
+    unsigned process = 0;
 };
 
 /// The host whose watcher is a process of that name (as in `/proc/PID/comm`, which cuts it at 15 characters).

@@ -87,7 +87,7 @@ bool NotifierObject::handleMessage(const QDBusMessage& message, const QDBusConne
     const QString interface = message.interface();
     if (interface == propertiesInterface) {
         const bool sent = connection.send(answerProperties(message));
-        Q_EMIT asked();
+        Q_EMIT asked(message.service());
         return sent;
     }
     if (interface == itemInterface || interface.isEmpty())

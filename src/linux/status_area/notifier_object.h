@@ -49,8 +49,8 @@ class NotifierObject : public QDBusVirtualObject {
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
 
   Q_SIGNALS:
-    /// A host has asked for the properties.
-    void asked();
+    /// A host, of that name on the bus, has asked for the properties.
+    void asked(const QString& reader);
 
   private:
     QDBusMessage answerProperties(const QDBusMessage& message) const;

@@ -27,7 +27,9 @@ std::string processName(uint pid) {
 }
 
 NotifierHost notifierHostOfProcess(uint pid) {
-    return notifierHostNamed(processName(pid));
+    NotifierHost host = notifierHostNamed(processName(pid));
+    host.process = pid;
+    return host;
 }
 
 NotifierWatch::NotifierWatch(std::shared_ptr<BusLink> link, HostOfProcess hostOfProcess)

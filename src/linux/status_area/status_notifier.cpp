@@ -2,10 +2,14 @@
 
 #include <QCursor>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QGuiApplication>
 
 #include "linux/status_area/click_anchor.h"
+#include "linux/status_area/halo.h"
 #include "linux/status_area/panel_palette.h"
+#include "linux/status_area/plasma_panel.h"
 #include "platform/appearance.h"
 #include "support/localization.h"
 
@@ -20,6 +24,7 @@ const QString menuPath = QStringLiteral("/StatusNotifierItem/Menu");
 constexpr int toolTipPaceFactor = 3;
 
 constexpr auto toolTipPatience = std::chrono::milliseconds(150); // until a host has read the one that it was told of
+constexpr double haloedCaption = 0.75;                           // opacity; its ground is less even than a panel's
 
 constexpr auto registrationPatience = std::chrono::milliseconds(300);
 
@@ -37,6 +42,11 @@ void registerWithWatcher(const QDBusConnection& bus, const QString& service) {
     bus.send(message);
 }
 
+/// The colour of panels on which such text is at home, so that the halo is hardly seen on them.
+QColor haloAround(const QColor& text) {
+    return text.lightness() > 127 ? QColor(32, 33, 36) : QColor(250, 250, 250);
+}
+
 bool onX11() {
     return QGuiApplication::platformName() == QStringLiteral("xcb");
 }
@@ -45,10 +55,11 @@ bool onX11() {
 
 StatusNotifier::StatusNotifier(std::optional<QString> busAddress, const NotifierHost& host,
                                const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
-                               PanelText panelText)
+                               PanelText panelText, std::chrono::milliseconds lookInterval)
     : busAddress_(std::move(busAddress)), host_(host), handlers_(handlers), appearance_(appearance),
-      panelText_(std::move(panelText)), paced_(host.pace, [this] { publish(); }),
+      panelText_(std::move(panelText)), panel_(lookInterval), paced_(host.pace, [this] { publish(); }),
       pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }) {
+    panel_.addReader(host_.process);
     registration_.setSingleShot(true);
     connect(&registration_, &QTimer::timeout, this, &StatusNotifier::registerNext);
     titleTimer_.setSingleShot(true);
@@ -78,6 +89,12 @@ void StatusNotifier::popoverShown(bool shown) {
     publish();
     pacedToolTips_.runNow();
     shown ? titleTimer_.start(toolTipPatience) : titleTimer_.stop();
+}
+
+/// Panels may change their colours and their places without a word.
+void StatusNotifier::lookAround() {
+    if (panel_.look())
+        show(row_);
 }
 
 /// The identifiers of the items, by which hosts remember what a user has hidden or moved: a module keeps its own
@@ -124,11 +141,29 @@ void StatusNotifier::makeItems(QDBusConnection& bus) {
         objects_.push_back(std::make_unique<NotifierObject>(
             bus, path, ids_[static_cast<qsizetype>(tileOf(i))], menuPath,
             [this, i](const StatusClick& click, QPoint point) { clicked(i, click, point); }));
-        connect(objects_.back().get(), &NotifierObject::asked, this, [this, number = objects_.size()] {
-            if (number == registered_)
-                registerNext();
-        });
+        connect(objects_.back().get(), &NotifierObject::asked, this,
+                [this, number = objects_.size()](const QString& reader) {
+                    if (number == registered_ && number < objects_.size())
+                        registerNext();
+                    noteReader(reader);
+                });
     }
+}
+
+/// Whoever reads the items may be the one that shows them.
+void StatusNotifier::noteReader(const QString& name) {
+    if (!HostPanel::canLook() || !readers_.insert(name).second)
+        return;
+    auto question = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetConnectionUnixProcessID"));
+    auto* watcher = new QDBusPendingCallWatcher(link_->bus()->asyncCall(question << name), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
+        done->deleteLater();
+        const QDBusPendingReply<uint> process = *done;
+        if (process.isValid() && panel_.addReader(process.value()) && !registration_.isActive())
+            settle();
+    });
 }
 
 /// The first item is registered by a bus name, as the protocol asks; a name stands for one item only, so the others
@@ -149,10 +184,19 @@ void StatusNotifier::registerFirst() {
 /// Hosts order items by when they finish reading them, so each is registered once the one before it has been read.
 void StatusNotifier::registerNext() {
     if (registered_ >= objects_.size())
-        return registration_.stop();
+        return settle();
     registerWithWatcher(*link_->bus(), objects_[registered_]->path());
     ++registered_;
     registration_.start(registrationPatience);
+}
+
+/// What was sent to begin with may have been a guess. Mended only once all items have been read, because hosts drop one
+/// that changes meanwhile.
+void StatusNotifier::settle() {
+    if (ids_ != wantedIds())
+        show(row_);
+    else if (published_ && publishedLook_ != look())
+        paced_.runNow();
 }
 
 /// The row's tile that object `index` shows; objects are in the order of their registration.
@@ -162,23 +206,31 @@ std::size_t StatusNotifier::tileOf(std::size_t index) const {
 }
 
 void StatusNotifier::publish() {
-    const MenuBarPalette colors = palette();
+    const Look now = look();
     for (std::size_t i = 0; i < objects_.size(); ++i)
-        update(i, colors);
+        update(i, now);
     published_ = row_;
-    publishedPalette_ = colors;
+    publishedLook_ = now;
 }
 
-MenuBarPalette StatusNotifier::palette() const {
-    if (const std::optional<QColor> text = panelText_())
-        return paletteForText(*text);
-    return paletteForPanel(host_.darkPanel || appearance_.appearance().dark);
+StatusNotifier::Look StatusNotifier::look() const {
+    std::optional<QColor> ground = panel_.ground();
+    if (!ground && host_.isPlasma)
+        ground = plasmaPanelColor();
+    const std::optional<QColor> text = panelText_();
+    if (ground)
+        return {paletteOn(*ground, text)};
+    if (text)
+        return {paletteForText(*text)};
+    Look guess{paletteForPanel(host_.darkPanel || appearance_.appearance().dark), true};
+    guess.palette.captionOpacity = haloedCaption;
+    return guess;
 }
 
-void StatusNotifier::update(std::size_t index, const MenuBarPalette& palette) {
+void StatusNotifier::update(std::size_t index, const Look& look) {
     NotifierObject& object = *objects_[index];
     const NotifierContent before = object.content();
-    const NotifierContent content = contentOf(index, palette);
+    const NotifierContent content = contentOf(index, look);
     if (content == before)
         return;
     object.set(content);
@@ -198,10 +250,10 @@ void StatusNotifier::update(std::size_t index, const MenuBarPalette& palette) {
     pacedToolTips_.request();
 }
 
-NotifierContent StatusNotifier::contentOf(std::size_t index, const MenuBarPalette& palette) const {
+NotifierContent StatusNotifier::contentOf(std::size_t index, const Look& look) const {
     const std::size_t tile = tileOf(index);
     NotifierContent content;
-    content.icon = samePixmaps(tile, palette) ? objects_[index]->content().icon : pixmapsOf(tile, palette);
+    content.icon = samePixmaps(tile, look) ? objects_[index]->content().icon : pixmapsOf(tile, look);
     content.title = hasTitle_ ? titleOf(tile) : QString();
     // Only the first tile has the text of the whole row: if all had, all would have to be sent whenever one changes.
     if (hasToolTip_)
@@ -229,23 +281,33 @@ QString StatusNotifier::toolTipOf(std::size_t tile) const {
     return tile == 0 ? row_.text() : row_.tileText(tile);
 }
 
-NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const {
+QImage StatusNotifier::picture(std::size_t tile, const MenuBarPalette& palette, int scale) const {
+    const int side = 22 * scale;
+    switch (host_.layout) {
+    case NotifierLayout::wide:
+        return row_.image(palette, scale);
+    case NotifierLayout::labelled:
+        return gaugeTile(palette, side); // the label says the rest
+    case NotifierLayout::tiles:
+        break;
+    }
+    return row_.tile(tile, palette, side);
+}
+
+NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const Look& look) const {
     NotifierPixmaps pixmaps;
     for (const int scale : {1, 2}) {
-        const int side = 22 * scale;
-        if (host_.layout == NotifierLayout::wide)
-            pixmaps << toNotifierPixmap(row_.image(palette, scale), host_.premultiplied);
-        else if (host_.layout == NotifierLayout::labelled)
-            pixmaps << toNotifierPixmap(gaugeTile(palette, side), host_.premultiplied); // the label says the rest
-        else
-            pixmaps << toNotifierPixmap(row_.tile(tile, palette, side), host_.premultiplied);
+        QImage drawn = picture(tile, look.palette, scale);
+        if (look.haloed)
+            drawn = withHalo(drawn, haloAround(look.palette.label), scale);
+        pixmaps << toNotifierPixmap(drawn, host_.premultiplied);
     }
     return pixmaps;
 }
 
 /// True when the pictures that the host has are still right.
-bool StatusNotifier::samePixmaps(std::size_t tile, const MenuBarPalette& palette) const {
-    if (!published_ || publishedPalette_ != palette)
+bool StatusNotifier::samePixmaps(std::size_t tile, const Look& look) const {
+    if (!published_ || publishedLook_ != look)
         return false;
     switch (host_.layout) {
     case NotifierLayout::wide:

@@ -9,6 +9,7 @@
 
 #include "linux/services/bus_link.h"
 #include "linux/status_area/dbus_menu.h"
+#include "linux/status_area/host_panel.h"
 #include "linux/status_area/notifier_host.h"
 #include "linux/status_area/notifier_object.h"
 #include "linux/status_area/paced_update.h"
@@ -28,13 +29,22 @@ class StatusNotifier : public QObject, public StatusBackend {
     using PanelText = std::function<std::optional<QColor>()>;
 
     StatusNotifier(std::optional<QString> busAddress, const NotifierHost& host, const StatusItem::Handlers& handlers,
-                   const AppearanceSource& appearance, PanelText panelText);
+                   const AppearanceSource& appearance, PanelText panelText, std::chrono::milliseconds lookInterval);
 
     void show(const StatusRow& row) override;
     void popoverShown(bool shown) override;
+    void lookAround() override;
     QRect anchor() const override;
 
   private:
+    /// How the row is drawn for what is known of the panel.
+    struct Look {
+        MenuBarPalette palette;
+        bool haloed = false; ///< because it is not known
+
+        bool operator==(const Look&) const = default;
+    };
+
     bool single() const { return host_.layout != NotifierLayout::tiles; }
     QStringList wantedIds() const;
     void connectItems();
@@ -42,15 +52,18 @@ class StatusNotifier : public QObject, public StatusBackend {
     void dropItems();
     void registerFirst();
     void registerNext();
-    MenuBarPalette palette() const;
+    void settle();
+    void noteReader(const QString& name);
+    Look look() const;
     std::size_t tileOf(std::size_t index) const;
     void publish();
-    void update(std::size_t index, const MenuBarPalette& palette);
-    NotifierContent contentOf(std::size_t index, const MenuBarPalette& palette) const;
+    void update(std::size_t index, const Look& look);
+    NotifierContent contentOf(std::size_t index, const Look& look) const;
     QString titleOf(std::size_t tile) const;
     QString toolTipOf(std::size_t tile) const;
-    NotifierPixmaps pixmapsOf(std::size_t tile, const MenuBarPalette& palette) const;
-    bool samePixmaps(std::size_t tile, const MenuBarPalette& palette) const;
+    QImage picture(std::size_t tile, const MenuBarPalette& palette, int scale) const;
+    NotifierPixmaps pixmapsOf(std::size_t tile, const Look& look) const;
+    bool samePixmaps(std::size_t tile, const Look& look) const;
     void announceToolTips();
     void clicked(std::size_t index, StatusClick click, QPoint point);
     std::vector<StatusMenuEntry> menuEntries() const;
@@ -60,6 +73,8 @@ class StatusNotifier : public QObject, public StatusBackend {
     StatusItem::Handlers handlers_;
     const AppearanceSource& appearance_;
     PanelText panelText_;
+    HostPanel panel_;
+    std::set<QString> readers_; ///< whose processes were asked for
 
     std::unique_ptr<BusLink> link_; ///< of its own, because hosts drop an item only when its connection ends
     std::unique_ptr<DBusMenu> menu_;
@@ -71,7 +86,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     QStringList ids_;
     StatusRow row_;                      ///< what is to be shown
     std::optional<StatusRow> published_; ///< what the host was told
-    MenuBarPalette publishedPalette_;
+    Look publishedLook_;
     PacedUpdate paced_;
     PacedUpdate pacedToolTips_;
     bool hasToolTip_ = true;

@@ -49,6 +49,26 @@ QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window) {
     return {place->dst_x, place->dst_y, geometry->width, geometry->height};
 }
 
+std::vector<xcb_window_t> xcbChildren(xcb_connection_t* connection, xcb_window_t window) {
+    xcb_generic_error_t* error = nullptr;
+    const XcbReply<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(connection, xcb_query_tree(connection, window), &error));
+    const XcbReply<xcb_generic_error_t> ownedError(error);
+    if (!reply)
+        return {};
+    const xcb_window_t* children = xcb_query_tree_children(reply.get());
+    return {children, children + xcb_query_tree_children_length(reply.get())};
+}
+
+xcb_window_t xcbTopWindowAt(xcb_connection_t* connection, QPoint point) {
+    const auto root = xcbScreen(connection)->root;
+    const auto cookie = xcb_translate_coordinates(connection, root, root, static_cast<std::int16_t>(point.x()),
+                                                  static_cast<std::int16_t>(point.y()));
+    const XcbReply<xcb_translate_coordinates_reply_t> reply(
+        xcb_translate_coordinates_reply(connection, cookie, nullptr));
+    return reply ? reply->child : static_cast<xcb_window_t>(XCB_NONE);
+}
+
 std::vector<xcb_window_t> xcbAncestors(xcb_connection_t* connection, xcb_window_t window) {
     constexpr std::size_t most = 32; // no panel nests its windows deeper
     std::vector<xcb_window_t> ancestors;
@@ -118,13 +138,27 @@ void xcbFill(xcb_connection_t* connection, xcb_window_t window, std::uint32_t pi
 
 std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& rect) {
     const QImage image = rect.isEmpty() ? QImage() : imageOf(connection, xcbScreen(connection)->root, rect);
-    std::map<QRgb, int> pixels;
+    if (image.isNull())
+        return std::nullopt;
+    // Of colours that look much the same, because a picture behind the panel may have each of its colours once.
+    struct Likes {
+        int pixels = 0;
+        std::map<QRgb, int> colors;
+    };
+    const auto fewer = [](const auto& a, const auto& b) { return a.second < b.second; };
+    constexpr QRgb coarse = 0xfff0f0f0;
+    std::map<QRgb, Likes> likes;
     for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            ++pixels[image.pixel(x, y)];
-    const auto usual = std::max_element(pixels.begin(), pixels.end(),
-                                        [](const auto& a, const auto& b) { return a.second < b.second; });
-    return usual == pixels.end() ? std::nullopt : std::optional(QColor(usual->first));
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            Likes& like = likes[pixel & coarse];
+            ++like.pixels;
+            ++like.colors[pixel];
+        }
+    const auto& colors = std::max_element(likes.begin(), likes.end(), [](const auto& a, const auto& b) {
+                             return a.second.pixels < b.second.pixels;
+                         })->second.colors;
+    return QColor(std::max_element(colors.begin(), colors.end(), fewer)->first);
 }
 
 void xcbMakeDock(xcb_connection_t* connection, xcb_window_t window) {

@@ -36,6 +36,12 @@ std::vector<std::uint32_t> xcbValues(xcb_connection_t* connection, xcb_window_t 
 /// The window's place on the root window, in device pixels; empty when it is gone.
 QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window);
 
+/// The windows within it, but not those within these.
+std::vector<xcb_window_t> xcbChildren(xcb_connection_t* connection, xcb_window_t window);
+
+/// The outermost of the windows seen at a point of the root window; none where nothing covers that.
+xcb_window_t xcbTopWindowAt(xcb_connection_t* connection, QPoint point);
+
 /// The windows around it, from its parent up to, but without, the root window. Empty when it is gone.
 std::vector<xcb_window_t> xcbAncestors(xcb_connection_t* connection, xcb_window_t window);
 

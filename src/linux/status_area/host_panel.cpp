@@ -1,0 +1,105 @@
+#include "linux/status_area/host_panel.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "linux/status_area/xcb_support.h"
+
+namespace vantrix {
+
+namespace {
+
+constexpr int mostSearches = 10; // not every host has a panel that can be known
+constexpr int thinnest = 8;      // pixels; panels that hide leave less of themselves
+
+/// A line through what is shown at the end of the panel, where status areas are.
+QRect sampleOf(QRect area) {
+    constexpr int length = 512;
+    constexpr int thickness = 2;
+    const bool upright = area.height() > area.width();
+    if (upright)
+        area.setTop(std::max(area.top(), area.bottom() + 1 - length));
+    else
+        area.setLeft(std::max(area.left(), area.right() + 1 - length));
+    return upright ? QRect(area.left() + area.width() / 4, area.top(), thickness, area.height())
+                   : QRect(area.left(), area.top() + area.height() / 4, area.width(), thickness);
+}
+
+/// The outermost window of a process among `window` and those within it; 0 where there is none.
+xcb_window_t windowOf(xcb_connection_t* connection, const std::set<std::uint32_t>& processes, xcb_window_t window,
+                      int depth = 0) {
+    constexpr int deepest = 6;
+    const auto process = xcbValues(connection, window, xcbAtom(connection, "_NET_WM_PID"));
+    if (process.size() == 1 && processes.contains(process[0]))
+        return window;
+    if (depth == deepest)
+        return XCB_NONE;
+    for (const xcb_window_t child : xcbChildren(connection, window))
+        if (const xcb_window_t found = windowOf(connection, processes, child, depth + 1))
+            return found;
+    return XCB_NONE;
+}
+
+} // namespace
+
+bool HostPanel::canLook() {
+    return xcbConnection() != nullptr && !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+bool HostPanel::addReader(uint process) {
+    if (process == 0 || !canLook() || !processes_.insert(process).second)
+        return false;
+    searches_ = 0;
+    sinceLook_.invalidate();
+    return look();
+}
+
+bool HostPanel::look() {
+    if (processes_.empty() || (sinceLook_.isValid() && !sinceLook_.hasExpired(lookInterval_.count())))
+        return false;
+    sinceLook_.start();
+    if (dock_ == XCB_NONE || xcbRootRect(xcbConnection(), window_).isEmpty())
+        find();
+    const QRect area = seen();
+    if (area.isEmpty())
+        return false;
+    const auto ground = xcbScreenColor(xcbConnection(), sampleOf(area));
+    return std::exchange(ground_, ground) != ground;
+}
+
+void HostPanel::find() {
+    dock_ = window_ = XCB_NONE;
+    if (++searches_ > mostSearches)
+        return;
+    xcb_connection_t* connection = xcbConnection();
+    const auto typeProperty = xcbAtom(connection, "_NET_WM_WINDOW_TYPE");
+    const auto dockType = xcbAtom(connection, "_NET_WM_WINDOW_TYPE_DOCK");
+    const auto managed = xcbAtom(connection, "_NET_CLIENT_LIST");
+    for (const xcb_window_t client : xcbValues(connection, xcbScreen(connection)->root, managed)) {
+        const auto types = xcbValues(connection, client, typeProperty);
+        if (std::find(types.begin(), types.end(), dockType) == types.end())
+            continue;
+        window_ = windowOf(connection, processes_, client);
+        if (window_ == XCB_NONE)
+            continue;
+        dock_ = client;
+        searches_ = 0;
+        return;
+    }
+}
+
+/// What can be seen of the window that has the items, on the root window; empty while that is nothing.
+QRect HostPanel::seen() const {
+    if (dock_ == XCB_NONE)
+        return {};
+    xcb_connection_t* connection = xcbConnection();
+    const auto ancestors = xcbAncestors(connection, window_);
+    const QRect place = xcbRootRect(connection, window_);
+    const QRect area = xcbVisibleRect(connection, window_, ancestors).translated(place.topLeft());
+    if (std::min(area.width(), area.height()) < thinnest)
+        return {};
+    const xcb_window_t outermost = ancestors.empty() ? window_ : ancestors.back();
+    return xcbTopWindowAt(connection, area.center()) == outermost ? area : QRect();
+}
+
+} // namespace vantrix
