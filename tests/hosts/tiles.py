@@ -35,5 +35,5 @@ def tile_faults(place, picture, least):
         alike, name = max((likeness(cell, icon), name) for name, icon in wanted)
         if alike < least:
             return f"a tile is not like any that was sent ({alike:.2f}) in {place.visible}"
-        seen.append(name.removeprefix("vantrix-"))
+        seen.append(name.split("-")[-1])  # MATE's have a number before
     return None if seen == MODULES.split(",") else f"order of the tiles: {' '.join(seen)}"

@@ -1,7 +1,6 @@
 #include "linux/status_area/host_panel.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "linux/status_area/xcb_support.h"
 
@@ -63,8 +62,13 @@ bool HostPanel::look() {
     const QRect area = seen();
     if (area.isEmpty())
         return false;
+    const QSize dock = xcbRootRect(xcbConnection(), dock_).size();
+    const bool upright = dock.height() > dock.width();
     const auto ground = xcbScreenColor(xcbConnection(), sampleOf(area));
-    return std::exchange(ground_, ground) != ground;
+    const bool changed = ground != ground_ || upright != upright_;
+    ground_ = ground;
+    upright_ = upright;
+    return changed;
 }
 
 void HostPanel::find() {

@@ -30,6 +30,9 @@ class HostPanel {
     /// The usual colour where the items are; while it is hidden or covered, the one seen last.
     const std::optional<QColor>& ground() const { return ground_; }
 
+    /// It is higher than wide, so that only squares fit.
+    bool isUpright() const { return upright_; }
+
   private:
     void find();
     QRect seen() const;
@@ -41,6 +44,7 @@ class HostPanel {
     std::uint32_t dock_ = 0;   ///< 0 while there is none
     std::uint32_t window_ = 0; ///< the dock, or the window of the reader's in it
     std::optional<QColor> ground_;
+    bool upright_ = false;
 };
 
 } // namespace vantrix

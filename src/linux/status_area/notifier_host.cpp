@@ -18,7 +18,8 @@ struct KnownHost {
 // waybar fetches everything on any signal, but uses only what the signal names.
 constexpr NotifierHost waybar{
     .layout = NotifierLayout::wide, .darkPanel = true, .tellsClickPoint = false, .coversPopover = true};
-constexpr NotifierHost mate{.layout = NotifierLayout::wide, .fetchesAll = true, .tellsClickPoint = false};
+constexpr NotifierHost mate{
+    .layout = NotifierLayout::wide, .fetchesAll = true, .sortsIdentifiers = true, .tellsClickPoint = false};
 constexpr NotifierHost gnomeShell{.layout = NotifierLayout::labelled, .darkPanel = true, .clickOpensMenu = true};
 constexpr NotifierHost xfce{.fetchesAll = true, .newestFirst = true}; // its plugins call themselves panel-6-systray
 constexpr NotifierHost plasma{.pace = milliseconds(4000), .isPlasma = true, .fetchesAll = true, .hasQtKeys = true};

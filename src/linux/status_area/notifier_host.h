@@ -27,6 +27,8 @@ struct NotifierHost {
     bool fetchesAll = false;
     /// Puts each new item before those it has.
     bool newestFirst = false;
+    /// Puts items in the order of their identifiers.
+    bool sortsIdentifiers = false;
     /// The coordinates of a click are those of the root window.
     bool tellsClickPoint = true;
     /// A left click opens the menu, which therefore begins with an entry that does what the click does elsewhere.

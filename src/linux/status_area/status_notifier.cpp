@@ -97,14 +97,22 @@ void StatusNotifier::lookAround() {
         show(row_);
 }
 
+/// On a panel that is higher than wide, a wide picture would be squeezed.
+NotifierLayout StatusNotifier::layout() const {
+    const bool squeezed = host_.layout == NotifierLayout::wide && panel_.isUpright();
+    return squeezed ? NotifierLayout::tiles : host_.layout;
+}
+
 /// The identifiers of the items, by which hosts remember what a user has hidden or moved: a module keeps its own
 /// wherever it stands in the row.
 QStringList StatusNotifier::wantedIds() const {
     if (single())
         return {QStringLiteral("vantrix")};
     QStringList ids;
-    for (std::size_t i = 0; i < row_.tileCount(); ++i)
-        ids << QStringLiteral("vantrix-") + row_.tileName(i);
+    for (std::size_t i = 0; i < row_.tileCount(); ++i) {
+        const QString number = host_.sortsIdentifiers ? QString::number(i + 1) + QLatin1Char('-') : QString();
+        ids << QStringLiteral("vantrix-") + number + row_.tileName(i);
+    }
     return ids;
 }
 
@@ -258,7 +266,7 @@ NotifierContent StatusNotifier::contentOf(std::size_t index, const Look& look) c
     // Only the first tile has the text of the whole row: if all had, all would have to be sent whenever one changes.
     if (hasToolTip_)
         content.toolTip = toolTipOf(tile);
-    if (host_.layout == NotifierLayout::labelled) {
+    if (layout() == NotifierLayout::labelled) {
         content.label = row_.label();
         content.labelGuide = row_.labelGuide();
     }
@@ -283,7 +291,7 @@ QString StatusNotifier::toolTipOf(std::size_t tile) const {
 
 QImage StatusNotifier::picture(std::size_t tile, const MenuBarPalette& palette, int scale) const {
     const int side = 22 * scale;
-    switch (host_.layout) {
+    switch (layout()) {
     case NotifierLayout::wide:
         return row_.image(palette, scale);
     case NotifierLayout::labelled:
@@ -309,7 +317,7 @@ NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const Look& look) co
 bool StatusNotifier::samePixmaps(std::size_t tile, const Look& look) const {
     if (!published_ || publishedLook_ != look)
         return false;
-    switch (host_.layout) {
+    switch (layout()) {
     case NotifierLayout::wide:
         return published_->looksLike(row_);
     case NotifierLayout::labelled:

@@ -45,7 +45,8 @@ class StatusNotifier : public QObject, public StatusBackend {
         bool operator==(const Look&) const = default;
     };
 
-    bool single() const { return host_.layout != NotifierLayout::tiles; }
+    NotifierLayout layout() const;
+    bool single() const { return layout() != NotifierLayout::tiles; }
     QStringList wantedIds() const;
     void connectItems();
     void makeItems(QDBusConnection& bus);

@@ -65,7 +65,7 @@ class HostPanelOnScreen : public StatusItemOnBus {
     int value = 10;
 };
 
-TEST_F(HostPanelOnScreen, TheRowIsMadeForItsColour) {
+TEST_F(HostPanelOnScreen, TheRowIsMadeForItsColourAndItsShape) {
     NotifierHost mate = notifierHostNamed("mate-panel");
     mate.pace = std::chrono::milliseconds(0);
     startOn(mate);
@@ -80,6 +80,16 @@ TEST_F(HostPanelOnScreen, TheRowIsMadeForItsColour) {
     ASSERT_TRUE(spinUntil([] { return xcbScreenColor(xcbConnection(), {400, 10, 4, 4}) == QColor(Qt::black); }));
     EXPECT_EQ(pass(), (Seen{.light = false, .haloed = false})) << "in the colours of what covers the panel";
     cover.hide();
+
+    put(dock, {0, 0, 30, 600}, QColor(240, 240, 240));
+    const auto ids = [&] {
+        pass();
+        QStringList all;
+        for (const Item& at : std::vector(host.items)) // more may come meanwhile
+            all << host.property(at, u"Id"_s).toString();
+        return all.mid(1); // the first was the whole row, and is gone
+    };
+    EXPECT_TRUE(spinUntil([&] { return ids() == QStringList{u"vantrix-1-cpu"_s, u"vantrix-2-memory"_s}; }));
 }
 
 } // namespace
