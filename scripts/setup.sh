@@ -5,7 +5,7 @@ set -euo pipefail
 
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev qt6-l10n-tools libxcb1-dev libnl-genl-3-dev"
-  [test]="libgtest-dev libgmock-dev at-spi2-core dbus xvfb xauth fonts-dejavu-core"
+  [test]="libgtest-dev libgmock-dev dbus xvfb xauth fonts-dejavu-core"
   [check]="clang clang-format clang-tidy git"
   [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb xauth"
   [truth]="stress-ng iproute2 python3"

@@ -6,6 +6,7 @@
 #include <QScreen>
 #include <QToolTip>
 
+#include "app/accessible_application.h"
 #include "app/status_details.h"
 #include "menubar/preferences.h"
 #include "platform/desktop_services.h"
@@ -51,6 +52,7 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::applicationDidFinishLaunching() {
+    installAccessibleApplication();
     registerPreferences(defaults_);
     createStatusItem();
     monitor_.onUpdate = [delegate = QPointer<AppDelegate>(this)] {

@@ -3,7 +3,6 @@
 
 #include <QApplication>
 
-#include "app/accessible_application.h"
 #include "app/app_delegate.h"
 #include "app/command_line.h"
 #include "app/doctor.h"
@@ -51,7 +50,6 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
     QApplication application(argc, argv);
     display.reset();
     installTranslations();
-    installAccessibleApplication();
     QApplication::setApplicationName(QStringLiteral("vantrix"));
     QApplication::setDesktopFileName(QStringLiteral("vantrix"));
     const auto channel = claimInstance();

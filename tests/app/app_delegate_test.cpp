@@ -1,5 +1,8 @@
 #include "app/app_delegate.h"
 
+#include <set>
+
+#include <QAccessible>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QMenu>
@@ -18,8 +21,7 @@
 namespace vantrix {
 namespace {
 
-class FakeStatusItem : public StatusItem {
-  public:
+struct FakeStatusItem : StatusItem {
     explicit FakeStatusItem(Handlers handlers) : handlers(std::move(handlers)) {}
     void show(const StatusContent& content) override {
         shown.push_back(content);
@@ -39,8 +41,7 @@ class FakeStatusItem : public StatusItem {
     std::function<void()> onShow;
 };
 
-class AppDelegateTest : public ::testing::Test {
-  protected:
+struct AppDelegateTest : ::testing::Test {
     AppDelegateTest()
         : delegate({.sources = machine.makeSources(),
                     .appearance = appearance,
@@ -153,6 +154,49 @@ TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {
     for (const char* request : {"", "nonsense", "show-settings nonsense", "show-settingsgeneral"})
         delegate.handleRequest(request);
     EXPECT_EQ(settings()->currentTab(), SettingsTab::alerts);
+}
+
+/// The first in a tree of what assistive programs read with that role and name; null when there is none, or no tree.
+QAccessibleInterface* find(QAccessibleInterface* tree, QAccessible::Role role, const char* name) {
+    if (!tree || (tree->role() == role && tree->text(QAccessible::Name) == QLatin1StringView(name)))
+        return tree;
+    for (int i = 0; i < tree->childCount(); ++i)
+        if (auto* found = find(tree->child(i), role, name))
+            return found;
+    return nullptr;
+}
+
+TEST_F(AppDelegateTest, AssistiveProgramsReadThePopoverAndItsGauges) {
+    delegate.showPopover();
+    auto* popover = find(QAccessible::queryAccessibleInterface(qApp), QAccessible::Dialog, "Vantrix");
+    ASSERT_TRUE(popover) << "the toolkit leaves pop-ups out";
+    EXPECT_TRUE(find(popover, QAccessible::Button, "Vantrix menu"));
+    const std::tuple<const char*, const char*, double> gauges[] = {
+        {"CPU", "CPU load", 0.0}, {"Memory", "Memory in use", 0.5}, {"Disk", "Disk space in use", 0.6}};
+    for (const auto& [card, name, value] : gauges) {
+        auto* gauge = find(find(popover, QAccessible::Grouping, card), QAccessible::ProgressBar, name);
+        ASSERT_TRUE(gauge && gauge->valueInterface()) << name;
+        EXPECT_EQ(gauge->valueInterface()->currentValue().toDouble(), value);
+        EXPECT_EQ(gauge->valueInterface()->maximumValue(), 1.0);
+    }
+}
+
+TEST_F(AppDelegateTest, EveryControlOfTheSettingsHasItsName) {
+    const std::set controls{QAccessible::Button, QAccessible::CheckBox, QAccessible::RadioButton,
+                            QAccessible::Slider, QAccessible::ComboBox, QAccessible::PageTab};
+    for (const auto& tab : settingsTabs) {
+        delegate.handleRequest("show-settings " + std::string(tab.rawValue));
+        for (QWidget* widget : settings()->findChildren<QWidget*>()) {
+            auto* told = QAccessible::queryAccessibleInterface(widget);
+            EXPECT_FALSE(controls.contains(told->role()) && told->text(QAccessible::Name).isEmpty())
+                << widget->metaObject()->className();
+        }
+    }
+    delegate.handleRequest("show-settings general");
+    auto* slider = find(QAccessible::queryAccessibleInterface(settings()), QAccessible::Slider, "Critical threshold");
+    ASSERT_TRUE(slider && slider->valueInterface());
+    EXPECT_DOUBLE_EQ(slider->valueInterface()->currentValue().toDouble(), 0.9);
+    EXPECT_DOUBLE_EQ(slider->valueInterface()->minimumValue().toDouble(), 0.55);
 }
 
 } // namespace
