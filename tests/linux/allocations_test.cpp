@@ -85,22 +85,15 @@ TEST(SamplingPass, AllocatesNothingAfterTheSecond) {
 
 /// Every pass meets a line of the grid, so that all power settings are read.
 TEST(SamplingPass, AllocatesNothingForGPUsThatMayFallAsleep) {
-    const TemporaryFolder folder;
-    for (const std::string place : {"class/drm/card1/device/", "class/hwmon/hwmon0/device/"}) {
-        folder.writeLines(place, {{"power/runtime_status", "active"},
-                                  {"power/control", "auto"},
-                                  {"power/autosuspend_delay_ms", "5000"},
-                                  {"boot_vga", "1"},
-                                  {"drm/card1/card1-a-connector-of-a-long-name/dpms", "Off"}});
-    }
-    folder.write("class/drm/card1/device/gpu_busy_percent", "0\n");
-    folder.writeLines("class/hwmon/hwmon0", {{"name", "amdgpu"}, {"temp1_input", "50000"}, {"fan1_input", "900"}});
+    const fakes::FixtureMachine machine("idle-card");
+    machine.writeLines("sys/class/drm/card1/device",
+                       {{"boot_vga", "1"}, {"drm/card1/card1-a-connector-of-a-long-name/dpms", "Off"}});
     const auto clock = std::make_shared<FakeClock>();
     auto ownClock = std::make_unique<FakeClock>();
     FakeClock& ofGPUs = *ownClock;
-    LinuxGPUSource gpus(folder.path(""), std::move(ownClock), nullptr);
-    LinuxTemperatures temperatures(folder.path(""), clock);
-    LinuxSensorKeys keys(folder.path(""), clock);
+    LinuxGPUSource gpus(machine.roots().sys, std::move(ownClock), nullptr);
+    LinuxTemperatures temperatures(machine.roots().sys, clock);
+    LinuxSensorKeys keys(machine.roots().sys, clock);
     std::vector<HIDTemperatureSampler::Service> services;
     const auto passes = [&] {
         for (int i = 0; i < 20; ++i) {
@@ -114,7 +107,7 @@ TEST(SamplingPass, AllocatesNothingForGPUsThatMayFallAsleep) {
     ofGPUs.now = 120.0;
     passes();
     EXPECT_EQ(allocationsDuring(passes), 0);
-    EXPECT_EQ(services.at(0).temperature, 50.0);
+    EXPECT_EQ(services.at(0).temperature, 40.0);
 }
 
 } // namespace

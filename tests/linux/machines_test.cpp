@@ -117,33 +117,31 @@ TEST(Machines, ReadAsTheyAre) {
     }
 }
 
-TEST(Machines, TwoPacksAreOneBattery) {
+TEST(Machines, TellOfTheirBatteriesWhateverTheDriver) {
     const std::pair<const char*, BatterySample> rows[] = {
         // 20 Wh of 20, and 2 Ah of 5 at 11.1 V; 11.4 W flow.
         {"two-packs-and-accessories", {56, false, false, 222, 312, 83, 31.2, 11.4}},
         // 12 Wh of 24 at 12 V, and 1 Ah of 3 at a voltage that its driver keeps to itself; 1 A flows.
         {"laptop-with-two-packs", {40, true, true, 180, 87, 83, {}, {}}},
+        {"batteries/energy-discharging", {49, false, false, 150, 211, 90, 31.5, 10.0}},
+        {"batteries/charge-and-negative-current", {50, true, true, 110, {}, 80, {}, 12.0}},
+        {"batteries/charge-without-a-voltage", {50, false, false, 120, {}, 80}},
+        {"batteries/percentage-and-mean-time", {40, true, true, 30, {}, 90}},
+        {"batteries/both-times", {9, {}, {}, 10}},
+        {"batteries/energy-beside-charge", {50, false, false, {}, {}, {}, {}, 10.0}},
+        {"batteries/capacity-alone", {77}},
+        {"batteries/held-at-a-limit", {80, false, true}},
+        {"batteries/full-without-mains", {100, false, true}},
+        {"batteries/full-unplugged", {100}},
+        {"batteries/charging-over-a-silent-port", {5, true, true}},
+        {"batteries/no-power-yet", {50}},
+        {"batteries/empty-bay", {60, false, true}},
+        {"batteries/nonsense", {60, false, true}},
     };
     for (const auto& [name, sample] : rows) {
         const fakes::FixtureMachine machine(name);
         EXPECT_EQ(Samplers(makeSamplingSources(machine.roots())).battery->sample(), sample) << name;
     }
-}
-
-TEST(Machines, SleepingGPUCountsAsIdle) {
-    const fakes::FixtureMachine machine("gpu-asleep-beside-another");
-    EXPECT_EQ(Samplers(makeSamplingSources(machine.roots())).gpu->sample(), 0.35);
-}
-
-TEST(ThisMachine, AnswersWhatEveryMachineDoes) {
-    Samplers samplers(makeSamplingSources({}));
-    ASSERT_NE(samplers.cpu.sample(), nullptr);
-    EXPECT_GE(samplers.cpu.sample()->perCore.size(), 1u);
-    EXPECT_TRUE(samplers.network.sample().has_value());
-    EXPECT_GT(samplers.disk.sample().total, 0u);
-    EXPECT_GT(usedFraction(samplers.memory.sample().value_or(MemorySample())), 0.0);
-    EXPECT_GE(samplers.sources.information->integer("hw.logicalcpu").value_or(0), 1);
-    EXPECT_GE(samplers.sources.information->processorCount(), 1);
 }
 
 TEST(MissingMachine, IsAbsentThroughout) {

@@ -11,7 +11,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 
 /// "state source", or "state source: reason" of each row of a reading.
 std::vector<std::string> told(const DiagnosisTools& tools, std::string_view name) {
@@ -65,12 +64,6 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
     }
 }
 
-TEST(Diagnosis, ExplainsNoMemoryThatCannotBeRead) {
-    const fakes::FixtureMachine machine("zfs-host");
-    machine.write("proc/meminfo", "MemTotal: 1");
-    EXPECT_THAT(told(toolsFor(machine), reading_name::memory), ElementsAre("ok PROC/meminfo"));
-}
-
 TEST(Diagnosis, SaysHowToGetAtWhatIsDenied) {
     const fakes::FixtureMachine machine("laptop-many-sensors");
     auto tools = toolsFor(machine);
@@ -81,19 +74,6 @@ TEST(Diagnosis, SaysHowToGetAtWhatIsDenied) {
                 ElementsAre(HasSubstr("/class/powercap/intel-rapl:*/energy_uj 0440 root GROUP -")));
     EXPECT_THAT(told(tools, reading_name::systemPower), ElementsAre(HasSubstr("ok SYS/class/power_supply/BAT0")));
     EXPECT_THAT(told(tools, reading_name::processor), ElementsAre(HasSubstr("denied ")));
-}
-
-TEST(Diagnosis, PermissionsAreToldWithoutOpening) {
-    TemporaryFolder folder;
-    folder.write("device/file", "1\n");
-    OpenedFiles opened(folder.path("device"));
-    EXPECT_EQ(reachOf(folder.path("device/file")), Reach::readable);
-    EXPECT_EQ(reachOf(folder.path("device/none")), Reach::missing);
-    EXPECT_THAT(opened.take(), IsEmpty());
-    if (geteuid() != 0) { // who may do anything is denied nothing
-        std::filesystem::permissions(folder.path("device/file"), std::filesystem::perms::none);
-        EXPECT_EQ(reachOf(folder.path("device/file")), Reach::denied);
-    }
 }
 
 TEST(Diagnosis, SleepingGPUsAreLeftAsleep) {
@@ -127,20 +107,12 @@ TEST(Diagnosis, NamesOfPeoplesDevicesStayOut) {
 }
 
 TEST(ProcessStatistics, SumsWhatTheProcessCost) {
-    TemporaryFolder folder;
-    const auto ticks = sysconf(_SC_CLK_TCK);
-    folder.write("uptime", "1000.50 12.00\n");
-    EXPECT_EQ(processStatistics(7, folder.path("")), std::nullopt);
-    folder.write("7/stat", "7 (a ) S (b) S 1 7 7 0 -1 0 0 0 0 0 " + std::to_string(3 * ticks) + ' ' +
-                               std::to_string(ticks) + " 0 0 20 0 2 0 " + std::to_string(900 * ticks) + " 0 0\n");
-    folder.write("7/smaps_rollup",
-                 "0-f ---p 0 00:00 0 [rollup]\nRss: 48 kB\nPrivate_Clean: 3 kB\nPrivate_Dirty: 7 kB\n");
-    folder.write("7/status", "voluntary_ctxt_switches:\t1000\n"); // of the first thread, which is below task too
-    folder.write("7/task/7/status", "voluntary_ctxt_switches:\t10\nnonvoluntary_ctxt_switches:\t2\n");
-    folder.write("7/task/8/status", "voluntary_ctxt_switches:\t5\nnonvoluntary_ctxt_switches:\t900\n");
-    EXPECT_EQ(processStatistics(7, folder.path("")), (ProcessStatistics{100.5, 3.0, 1.0, 48 * 1024, 10 * 1024, 15, 2}));
-    folder.remove("7/smaps_rollup");
-    EXPECT_EQ(processStatistics(7, folder.path("")).value().residentBytes, std::nullopt);
+    const fakes::FixtureMachine machine("process-of-two-threads"); // whose status tells of the first thread alone
+    const std::string proc = machine.path("proc");
+    EXPECT_EQ(processStatistics(8, proc), std::nullopt);
+    EXPECT_EQ(processStatistics(7, proc), (ProcessStatistics{100.5, 3.0, 1.0, 48 * 1024, 10 * 1024, 15, 2}));
+    machine.remove("proc/7/smaps_rollup");
+    EXPECT_EQ(processStatistics(7, proc).value().residentBytes, std::nullopt);
 }
 
 } // namespace

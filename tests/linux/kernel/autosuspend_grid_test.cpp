@@ -1,15 +1,14 @@
 #include "linux/kernel/autosuspend_grid.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include <gtest/gtest.h>
 
+#include "fakes/fixture_machine.h"
 #include "linux/graphics/linux_gpu_source.h"
 #include "linux/opened_files.h"
 #include "linux/sensors/linux_sensor_keys.h"
 #include "linux/sensors/linux_temperatures.h"
-#include "linux/temporary_folder.h"
 
 namespace vantrix {
 namespace {
@@ -22,31 +21,17 @@ struct SharedClock : Clock {
 
 /// Passes over an idle graphics card, whose load, temperature and fan are asked for.
 struct Card {
-    TemporaryFolder folder;
+    fakes::FixtureMachine machine{"idle-card"};
     double now = 1000.3;
-    LinuxGPUSource loads{folder.path("sys"), std::make_unique<SharedClock>(now), nullptr};
-    LinuxTemperatures temperatures{folder.path("sys"), std::make_shared<SharedClock>(now)};
-    LinuxSensorKeys keys{folder.path("sys"), std::make_shared<SharedClock>(now)};
+    LinuxGPUSource loads{machine.path("sys"), std::make_unique<SharedClock>(now), nullptr};
+    LinuxTemperatures temperatures{machine.path("sys"), std::make_shared<SharedClock>(now)};
+    LinuxSensorKeys keys{machine.path("sys"), std::make_shared<SharedClock>(now)};
     std::vector<HIDTemperatureSampler::Service> services;
 
-    explicit Card(const std::string& delay) {
-        const std::string device = "sys/devices/0000:0b:00.0/";
-        folder.write(device + "power/runtime_status", "active\n");
-        folder.write(device + "power/control", "auto\n");
-        folder.write(device + "power/autosuspend_delay_ms", delay + '\n');
-        folder.write(device + "gpu_busy_percent", "0\n");
-        folder.write(device + "hwmon/hwmon3/name", "amdgpu\n");
-        folder.write(device + "hwmon/hwmon3/temp1_input", "40000\n");
-        folder.write(device + "hwmon/hwmon3/fan1_input", "900\n");
-        link("../..", device + "hwmon/hwmon3/device");
-        std::filesystem::create_directories(folder.path("sys/class/drm/card1"));
-        std::filesystem::create_directories(folder.path("sys/class/hwmon"));
-        link("../../../devices/0000:0b:00.0", "sys/class/drm/card1/device");
-        link("../../devices/0000:0b:00.0/hwmon/hwmon3", "sys/class/hwmon/hwmon3");
+    explicit Card(const char* delay) {
+        machine.write("sys/devices/0000:0b:00.0/power/autosuspend_delay_ms", delay + std::string(1, '\n'));
     }
-    void link(const std::string& target, const std::string& place) {
-        std::filesystem::create_directory_symlink(target, folder.path(place));
-    }
+
     void pass() {
         EXPECT_TRUE(loads.read());
         EXPECT_TRUE(temperatures.read(services));
@@ -64,7 +49,7 @@ TEST(AutosuspendGrid, AllWhoAskLeaveACardTheTimeToFallAsleep) {
     for (const auto& row : rows) {
         Card card(row.delay);
         card.pass();
-        OpenedFiles opened(card.folder.path("sys/devices/0000:0b:00.0"));
+        OpenedFiles opened(card.machine.path("sys/devices/0000:0b:00.0"));
         const double begin = card.now;
         double lastQuestion = begin;
         double longestRest = 0.0;
