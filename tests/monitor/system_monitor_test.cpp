@@ -7,7 +7,7 @@
 #include "fakes/fake_bluetooth.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
-#include "fakes/optional_sources.h"
+#include "monitor/active_components.h"
 
 namespace vantrix {
 namespace {
@@ -15,8 +15,7 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-class ManualTimer : public RepeatingTimer {
-  public:
+struct ManualTimer : RepeatingTimer {
     using Schedule = std::pair<double, double>; ///< period and tolerance
     std::vector<Schedule> schedules;
     std::function<void()> fire;
@@ -28,8 +27,7 @@ class ManualTimer : public RepeatingTimer {
 };
 
 /// Holds tasks back until the test finishes them.
-class ManualRunner : public TaskRunner {
-  public:
+struct ManualRunner : TaskRunner {
     struct Task {
         std::function<void()> work;
         std::function<void()> done;
@@ -42,8 +40,7 @@ class ManualRunner : public TaskRunner {
     }
 };
 
-class SystemMonitorTest : public ::testing::Test {
-  protected:
+struct SystemMonitorTest : ::testing::Test {
     SystemMonitorTest() { make(machine.makeSources()); }
 
     void make(SamplingSources sources, Bluetooth bluetooth = {}) {
@@ -53,12 +50,6 @@ class SystemMonitorTest : public ::testing::Test {
                                                   std::make_unique<ManualRunner>(tasks), std::move(bluetooth));
         QObject::connect(monitor.get(), &SystemMonitor::changed,
                          [this](Reading reading) { changes.push_back(reading); });
-    }
-
-    void makeWithExtras() {
-        auto sources = machine.makeSources();
-        extras.addTo(sources);
-        make(std::move(sources));
     }
 
     void pass(double seconds = 2.0) {
@@ -80,7 +71,6 @@ class SystemMonitorTest : public ::testing::Test {
     const Readings& readings() const { return monitor->readings(); }
 
     fakes::FakeMachine machine;
-    fakes::OptionalSources extras;
     fakes::FakeDefaults defaults;
     std::vector<ManualRunner::Task> tasks;
     std::vector<Reading> changes;
@@ -148,42 +138,38 @@ TEST_F(SystemMonitorTest, TellsOfEachReadingOnceAPassAndThenOfItsEnd) {
     EXPECT_EQ(ends, 1u);
 }
 
-TEST_F(SystemMonitorTest, ReadingsThatNotEveryMachineHasJoinThePassInItsOrder) {
-    makeWithExtras();
+TEST_F(SystemMonitorTest, ALoadThatIsAbsentLeavesItsHistoryAsItIs) {
+    struct FakeGPU : GPUSampler::Source {
+        Properties told{{"Device Utilization %", std::int64_t{40}}};
+        std::optional<std::span<const Properties>> read() override { return std::span(&told, 1); }
+    };
+    auto sources = machine.makeSources();
+    auto* const gpu = new FakeGPU;
+    sources.gpu.reset(gpu);
+    make(std::move(sources));
     pass();
-    EXPECT_THAT(extras.asked, ElementsAre("connection", "gpu", "sensors", "battery"));
-    EXPECT_EQ(readings().networkInfo.kind, NetworkInfo::Kind::ethernet);
-    EXPECT_EQ(readings().gpu, 0.4);
-    EXPECT_EQ(readings().battery->percent, 50);
     pass();
-    EXPECT_EQ(count(Reading::gpu), 0); // an unchanged load is no news
-    EXPECT_EQ(count(Reading::battery), 1);
-    extras.temperature = std::nullopt;
-    extras.route = std::nullopt;
-    extras.gpu.clear();
+    EXPECT_EQ(count(Reading::gpu), 0) << "an unchanged load is no news";
+    gpu->told.clear();
     pass();
-    EXPECT_EQ(readings().networkInfo, NetworkInfo());
     EXPECT_EQ(readings().gpu, std::nullopt);
-    // Absent values leave the histories as they are.
-    EXPECT_THAT(readings().cpuTemperatureHistory, ElementsAre(52.0, 52.0));
-    EXPECT_THAT(readings().systemPowerHistory, ElementsAre(9.5, 9.5, 9.5));
     EXPECT_THAT(readings().gpuHistory, ElementsAre(0.4, 0.4));
+    for (std::size_t i = 0; i < historyLength; ++i)
+        pass();
+    EXPECT_EQ(readings().memoryHistory.size(), historyLength) << "what lies further back is forgotten";
 }
 
-TEST_F(SystemMonitorTest, ForgetsWhatLiesSixtyPassesBack) {
-    makeWithExtras();
-    const auto gpuAfter = [&](std::int64_t energy, std::size_t passes) {
-        extras.gpuEnergy = energy;
-        while (passes-- > 0)
-            pass();
-        return readings().activeComponents.gpu;
+TEST(ActiveComponents, AreKnownUntilTheyDrewNoPowerForAWholeHistory) {
+    ActiveComponents active;
+    const auto gpuAfter = [&](double watts, std::size_t passes) {
+        while (--passes > 0)
+            active.among({.gpu = watts});
+        return active.among({.gpu = watts}).gpu;
     };
-    EXPECT_EQ(gpuAfter(0, 3), std::nullopt) << "it draws nothing";
-    EXPECT_EQ(gpuAfter(300, 1), 0.15);
-    EXPECT_EQ(gpuAfter(100, 59), 0.05) << "as good as nothing, but only for 59 passes";
-    extras.temperature = 60.0;
-    EXPECT_EQ(gpuAfter(100, 1), std::nullopt);
-    EXPECT_THAT(readings().cpuTemperatureHistory, testing::AllOf(testing::SizeIs(60), testing::Contains(60.0)));
+    EXPECT_EQ(gpuAfter(0.0, 3), std::nullopt);
+    EXPECT_EQ(gpuAfter(0.15, 1), 0.15);
+    EXPECT_EQ(gpuAfter(0.05, historyLength - 1), 0.05) << "as good as nothing, but only for 59 passes";
+    EXPECT_EQ(gpuAfter(0.05, 1), std::nullopt);
 }
 
 TEST_F(SystemMonitorTest, ChangingTheIntervalReplacesARunningTimerOnly) {
@@ -231,11 +217,8 @@ TEST_F(SystemMonitorTest, AScanThatFindsNoThreadLeavesTheListAndIsTriedAgain) {
     EXPECT_EQ(tasks.size(), 1u);
 }
 
-constexpr const char* any = "dot.radiowaves.left.and.right";
-
 /// A monitor with Bluetooth, one mouse of which the scan finds as well.
-class BluetoothMonitorTest : public SystemMonitorTest {
-  protected:
+struct BluetoothMonitorTest : SystemMonitorTest {
     BluetoothMonitorTest() {
         make(machine.makeSources(), bluetooth.make());
         machine.accessories->result = {{{{"hid-mouse", 40, false, "computermouse"}, "AA:1"}, {{"Pen", 30, false, ""}}},
@@ -265,18 +248,6 @@ TEST_F(BluetoothMonitorTest, LiveLevelsReplaceScannedOnesOfTheSameDevice) {
     QCoreApplication::sendPostedEvents(monitor.get());
     EXPECT_EQ(readings().accessories[0].percent, 63);
     EXPECT_THAT(changes, ElementsAre(Reading::accessories, Reading::accessoriesDiagnostics));
-}
-
-TEST_F(BluetoothMonitorTest, AHeadsetConnectedInBothWaysIsOneAndTwoOfANameAreTwo) {
-    bluetooth.central->peripherals.clear();
-    bluetooth.add("1", "Buds", 80);
-    bluetooth.add("2", "Pad", 79);
-    bluetooth.add("3", "Pad", 78);
-    bluetooth.classic->devices = {{"Buds", "AA:9", true, 4, {.single = 70}}};
-    becomeOn();
-    EXPECT_THAT(readings().accessories,
-                ElementsAre(AccessoryBattery{"Buds", 70, false, "headphones"}, AccessoryBattery{"Pad", 79, false, any},
-                            AccessoryBattery{"Pad", 78, false, any}));
 }
 
 TEST_F(BluetoothMonitorTest, DemoReadingsStayFixedAndAMonitorThatGoesIsNotCalled) {
