@@ -40,23 +40,79 @@ double IOHIDEventGetFloatValue(CFTypeRef event, std::int32_t field) {
     return field == 0xf0000 ? std::get<double>(object(event, Kind::fraction).value) : 0.0;
 }
 
-} // namespace
+// The library of energy reports.
 
-namespace vantrix::simulated {
-
-Functions& hidFunctions() {
-    static Functions functions{
-        {"IOHIDEventSystemClientCreate", reinterpret_cast<void*>(IOHIDEventSystemClientCreate)},
-        {"IOHIDEventSystemClientSetMatching", reinterpret_cast<void*>(IOHIDEventSystemClientSetMatching)},
-        {"IOHIDEventSystemClientCopyServices", reinterpret_cast<void*>(IOHIDEventSystemClientCopyServices)},
-        {"IOHIDServiceClientCopyProperty", reinterpret_cast<void*>(IOHIDServiceClientCopyProperty)},
-        {"IOHIDServiceClientCopyEvent", reinterpret_cast<void*>(IOHIDServiceClientCopyEvent)},
-        {"IOHIDEventGetFloatValue", reinterpret_cast<void*>(IOHIDEventGetFloatValue)},
-    };
-    return functions;
+CFMutableDictionaryRef IOReportCopyChannelsInGroup(CFStringRef group, CFStringRef, std::uint64_t, std::uint64_t,
+                                                   std::uint64_t) {
+    const bool isThere = text(group) == "Energy Model" && !fails();
+    return as<CFMutableDictionaryRef>(isThere ? make(Dictionary()) : nullptr);
 }
 
-} // namespace vantrix::simulated
+CFTypeRef IOReportCreateSubscription(void*, CFMutableDictionaryRef channels, CFMutableDictionaryRef* subscribed,
+                                     std::uint64_t, CFTypeRef) {
+    object(channels, Kind::dictionary);
+    const Outcome outcome = outcomeOf();
+    if (outcome == Outcome::works)
+        *subscribed = as<CFMutableDictionaryRef>(make(Dictionary())); // else a subscription without channels
+    return outcome == Outcome::fails ? nullptr : makeOpaque();
+}
+
+CFDictionaryRef IOReportCreateSamples(CFTypeRef subscription, CFMutableDictionaryRef channels, CFTypeRef) {
+    object(subscription, Kind::opaque);
+    object(channels, Kind::dictionary);
+    return as<CFDictionaryRef>(fails() ? nullptr : makeOpaque({{"number", mac().energySnapshots++}}));
+}
+
+std::int64_t numberOf(CFDictionaryRef snapshot) {
+    return std::get<std::int64_t>(object(snapshot, Kind::opaque).at("number")->value);
+}
+
+CFDictionaryRef IOReportCreateSamplesDelta(CFDictionaryRef before, CFDictionaryRef now, CFTypeRef) {
+    const bool isStep = numberOf(now) == numberOf(before) + 1;
+    if (!isStep || fails())
+        return nullptr;
+    return as<CFDictionaryRef>(make(Dictionary{{"IOReportChannels", *mac().energy}}));
+}
+
+CFStringRef IOReportChannelGetGroup(CFDictionaryRef channel) {
+    return as<CFStringRef>(heldAnswer(object(channel, Kind::dictionary).at("group")));
+}
+
+CFStringRef IOReportChannelGetChannelName(CFDictionaryRef channel) {
+    return as<CFStringRef>(heldAnswer(object(channel, Kind::dictionary).at("name")));
+}
+
+CFStringRef IOReportChannelGetUnitLabel(CFDictionaryRef channel) {
+    return as<CFStringRef>(heldAnswer(object(channel, Kind::dictionary).at("unit")));
+}
+
+std::int64_t IOReportSimpleGetIntegerValue(CFDictionaryRef channel, std::int32_t) {
+    return std::get<std::int64_t>(object(channel, Kind::dictionary).at("value")->value);
+}
+
+using Functions = std::map<std::string, void*>;
+
+// What the program can look up of either.
+Functions hidFunctions{
+    {"IOHIDEventSystemClientCreate", reinterpret_cast<void*>(IOHIDEventSystemClientCreate)},
+    {"IOHIDEventSystemClientSetMatching", reinterpret_cast<void*>(IOHIDEventSystemClientSetMatching)},
+    {"IOHIDEventSystemClientCopyServices", reinterpret_cast<void*>(IOHIDEventSystemClientCopyServices)},
+    {"IOHIDServiceClientCopyProperty", reinterpret_cast<void*>(IOHIDServiceClientCopyProperty)},
+    {"IOHIDServiceClientCopyEvent", reinterpret_cast<void*>(IOHIDServiceClientCopyEvent)},
+    {"IOHIDEventGetFloatValue", reinterpret_cast<void*>(IOHIDEventGetFloatValue)},
+};
+Functions energyFunctions{
+    {"IOReportCopyChannelsInGroup", reinterpret_cast<void*>(IOReportCopyChannelsInGroup)},
+    {"IOReportCreateSubscription", reinterpret_cast<void*>(IOReportCreateSubscription)},
+    {"IOReportCreateSamples", reinterpret_cast<void*>(IOReportCreateSamples)},
+    {"IOReportCreateSamplesDelta", reinterpret_cast<void*>(IOReportCreateSamplesDelta)},
+    {"IOReportChannelGetGroup", reinterpret_cast<void*>(IOReportChannelGetGroup)},
+    {"IOReportChannelGetChannelName", reinterpret_cast<void*>(IOReportChannelGetChannelName)},
+    {"IOReportChannelGetUnitLabel", reinterpret_cast<void*>(IOReportChannelGetUnitLabel)},
+    {"IOReportSimpleGetIntegerValue", reinterpret_cast<void*>(IOReportSimpleGetIntegerValue)},
+};
+
+} // namespace
 
 void* dlopen(const char* path, int mode) {
     const bool isEnergy = path && std::strcmp(path, "/usr/lib/libIOReport.dylib") == 0;
@@ -64,12 +120,12 @@ void* dlopen(const char* path, int mode) {
     if (isMissing || fails())
         return nullptr;
     ++mac().libraries;
-    return isEnergy ? &energyFunctions() : &hidFunctions();
+    return isEnergy ? &energyFunctions : &hidFunctions;
 }
 
 void* dlsym(void* handle, const char* name) {
     const auto& functions = *static_cast<Functions*>(handle);
-    const bool isThere = &functions == &energyFunctions() || mac().sensors;
+    const bool isThere = &functions == &energyFunctions || mac().sensors;
     const auto found = functions.find(name);
     const bool isFound = isThere && found != functions.end() && !fails(std::string("dlsym ") + name);
     return isFound ? found->second : nullptr;

@@ -75,8 +75,7 @@ CFTypeRef SecTaskCopyValueForEntitlement(SecTaskRef task, CFStringRef entitlemen
 namespace vantrix {
 namespace {
 
-class SimulatedWiFiClient : public WiFiClient {
-  public:
+struct SimulatedWiFiClient : WiFiClient {
     std::optional<Details> read(std::string_view name) override {
         const auto found = mac().wifi.find(name);
         return found == mac().wifi.end() || fails("readWiFi") ? std::nullopt : std::optional(found->second);

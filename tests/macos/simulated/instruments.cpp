@@ -59,33 +59,26 @@ void addBattery(const std::optional<BatterySample>& battery, ReadingTexts& texts
 
 } // namespace
 
-Instruments::Instruments()
-    : sources_(makeSamplingSources({})), cpu_(*sources_.cpu), memory_(*sources_.memory),
-      network_(*sources_.network, *sources_.clock), networkInfo_(*sources_.networkInfo),
-      disk_(*sources_.disks, *sources_.volume, *sources_.clock), gpu_(*sources_.gpu),
-      sensors_(sources_.sensorKeys.get(), sources_.temperatures.get(), sources_.energy.get(), *sources_.clock),
-      battery_(*sources_.battery) {}
-
 ReadingTexts Instruments::pass() {
     ReadingTexts texts;
-    const CPUSample* cpu = cpu_.sample();
-    texts["cpu"] = cpu ? words(cpu->total, cpu->user, cpu->system, cpu->perCore.at(0), cpu->perCore.at(1)) : "-";
-    const auto memory = memory_.sample();
-    texts["memory"] = memory ? words(memory->app, memory->wired, memory->compressed) : "-";
-    texts["installed"] = memory ? words(memory->total, memory->swapUsed, static_cast<int>(memory->pressure)) : "-";
-    const auto network = network_.sample();
-    texts["network"] = network ? words(network->download, network->upload) : "-";
-    addConnection(networkInfo_.sample(true, LocationAccess::authorizedAlways), texts);
-    const DiskSample disk = disk_.sample();
-    texts["space"] = disk.total > 0 ? words(disk.total, disk.available) : "-";
-    texts["rates"] = disk.readRate ? words(disk.readRate, disk.writeRate) : "-";
-    texts["gpu"] = words(gpu_.sample());
-    addSensors(sensors_.sample(), texts);
-    addBattery(battery_.sample(), texts);
-    const ProcessorDescription processor(*sources_.information);
+    const CPUSample* load = cpu.sample();
+    texts["cpu"] = load ? words(load->total, load->user, load->system, load->perCore.at(0), load->perCore.at(1)) : "-";
+    const auto pages = memory.sample();
+    texts["memory"] = pages ? words(pages->app, pages->wired, pages->compressed) : "-";
+    texts["installed"] = pages ? words(pages->total, pages->swapUsed, static_cast<int>(pages->pressure)) : "-";
+    const auto traffic = network.sample();
+    texts["network"] = traffic ? words(traffic->download, traffic->upload) : "-";
+    addConnection(networkInfo->sample(true, LocationAccess::authorizedAlways), texts);
+    const DiskSample volume = disk.sample();
+    texts["space"] = volume.total > 0 ? words(volume.total, volume.available) : "-";
+    texts["rates"] = volume.readRate ? words(volume.readRate, volume.writeRate) : "-";
+    texts["gpu"] = words(gpu->sample());
+    addSensors(sensors.sample(), texts);
+    addBattery(battery->sample(), texts);
+    const ProcessorDescription processor(*sources.information);
     texts["processor"] = processor.brand() + ", " + processor.cores();
     texts["accessories"] = "-";
-    for (const AccessoryReading& accessory : sources_.accessories->scan().accessories)
+    for (const AccessoryReading& accessory : sources.accessories->scan().accessories)
         texts["accessories"] = words(accessory.battery.name, accessory.battery.percent, accessory.address);
     return texts;
 }

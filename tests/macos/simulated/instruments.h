@@ -1,11 +1,9 @@
 #pragma once
 
 #include <map>
-#include <optional>
 #include <string>
 
-#include "platform/sampling_sources.h"
-#include "sensors/sensors_sampler.h"
+#include "monitor/samplers.h"
 
 namespace vantrix::simulated {
 
@@ -13,23 +11,11 @@ namespace vantrix::simulated {
 using ReadingTexts = std::map<std::string, std::string>;
 
 /// All samplers over the sources of the present machine.
-class Instruments {
-  public:
-    Instruments();
+struct Instruments : Samplers {
+    Instruments() : Samplers(makeSamplingSources({})) {}
 
     /// One pass of all samplers.
     ReadingTexts pass();
-
-  private:
-    SamplingSources sources_;
-    CPUSampler cpu_;
-    MemorySampler memory_;
-    NetworkSampler network_;
-    NetworkInfoSampler networkInfo_;
-    DiskSampler disk_;
-    GPUSampler gpu_;
-    SensorsSampler sensors_;
-    BatterySampler battery_;
 };
 
 } // namespace vantrix::simulated

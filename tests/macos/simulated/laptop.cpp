@@ -1,4 +1,4 @@
-#include "macos/simulated/laptop.h"
+#include "macos/simulated/machine.h"
 
 #include <bit>
 

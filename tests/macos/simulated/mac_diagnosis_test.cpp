@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "macos/simulated/laptop.h"
+#include "macos/simulated/machine.h"
 
 namespace vantrix::simulated {
 namespace {

@@ -34,8 +34,7 @@ struct SMCKey {
 };
 
 /// A Mac as its interfaces tell of it; everything that a new one has is nothing at all. One at a time.
-class Machine {
-  public:
+struct Machine {
     Machine();
     ~Machine();
     Machine(const Machine&) = delete;
@@ -100,10 +99,10 @@ Object* answer(Object* made, const char* call = __builtin_FUNCTION());
 /// The same for a function whose answer stays the owner's.
 const Object* heldAnswer(const Object* held, const char* call = __builtin_FUNCTION());
 
-using Functions = std::map<std::string, void*>;
+/// Gives the machine everything that a laptop has.
+void furnish(Machine& machine);
 
-/// What the program can look up of the HID event system, and what the library of energy reports exports.
-Functions& hidFunctions();
-Functions& energyFunctions();
+/// Two seconds later: time and every counter have moved on.
+void advance(Machine& machine);
 
 } // namespace vantrix::simulated

@@ -22,13 +22,6 @@ Object* track(Object made) {
 
 } // namespace
 
-Ref::Ref(const Ref& other) : object_(retain(other.object_)) {}
-
-Ref::~Ref() {
-    if (object_)
-        CFRelease(object_);
-}
-
 Object* make(const Value& value) {
     Object made{.kind = static_cast<Kind>(value.index())};
     if (const auto* const members = std::get_if<List>(&value)) {

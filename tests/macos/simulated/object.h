@@ -2,8 +2,8 @@
 
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
-#include <utility>
 #include <variant>
 #include <vector>
 
@@ -25,23 +25,10 @@ enum class Kind : CFTypeID { truth, whole, fraction, text, list, dictionary, opa
 
 struct Object;
 
-/// Releases and retains like the program does, so that a fault of the fakes shows as well. Null for none.
-class Ref {
-  public:
+/// One reference, which is given back with its last holder. Null for none.
+struct Ref : std::shared_ptr<Object> {
     Ref() = default;
-    explicit Ref(Object* owned) : object_(owned) {}
-    Ref(const Ref& other);
-    Ref(Ref&& other) noexcept : object_(std::exchange(other.object_, nullptr)) {}
-    Ref& operator=(Ref other) {
-        std::swap(object_, other.object_);
-        return *this;
-    }
-    ~Ref();
-
-    Object* get() const { return object_; }
-
-  private:
-    Object* object_ = nullptr;
+    explicit Ref(Object* owned) : shared_ptr(owned, CFRelease) {}
 };
 
 /// Everything that is counted by references.

@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 
-#include "accessories/bluetooth_battery_reader.h"
-#include "fakes/fake_bluetooth.h"
 #include "macos/mac_accessories.h"
 #include "macos/mac_application_group.h"
 #include "macos/processor/sysctl_information.h"
-#include "macos/simulated/laptop.h"
+#include "macos/simulated/machine.h"
 #include "platform/diagnosis.h"
 
 namespace vantrix::simulated {
@@ -60,29 +58,6 @@ TEST(MacAccessories, MergesTheReportWithTheRegistry) {
         }
     }
     EXPECT_EQ(machine.outstanding(), "");
-}
-
-// The system keeps the address of an LE device to itself and gives it an identifier, which the report lacks.
-TEST(MacAccessories, TwoOfANameStayTwoBesideTheirLiveLevels) {
-    Machine machine;
-    const auto pad = [](const char* address, const char* level) {
-        return Dictionary{{"Pad", Dictionary{{"device_address", address}, {"device_batteryLevelMain", level}}}};
-    };
-    const List connected{pad("AA:BB:CC:DD:EE:01", "80%"), pad("AA:BB:CC:DD:EE:02", "20%")};
-    machine.propertyLists["SPBluetoothDataType -xml\n"] =
-        List{Dictionary{{"_items", List{Dictionary{{"device_connected", connected}}}}}};
-
-    fakes::FakeBluetooth bluetooth;
-    Bluetooth parts = bluetooth.make();
-    BluetoothBatteryReader reader(std::move(parts.central), nullptr, std::move(parts.timer));
-    bluetooth.add("3F2A", "Pad", 19);
-    bluetooth.add("71C0", "Pad", 79);
-    bluetooth.add("9B55", "Pad", 50);
-    bluetooth.central->become(BluetoothState::poweredOn);
-    std::string found;
-    for (const auto& one : combineAccessories(MacAccessories("/bin/echo").scan().accessories, reader.readings()))
-        found += one.address + ' ' + one.identifier + ' ' + std::to_string(one.battery.percent) + "%, ";
-    EXPECT_EQ(found, "AA:BB:CC:DD:EE:01 71C0 79%, AA:BB:CC:DD:EE:02 3F2A 19%,  9B55 50%, ");
 }
 
 TEST(ProcessStatistics, AreInSecondsAndBytes) {
