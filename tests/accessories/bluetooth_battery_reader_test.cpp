@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include "fakes/fake_bluetooth.h"
-#include "support/localization.h"
 
 namespace vantrix {
 namespace {
@@ -12,8 +11,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using State = BluetoothState;
 
-class BluetoothBatteryReaderTest : public ::testing::Test {
-  protected:
+struct BluetoothBatteryReaderTest : ::testing::Test {
     BluetoothBatteryReaderTest() {
         Bluetooth bundle = system.make();
         reader = std::make_unique<BluetoothBatteryReader>(std::move(bundle.central), std::move(bundle.classicDevices),
@@ -115,15 +113,6 @@ TEST_F(BluetoothBatteryReaderTest, ListsClassicDevices) {
                             AccessoryBattery{"00:02", 100, false, "dot.radiowaves.left.and.right"}));
     EXPECT_EQ(reader->diagnostics(),
               "on, 0 with battery service | classic: Buds 30%, 00:02 100%, Travel Mouse [no value] class 5");
-}
-
-TEST_F(BluetoothBatteryReaderTest, SpeaksTheLanguageOfTheInterface) {
-    installTranslator([](std::string_view english, auto) { return '<' + std::string(english) + '>'; });
-    system.classic->devices = {{"", "", true, 0, {.single = 1}}, {"Buds", "", true, 0, {.box = 2}}};
-    system.central->become(State::poweredOn);
-    installTranslator(nullptr);
-    EXPECT_EQ(reader->classic()[0].battery.name, "<Bluetooth device>");
-    EXPECT_EQ(reader->classic()[1].battery.name, "<Buds case>");
 }
 
 TEST_F(BluetoothBatteryReaderTest, LeavesNothingBehindThatCallsIt) {

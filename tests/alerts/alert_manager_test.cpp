@@ -1,5 +1,6 @@
 #include "alerts/alert_manager.h"
 
+#include <functional>
 #include <memory>
 
 #include <gmock/gmock.h>
@@ -16,8 +17,7 @@ using Pressure = MemorySample::Pressure;
 
 constexpr std::uint64_t gibibyte = std::uint64_t{1} << 30;
 
-class AlertManagerTest : public ::testing::Test {
-  protected:
+struct AlertManagerTest : ::testing::Test {
     AlertManagerTest() {
         readings.cpu.total = 0.934;
         defaults.set(preference_key::alertsEnabled, true);
@@ -94,45 +94,34 @@ TEST_F(AlertManagerTest, EachKindHasItsSwitch) {
     }
 }
 
-TEST_F(AlertManagerTest, FiresOnceTheConditionHasLastedAndEvery15MinutesFromThen) {
-    readings.sensors.cpu = 100.0; // a kind with a cooldown of its own
-    EXPECT_EQ(postsIn(14), 0u);
-    EXPECT_EQ(postsIn(1), 2u); // 30 seconds
-    EXPECT_EQ(postsIn(449), 0u);
-    EXPECT_EQ(postsIn(1), 2u); // 900 seconds later to the second
-}
-
-TEST_F(AlertManagerTest, ABreakStartsTheTimeAnewButNotTheCooldown) {
-    const auto breakOff = [this] {
-        readings.cpu.total = 0.5;
-        EXPECT_EQ(postsIn(1), 0u);
-        readings.cpu.total = 1.0;
+TEST_F(AlertManagerTest, TellsOfWhatHasLastedAndAgainEvery15Minutes) {
+    const struct {
+        const char* name;
+        std::function<void()> change;
+        int passes;
+        std::size_t posts; // with the last of them
+    } steps[] = {
+        {"after 30 seconds", [&] { readings.sensors.cpu = 100.0; }, 15, 2}, // two kinds, each with its cooldown
+        {"900 seconds later to the second", [&] { readings.sensors.cpu.reset(); }, 450, 1},
+        {"a break", [&] { readings.cpu.total = 0.5; }, 1, 0},
+        {"starts the time anew but not the cooldown", [&] { readings.cpu.total = 1.0; }, 449, 1},
+        {"a clock that is set back neither repeats nor silences", [&] { now -= 1e8; }, 451, 1},
+        {"a break again", [&] { readings.cpu.total = 0.5; }, 1000, 0},
+        {"not yet", [&] { readings.cpu.total = 1.0; }, 10, 0},
+        {"switched off", [&] { defaults.set(preference_key::alertsEnabled, false); }, 100, 0},
+        {"goes on from 20 seconds, by another interval and duration",
+         [&] {
+             defaults.set(preference_key::alertsEnabled, true);
+             defaults.set(preference_key::alertDuration, 60.0);
+             readings.interval = 0.5;
+         },
+         80, 1},
     };
-    EXPECT_EQ(postsIn(14), 0u);
-    breakOff();
-    EXPECT_EQ(postsIn(14), 0u);
-    EXPECT_EQ(postsIn(1), 1u);
-    breakOff();
-    EXPECT_EQ(postsIn(448), 0u);
-    EXPECT_EQ(postsIn(1), 1u);
-}
-
-TEST_F(AlertManagerTest, CountsByTheIntervalAndReadsTheSettingsAfresh) {
-    EXPECT_EQ(postsIn(10), 0u);
-    readings.interval = 0.5;
-    defaults.set(preference_key::alertsEnabled, false);
-    EXPECT_EQ(postsIn(100), 0u);
-    defaults.set(preference_key::alertsEnabled, true); // goes on from 20 seconds
-    defaults.set(preference_key::alertDuration, 60.0);
-    EXPECT_EQ(postsIn(79), 0u);
-    EXPECT_EQ(postsIn(1), 1u);
-}
-
-TEST_F(AlertManagerTest, AClockThatIsSetBackNeitherRepeatsNorSilences) {
-    EXPECT_EQ(postsIn(15), 1u);
-    now -= 1e8;
-    EXPECT_EQ(postsIn(450), 0u);
-    EXPECT_EQ(postsIn(1), 1u); // 15 minutes of the new time
+    for (const auto& step : steps) {
+        step.change();
+        EXPECT_EQ(postsIn(step.passes - 1), 0u) << step.name;
+        EXPECT_EQ(postsIn(1), step.posts) << step.name;
+    }
 }
 
 TEST_F(AlertManagerTest, TheTestAsksFirst) {

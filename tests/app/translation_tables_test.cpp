@@ -95,8 +95,7 @@ std::map<QString, bool> textsOf(const Table& table) {
 }
 
 /// The table folders, common to all systems or of one.
-class TranslationTables : public ::testing::TestWithParam<const char*> {
-  protected:
+struct TranslationTables : ::testing::TestWithParam<const char*> {
     const QString folder = tablesFolder + QLatin1StringView(GetParam());
 };
 

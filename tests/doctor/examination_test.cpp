@@ -1,7 +1,6 @@
 #include "doctor/examination.h"
 
 #include <future>
-#include <thread>
 
 #include <gmock/gmock.h>
 
@@ -79,21 +78,6 @@ TEST(Examination, AReadThatFailsLeavesNoneOfItsReadingsWithoutWords) {
     const auto rows = joined({source("Memory"), source("Pressure"), source("Wi-Fi")}, examination.finish());
     for (const DoctorRow& row : rows)
         EXPECT_EQ(row.diagnosis.state, SourceState::silent) << row.diagnosis.name;
-}
-
-TEST(Examination, ASlowSourceDoesNotHang) {
-    struct Slow : GPUSampler::Source {
-        std::optional<std::span<const Properties>> read() override {
-            std::this_thread::sleep_for(std::chrono::milliseconds(250)); // several reads outlast the patience
-            return std::nullopt;
-        }
-    };
-    fakes::FakeMachine machine;
-    auto sources = machine.makeSources();
-    sources.gpu = std::make_unique<Slow>();
-    Examination examination(std::move(sources), std::chrono::milliseconds(1000));
-    EXPECT_FALSE(examination.finish()["GPU"].isSilent);
-    EXPECT_FALSE(examination.leftThreadBehind());
 }
 
 TEST(JoinedRows, SayWhatSourceAndValueTellTogether) {

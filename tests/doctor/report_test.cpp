@@ -1,8 +1,6 @@
 #include "doctor/report.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
+#include <QString>
 
 #include <gmock/gmock.h>
 
@@ -11,7 +9,6 @@
 namespace vantrix {
 namespace {
 
-using namespace Qt::StringLiterals;
 using ::testing::HasSubstr;
 
 DoctorReport aReport() {
@@ -41,20 +38,6 @@ TEST(DoctorText, FitsItsColumnsAndCannotCommandTheTerminal) {
         EXPECT_THAT(text, HasSubstr(words));
     const auto justStarted = instanceFacts(DoctorInstance{5, ProcessStatistics()});
     EXPECT_THAT(justStarted[1].second, HasSubstr("– s per minute")); // no division by no time
-}
-
-TEST(DoctorJSON, HoldsWhatTheTextDoes) {
-    const auto object = QJsonDocument::fromJson(QByteArray::fromStdString(jsonReport(aReport()))).object();
-    EXPECT_EQ(object[u"system"][u"session"], u"GNOME"_s);
-    EXPECT_EQ(object[u"readings"][0].toObject(), (QJsonObject{{u"name"_s, u"Processor"_s},
-                                                              {u"source"_s, u"/proc/stat"_s},
-                                                              {u"state"_s, u"ok"_s},
-                                                              {u"value"_s, u"12%"_s},
-                                                              {u"microseconds"_s, 4.2}}));
-    EXPECT_FALSE(object[u"readings"][1].toObject().contains(u"value"_s));
-    EXPECT_EQ(object[u"services"][0][u"value"], u"\x1b[31mquoted \" and \\ and \n and µ"_s);
-    EXPECT_EQ(object[u"instance"][u"wakeUps"], 14400);
-    EXPECT_EQ(object[u"instance"][u"statusItem"], u"X11 tray"_s);
 }
 
 TEST(DoctorReport, FoldersAreRenamedWhole) {

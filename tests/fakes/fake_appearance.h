@@ -4,8 +4,7 @@
 
 namespace vantrix::fakes {
 
-class FakeAppearance : public AppearanceSource {
-  public:
+struct FakeAppearance : AppearanceSource {
     explicit FakeAppearance(const Appearance& appearance = {}) : current(appearance) {}
 
     Appearance appearance() const override { return current; }

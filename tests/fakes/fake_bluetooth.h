@@ -7,8 +7,7 @@
 namespace vantrix::fakes {
 
 /// Notes what it is asked; the test answers through `delegate`.
-class FakePeripheral : public BluetoothPeripheral {
-  public:
+struct FakePeripheral : BluetoothPeripheral {
     explicit FakePeripheral(std::string id, std::optional<std::string> called = std::nullopt)
         : id(std::move(id)), called(std::move(called)) {}
 
@@ -46,8 +45,7 @@ class FakePeripheral : public BluetoothPeripheral {
     std::vector<std::string> asked;
 };
 
-class FakeCentral : public BluetoothCentral {
-  public:
+struct FakeCentral : BluetoothCentral {
     BluetoothState state() const override { return current; }
     std::vector<std::shared_ptr<BluetoothPeripheral>> connectedPeripherals(const BluetoothUUID& service) override {
         ++listings;
@@ -65,14 +63,12 @@ class FakeCentral : public BluetoothCentral {
     int listings = 0;
 };
 
-class FakeClassicDevices : public ClassicBluetoothDevices {
-  public:
+struct FakeClassicDevices : ClassicBluetoothDevices {
     std::vector<Device> devices;
     std::vector<Device> paired() override { return devices; }
 };
 
-class FakeTimer : public RepeatingTimer {
-  public:
+struct FakeTimer : RepeatingTimer {
     void schedule(double, double, std::function<void()> callback) override {
         ++schedules;
         fire = std::move(callback);

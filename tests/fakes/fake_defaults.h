@@ -6,8 +6,7 @@
 namespace vantrix::fakes {
 
 /// Settings in memory with everything registered, as the running program has them.
-class FakeDefaults : public UserDefaults {
-  public:
+struct FakeDefaults : UserDefaults {
     FakeDefaults() : UserDefaults(std::make_unique<MemoryDefaultsStore>()) { registerPreferences(*this); }
 };
 

@@ -4,8 +4,7 @@
 
 namespace vantrix::fakes {
 
-class FakeLoginItem : public LoginItem {
-  public:
+struct FakeLoginItem : LoginItem {
     bool enabled = false;
     bool refuses = false;
     bool isEnabled() const override { return enabled; }

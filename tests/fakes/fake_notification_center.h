@@ -8,8 +8,7 @@
 namespace vantrix::fakes {
 
 /// Keeps what is posted; answers a request for authorisation when the test says so.
-class FakeNotificationCenter : public NotificationCenter {
-  public:
+struct FakeNotificationCenter : NotificationCenter {
     struct Post {
         QString identifier;
         QString title;

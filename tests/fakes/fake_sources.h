@@ -10,8 +10,7 @@ namespace vantrix::fakes {
 
 using vantrix::FakeClock;
 
-class FakeInformation : public SystemInformation {
-  public:
+struct FakeInformation : SystemInformation {
     std::optional<std::int64_t> integer(std::string_view) const override { return std::nullopt; }
     std::optional<std::string> text(std::string_view) const override { return "Test processor"; }
     int processorCount() const override { return 2; }
@@ -27,8 +26,7 @@ bool answer(const std::optional<std::vector<Record>>& records, std::vector<Recor
     return records.has_value();
 }
 
-class FakeCPU : public CPUSampler::Source {
-  public:
+struct FakeCPU : CPUSampler::Source {
     std::optional<std::vector<CPUSampler::Ticks>> cores = std::vector<CPUSampler::Ticks>(2);
     bool read(std::vector<CPUSampler::Ticks>& into) override { return answer(cores, into); }
     /// Lets every core spend `busy` of the next `all` ticks in user code.
@@ -40,35 +38,30 @@ class FakeCPU : public CPUSampler::Source {
     }
 };
 
-class FakeMemory : public MemorySampler::Source {
-  public:
+struct FakeMemory : MemorySampler::Source {
     std::optional<MemorySampler::Statistics> statistics = MemorySampler::Statistics{
         .wireCount = 10, .internalPageCount = 40, .pageSize = 1024, .physicalMemory = 100 * 1024};
     std::optional<MemorySampler::Statistics> read() override { return statistics; }
 };
 
-class FakeNetwork : public NetworkSampler::Source {
-  public:
+struct FakeNetwork : NetworkSampler::Source {
     std::optional<std::vector<NetworkSampler::Link>> links = {{{"en0", 0x41, NetworkSampler::Counters{}}}};
     NetworkSampler::CounterWidth width = NetworkSampler::CounterWidth::bits32;
     bool read(std::vector<NetworkSampler::Link>& into) override { return answer(links, into); }
     NetworkSampler::CounterWidth counterWidth() const override { return width; }
 };
 
-class FakeDisks : public DiskSampler::CounterSource {
-  public:
+struct FakeDisks : DiskSampler::CounterSource {
     std::optional<std::vector<DiskSampler::Counters>> disks = {{{0, 0}}};
     bool read(std::vector<DiskSampler::Counters>& into) override { return answer(disks, into); }
 };
 
-class FakeVolume : public DiskSampler::VolumeSource {
-  public:
+struct FakeVolume : DiskSampler::VolumeSource {
     std::optional<DiskSampler::Volume> volume = DiskSampler::Volume{1000, 400};
     std::optional<DiskSampler::Volume> read() override { return volume; }
 };
 
-class FakeAccessories : public AccessoriesSampler {
-  public:
+struct FakeAccessories : AccessoriesSampler {
     Scan result;
     int scans = 0;
     Scan scan() override {

@@ -8,8 +8,7 @@
 namespace vantrix::fakes {
 
 /// Keeps the last value stored, whatever its key.
-class FakeWidgetCenter : public WidgetCenter {
-  public:
+struct FakeWidgetCenter : WidgetCenter {
     void store(std::string_view key_, std::string_view json_) override {
         ++stores;
         key = key_;

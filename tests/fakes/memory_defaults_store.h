@@ -7,8 +7,7 @@
 namespace vantrix {
 
 /// A store without a file; counts what is written to it.
-class MemoryDefaultsStore : public DefaultsStore {
-  public:
+struct MemoryDefaultsStore : DefaultsStore {
     QVariant value(const QString& key) const override { return values.value(key); }
     void setValue(const QString& key, const QVariant& value) override {
         ++writes;

@@ -12,8 +12,7 @@ using ::testing::ElementsAre;
 
 using enum MenuBarSeverity;
 
-class MenuBarItemTest : public ::testing::Test {
-  protected:
+struct MenuBarItemTest : ::testing::Test {
     MenuBarItem item(MenuBarModule module) { return menuBarItems({module}, readings, defaults).at(0); }
 
     fakes::FakeDefaults defaults;
@@ -35,32 +34,14 @@ TEST_F(MenuBarItemTest, SeverityCountsReachingAThresholdAndTakesThemInAnyOrder) 
     }
 }
 
-Readings withMemory(MemorySample::Pressure pressure) {
-    Readings readings;
-    readings.memory = {100, 60, 30, 9, 0, pressure};
-    return readings;
-}
-
-Readings withDisk(std::uint64_t available) {
-    Readings readings;
-    readings.disk = {1000, available, std::nullopt, std::nullopt};
-    return readings;
-}
-
-Readings withTemperature(double celsius) {
-    Readings readings;
-    readings.sensors.cpu = celsius;
-    return readings;
-}
-
-Readings withBattery(int percent, bool isCharging = false, bool isPluggedIn = false) {
-    Readings readings;
-    readings.battery = BatterySample{.percent = percent, .isCharging = isCharging, .isPluggedIn = isPluggedIn};
-    return readings;
-}
-
 TEST_F(MenuBarItemTest, EveryModuleHasItsOwnScaleAndLimits) {
     using enum MenuBarModule;
+    const auto withMemory = [](auto pressure) { return Readings{.memory = {100, 60, 30, 9, 0, pressure}}; };
+    const auto withDisk = [](std::uint64_t free) { return Readings{.disk = {.total = 1000, .available = free}}; };
+    const auto withTemperature = [](double celsius) { return Readings{.sensors = {.cpu = celsius}}; };
+    const auto withBattery = [](int percent, bool isCharging = false, bool isPluggedIn = false) {
+        return Readings{.battery = BatterySample{percent, isCharging, isPluggedIn}};
+    };
     const struct {
         MenuBarModule module;
         Readings readings;

@@ -58,17 +58,5 @@ TEST(Preferences, EnabledModules) {
     }
 }
 
-TEST(Preferences, UpdateInterval) {
-    const std::pair<QVariant, double> rows[] = {
-        {0.1, 0.5}, {-3, 0.5}, {text("5"), 5.0}, {text("soon"), 2.0}, {true, 2.0},
-    };
-    EXPECT_EQ(updateInterval(FakeDefaults()), 2.0);
-    for (const auto& [stored, seconds] : rows) {
-        FakeDefaults user;
-        user.set(key::updateInterval, stored);
-        EXPECT_EQ(updateInterval(user), seconds) << stored.toString().toStdString();
-    }
-}
-
 } // namespace
 } // namespace vantrix

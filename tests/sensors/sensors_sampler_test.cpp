@@ -46,13 +46,6 @@ struct SensorsSamplerTest : ::testing::Test {
     }
 };
 
-TEST_F(SensorsSamplerTest, ComponentsAreKnownByTheNamesOfTheirSensors) {
-    const auto& sample = sampleOf({{{"PMU tdie1", 50.0}, {"GPU MTR", 40.0}, {"PMU tdie2", 60.0}}});
-    EXPECT_EQ(sample.cpu, 55.0);
-    EXPECT_EQ(sample.cpuHottest, 60.0);
-    EXPECT_EQ(sample.gpu, 40.0);
-}
-
 TEST_F(SensorsSamplerTest, ASensorCountsInEveryGroupItsNameSays) {
     const std::pair<const char*, const char*> rows[] = {
         {"pACC MTR", "c"}, {"eACC MTR", "c"}, {"cpu", ""},          {"GPU SOC", "gs"},    {"CPU in SoC", "cs"},

@@ -31,8 +31,7 @@ inline void mouse(QWidget& widget, QEvent::Type type, QPoint at) {
     QApplication::sendEvent(&widget, &event);
 }
 
-class SettingsWindowTest : public ::testing::Test {
-  protected:
+struct SettingsWindowTest : ::testing::Test {
     SettingsView& show(SettingsTab tab) {
         controller.show(tab);
         QApplication::processEvents();

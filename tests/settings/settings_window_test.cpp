@@ -120,17 +120,6 @@ TEST_F(SettingsWindowTest, WhatASwitchedOffMasterLeavesWithoutEffectIsOffAndDisa
     EXPECT_FALSE(threshold.isEnabled());
 }
 
-TEST_F(SettingsWindowTest, EdgesStandOutOnlyWhereTheDesktopAsksForIt) {
-    SettingsView& window = show(SettingsTab::alerts);
-    const auto& send = control<Switch>("Send notifications");
-    for (const bool high : {false, true}) {
-        appearance.set({.reducesMotion = true, .highContrast = high});
-        const QImage image = window.grab().toImage();
-        const int group = send.mapTo(&window, QPoint()).y() + send.height() / 2;
-        EXPECT_EQ(contrast(image.pixelColor(20, group), image.pixelColor(10, group)) >= 3.0, high);
-    }
-}
-
 std::string inLongWords(std::string_view english, std::optional<long long>) {
     std::string text;
     for (const char letter : english)

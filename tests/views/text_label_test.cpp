@@ -9,18 +9,10 @@
 namespace vantrix {
 namespace {
 
-class TextLabelTest : public ::testing::Test {
-  protected:
+struct TextLabelTest : ::testing::Test {
     fakes::FakeAppearance appearance;
     Theme theme{appearance};
 };
-
-TEST_F(TextLabelTest, AWrappingTextGrowsInHeightInsteadOfLosingWords) {
-    TextLabel label(theme, {.points = 11.0, .wraps = true}, QStringLiteral("several words that need some room"));
-    const int oneLine = label.heightForWidth(2000);
-    EXPECT_EQ(oneLine, label.sizeHint().height());
-    EXPECT_GE(label.heightForWidth(60), 3 * oneLine - 3);
-}
 
 TEST_F(TextLabelTest, ACutTextTellsItselfInItsToolTip) {
     TextLabel label(theme, {.points = 11.0}, QStringLiteral("a rather long text"));

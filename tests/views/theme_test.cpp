@@ -48,8 +48,7 @@ TEST(ThemeColors, AnyAccentOfTheDesktopStaysVisible) {
     }
 }
 
-class ThemeTest : public ::testing::Test {
-  protected:
+struct ThemeTest : ::testing::Test {
     ThemeTest() {
         QObject::connect(&theme, &Theme::changed, &theme, [this] { ++changes; });
     }

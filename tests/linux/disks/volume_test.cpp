@@ -8,13 +8,6 @@
 namespace vantrix {
 namespace {
 
-TEST(VolumeStatistics, TellsBytes) {
-    const TemporaryFolder folder;
-    const auto space = std::filesystem::space(folder.path(""));
-    EXPECT_EQ(VolumeStatistics({folder.path("")}).read().value().total, static_cast<std::int64_t>(space.capacity));
-    EXPECT_FALSE(VolumeStatistics({folder.path("missing")}).read());
-}
-
 TEST(VolumeStatistics, AreThoseOfTheVolumeThatPeopleWriteTo) {
     const std::pair<std::string, std::int64_t> rows[] = {
         {"/ rw 10 1 /var rw 20 2", 1},

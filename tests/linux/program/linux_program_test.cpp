@@ -16,6 +16,7 @@
 #include <gmock/gmock.h>
 
 #include "fakes/fixture_machine.h"
+#include "views/drawn.h"
 
 namespace vantrix {
 namespace {
@@ -24,8 +25,7 @@ using namespace Qt::StringLiterals;
 
 constexpr int patience = 30'000; // milliseconds; sanitized builds on a busy machine are slow
 
-class ProgramTest : public ::testing::Test {
-  protected:
+struct ProgramTest : ::testing::Test {
     ProgramTest() {
         for (const char* variable : {"DISPLAY", "WAYLAND_DISPLAY", "WAYLAND_SOCKET", "QT_QPA_PLATFORM"})
             environment.remove(QLatin1StringView(variable));
@@ -41,8 +41,8 @@ class ProgramTest : public ::testing::Test {
     }
 
     /// The exit status of a run that ends by itself.
-    int run(const QStringList& arguments) {
-        start(process, arguments);
+    int run(const QString& arguments) {
+        start(process, arguments.split(u' ', Qt::SkipEmptyParts));
         EXPECT_TRUE(process.waitForFinished(patience));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         output = QString::fromUtf8(process.readAllStandardOutput());
@@ -55,7 +55,7 @@ class ProgramTest : public ::testing::Test {
         environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
         start(instance);
         const QDeadlineTimer deadline(patience);
-        while (run({u"--show-popover"_s}) != 0 && !deadline.hasExpired()) {
+        while (run(u"--show-popover"_s) != 0 && !deadline.hasExpired()) {
         }
         EXPECT_EQ(instance.state(), QProcess::Running);
     }
@@ -68,8 +68,7 @@ class ProgramTest : public ::testing::Test {
 };
 
 TEST_F(ProgramTest, BadInputGetsOneLineAndStatusTwo) {
-    for (const QStringList& arguments : {QStringList{u"--bogus"_s}, QStringList{u"--print"_s, u"xml"_s},
-                                         QStringList{u"--print"_s, u"text"_s, u"--proc-root"_s, u"/nowhere"_s}}) {
+    for (const QString& arguments : {u"--bogus"_s, u"--print xml"_s, u"--print text --proc-root /nowhere"_s}) {
         EXPECT_EQ(run(arguments), 2);
         EXPECT_EQ(output, QString());
         EXPECT_TRUE(errors.startsWith(u"vantrix: "_s)) << errors.toStdString();
@@ -78,7 +77,7 @@ TEST_F(ProgramTest, BadInputGetsOneLineAndStatusTwo) {
 }
 
 TEST_F(ProgramTest, PrintsTheAskedNumberOfLines) {
-    EXPECT_EQ(run({u"--print"_s, u"text"_s, u"--interval"_s, u"0.5"_s, u"--count"_s, u"2"_s}), 0);
+    EXPECT_EQ(run(u"--print text --interval 0.5 --count 2"_s), 0);
     EXPECT_EQ(output.count(u'\n'), 2);
     EXPECT_TRUE(output.startsWith(u"CPU "_s)) << output.toStdString();
     EXPECT_EQ(errors, QString());
@@ -98,7 +97,7 @@ TEST_F(ProgramTest, SpeaksTheLanguageOfTheEnvironment) {
         environment.insert(u"LC_ALL"_s, QLatin1StringView(c.all));
         environment.insert(u"LC_MESSAGES"_s, QString());
         environment.insert(u"LANG"_s, QLatin1StringView(c.lang));
-        EXPECT_EQ(run({u"--print"_s, u"text"_s, u"--count"_s, u"1"_s, u"--modules"_s, u"disk"_s}), 0);
+        EXPECT_EQ(run(u"--print text --count 1 --modules disk"_s), 0);
         EXPECT_EQ(output.section(u' ', 0, 0), QLatin1StringView(c.caption)) << c.language << ' ' << c.all;
     }
 }
@@ -129,7 +128,7 @@ TEST_F(ProgramTest, AClosedStandardOutputEndsPrintingQuietly) {
 
 TEST_F(ProgramTest, AFullDiskIsTold) {
     process.setStandardOutputFile(u"/dev/full"_s);
-    for (const QStringList& arguments : {QStringList{u"--print"_s, u"text"_s}, QStringList{u"--doctor"_s}}) {
+    for (const QString& arguments : {u"--print text"_s, u"--doctor"_s}) {
         EXPECT_EQ(run(arguments), 1);
         EXPECT_EQ(errors, u"vantrix: cannot write: No space left on device\n"_s);
     }
@@ -139,7 +138,7 @@ TEST_F(ProgramTest, ExportsTheSamePicturesEachTime) {
     QTemporaryDir target;
     const QDir pictures(target.filePath(u"not/there/yet"_s));
     const auto exported = [&] {
-        EXPECT_EQ(run({u"-exportScreenshots"_s, pictures.path()}), 0);
+        EXPECT_EQ(run(u"-exportScreenshots "_s + pictures.path()), 0);
         std::map<QString, QByteArray> files;
         for (const QString& name : pictures.entryList(QDir::Files)) {
             QFile file(pictures.filePath(name));
@@ -154,15 +153,12 @@ TEST_F(ProgramTest, ExportsTheSamePicturesEachTime) {
     EXPECT_EQ(QImage::fromData(first.at(u"settings-general-dark.png"_s)).size(), QSize(1040, 1000));
     const QImage alerts = QImage::fromData(first.at(u"settings-alerts-dark.png"_s));
     EXPECT_EQ(alerts.pixelColor(910, 370), QColor(64, 148, 255)) << "their switches are on";
-    EXPECT_EQ(QImage::fromData(first.at(u"popover-light.png"_s)).width(), 680);
+    const auto popover = QImage::fromData(first.at(u"popover-light.png"_s));
+    EXPECT_EQ(popover.width(), 680);
+    EXPECT_EQ(inkOf(popover, popover.pixelColor(1, popover.height() - 2)).bottom(), popover.height() - 25);
     EXPECT_TRUE(first.at(u"export.log"_s).endsWith("salvato settings-alerts-light.png\nfinito\n"));
     EXPECT_EQ(exported(), first);               // the log was begun anew
     EXPECT_TRUE(QDir(folder.path()).isEmpty()); // the user's settings were left alone
-}
-
-TEST_F(ProgramTest, RequestsWithoutARunningInstanceFailInOneLine) {
-    EXPECT_EQ(run({u"--quit"_s}), 1);
-    EXPECT_EQ(errors.count(u'\n'), 1);
 }
 
 TEST_F(ProgramTest, TheDoctorKeepsTheUsersFoldersToItself) {
@@ -174,14 +170,14 @@ TEST_F(ProgramTest, TheDoctorKeepsTheUsersFoldersToItself) {
     environment.insert(u"XDG_CONFIG_HOME"_s, people.filePath(u"settings/ann"_s));
     environment.remove(u"XDG_RUNTIME_DIR"_s);
     environment.insert(u"XDG_STATE_HOME"_s, people.filePath(u"state/ann"_s));
-    EXPECT_EQ(run({u"--doctor"_s, u"--sys-root"_s, people.filePath(u"disk2/ann/host"_s)}), 0);
+    EXPECT_EQ(run(u"--doctor --sys-root "_s + people.filePath(u"disk2/ann/host"_s)), 0);
     for (const char* shown : {"<sys> ~/host", "$XDG_CONFIG_HOME/vantrix/settings.json", "$XDG_STATE_HOME/vantrix/",
                               "$XDG_CONFIG_HOME/autostart/"})
         EXPECT_TRUE(output.contains(QLatin1StringView(shown))) << shown << '\n' << output.toStdString();
     EXPECT_FALSE(output.contains(people.path())) << output.toStdString();
     for (const char* variable : {"XDG_CONFIG_HOME", "XDG_STATE_HOME"})
         environment.insert(QLatin1StringView(variable), u"relative"_s); // not to be believed
-    EXPECT_EQ(run({u"--doctor"_s}), 0);
+    EXPECT_EQ(run(u"--doctor"_s), 0);
     for (const char* usual : {"~/.config/vantrix/settings.json", "~/.local/state/vantrix/"})
         EXPECT_TRUE(output.contains(QLatin1StringView(usual))) << usual << '\n' << output.toStdString();
 }
@@ -192,7 +188,7 @@ TEST_F(ProgramTest, ARunningInstanceIsTalkedTo) {
     QJsonValue told;
     const QDeadlineTimer deadline(patience);
     do { // it may still be busy with the popover, and not have slept so far
-        EXPECT_EQ(run({u"--doctor"_s, u"json"_s}), 0);
+        EXPECT_EQ(run(u"--doctor json"_s), 0);
         told = QJsonDocument::fromJson(output.toUtf8())[u"instance"];
     } while (told[u"wakeUps"].toInteger() == 0 && !deadline.hasExpired());
     EXPECT_NE(told[u"statusItem"].toString(), QString());
@@ -200,7 +196,7 @@ TEST_F(ProgramTest, ARunningInstanceIsTalkedTo) {
     EXPECT_GT(told[u"wakeUps"].toInteger(), 0);
     EXPECT_GT(told[u"residentBytes"].toInteger(), 1'000'000);
     EXPECT_EQ(run({}), 0); // started again: shows the one that runs instead of a second icon
-    EXPECT_EQ(run({u"--quit"_s}), 0);
+    EXPECT_EQ(run(u"--quit"_s), 0);
     ASSERT_TRUE(instance.waitForFinished(patience));
     EXPECT_EQ(instance.exitCode(), 0);
 }

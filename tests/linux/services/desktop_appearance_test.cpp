@@ -27,8 +27,7 @@ PortalSettings dark() {
     return {{common, {{u"color-scheme"_s, 1U}}}};
 }
 
-class DesktopAppearanceTest : public testing::Test {
-  protected:
+struct DesktopAppearanceTest : testing::Test {
     DesktopAppearanceTest() { QGuiApplication::setPalette(QPalette(QColor(239, 239, 239))); }
     ~DesktopAppearanceTest() override { QGuiApplication::setPalette(QPalette()); }
 

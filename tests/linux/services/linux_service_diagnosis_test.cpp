@@ -11,8 +11,7 @@ namespace {
 using namespace Qt::StringLiterals;
 using ::testing::HasSubstr;
 
-class ServiceDiagnosisTest : public testing::Test {
-  protected:
+struct ServiceDiagnosisTest : testing::Test {
     /// The rows by name; one bus serves as both.
     std::map<std::string, SourceDiagnosis> ask(const BusAddresses& addresses,
                                                std::chrono::milliseconds patience = std::chrono::seconds(20)) {

@@ -26,8 +26,7 @@ class Listener : public QObject {
     void reload(const QString& path) { paths << path; }
 };
 
-class LinuxWidgetCenterTest : public settings_folder::FileDefaultsStoreTest {
-  protected:
+struct LinuxWidgetCenterTest : settings_folder::FileDefaultsStoreTest {
     QString file = at("run/vantrix/defaults.json");
     LinuxWidgetCenter center{file, std::make_shared<BusLink>(std::nullopt)};
 };

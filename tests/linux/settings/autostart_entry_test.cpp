@@ -10,8 +10,7 @@ namespace {
 
 using namespace settings_folder;
 
-class AutostartEntryTest : public ::testing::Test {
-  protected:
+struct AutostartEntryTest : ::testing::Test {
     AutostartEntryTest() {
         for (const QString& file : {program, userFile, systemFile})
             QDir().mkpath(QFileInfo(file).path());
@@ -90,10 +89,6 @@ TEST_F(AutostartEntryTest, AFailureLeavesEverythingAsItWas) {
     AutostartEntry entry = item();
     entry.setEnabled(true);
     EXPECT_FALSE(entry.isEnabled());
-}
-
-TEST(DesktopEntry, QuotesAProgramsPathByTheRules) {
-    EXPECT_EQ(execValue(text(R"(/my apps/a%b$c"d\e)")), text(R"("/my apps/a%%b\\$c\\"d\\\\e")"));
 }
 
 } // namespace

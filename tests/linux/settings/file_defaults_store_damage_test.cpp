@@ -16,21 +16,6 @@ namespace {
 
 using namespace settings_folder;
 
-/// A user without root's powers, for as long as it lives.
-class OrdinaryUser {
-  public:
-    explicit OrdinaryUser(const QString& folder) {
-        constexpr uid_t nobody = 65534;
-        if (::geteuid() != 0)
-            return;
-        EXPECT_EQ(::chown(QFile::encodeName(folder).constData(), nobody, static_cast<gid_t>(-1)), 0);
-        EXPECT_EQ(::seteuid(nobody), 0);
-    }
-    ~OrdinaryUser() { EXPECT_EQ(::seteuid(::getuid()), 0); }
-    OrdinaryUser(const OrdinaryUser&) = delete;
-    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-};
-
 /// How many lines were printed since they were captured.
 long capturedLines() {
     const std::string text = testing::internal::GetCapturedStderr();
@@ -118,27 +103,6 @@ TEST_F(FileDefaultsStoreTest, BlockedPathIsLeftAlone) {
         EXPECT_FALSE(QFileInfo(path_).isFile());
         ASSERT_EQ(std::remove(path.constData()), 0);
     }
-}
-
-TEST_F(FileDefaultsStoreTest, ReadOnlyFileAndFolderStayAsTheyAre) {
-    const OrdinaryUser user(folder_.path());
-    write("{\"key\":1}");
-    FileDefaultsStore store(path_);
-    testing::internal::CaptureStderr();
-    for (const QString& locked : {path_, folder_.path()}) {
-        setMode(locked, 0500);
-        for (double value : {2.0, 3.0}) {
-            store.setValue(key, value);
-            store.flush();
-            EXPECT_EQ(store.value(key), QVariant(value));
-        }
-        EXPECT_EQ(read(path_), "{\"key\":1}");
-        setMode(locked, 0700);
-    }
-    EXPECT_EQ(capturedLines(), 1);
-    store.setValue(other, 4.0);
-    store.flush();
-    EXPECT_EQ(object(), parsed("{\"key\":3,\"other\":4}")) << "nothing was forgotten";
 }
 
 TEST_F(FileDefaultsStoreTest, FullDiskLosesNothing) {

@@ -73,13 +73,6 @@ TEST_F(FileDefaultsStoreTest, SeesEveryWayInWhichPeopleAndTheirToolsEdit) {
              rename(path_, at("settings.json~"));
              write(json);
          }},
-        {"becomes a link",
-         [&](const QByteArray& json) {
-             const QString target = at("target") + QString::fromUtf8(json.right(2).left(1));
-             put(target, json);
-             QFile::remove(path_);
-             ASSERT_TRUE(QFile::link(target, path_));
-         }},
     };
     write("{\"key\":0}");
     FileDefaultsStore store(path_);
@@ -142,21 +135,6 @@ TEST_F(FileDefaultsStoreTest, LaysPendingValuesOverAnEdit) {
     EXPECT_EQ(object(), parsed("{\"key\":5,\"other\":2,\"added\":2}"));
     EXPECT_EQ(store.value(other), QVariant(2.0));
     EXPECT_EQ(outside, 1);
-}
-
-TEST_F(FileDefaultsStoreTest, LastWriteDoesNotCallADyingOwner) {
-    write("{\"key\":1}");
-    int announced = 0;
-    {
-        auto store = std::make_unique<FileDefaultsStore>(path_);
-        FileDefaultsStore& file = *store;
-        UserDefaults defaults(std::move(store));
-        QObject::connect(&defaults, &UserDefaults::changed, [&] { ++announced; });
-        file.setValue(other, 1.0);
-        put(path_, "{\"key\":2}");
-    }
-    EXPECT_EQ(announced, 0);
-    EXPECT_EQ(object().value(other).toInt(), 1);
 }
 
 } // namespace

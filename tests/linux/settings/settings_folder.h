@@ -58,8 +58,7 @@ inline QStringList names(const QString& folder) {
     return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
 }
 
-class FileDefaultsStoreTest : public testing::Test {
-  protected:
+struct FileDefaultsStoreTest : testing::Test {
     QString at(const char* name) const { return folder_.filePath(text(name)); }
 
     void write(const QByteArray& bytes) const { put(path_, bytes); }

@@ -27,8 +27,7 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, MenuEvent&) {
     return argument;
 }
 
-class DBusMenuTest : public StatusItemOnBus {
-  protected:
+struct DBusMenuTest : StatusItemOnBus {
     DBusMenuTest() {
         qDBusRegisterMetaType<MenuEvent>();
         qDBusRegisterMetaType<QList<MenuEvent>>();

@@ -13,8 +13,7 @@ namespace vantrix {
 namespace {
 
 /// No tray claims the screen; `mouse` only lends its connection.
-class StripOnScreen : public testing::Test {
-  protected:
+struct StripOnScreen : testing::Test {
     void show() {
         item.emplace(StatusItem::Handlers{.clicked = [this](const StatusClick& click) { clicks.push_back(click); }},
                      kept.defaults, appearance,

@@ -28,8 +28,7 @@ StatusContent row(int count) {
     return {.items = {items, items + count}, .accessibilityLabel = "row"};
 }
 
-class TrayRow : public testing::Test {
-  protected:
+struct TrayRow : testing::Test {
     void start(FakeTray& tray) {
         tray.claim();
         item.show(content);

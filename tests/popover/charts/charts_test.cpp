@@ -14,7 +14,6 @@
 #include "popover/charts/ring_gauge.h"
 #include "popover/charts/segmented_bar.h"
 #include "popover/charts/sparkline.h"
-#include "popover/charts/stat_row.h"
 #include "popover/reading_text.h"
 #include "views/drawn.h"
 #include "views/theme.h"
@@ -24,8 +23,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-class ChartsTest : public ::testing::Test {
-  protected:
+struct ChartsTest : ::testing::Test {
     fakes::FakeDefaults defaults;
     fakes::FakeAppearance appearance;
     Theme theme{appearance};
@@ -111,15 +109,6 @@ TEST_F(ChartsTest, SegmentsStandSideBySide) {
     EXPECT_THAT(bar.places(100.0), ElementsAre(QRectF(0, 0, 48, 8), QRectF(50, 0, 0, 8), QRectF(52, 0, 98, 8)));
     bar.setSegments({{0, 0.5, &ThemeColors::accent}, {1, 0.25, &ThemeColors::orange}});
     EXPECT_EQ(bar.accessibleFraction(), 0.75);
-}
-
-TEST_F(ChartsTest, AStatRowTakesASecondLineRatherThanOverlap) {
-    StatRow row(theme, QStringLiteral("Interface"));
-    row.setValue(QStringLiteral("eth0"));
-    const int one = row.heightForWidth(200);
-    row.setValue(QStringLiteral("enx00e04c680123 of the docking station"));
-    EXPECT_GE(row.heightForWidth(200), 2 * one - 1);
-    EXPECT_EQ(row.heightForWidth(1000), one);
 }
 
 TEST_F(ChartsTest, RingGaugeClamps) {
