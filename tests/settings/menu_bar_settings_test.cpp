@@ -71,12 +71,21 @@ TEST_F(MenuBarSettingsTest, ChecksAreStoredAsASortedSetAndThePreviewFollows) {
     EXPECT_EQ(stored(preference_key::menuBarEnabled), u"battery,cpu,gpu,memory");
     auto* preview = controller.window()->findChild<MenuBarPreview*>();
     EXPECT_TRUE(preview->isVisible());
-    const QImage before = preview->grab().toImage();
-    monitor.loadDemo();
-    EXPECT_NE(preview->grab().toImage(), before) << "it draws the readings";
     store(preference_key::menuBarEnabled, QString());
     EXPECT_FALSE(preview->isVisible());
     EXPECT_TRUE(shows("Select at least one module"));
+}
+
+TEST_F(MenuBarSettingsTest, ThePreviewDrawsTheReadingsAndKeepsARowOfAllModulesInside) {
+    auto* preview = controller.window()->findChild<MenuBarPreview*>();
+    const QImage before = preview->grab().toImage();
+    monitor.loadDemo();
+    EXPECT_NE(preview->grab().toImage(), before);
+    store(preference_key::menuBarStyle, QStringLiteral("inline"));
+    store(preference_key::menuBarEnabled, QStringLiteral("battery,cpu,disk,gpu,memory,network,temperature"));
+    const QImage image = preview->grab().toImage();
+    for (int y = 4; y < image.height() - 4; ++y)
+        EXPECT_EQ(image.pixel(6, y), image.pixel(image.width() - 7, y)) << "text at the edge, line " << y;
 }
 
 } // namespace

@@ -34,6 +34,8 @@ TEST_F(LinuxBatterySourceTest, FollowsPacksAndPorts) {
     EXPECT_EQ(sample(), (BatterySample{50, false, true}));
     folder.write(port + "/scope", "Device\n"); // the port gives power now
     EXPECT_EQ(sample(), (BatterySample{50, false, false}));
+    folder.remove(supplies + "BAT0");
+    EXPECT_EQ(sample(), std::nullopt);
 }
 
 /// One property that fails spoils the whole of uevent with some drivers.
