@@ -102,14 +102,16 @@ QLayout* SensorsCard::makeTemperatures() {
 }
 
 QLayout* SensorsCard::makePowers() {
-    // Without marks: what is much depends on the machine, and a colour beside those of the temperatures would judge.
-    const auto row = [this](const QString& label) { return new StatRow(theme(), label, StatRow::Lead::room()); };
-    systemPower_ = row(localizedText("System power"));
-    adapterPower_ = row(localizedText("Adapter input"));
-    cpuPower_ = row(localizedText("CPU power"));
-    gpuPower_ = row(localizedText("GPU power"));
-    neuralPower_ = row(localizedText("Neural Engine"));
-    memoryPower_ = row(localizedText("Memory (DRAM)"));
+    // Marks tell the rows apart. None is red: what is much depends on the machine.
+    const auto row = [this](const QString& label, ColorRole color) {
+        return new StatRow(theme(), label, StatRow::Lead::mark(color));
+    };
+    systemPower_ = row(localizedText("System power"), &ThemeColors::accent);
+    adapterPower_ = row(localizedText("Adapter input"), &ThemeColors::green);
+    cpuPower_ = row(localizedText("CPU power"), &ThemeColors::orange);
+    gpuPower_ = row(localizedText("GPU power"), &ThemeColors::purple);
+    neuralPower_ = row(localizedText("Neural Engine"), &ThemeColors::accent);
+    memoryPower_ = row(localizedText("Memory (DRAM)"), &ThemeColors::green);
     return columnOf({systemPower_, adapterPower_, cpuPower_, gpuPower_, neuralPower_, memoryPower_});
 }
 
