@@ -22,10 +22,10 @@ std::string scaled(double value, int decimals, char unit) {
 }
 
 long long rounded(double value) {
-    const double whole = std::round(value);
-    if (!(whole >= -9.2e18 && whole <= 9.2e18))
+    constexpr double most = 9.2e18; // what fits into 64 bits
+    if (!std::isfinite(value))
         fatalError("a reading that is no finite number cannot be shown as an integer");
-    return static_cast<long long>(whole);
+    return static_cast<long long>(std::clamp(std::round(value), -most, most));
 }
 
 std::string wholePercent(long long percent) {

@@ -73,9 +73,7 @@ void TextLabel::resizeEvent(QResizeEvent*) {
 
 void TextLabel::updateToolTip() {
     const bool cut = !style_.wraps && !style_.monospaced && naturalWidth() * leastScale > width();
-    const QString wanted = cut ? text_ : QString();
-    if (toolTip() != wanted)
-        setToolTip(wanted);
+    tellInToolTip(cut ? text_ : QString());
 }
 
 void TextLabel::paintNumber(QPainter& painter, const QColor& color, const QFontMetricsF& metrics) const {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include <QAccessibleWidget>
+#include <QTextDocument>
 
 #include "support/localization.h"
 #include "views/theme.h"
@@ -64,6 +65,12 @@ View::View(const Theme& theme, QWidget* parent) : QWidget(parent), theme_(theme)
         updateGeometry();
         update();
     });
+}
+
+void View::tellInToolTip(const QString& text) {
+    const QString shown = Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text;
+    if (toolTip() != shown)
+        setToolTip(shown);
 }
 
 void View::announceChange() {

@@ -27,6 +27,9 @@ class View : public QWidget {
     virtual std::optional<double> accessibleFraction() const { return std::nullopt; }
 
   protected:
+    /// Shows `text` as it is in the tool tip, even where the toolkit would take it for markup and open what that names:
+    /// a network's name may hold anything. Costs little while the text stays the same.
+    void tellInToolTip(const QString& text);
     /// To be called when `accessibleText` or `accessibleFraction` has changed. Costs nothing while nobody listens.
     void announceChange();
 

@@ -45,6 +45,7 @@ TEST(CompactRate, ChoosesUnitByTheRateItself) {
 
 TEST(RoundedIntegerDeathTest, RejectsWhatIsNoFiniteNumber) {
     EXPECT_EQ(roundedInteger(-0.4), "0") << "without a sign";
+    EXPECT_EQ(roundedInteger(-1e300), "-9200000000000000000");
     EXPECT_DEATH(roundedInteger(infinity), "no finite number");
     EXPECT_DEATH(compactPercent(std::nan("")), "no finite number");
 }

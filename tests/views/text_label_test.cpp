@@ -19,6 +19,8 @@ TEST_F(TextLabelTest, ACutTextTellsItselfInItsToolTip) {
     label.resize(20, 20);
     label.show();
     EXPECT_EQ(label.toolTip(), label.text());
+    label.setText(QStringLiteral("<img src='/dev/zero'> as a name"));
+    EXPECT_TRUE(label.toolTip().contains(QStringLiteral("&lt;img"))) << "nothing is opened";
     label.resize(label.sizeHint());
     EXPECT_EQ(label.toolTip(), QString());
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 namespace vantrix {
@@ -16,14 +17,16 @@ class Background {
     virtual ~Background() = default;
     /// Queues the job, to be performed once. False when that is impossible.
     virtual bool run(const std::shared_ptr<Job>& job) = 0;
+    /// Waits until all jobs are performed, but for none longer than `patience` from its beginning on.
+    virtual void wait(std::chrono::milliseconds patience) = 0;
 
-    /// Remembers that a sensor read here was very slow: others of its device that were never read then begin here, too.
-    /// For the sampling thread alone.
-    void noteSlowDevice() { isDeviceSlow_ = true; }
-    bool isDeviceSlow() const { return isDeviceSlow_; }
+    /// Remembers that a sensor read here was very slow, for the others of its device. For the sampling thread alone.
+    void noteSlowDevice() { ++slowReads_; }
+    /// How often that was so.
+    int slowReads() const { return slowReads_; }
 
   private:
-    bool isDeviceSlow_ = false;
+    int slowReads_ = 0;
 };
 
 } // namespace vantrix

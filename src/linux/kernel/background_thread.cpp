@@ -7,21 +7,39 @@
 #include <vector>
 
 namespace vantrix {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto longestIdle = 30s; // a device that is read on every pass keeps its thread
+constexpr auto longestStart = 1s; // of a thread on a busy machine
+
+} // namespace
 
 struct BackgroundThread::Queue {
     std::mutex mutex;
     std::condition_variable hasNews;
+    std::condition_variable hasProgress;
     std::vector<std::shared_ptr<Job>> jobs;
+    std::chrono::steady_clock::time_point begun; ///< the job at work
+    bool isWorking = false;
+    bool isRunning = false; ///< the thread
     bool isClosed = false;
 
-    /// Waits for the next job; null when there will be none any more.
+    /// Waits for the next job; null when the thread is to end.
     std::shared_ptr<Job> take() {
         std::unique_lock lock(mutex);
-        hasNews.wait(lock, [this] { return isClosed || !jobs.empty(); });
-        if (isClosed)
+        isWorking = false;
+        hasProgress.notify_all();
+        const bool hasJob = hasNews.wait_for(lock, longestIdle, [this] { return isClosed || !jobs.empty(); });
+        isRunning = hasJob && !isClosed;
+        if (!isRunning)
             return nullptr;
         auto job = std::move(jobs.front());
         jobs.erase(jobs.begin());
+        isWorking = true;
+        begun = std::chrono::steady_clock::now();
+        hasProgress.notify_all();
         return job;
     }
 
@@ -41,19 +59,33 @@ BackgroundThread::~BackgroundThread() {
 }
 
 bool BackgroundThread::run(const std::shared_ptr<Job>& job) {
-    if (!queue_) {
-        const auto queue = std::make_shared<Queue>();
+    if (!queue_)
+        queue_ = std::make_shared<Queue>();
+    const std::lock_guard lock(queue_->mutex);
+    if (!queue_->isRunning) {
         try {
-            std::thread([queue] { queue->work(); }).detach();
+            std::thread([queue = queue_] { queue->work(); }).detach();
         } catch (const std::system_error&) {
             return false; // no thread to be had now
         }
-        queue_ = queue;
+        queue_->isRunning = true;
     }
-    const std::lock_guard lock(queue_->mutex);
     queue_->jobs.push_back(job);
     queue_->hasNews.notify_one();
     return true;
+}
+
+void BackgroundThread::wait(std::chrono::milliseconds patience) {
+    if (!queue_)
+        return;
+    Queue& queue = *queue_;
+    std::unique_lock lock(queue.mutex);
+    const auto isDone = [&queue] { return queue.jobs.empty() && !queue.isWorking; };
+    while (!isDone()) {
+        const auto end = queue.isWorking ? queue.begun + patience : std::chrono::steady_clock::now() + longestStart;
+        if (queue.hasProgress.wait_until(lock, end) == std::cv_status::timeout)
+            return;
+    }
 }
 
 } // namespace vantrix

@@ -4,7 +4,7 @@
 
 namespace vantrix {
 
-/// A thread that is started with the first job.
+/// A thread that is started for a job, and ends when there was none for a while.
 class BackgroundThread : public Background {
   public:
     /// Never waits for a job: a driver that hangs must not keep the program from ending. Jobs that have not begun are
@@ -12,6 +12,7 @@ class BackgroundThread : public Background {
     ~BackgroundThread() override;
 
     bool run(const std::shared_ptr<Job>& job) override;
+    void wait(std::chrono::milliseconds patience) override;
 
   private:
     struct Queue;

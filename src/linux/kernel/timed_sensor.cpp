@@ -1,6 +1,9 @@
 #include "linux/kernel/timed_sensor.h"
 
 #include <atomic>
+#include <chrono>
+#include <cmath>
+#include <utility>
 
 namespace vantrix {
 
@@ -39,19 +42,34 @@ std::optional<double> TimedSensor::value() {
 }
 
 std::optional<double> TimedSensor::value(double& now) {
-    isSlow_ = isSlow_ || (!wasRead_ && background_->isDeviceSlow());
-    wasRead_ = true;
-    if (!isSlow_) {
+    if (std::exchange(slowReadsSeen_, background_->slowReads()) != background_->slowReads())
+        isSlow_ = true;
+    if (!isSlow_ && !std::exchange(wasRead_, true))
+        readFirst(now);
+    else if (!isSlow_)
         readDirectly(now);
-        return last_;
-    }
-    readAside(now);
+    else
+        readAside(now);
     return now - waitingSince_.value_or(now) > staleAfter ? std::nullopt : last_;
 }
 
 std::optional<double> TimedSensor::lastValue(double age) {
     collect();
     return clock_->uptime() - takenAt_ > age ? std::nullopt : last_;
+}
+
+void TimedSensor::readFirst(double& now) {
+    readAside(now);
+    if (!isUnderWay_) {
+        waitingSince_.reset();
+        return readDirectly(now); // no thread to be had now
+    }
+    background_->wait(std::chrono::milliseconds(std::lround(verySlowAfter * 1e3)));
+    now = clock_->uptime();
+    collect();
+    isSlow_ = isUnderWay_ || reading_->duration > verySlowAfter;
+    if (isSlow_)
+        background_->noteSlowDevice();
 }
 
 void TimedSensor::readDirectly(double& now) {

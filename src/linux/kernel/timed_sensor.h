@@ -8,10 +8,11 @@
 
 namespace vantrix {
 
-/// A sensor whose reads are timed. One that takes longer than 2 ms twice in a row, or 20 ms once, is read in the
-/// background from then on, so that it never delays a pass again. After those 20 ms, other sensors of its device, which
-/// share the background, begin there. After many quick reads in a row it is read directly again: the machine had been
-/// busy, the sensor was not slow.
+/// A sensor whose reads are timed. One that takes longer than 0.5 ms twice in a row, or 20 ms once, is read in the
+/// background from then on, so that it never delays a pass again. After those 20 ms, so are all sensors of its device,
+/// which share the background. After many quick reads in a row it is read directly again: the machine had been busy,
+/// the sensor was not slow. The first read of all is waited for no longer than those 20 ms: a driver that hangs would
+/// hold up the start.
 class TimedSensor {
   public:
     class Probe {
@@ -21,7 +22,7 @@ class TimedSensor {
         virtual std::optional<double> read() = 0;
     };
 
-    static constexpr double slowAfter = 0.002;     ///< seconds
+    static constexpr double slowAfter = 0.0005;    ///< seconds; who answers later talks to hardware over a slow bus
     static constexpr double verySlowAfter = 0.02;  ///< seconds
     static constexpr double staleAfter = 10.0;     ///< seconds
     static constexpr int quickReadsToReturn = 100; ///< in a row
@@ -31,7 +32,7 @@ class TimedSensor {
                 std::shared_ptr<const Clock> clock);
 
     /// The value now, or, of a slow sensor, the one that its last finished read gave. Absent when that read gave none,
-    /// and when a slow sensor was asked more than 10 s ago and has not answered yet.
+    /// before the first has finished, and when a slow sensor was asked more than 10 s ago and has not answered yet.
     std::optional<double> value();
     /// The same, at less cost when many sensors are read in turn: `now` is the clock's time, which each read moves on.
     std::optional<double> value(double& now);
@@ -42,6 +43,7 @@ class TimedSensor {
   private:
     struct Reading;
 
+    void readFirst(double& now);
     void readDirectly(double& now);
     void readAside(double now);
     void collect();
@@ -55,6 +57,7 @@ class TimedSensor {
     int slowReads_ = 0;  // directly, in a row
     int quickReads_ = 0; // in the background, in a row
     bool isSlow_ = false;
+    int slowReadsSeen_ = 0; // of its device
     bool wasRead_ = false;
     bool isUnderWay_ = false;
 };

@@ -6,6 +6,15 @@
 #include "linux/kernel/background_thread.h"
 
 namespace vantrix {
+namespace {
+
+/// Registers that nobody has set hold anything.
+std::optional<double> plausibleLimit(std::optional<double> rpm) {
+    constexpr double tooFast = 20000.0; // as for speeds
+    return rpm && *rpm >= 0.0 && *rpm < tooFast ? rpm : std::nullopt;
+}
+
+} // namespace
 
 /// The speed of a fan, and, with the first of it, its limits.
 class HwmonFans::Probe : public TimedSensor::Probe {
@@ -15,8 +24,8 @@ class HwmonFans::Probe : public TimedSensor::Probe {
 
     std::optional<double> read() override {
         if (!std::exchange(hasLimits_, true)) {
-            limits_->minimum.set(FileProbe(path_ + "_min", 1.0).read());
-            limits_->maximum.set(FileProbe(path_ + "_max", 1.0).read());
+            limits_->minimum.set(plausibleLimit(FileProbe(path_ + "_min", 1.0).read()));
+            limits_->maximum.set(plausibleLimit(FileProbe(path_ + "_max", 1.0).read()));
         }
         return speed_.read();
     }

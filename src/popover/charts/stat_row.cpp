@@ -82,9 +82,7 @@ void StatRow::resizeEvent(QResizeEvent*) {
 
 /// A value too long even for a line of its own is shown whole there.
 void StatRow::updateToolTip() {
-    const QString wanted = leadWidth() + valueWidth() > width() ? value_ : QString();
-    if (toolTip() != wanted)
-        setToolTip(wanted);
+    tellInToolTip(leadWidth() + valueWidth() > width() ? value_ : QString());
 }
 
 QString StatRow::accessibleText() const {

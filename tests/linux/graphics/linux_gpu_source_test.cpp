@@ -55,6 +55,7 @@ struct FakeBackground : Background {
             job->perform();
         return true;
     }
+    void wait(std::chrono::milliseconds) override {}
 };
 
 struct LinuxGPUSourceTest : ::testing::Test {

@@ -24,7 +24,11 @@ struct LinuxSensorKeysTest : ::testing::Test {
 };
 
 TEST_F(LinuxSensorKeysTest, FansThatTurnComeFirst) {
-    write("hwmon/hwmon0", {{"name", "nct6775"}, {"fan1_input", "0"}, {"fan2_input", "900"}, {"fan10_input", "800"}});
+    write("hwmon/hwmon0", {{"name", "nct6775"},
+                           {"fan1_input", "0"},
+                           {"fan2_input", "900"},
+                           {"fan2_max", "9223372036854775807"},
+                           {"fan10_input", "800"}});
     write("hwmon/hwmon1", {{"name", "amdgpu"}, {"fan1_input", "1200"}, {"fan1_min", "0"}, {"fan1_max", "3300"}});
     EXPECT_EQ(readInNewPass("FNum"), 4.0);
     const std::pair<const char*, std::optional<double>> rows[] = {{"F0Ac", 1200.0}, {"F0Mn", 0.0}, {"F0Mx", 3300.0},
