@@ -12,6 +12,17 @@ endif()
 target_compile_options(vantrix_options INTERFACE ${flags})
 target_include_directories(vantrix_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
 
+# What the program reads comes from drivers, networks and other programs, so the one that people run is built to stop at
+# a fault rather than go on with it. Flags from the environment (a distribution's) come first and are kept.
+if(NOT APPLE)
+  include(CheckCXXCompilerFlag)
+  check_cxx_compiler_flag(-fcf-protection VANTRIX_HAS_FLOW_PROTECTION) # of some processors alone
+  set(hardening -fPIE -fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3
+                $<$<BOOL:${VANTRIX_HAS_FLOW_PROTECTION}>:-fcf-protection>)
+  target_compile_options(vantrix_options INTERFACE "$<$<CONFIG:Release>:${hardening}>")
+  target_link_options(vantrix_options INTERFACE "$<$<CONFIG:Release>:-pie;-Wl,-z,relro,-z,now>")
+endif()
+
 if(VANTRIX_SANITIZE)
   target_compile_options(vantrix_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                    -fno-omit-frame-pointer)

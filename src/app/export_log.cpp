@@ -4,7 +4,10 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QSaveFile>
+
+#include "platform/desktop_services.h"
 
 namespace vantrix {
 
@@ -13,10 +16,13 @@ void ExportLog::log(const QString& message) {
     const QByteArray line = message.toUtf8() + '\n';
     std::fprintf(stderr, "   [export] %s", line.constData());
     // Opened for each line and not locked, so that even a run that hangs can still report it.
-    QFile file(folder_ + QStringLiteral("/export.log"));
-    const auto mode = isFirst_.exchange(false) ? QIODevice::Truncate : QIODevice::Append;
-    if (file.open(QIODevice::WriteOnly | mode))
-        file.write(line);
+    writePlainFile(QFile::encodeName(folder_ + QStringLiteral("/export.log")).toStdString(), line.toStdString(),
+                   !isFirst_.exchange(false));
+}
+
+void ExportLog::lose(const QString& message) {
+    hasLostPictures_ = true;
+    log(message);
 }
 
 void ExportLog::save(const QString& name, const QImage& image) {
@@ -24,12 +30,12 @@ void ExportLog::save(const QString& name, const QImage& image) {
     QBuffer buffer(&data);
     buffer.open(QIODevice::WriteOnly);
     if (!image.save(&buffer, "PNG"))
-        return log(QStringLiteral("ERRORE: PNG non generato per ") + name);
+        return lose(QStringLiteral("ERRORE: PNG non generato per ") + name);
     QSaveFile file(folder_ + u'/' + name + QStringLiteral(".png"));
     if (file.open(QIODevice::WriteOnly) && file.write(data) == data.size() && file.commit())
         log(QStringLiteral("salvato ") + name + QStringLiteral(".png"));
     else
-        log(QStringLiteral("ERRORE scrittura ") + name + QStringLiteral(": ") + file.errorString());
+        lose(QStringLiteral("ERRORE scrittura ") + name + QStringLiteral(": ") + file.errorString());
 }
 
 } // namespace vantrix

@@ -17,9 +17,13 @@ class ExportLog {
     void log(const QString& message);
     /// Writes `image` to NAME.png, replacing an older one. A failure is logged; the run goes on.
     void save(const QString& name, const QImage& image);
+    /// Logs that a picture could not be made.
+    void lose(const QString& message);
+    bool hasLostPictures() const { return hasLostPictures_; }
 
   private:
     QString folder_;
+    bool hasLostPictures_ = false;
     std::atomic<bool> isFirst_ = true;
 };
 

@@ -82,8 +82,9 @@ int drawScreenshots(const CommandLine& commandLine, int& argc, char** argv) {
     drawOffscreen();
     QApplication application(argc, argv);
     installTranslations();
-    return exportScreenshots(QString::fromLocal8Bit(commandLine.exportFolder), makeSamplingSources(commandLine.roots),
-                             makeStandardDefaultsStore());
+    return exportScreenshots(
+        QString::fromLocal8Bit(commandLine.exportFolder), [&] { return makeSamplingSources(commandLine.roots); },
+        makeStandardDefaultsStore);
 }
 
 int perform(const CommandLine& commandLine, int& argc, char** argv) {
@@ -121,6 +122,7 @@ int perform(const CommandLine& commandLine, int& argc, char** argv) {
 } // namespace vantrix
 
 int main(int argc, char** argv) {
+    vantrix::prepareProcess();
     const auto parsed = vantrix::parseCommandLine({argv + 1, argv + argc});
     if (const auto* problem = std::get_if<std::string>(&parsed))
         return vantrix::fail(*problem, vantrix::usageError);

@@ -142,7 +142,7 @@ class Export {
                                                   [] { return std::vector<StatusMenuEntry>(); });
         const auto image = OffscreenWindow(theme, std::move(view), popoverCanvas).picture();
         if (!image)
-            return log_.log(appearance + QStringLiteral(": popover NON disegnato"));
+            return log_.lose(appearance + QStringLiteral(": popover NON disegnato"));
         log_.log(appearance + QStringLiteral(": popover disegnato, ritaglio"));
         log_.save(QStringLiteral("popover-") + appearance, croppedBelowContent(*image));
     }
@@ -152,7 +152,7 @@ class Export {
         const QSize size = MenuBarRenderer::size(items, style).toSize() + 2 * rowPadding;
         QImage image = makePicture(size, theme.colors().window);
         if (image.isNull())
-            return;
+            return log_.lose(name + QStringLiteral(" NON disegnato"));
         QPainter painter(&image);
         painter.translate(rowPadding.width(), rowPadding.height());
         const auto palette = theme.isDark() ? MenuBarPalette::onDark() : MenuBarPalette::onLight();
@@ -166,8 +166,11 @@ class Export {
         log_.log(appearance + QStringLiteral(": impostazioni ") + tab);
         auto view = std::make_unique<SettingsView>(SettingsParts{theme, defaults_, monitor_, loginItem_, [](auto) {}});
         const auto image = OffscreenWindow(theme, std::move(view), SettingsView::contentSize).picture();
+        const QString name = QStringLiteral("settings-%1-%2").arg(tab, appearance);
         if (image)
-            log_.save(QStringLiteral("settings-%1-%2").arg(tab, appearance), *image);
+            log_.save(name, *image);
+        else
+            log_.lose(name + QStringLiteral(" NON disegnato"));
     }
 
     ExportLog& log_;
@@ -180,19 +183,20 @@ class Export {
 
 } // namespace
 
-int exportScreenshots(const QString& folder, SamplingSources sources, std::unique_ptr<DefaultsStore> stored) {
+int exportScreenshots(const QString& folder, const std::function<SamplingSources()>& makeSources,
+                      const std::function<std::unique_ptr<DefaultsStore>()>& makeStore) {
     if (!QDir().mkpath(folder)) {
         std::fprintf(stderr, "vantrix: cannot create the folder %s\n", qUtf8Printable(folder));
         return EXIT_FAILURE;
     }
-    UserDefaults defaults(std::make_unique<OverlayStore>(std::move(stored)));
-    registerPreferences(defaults);
     ExportLog log(folder);
     log.log(QStringLiteral("avvio, cartella: ") + folder);
-    const Watchdog watchdog(log);
-    Export(log, std::move(sources), defaults).run();
+    const Watchdog watchdog(log); // before anything that may hang
+    UserDefaults defaults(std::make_unique<OverlayStore>(makeStore()));
+    registerPreferences(defaults);
+    Export(log, makeSources(), defaults).run();
     log.log(QStringLiteral("finito"));
-    return EXIT_SUCCESS;
+    return log.hasLostPictures() ? EXIT_FAILURE : EXIT_SUCCESS;
 }
 
 } // namespace vantrix

@@ -4,9 +4,12 @@
 #include <cstdio>
 #include <cstring>
 
+#include "support/utf8.h"
+
 namespace vantrix {
 
-std::optional<int> writeOut(const std::string& text) {
+std::optional<int> writeOut(const std::string& told) {
+    const std::string text = withoutTerminalControls(told);
     if (std::fwrite(text.data(), 1, text.size(), stdout) == text.size() && std::fflush(stdout) == 0)
         return std::nullopt;
     if (errno == EPIPE)

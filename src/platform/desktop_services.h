@@ -4,12 +4,20 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "support/user_defaults.h"
 
 class QSocketNotifier;
 
 namespace vantrix {
+
+/// To be called first: makes sure that there are standard streams, and asks the system for many open files.
+void prepareProcess();
+
+/// Writes `text` to the plain file at `path`, behind what it holds or in its stead. False when that is impossible;
+/// neither follows a link nor waits for whoever reads a pipe.
+bool writePlainFile(const std::string& path, std::string_view text, bool appends);
 
 /// The settings of this user.
 std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();

@@ -6,6 +6,7 @@
 #include <poll.h>
 #include <sys/file.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 
 #include <QSocketNotifier>
@@ -63,7 +64,7 @@ class SocketChannel final : public InstanceChannel {
   private:
     void serve() {
         const FileDescriptor peer = acceptConnection(listener_.get());
-        if (!peer)
+        if (!peer || !isOwnPeer(peer.get()))
             return;
         // A request follows its connection at once; the main thread cannot wait for a slow client.
         pollfd readable{peer.get(), POLLIN, 0};
@@ -87,7 +88,10 @@ class SocketChannel final : public InstanceChannel {
 FileDescriptor listenAt(const sockaddr_un& address) {
     FileDescriptor listener = makeListeningSocket();
     ::unlink(address.sun_path); // left behind by an instance that was killed; the lock says that none runs
-    if (!listener || ::bind(listener.get(), generic(address), sizeof address) != 0 || ::listen(listener.get(), 4) != 0)
+    if (!listener || ::bind(listener.get(), generic(address), sizeof address) != 0)
+        return FileDescriptor();
+    // Nobody can connect before it listens.
+    if (::chmod(address.sun_path, 0600) != 0 || ::listen(listener.get(), 4) != 0)
         return FileDescriptor();
     return listener;
 }

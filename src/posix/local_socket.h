@@ -26,6 +26,9 @@ bool sendQuietly(int socket, std::string_view text, int flags = 0);
 /// namespace.
 std::optional<int> peerProcess(int socket);
 
+/// Whether the process at the other end runs for the same user.
+bool isOwnPeer(int socket);
+
 /// The beginning of the paths of this session's files, in a folder that only this user can write to; empty when there
 /// is no such folder.
 std::string instancePrefix();

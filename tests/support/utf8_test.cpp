@@ -23,5 +23,15 @@ TEST(RepairedUTF8, KeepsValidTextAndReplacesTheRest) {
         EXPECT_EQ(repairedUTF8(row.text), row.repaired) << row.name;
 }
 
+TEST(WithoutTerminalControls, DropsWhatSteersATerminalAlone) {
+    EXPECT_EQ(withoutTerminalControls("a\x1b[2J\rb\x7f\n"), "a[2Jb\n");
+    EXPECT_EQ(withoutTerminalControls("CSI \xc2\x9b"
+                                      "2J, turned \xe2\x80\xae"
+                                      "gnp.exe \xe2\x81\xa9"),
+              "CSI 2J, turned gnp.exe ");
+    EXPECT_EQ(withoutTerminalControls("52\xc2\xb0, \xd7\xa9, \xf0\x9f\x98\x80"),
+              "52\xc2\xb0, \xd7\xa9, \xf0\x9f\x98\x80");
+}
+
 } // namespace
 } // namespace vantrix

@@ -3,6 +3,7 @@
 #include <cerrno>
 
 #include <fcntl.h>
+#include <sys/resource.h>
 
 namespace vantrix {
 namespace {
@@ -26,17 +27,21 @@ KernelFile::KernelFile(std::string path, Kind kind)
 std::optional<std::string_view> KernelFile::read() {
     if (!file_ && !open())
         return std::nullopt;
-    if (!fill()) {
+    const bool isRead = fill();
+    if (!isRead || !mayStayOpen_)
         file_.close();
-        return std::nullopt;
-    }
-    return std::string_view(buffer_.data(), size_);
+    return isRead ? std::optional(std::string_view(buffer_.data(), size_)) : std::nullopt;
 }
 
 bool KernelFile::open() {
     // Not blocking: a foreign root may hold anything, even a pipe that nobody writes to.
     file_ = FileDescriptor(::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
-    return static_cast<bool>(file_);
+    if (!file_)
+        return false;
+    // The number is the lowest that was free, so it tells how many are open.
+    rlimit limit{};
+    mayStayOpen_ = ::getrlimit(RLIMIT_NOFILE, &limit) == 0 && static_cast<rlim_t>(file_.get()) < limit.rlim_cur / 2;
+    return true;
 }
 
 bool KernelFile::fill() {

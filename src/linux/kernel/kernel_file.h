@@ -10,7 +10,9 @@
 namespace vantrix {
 
 /// A file of /proc or /sys that is read again on every pass: kept open, read from its start into a buffer that is
-/// reused. After a failure it is opened anew on the next read, so a device that vanished may come back.
+/// reused. Where there are so many that the process would run out of descriptors, which it needs for windows and buses,
+/// it is opened for each read. After a failure it is opened anew on the next read, so a device that vanished may come
+/// back.
 class KernelFile {
   public:
     /// How the kernel hands the text out. A `whole` text ends with the first read that leaves room in the buffer. A
@@ -33,6 +35,7 @@ class KernelFile {
     FileDescriptor file_;
     std::vector<char> buffer_;
     std::size_t size_ = 0;
+    bool mayStayOpen_ = true;
 };
 
 } // namespace vantrix

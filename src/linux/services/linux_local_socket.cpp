@@ -33,6 +33,13 @@ std::string sessionName() {
     return name.empty() ? "console" : name;
 }
 
+std::optional<ucred> peerOf(int socket) {
+    ucred peer{};
+    socklen_t size = sizeof peer;
+    const bool isTold = ::getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) == 0;
+    return isTold ? std::optional(peer) : std::nullopt;
+}
+
 } // namespace
 
 FileDescriptor makeLocalSocket() {
@@ -52,11 +59,13 @@ bool sendQuietly(int socket, std::string_view text, int flags) {
 }
 
 std::optional<int> peerProcess(int socket) {
-    ucred peer{};
-    socklen_t size = sizeof peer;
-    if (::getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &peer, &size) != 0)
-        return std::nullopt;
-    return peer.pid;
+    const auto peer = peerOf(socket);
+    return peer ? std::optional(peer->pid) : std::nullopt;
+}
+
+bool isOwnPeer(int socket) {
+    const auto peer = peerOf(socket);
+    return peer && peer->uid == ::geteuid();
 }
 
 std::string instancePrefix() {

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 
 #include "linux/settings/base_folders.h"
+#include "linux/settings/file_writing.h"
 #include "linux/settings/group_file.h"
 
 namespace vantrix {
@@ -16,7 +17,9 @@ QString widgetStorePath() {
 }
 
 LinuxWidgetCenter::LinuxWidgetCenter(const QString& path, std::shared_ptr<BusLink> link)
-    : path_(QFile::encodeName(path).toStdString()), link_(std::move(link)) {}
+    : path_(QFile::encodeName(path).toStdString()), link_(std::move(link)) {
+    removeStrays(path_);
+}
 
 void LinuxWidgetCenter::store(std::string_view key, std::string_view json) {
     writeGroupFile(path_, key, json);

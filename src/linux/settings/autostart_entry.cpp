@@ -7,19 +7,19 @@
 
 #include "linux/settings/base_folders.h"
 #include "linux/settings/desktop_entry.h"
+#include "posix/plain_file.h"
 
 namespace vantrix {
 namespace {
 
-constexpr qint64 mostBytes = 65536; // an entry is a few hundred
+constexpr std::size_t mostBytes = 65536; // an entry is a few hundred
 
 QString entryIn(const QString& folder) {
     return folder + QLatin1StringView("/vantrix.desktop");
 }
 
 QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.read(mostBytes) : QByteArray();
+    return QByteArray::fromStdString(readPlainFile(QFile::encodeName(path).toStdString(), mostBytes).value_or(""));
 }
 
 /// The folders of a colon-separated variable; relative ones do not count.

@@ -26,6 +26,9 @@ using State = SettingsFile::State;
 constexpr auto writeDelay = 200ms;
 /// Long enough for an editor, which may write in several steps, to finish.
 constexpr auto rereadDelay = 50ms;
+/// Before what could not be written is tried again; doubled each time.
+constexpr auto firstPause = 500ms;
+constexpr auto longestPause = 5min;
 
 QString nearestFolder(const QString& file) {
     QFileInfo folder(QFileInfo(file).path());
@@ -40,9 +43,8 @@ bool allowed(const QString& path, int kind) {
 
 } // namespace
 
-FileDefaultsStore::FileDefaultsStore(const QString& path) : path_(path), target_(linkTarget(path)) {
+FileDefaultsStore::FileDefaultsStore(const QString& path) : path_(path), target_(linkTarget(path)), pause_(firstPause) {
     writeTimer_.setSingleShot(true);
-    writeTimer_.setInterval(writeDelay);
     QObject::connect(&writeTimer_, &QTimer::timeout, &writeTimer_, [this] { flush(); });
     rereadTimer_.setSingleShot(true);
     rereadTimer_.setInterval(rereadDelay);
@@ -53,6 +55,7 @@ FileDefaultsStore::FileDefaultsStore(const QString& path) : path_(path), target_
     };
     QObject::connect(&watcher_, &QFileSystemWatcher::fileChanged, &rereadTimer_, readSoon);
     QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &rereadTimer_, readSoon);
+    removeStrays(QFile::encodeName(target_).toStdString());
     watch();
     load();
 }
@@ -78,17 +81,30 @@ QVariant FileDefaultsStore::value(const QString& key) const {
 void FileDefaultsStore::setValue(const QString& key, const QVariant& value) {
     pending_.insert(key, value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue::Undefined);
     if (!writeTimer_.isActive())
-        writeTimer_.start();
+        writeTimer_.start(writeDelay);
 }
 
 void FileDefaultsStore::flush() {
     writeTimer_.stop();
     if (pending_.isEmpty())
         return;
-    const bool edited = reloadIfChanged();
-    write();
+    const bool edited = merge();
+    if (pending_.isEmpty()) {
+        pause_ = firstPause;
+    } else {
+        writeTimer_.start(pause_);
+        pause_ = std::min<std::chrono::milliseconds>(2 * pause_, longestPause);
+    }
     if (edited && changedOutside)
         changedOutside();
+}
+
+/// Another instance must not write between the reading and the writing, or its changes would be undone.
+bool FileDefaultsStore::merge() {
+    const FolderLock lock(QFile::encodeName(QFileInfo(target_).path()).toStdString());
+    const bool edited = reloadIfChanged();
+    write();
+    return edited;
 }
 
 QJsonObject FileDefaultsStore::entries() const {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include <QFileSystemWatcher>
 #include <QHash>
 #include <QJsonObject>
@@ -14,7 +16,7 @@ namespace vantrix {
 ///
 /// Writes are gathered for a moment and merged into what the file holds by then, so that neither an edit by hand nor
 /// an entry this program does not know is lost. A damaged file is set aside before it is replaced. What cannot be
-/// written stays in memory and is tried again with the next write.
+/// written stays in memory and is tried again after growing pauses.
 class FileDefaultsStore final : public DefaultsStore {
   public:
     /// Reads the file at once; it need not exist. New files are for the user's eyes only (0600).
@@ -35,6 +37,8 @@ class FileDefaultsStore final : public DefaultsStore {
     void load();
     /// True when the file had changed and entries differ from before.
     bool reloadIfChanged();
+    /// The same, then writes what is pending.
+    bool merge();
     void reread();
     void write();
     bool mayWrite();
@@ -46,6 +50,7 @@ class FileDefaultsStore final : public DefaultsStore {
     SettingsFile file_;
     QHash<QString, QJsonValue> pending_; ///< undefined: to be removed
     QTimer writeTimer_;
+    std::chrono::milliseconds pause_; ///< before the next attempt, once one has failed
     QTimer rereadTimer_;
     QFileSystemWatcher watcher_;
     bool complainedOfReading_ = false;

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "posix/file_descriptor.h"
+
 namespace vantrix {
 
 /// Writes all of `bytes`, also past interruptions. False on failure; errno tells why.
@@ -12,6 +14,19 @@ bool writeAll(int file, std::string_view bytes);
 /// Makes a folder that only the user may enter (0700), and the folders above it as usual. False when it could not be
 /// made or existed before.
 bool makePrivateFolder(const std::filesystem::path& folder);
+
+/// Holds off the other instances that are about to change files of `folder` in several steps, as long as it lives. One
+/// of them that hangs is waited for a moment only.
+class FolderLock {
+  public:
+    explicit FolderLock(const std::filesystem::path& folder);
+
+  private:
+    FileDescriptor folder_;
+};
+
+/// Removes what writers of `path` that were killed have left beside it, unless it may still be in use.
+void removeStrays(const std::filesystem::path& path);
 
 /// For mkstemp: a name beside `path` that no listing shows. The six letters at its end are what mkstemp replaces.
 std::string hiddenPattern(std::string_view path);

@@ -13,7 +13,7 @@
 #include <QJsonDocument>
 
 #include "linux/settings/file_writing.h"
-#include "posix/file_descriptor.h"
+#include "posix/plain_file.h"
 
 namespace vantrix {
 
@@ -27,24 +27,6 @@ FileStamp stampOf(const struct stat& status) {
     return {status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
 }
 
-/// At most `limit` bytes; absent when reading fails.
-std::optional<QByteArray> readUpTo(qsizetype limit, const FileDescriptor& file) {
-    QByteArray bytes(limit, Qt::Uninitialized);
-    qsizetype filled = 0;
-    while (filled < limit) {
-        const ssize_t count = ::read(file.get(), bytes.data() + filled, static_cast<std::size_t>(limit - filled));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return std::nullopt;
-        if (count == 0)
-            break;
-        filled += count;
-    }
-    bytes.resize(filled);
-    return bytes;
-}
-
 SettingsFile failed(SettingsFile file, SettingsFile::State state, const char* problem) {
     file.state = state;
     file.problem = problem;
@@ -52,14 +34,14 @@ SettingsFile failed(SettingsFile file, SettingsFile::State state, const char* pr
 }
 
 /// Fills in what the bytes of a regular file say.
-SettingsFile parsed(SettingsFile file, const std::optional<QByteArray>& bytes) {
+SettingsFile parsed(SettingsFile file, const std::optional<std::string>& bytes) {
     using State = SettingsFile::State;
     if (!bytes)
         return failed(std::move(file), State::damaged, "cannot be read");
-    if (bytes->size() > SettingsFile::sizeLimit)
+    if (bytes->size() > std::size_t{SettingsFile::sizeLimit})
         return failed(std::move(file), State::damaged, "is too large for a settings file");
     QJsonParseError error{};
-    const QJsonDocument document = QJsonDocument::fromJson(*bytes, &error);
+    const QJsonDocument document = QJsonDocument::fromJson(QByteArray::fromStdString(*bytes), &error);
     if (error.error != QJsonParseError::NoError)
         return failed(std::move(file), State::damaged, "is not valid JSON");
     if (!document.isObject())
@@ -129,16 +111,13 @@ SettingsFile readSettingsFile(const QString& path) {
         return failed(std::move(result), State::blocked, "cannot be reached");
     }
     result.stamp = stampOf(status);
-    // Checked before opening, because opening a device may have effects and opening a pipe may wait.
     if (!S_ISREG(status.st_mode))
         return failed(std::move(result), State::blocked, "is not a regular file");
     result.mode = (status.st_mode & 0777) | 0600;
 
-    const FileDescriptor file(::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!file)
+    const FileDescriptor file = openPlainFile(name.toStdString(), O_RDONLY);
+    if (!file || ::fstat(file.get(), &status) != 0)
         return failed(std::move(result), State::damaged, "cannot be read");
-    if (::fstat(file.get(), &status) != 0 || !S_ISREG(status.st_mode))
-        return failed(std::move(result), State::blocked, "is not a regular file");
     // Taken from the open file before reading it, so that an edit made meanwhile is seen as a change.
     result.stamp = stampOf(status);
     return parsed(std::move(result), readUpTo(SettingsFile::sizeLimit + 1, file));

@@ -4,6 +4,7 @@
 #include <fcntl.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <unistd.h>
 
 namespace vantrix {
 namespace {
@@ -46,6 +47,12 @@ std::optional<int> peerProcess(int socket) {
     if (::getsockopt(socket, SOL_LOCAL, LOCAL_PEERPID, &peer, &size) != 0)
         return std::nullopt;
     return peer;
+}
+
+bool isOwnPeer(int socket) {
+    uid_t user = 0;
+    gid_t group = 0;
+    return ::getpeereid(socket, &user, &group) == 0 && user == ::geteuid();
 }
 
 std::string instancePrefix() {

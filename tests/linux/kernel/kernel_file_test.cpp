@@ -2,6 +2,8 @@
 
 #include <csignal>
 
+#include <fcntl.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -55,6 +57,24 @@ TEST(KernelFile, ReadsRecordsBeyondTheFirstPage) {
     ASSERT_TRUE(text);
     EXPECT_GT(text->size(), 8192u);
     EXPECT_NE(text->rfind("[v"), std::string_view::npos); // the last mapping
+}
+
+TEST(KernelFile, LeavesDescriptorsToTheRestOfTheProgram) {
+    const TemporaryFolder folder;
+    folder.write("value", "1\n");
+    rlimit before{};
+    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &before), 0);
+    const rlimit few{64, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_NOFILE, &few), 0);
+    std::vector<KernelFile> files;
+    for (int i = 0; i < 100; ++i)
+        files.emplace_back(folder.path("value"));
+    for (int pass = 0; pass < 2; ++pass)
+        for (KernelFile& file : files)
+            EXPECT_EQ(file.read(), "1\n");
+    const FileDescriptor another(open("/dev/null", O_RDONLY));
+    EXPECT_LE(another.get(), 32);
+    EXPECT_EQ(setrlimit(RLIMIT_NOFILE, &before), 0);
 }
 
 TEST(KernelFile, RefusesWhatIsNoKernelFile) {

@@ -60,6 +60,9 @@ TEST_F(AutostartEntryTest, IsOnWhenAnEffectiveEntryStartsAProgramThatExists) {
         putOrRemove(systemFile, c.system);
         EXPECT_EQ(item().isEnabled(), c.enabled) << c.name;
     }
+    QFile::remove(userFile);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(userFile).constData(), 0600), 0);
+    EXPECT_FALSE(item().isEnabled()) << "a pipe that nobody writes to";
 }
 
 TEST_F(AutostartEntryTest, TurnsOnAndOff) {

@@ -2,6 +2,10 @@
 
 #include <functional>
 
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <QFileInfo>
 #include <QJsonArray>
 
@@ -54,6 +58,33 @@ TEST_F(FileDefaultsStoreTest, WritesByItselfOnceAndIsNotItsOwnOutsider) {
     write("{ \"key\": 9, \"nothing\": null,\n \"list\": [1, {\"a\": null}]}");
     EXPECT_FALSE(spinUntil([&] { return outside > 0; }, milliseconds(300))) << "nothing differs";
     EXPECT_EQ(names(folder_.path()), QStringList{text("settings.json")}) << "nothing is left lying about";
+}
+
+TEST_F(FileDefaultsStoreTest, TwoInstancesKeepEachOthersChanges) {
+    constexpr int changes = 30;
+    const auto change = [&](QChar prefix) {
+        FileDefaultsStore store(path_);
+        for (int i = 0; i < changes; ++i) {
+            store.setValue(prefix + QString::number(i), 1.0);
+            store.flush();
+        }
+    };
+    const pid_t child = ::fork();
+    change(child == 0 ? u'a' : u'b');
+    if (child == 0)
+        ::_exit(0);
+    ASSERT_EQ(::waitpid(child, nullptr, 0), child);
+    EXPECT_EQ(object().size(), 2 * changes);
+}
+
+TEST_F(FileDefaultsStoreTest, RemovesWhatKilledWritersLeft) {
+    put(at(".settings.json.abcdef"), "{");
+    put(at(".settings.json.ABCDEF"), "{");
+    put(at(".settings.json.vim"), "{");
+    const timespec longAgo[] = {{}, {}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, qPrintable(at(".settings.json.abcdef")), longAgo, 0), 0);
+    FileDefaultsStore store(path_);
+    EXPECT_EQ(names(folder_.path()), QStringList({text(".settings.json.ABCDEF"), text(".settings.json.vim")}));
 }
 
 TEST_F(FileDefaultsStoreTest, SeesEveryWayInWhichPeopleAndTheirToolsEdit) {
