@@ -39,6 +39,18 @@ xcb_window_t windowOf(xcb_connection_t* connection, const std::set<std::uint32_t
     return XCB_NONE;
 }
 
+/// What can be seen of a window, on the root window; empty while that is next to nothing.
+QRect seen(xcb_window_t window) {
+    xcb_connection_t* connection = xcbConnection();
+    const auto ancestors = xcbAncestors(connection, window);
+    const QRect place = xcbRootRect(connection, window);
+    const QRect area = xcbVisibleRect(connection, window, ancestors).translated(place.topLeft());
+    if (std::min(area.width(), area.height()) < thinnest)
+        return {};
+    const xcb_window_t outermost = ancestors.empty() ? window : ancestors.back();
+    return xcbTopWindowAt(connection, area.center()) == outermost ? area : QRect();
+}
+
 } // namespace
 
 bool HostPanel::canLook() {
@@ -59,12 +71,14 @@ bool HostPanel::look() {
     sinceLook_.start();
     if (dock_ == XCB_NONE || xcbRootRect(xcbConnection(), window_).isEmpty())
         find();
-    const QRect area = seen();
-    if (area.isEmpty())
+    if (dock_ == XCB_NONE)
         return false;
     const QSize dock = xcbRootRect(xcbConnection(), dock_).size();
     const bool upright = dock.height() > dock.width();
-    const auto ground = xcbScreenColor(xcbConnection(), sampleOf(area));
+    QRect area = seen(window_);
+    if (area.isEmpty())
+        area = seen(dock_); // a status area without items takes no room
+    const auto ground = area.isEmpty() ? ground_ : xcbScreenColor(xcbConnection(), sampleOf(area));
     const bool changed = ground != ground_ || upright != upright_;
     ground_ = ground;
     upright_ = upright;
@@ -90,20 +104,6 @@ void HostPanel::find() {
         searches_ = 0;
         return;
     }
-}
-
-/// What can be seen of the window that has the items, on the root window; empty while that is nothing.
-QRect HostPanel::seen() const {
-    if (dock_ == XCB_NONE)
-        return {};
-    xcb_connection_t* connection = xcbConnection();
-    const auto ancestors = xcbAncestors(connection, window_);
-    const QRect place = xcbRootRect(connection, window_);
-    const QRect area = xcbVisibleRect(connection, window_, ancestors).translated(place.topLeft());
-    if (std::min(area.width(), area.height()) < thinnest)
-        return {};
-    const xcb_window_t outermost = ancestors.empty() ? window_ : ancestors.back();
-    return xcbTopWindowAt(connection, area.center()) == outermost ? area : QRect();
 }
 
 } // namespace vantrix

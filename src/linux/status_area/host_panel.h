@@ -6,7 +6,6 @@
 
 #include <QColor>
 #include <QElapsedTimer>
-#include <QRect>
 #include <QtGlobal>
 
 namespace vantrix {
@@ -35,7 +34,6 @@ class HostPanel {
 
   private:
     void find();
-    QRect seen() const;
 
     std::chrono::milliseconds lookInterval_;
     QElapsedTimer sinceLook_;
