@@ -27,6 +27,9 @@ def median(values):
 
 def ground(picture):
     """The colour behind the text, for every line of pixels: text covers less than half of a line."""
+    if picture.height > picture.width:  # where the lines of a panel at the side are too short for that
+        usual = max(picture.getcolors(picture.width * picture.height))[1]
+        return [usual] * picture.height
     rows = []
     for y in range(picture.height):
         line = [picture.getpixel((x, y)) for x in range(picture.width)]

@@ -37,5 +37,6 @@ class Lxqt(Host):
         self.start_panel(desktop)
 
     def go(self, desktop, dark):
+        self.handle = 0 if dark else 7  # cannot be seen on the dark panel
         theme, icons = ("debian", "breeze-dark") if dark else ("light", "breeze")
         desktop.write(".config/lxqt/lxqt.conf", f"[General]\ntheme={theme}\nicon_theme={icons}\n")

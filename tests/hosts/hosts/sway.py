@@ -15,7 +15,7 @@ bar {{
     {bar}
 }}
 """
-SWAYBAR = "colors {{ background #{ground}\n statusline #{text} }}\n tray_output *"
+SWAYBAR = "colors {{\n background #{ground}\n statusline #{text}\n }}\n tray_output *"
 WAYBAR = "swaybar_command waybar"
 STYLE = "window#waybar {{ background: #{ground}; color: #{text}; }}"
 COLOURS = {True: {"ground": "323232", "text": "ffffff"}, False: {"ground": "eeeeee", "text": "000000"}}
