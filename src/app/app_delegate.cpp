@@ -124,6 +124,8 @@ void AppDelegate::showMenu() {
         return;
     menu_ = makeMenu(entries);
     menu_->setPalette(theme_.palette());
+    if (popover_->popUp(*menu_, *statusItem_))
+        return;
     menu_->setFixedSize(menu_->sizeHint()); // or it becomes a tile on some Wayland compositors
     menuInput_ = takeInput(statusItem_->placeIsKnown(), [this] { menu_->close(); });
     connect(menu_.get(), &QMenu::aboutToHide, this, [this] { menuInput_.reset(); });

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+class QMenu;
 class QWidget;
 
 namespace vantrix {
@@ -24,6 +25,10 @@ class PopoverWindow {
 
     /// Closes the popover if it is shown, else opens it; does nothing when the same click has just closed it.
     virtual void toggle(const StatusItem& item) = 0;
+
+    /// Shows `menu` where the popover would open, and returns at once; false where the program places it itself. The
+    /// popover is closed.
+    virtual bool popUp(QMenu& /*menu*/, const StatusItem& /*item*/) { return false; }
 };
 
 /// The popover of this system. `theme` outlives it.

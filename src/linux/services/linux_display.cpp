@@ -1,16 +1,22 @@
 #include "platform/desktop_services.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <string_view>
 
 #include <QLibraryInfo>
 
+#include "linux/layer_shell/layer_shell.h"
+#include "linux/services/display_choice.h"
 #include "linux/status_area/xcb_support.h"
 
 namespace vantrix {
 namespace {
+
+/// How long a desktop may take to bring up its status area; without one there will be a strip, which X11 alone places.
+constexpr std::chrono::seconds patienceWithPanel{4};
 
 bool userChosePlatform(int argc, char** argv) {
     return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || std::any_of(argv + 1, argv + argc, [](const char* a) {
@@ -18,12 +24,28 @@ bool userChosePlatform(int argc, char** argv) {
            });
 }
 
+bool mayHaveX11() {
+    return qEnvironmentVariableIsSet("DISPLAY");
+}
+
 /// A connection to the X server; null when none answers.
-std::shared_ptr<void> connectToX11() {
-    if (!qEnvironmentVariableIsSet("DISPLAY"))
+std::shared_ptr<xcb_connection_t> connectToX11() {
+    if (!mayHaveX11())
         return nullptr;
     std::shared_ptr<xcb_connection_t> connection(xcb_connect(nullptr, nullptr), xcb_disconnect);
     return xcb_connection_has_error(connection.get()) == 0 ? connection : nullptr;
+}
+
+/// True when somebody embeds windows of X11 in a panel.
+bool ownsTray(xcb_connection_t* connection) {
+    const auto cookie = xcb_get_selection_owner(connection, xcbAtom(connection, "_NET_SYSTEM_TRAY_S0"));
+    const XcbReply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(connection, cookie, nullptr));
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+/// Its tray for X11 makes square items of all windows.
+bool isPlasma() {
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':').contains(QStringLiteral("KDE"));
 }
 
 /// A Wayland session is of use only with the toolkit's plug-in for it, which is looked for here because the toolkit
@@ -45,15 +67,19 @@ std::shared_ptr<void> prepareDisplay(int argc, char** argv) {
     const auto nothingToKeep = std::make_shared<bool>(true);
     if (userChosePlatform(argc, argv))
         return nothingToKeep;
-    // X11 first, even under Wayland, where a program can neither place its windows nor dock them.
-    if (auto connection = connectToX11()) {
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        return connection;
-    }
-    if (!waylandIsUsable())
+    std::shared_ptr<xcb_connection_t> x11;
+    const auto answers = [&x11] { return x11 || (x11 = connectToX11()); };
+    const auto kind = chooseDisplay({
+        .waylandIsUsable = waylandIsUsable,
+        .hasLayers = compositorHasLayers,
+        .hasX11Tray = [&] { return !isPlasma() && answers() && ownsTray(x11.get()); },
+        .expectsNotifierHost = [] { return !mayHaveX11() || notifierWatcherAppears(patienceWithPanel); },
+        .x11Answers = answers,
+    });
+    if (kind == DisplayKind::none)
         return nullptr;
-    qputenv("QT_QPA_PLATFORM", "wayland");
-    return nothingToKeep;
+    qputenv("QT_QPA_PLATFORM", kind == DisplayKind::x11 ? "xcb" : "wayland");
+    return kind == DisplayKind::x11 ? std::shared_ptr<void>(x11) : nothingToKeep;
 }
 
 void drawOffscreen() {

@@ -1,0 +1,57 @@
+#include "linux/layer_shell/layer_place.h"
+
+#include <algorithm>
+
+namespace vantrix {
+namespace {
+
+constexpr int gap = 4;        // between the panel and the window
+constexpr int edgeGap = 8;    // to the other edges
+constexpr int itemReach = 11; // from the middle of an item to its edge
+constexpr int thickestPanel = 96;
+
+/// One direction of the screen, in which a point lies `before` the nearer of two edges.
+struct Span {
+    bool nearStart;
+    int before;
+    int free;
+    int reserved; ///< by panels
+};
+
+Span span(int at, int whole, int free) {
+    const int behind = whole - 1 - at;
+    return {at <= behind, std::max(std::min(at, behind), 0), free, whole - free > rounding ? whole - free : 0};
+}
+
+/// `margin`, as long as that leaves the window room on the other side.
+int kept(int margin, int least, int length, int free) {
+    return std::max(std::min(margin, free - edgeGap - length), least);
+}
+
+} // namespace
+
+LayerPlace layerPlace(const QSize& size, const QPoint& point, const QSize& screen, const QSize& free) {
+    const Span x = span(point.x(), screen.width(), free.width());
+    const Span y = span(point.y(), screen.height(), free.height());
+    const bool inSidePanel = x.reserved > 0 && (y.reserved == 0 || x.before < y.before);
+    // The panel itself keeps the window off as much of the item as it reserves.
+    const auto beside = [](const Span& across, int length) {
+        return kept(gap + std::max(across.before + itemReach - across.reserved, 0), gap, length, across.free);
+    };
+    const int fromSide =
+        inSidePanel ? beside(x, size.width()) : kept(x.before - size.width() / 2, edgeGap, size.width(), x.free);
+    const int fromTop =
+        inSidePanel ? kept(y.before - itemReach, edgeGap, size.height(), y.free) : beside(y, size.height());
+    LayerPlace place;
+    place.edges = (x.nearStart ? Qt::LeftEdge : Qt::RightEdge) | (y.nearStart ? Qt::TopEdge : Qt::BottomEdge);
+    place.margins = {x.nearStart ? fromSide : 0, y.nearStart ? fromTop : 0, x.nearStart ? 0 : fromSide,
+                     y.nearStart ? 0 : fromTop};
+    return place;
+}
+
+bool isNearEdge(const QPoint& point, const QSize& screen) {
+    return std::min(span(point.x(), screen.width(), 0).before, span(point.y(), screen.height(), 0).before) <
+           thickestPanel;
+}
+
+} // namespace vantrix
