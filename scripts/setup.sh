@@ -16,6 +16,9 @@ declare -A packages=(
     gnome-shell-extension-appindicator xdg-desktop-portal-gnome"
 )
 
+# For sharp windows under Wayland; the build does without. Older distributions have the first for another Qt.
+layer_shell="liblayershellqtinterface-dev libwayland-dev qt6-wayland"
+
 if ! command -v apt-get >/dev/null; then
   echo "setup: no apt-get here; install by hand: ${packages[*]}" >&2
   exit 0
@@ -27,14 +30,28 @@ for group in "$@"; do
   wanted+=(${packages[$group]})
 done
 
-missing=()
-for package in "${wanted[@]}"; do
-  [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
-done
+has_layer_shell() {
+  local version
+  version=$(apt-cache policy "${layer_shell%% *}" | sed -n 's/^ *Candidate: \([0-9]*:\)\?\([0-9]\)/\2/p')
+  [ -n "$version" ] && dpkg --compare-versions "$version" ge 6
+}
+
+find_missing() {
+  local package optional=()
+  # shellcheck disable=SC2206
+  [[ " $* " != *" build "* ]] || ! has_layer_shell || optional=($layer_shell)
+  missing=()
+  for package in "${wanted[@]}" "${optional[@]}"; do
+    [ "$(dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null)" = installed ] || missing+=("$package")
+  done
+}
+
+find_missing "$@"
 [ ${#missing[@]} -eq 0 ] && exit 0
 
 as_root=()
 [ "$(id -u)" -eq 0 ] || as_root=(sudo)
-echo "setup: installing ${missing[*]}"
 "${as_root[@]}" apt-get update -qq
+find_missing "$@" # a new system knows no optional ones before
+echo "setup: installing ${missing[*]}"
 "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
