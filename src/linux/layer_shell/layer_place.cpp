@@ -23,6 +23,15 @@ Span span(int at, int whole, int free) {
     return {at <= behind, std::max(std::min(at, behind), 0), free, whole - free > rounding ? whole - free : 0};
 }
 
+/// How far an item reaches out of the space that its panel reserves.
+int beyondPanel(const Span& across) {
+    return std::max(across.before + itemReach - across.reserved, 0);
+}
+
+bool isInSidePanel(const Span& x, const Span& y) {
+    return x.reserved > 0 && (y.reserved == 0 || x.before < y.before);
+}
+
 /// `margin`, as long as that leaves the window room on the other side.
 int kept(int margin, int least, int length, int free) {
     return std::max(std::min(margin, free - edgeGap - length), least);
@@ -33,20 +42,22 @@ int kept(int margin, int least, int length, int free) {
 LayerPlace layerPlace(const QSize& size, const QPoint& point, const QSize& screen, const QSize& free) {
     const Span x = span(point.x(), screen.width(), free.width());
     const Span y = span(point.y(), screen.height(), free.height());
-    const bool inSidePanel = x.reserved > 0 && (y.reserved == 0 || x.before < y.before);
-    // The panel itself keeps the window off as much of the item as it reserves.
-    const auto beside = [](const Span& across, int length) {
-        return kept(gap + std::max(across.before + itemReach - across.reserved, 0), gap, length, across.free);
-    };
+    const bool inSidePanel = isInSidePanel(x, y);
     const int fromSide =
-        inSidePanel ? beside(x, size.width()) : kept(x.before - size.width() / 2, edgeGap, size.width(), x.free);
-    const int fromTop =
-        inSidePanel ? kept(y.before - itemReach, edgeGap, size.height(), y.free) : beside(y, size.height());
+        inSidePanel ? gap + beyondPanel(x) : kept(x.before - size.width() / 2, edgeGap, size.width(), x.free);
+    const int fromTop = inSidePanel ? kept(y.before - itemReach, edgeGap, size.height(), y.free)
+                                    : kept(gap + beyondPanel(y), gap, size.height(), y.free);
     LayerPlace place;
     place.edges = (x.nearStart ? Qt::LeftEdge : Qt::RightEdge) | (y.nearStart ? Qt::TopEdge : Qt::BottomEdge);
     place.margins = {x.nearStart ? fromSide : 0, y.nearStart ? fromTop : 0, x.nearStart ? 0 : fromSide,
                      y.nearStart ? 0 : fromTop};
     return place;
+}
+
+int heightBeside(const QPoint& point, const QSize& screen, const QSize& free) {
+    const Span x = span(point.x(), screen.width(), free.width());
+    const Span y = span(point.y(), screen.height(), free.height());
+    return free.height() - (isInSidePanel(x, y) ? 0 : beyondPanel(y));
 }
 
 bool isNearEdge(const QPoint& point, const QSize& screen) {

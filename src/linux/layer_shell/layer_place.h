@@ -20,6 +20,9 @@ struct LayerPlace {
 /// is the size of what its panels leave; which panel takes how much is not known.
 LayerPlace layerPlace(const QSize& size, const QPoint& point, const QSize& screen, const QSize& free);
 
+/// How much of the height of `free` is left where the window goes: a panel that reserves nothing is not hidden.
+int heightBeside(const QPoint& point, const QSize& screen, const QSize& free);
+
 /// True when `point` can be one on a panel, even if that reserves no space: it is near an edge.
 bool isNearEdge(const QPoint& point, const QSize& screen);
 

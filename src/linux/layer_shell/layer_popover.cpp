@@ -67,7 +67,9 @@ void LayerPopover::open(const StatusItem& item, bool isClicked) {
 }
 
 void LayerPopover::place() {
-    frame_->resize(popoverWidth, popoverHeight(spot_.free.height(), frame_->contentHeight()));
+    const QSize screen = spot_.screen ? spot_.screen->size() : spot_.free;
+    const int room = heightBeside(spot_.point, screen, spot_.free);
+    frame_->resize(popoverWidth, popoverHeight(room, frame_->contentHeight()));
     placeAt(*frame_, spot_);
 }
 

@@ -6,9 +6,12 @@
 #include <QDBusConnectionInterface>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QScreen>
 
+#include <LayerShellQt/Window>
 #include <wayland-client.h>
 
+#include "linux/layer_shell/layer_cover.h"
 #include "linux/layer_shell/layer_popover.h"
 #include "linux/layer_shell/layer_shell.h"
 #include "linux/services/bus_probe.h"
@@ -42,6 +45,12 @@ void lookForLayers(Found& found) {
     wl_display_roundtrip(display.get());
 }
 
+bool drawsOnLayers() {
+    static const bool does =
+        QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) && compositorHasLayers();
+    return does;
+}
+
 } // namespace
 
 bool compositorHasLayers() {
@@ -69,8 +78,21 @@ bool notifierWatcherAppears(std::chrono::milliseconds patience) {
     return true;
 }
 
+bool placeInLayer(QWidget& window, const QRect& place) {
+    using Layer = LayerShellQt::Window;
+    const QScreen* screen = window.screen();
+    if (!drawsOnLayers() || screen == nullptr)
+        return false;
+    const QRect area = screen->geometry();
+    Layer* layer = layerOf(window);
+    layer->setKeyboardInteractivity(Layer::KeyboardInteractivityNone);
+    layer->setAnchors({Layer::AnchorTop, Layer::AnchorRight});
+    layer->setMargins({0, place.top() - area.top(), area.right() - place.right(), 0});
+    return true;
+}
+
 std::unique_ptr<PopoverWindow> makeLayerPopover(const Theme& theme, const PopoverWindow::MakeView& makeView) {
-    if (!QGuiApplication::platformName().startsWith(QStringLiteral("wayland")) || !compositorHasLayers())
+    if (!drawsOnLayers())
         return nullptr;
     return std::make_unique<LayerPopover>(theme, makeView);
 }

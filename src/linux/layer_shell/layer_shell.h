@@ -3,6 +3,8 @@
 #include <chrono>
 #include <memory>
 
+#include <QRect>
+
 #include "platform/popover_window.h"
 
 namespace vantrix {
@@ -17,6 +19,10 @@ bool compositorHasLayers();
 /// True as soon as the session bus has a watcher for StatusNotifier items, for which it waits up to `patience`: a
 /// desktop that is starting brings it up with its panel. To be asked before the application object exists.
 bool notifierWatcherAppears(std::chrono::milliseconds patience);
+
+/// Puts a small window of the program's at `place`, which may be beside a panel that is in the way, above all others.
+/// False where the program does not draw on a compositor that has layers. Such a window knows nothing of its position.
+bool placeInLayer(QWidget& window, const QRect& place);
 
 /// The popover in such a window; null where the program does not draw on a compositor that has them.
 std::unique_ptr<PopoverWindow> makeLayerPopover(const Theme& theme, const PopoverWindow::MakeView& makeView);

@@ -10,6 +10,10 @@ bool notifierWatcherAppears(std::chrono::milliseconds) {
     return false;
 }
 
+bool placeInLayer(QWidget&, const QRect&) {
+    return false;
+}
+
 std::unique_ptr<PopoverWindow> makeLayerPopover(const Theme&, const PopoverWindow::MakeView&) {
     return nullptr;
 }

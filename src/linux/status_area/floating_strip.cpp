@@ -9,6 +9,7 @@
 #include <QScreen>
 #include <QWindow>
 
+#include "linux/layer_shell/layer_shell.h"
 #include "linux/status_area/click_anchor.h"
 #include "linux/status_area/panel_palette.h"
 #include "linux/status_area/xcb_support.h"
@@ -113,7 +114,12 @@ void FloatingStrip::place() {
     const QScreen* screen = keptScreen(defaults_);
     setFixedSize(size);
     if (screen != nullptr)
-        setGeometry(stripPlace(size, screen->availableGeometry(), keptPlace(defaults_)));
+        put(stripPlace(size, screen->availableGeometry(), keptPlace(defaults_)));
+}
+
+void FloatingStrip::put(const QRect& place) {
+    setGeometry(place);
+    layer_ = placeInLayer(*this, place) ? std::optional(place) : std::nullopt;
 }
 
 void FloatingStrip::remember() {
@@ -160,7 +166,7 @@ void FloatingStrip::mousePressEvent(QMouseEvent* event) {
 }
 
 void FloatingStrip::mouseMoveEvent(QMouseEvent* event) {
-    if (!grabbed_)
+    if (!grabbed_ || layer_) // while a layer is dragged, compositors differ in where they say the pointer is
         return;
     const QPoint distance = event->position().toPoint() - *grabbed_;
     if (!dragging_ && distance.manhattanLength() < QApplication::startDragDistance())
@@ -196,7 +202,7 @@ QRect FloatingStrip::anchor() const {
         return panelCorner(row_.size().width());
     xcb_connection_t* connection = xcbConnection();
     if (connection == nullptr)
-        return geometry();
+        return layer_.value_or(geometry());
     // Not every window manager tells a dock its position.
     const QRect place = xcbRootRect(connection, static_cast<xcb_window_t>(winId()));
     return place.isEmpty() ? geometry() : fromNativeRect(place);

@@ -32,6 +32,7 @@ class FloatingStrip : public RowWindow, public StatusBackend {
 
   private:
     void place();
+    void put(const QRect& place);
     void remember();
     QPoint rowCorner() const;
     void watchScreens();
@@ -42,6 +43,7 @@ class FloatingStrip : public RowWindow, public StatusBackend {
     std::optional<QPoint> grabbed_; ///< within the strip, while the left button is down
     PressedButtons clicks_;
     bool dragging_ = false;
+    std::optional<QRect> layer_; ///< its place, where a Wayland compositor was told of it
 };
 
 /// Where a strip of `size` goes on a screen whose free area is `area`: `kept` is the remembered offset of its top
