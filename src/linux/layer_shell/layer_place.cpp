@@ -5,8 +5,7 @@
 namespace vantrix {
 namespace {
 
-constexpr int gap = 4;        // between the panel and the window
-constexpr int edgeGap = 8;    // to the other edges
+constexpr int gap = 8;        // to panels, of which some float as far from the space that they reserve, and to edges
 constexpr int itemReach = 11; // from the middle of an item to its edge
 constexpr int thickestPanel = 96;
 
@@ -34,7 +33,7 @@ bool isInSidePanel(const Span& x, const Span& y) {
 
 /// `margin`, as long as that leaves the window room on the other side.
 int kept(int margin, int least, int length, int free) {
-    return std::max(std::min(margin, free - edgeGap - length), least);
+    return std::max(std::min(margin, free - gap - length), least);
 }
 
 } // namespace
@@ -44,8 +43,8 @@ LayerPlace layerPlace(const QSize& size, const QPoint& point, const QSize& scree
     const Span y = span(point.y(), screen.height(), free.height());
     const bool inSidePanel = isInSidePanel(x, y);
     const int fromSide =
-        inSidePanel ? gap + beyondPanel(x) : kept(x.before - size.width() / 2, edgeGap, size.width(), x.free);
-    const int fromTop = inSidePanel ? kept(y.before - itemReach, edgeGap, size.height(), y.free)
+        inSidePanel ? gap + beyondPanel(x) : kept(x.before - size.width() / 2, gap, size.width(), x.free);
+    const int fromTop = inSidePanel ? kept(y.before - itemReach, gap, size.height(), y.free)
                                     : kept(gap + beyondPanel(y), gap, size.height(), y.free);
     LayerPlace place;
     place.edges = (x.nearStart ? Qt::LeftEdge : Qt::RightEdge) | (y.nearStart ? Qt::TopEdge : Qt::BottomEdge);
