@@ -28,19 +28,21 @@ LayerShellQt::Window* layerOf(QWidget& window) {
     return layer;
 }
 
-LayerCover::LayerCover(QScreen& screen) {
+LayerCover::LayerCover(QScreen& screen) : covered_(&screen) {
     setWindowFlags(Qt::FramelessWindowHint);
     setAttribute(Qt::WA_TranslucentBackground);
-    setScreen(&screen);
     resize(1, 1);
     layer_ = layerOf(*this);
+    windowHandle()->setScreen(&screen); // not before there is a window, whose position would choose its screen
     layer_->setAnchors({Layer::AnchorTop, Layer::AnchorBottom, Layer::AnchorLeft, Layer::AnchorRight});
     layer_->setExclusiveZone(besidePanels);
     layer_->setKeyboardInteractivity(Layer::KeyboardInteractivityNone);
 }
 
 void LayerCover::refuseFocus() {
+    refusesFocus_ = true;
     layer_->setKeyboardInteractivity(Layer::KeyboardInteractivityNone);
+    update(); // takes effect with the next picture
 }
 
 void LayerCover::resizeEvent(QResizeEvent* event) {
@@ -55,12 +57,13 @@ void LayerCover::resizeEvent(QResizeEvent* event) {
 void LayerCover::coverPanels() {
     hide();
     layer_->setExclusiveZone(overPanels);
-    layer_->setKeyboardInteractivity(Layer::KeyboardInteractivityOnDemand); // makes all compositors look there at once
+    if (!refusesFocus_) // the focus makes all compositors look at once where the pointer is
+        layer_->setKeyboardInteractivity(Layer::KeyboardInteractivityOnDemand);
     show();
 }
 
 void LayerCover::enterEvent(QEnterEvent* event) {
-    const QSize missing = screen()->size() - size();
+    const QSize missing = covered_ ? covered_->size() - size() : QSize();
     if (missing.width() <= rounding && missing.height() <= rounding) // or it still lies somewhere beside the panels
         Q_EMIT entered(event->position().toPoint());
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QPointer>
+#include <QScreen>
 #include <QWidget>
 
 namespace LayerShellQt {
@@ -15,6 +17,8 @@ class LayerCover : public QWidget {
   public:
     explicit LayerCover(QScreen& screen);
 
+    /// Null once it is gone.
+    QScreen* covered() const { return covered_; }
     QSize free() const { return free_; }
 
     /// A press on it moves the keyboard's focus no more, so that the window above it is told of the press first.
@@ -35,7 +39,9 @@ class LayerCover : public QWidget {
     void coverPanels();
 
     LayerShellQt::Window* layer_;
+    QPointer<QScreen> covered_;
     QSize free_;
+    bool refusesFocus_ = false;
 };
 
 /// Makes a layer surface of a window that is about to be shown for the first time.

@@ -21,7 +21,7 @@ void placeAt(QWidget& window, const LayerSpot& spot) {
         return;
     const LayerPlace place = layerPlace(window.size(), spot.point, spot.screen->size(), spot.free);
     Layer* layer = layerOf(window);
-    window.setScreen(spot.screen);
+    window.windowHandle()->setScreen(spot.screen);
     layer->setAnchors({place.edges.testFlag(Qt::LeftEdge) ? Layer::AnchorLeft : Layer::AnchorRight,
                        place.edges.testFlag(Qt::TopEdge) ? Layer::AnchorTop : Layer::AnchorBottom});
     layer->setMargins(place.margins);

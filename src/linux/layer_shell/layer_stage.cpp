@@ -42,27 +42,30 @@ LayerSpot LayerStage::raise(bool isClicked, const QPoint& guess) {
         clicked_ = pointer_ && pointer_->screen && isNearEdge(pointer_->point, pointer_->screen->size()) ? pointer_
                                                                                                          : std::nullopt;
     if (clicked_ && clicked_->screen)
-        return spotAt(*clicked_->screen, clicked_->point);
+        return spotAt(clicked_->screen, clicked_->point);
     QScreen* screen = screenWith(guess);
-    return screen ? spotAt(*screen, guess - screen->geometry().topLeft()) : LayerSpot();
+    return spotAt(screen, screen ? guess - screen->geometry().topLeft() : guess);
 }
 
-LayerSpot LayerStage::spotAt(QScreen& screen, const QPoint& point) const {
+/// `screen` may be null.
+LayerSpot LayerStage::spotAt(QScreen* screen, const QPoint& point) const {
+    if (!screen)
+        return {};
     const auto covering = std::find_if(covers_.begin(), covers_.end(),
-                                       [&](const LayerCover* cover) { return cover->screen() == &screen; });
+                                       [&](const LayerCover* cover) { return cover->covered() == screen; });
     const bool isMeasured = covering != covers_.end() && (*covering)->free().isValid();
-    return {&screen, point, isMeasured ? (*covering)->free() : screen.size()};
+    return {screen, point, isMeasured ? (*covering)->free() : screen->size()};
 }
 
 void LayerStage::cover(QScreen& screen) {
     auto* covering = new LayerCover(screen);
     covers_.push_back(covering);
     connect(covering, &LayerCover::entered, this,
-            [this, covering](QPoint place) { pointer_ = spotAt(*covering->screen(), place); });
+            [this, covering](QPoint place) { pointer_ = spotAt(covering->covered(), place); });
     connect(covering, &LayerCover::pressed, this,
             [this, covering](QPoint place, Qt::MouseButton button, Qt::KeyboardModifiers modifiers) {
                 isPressed_ = true;
-                Q_EMIT pressed(spotAt(*covering->screen(), place), button, modifiers);
+                Q_EMIT pressed(spotAt(covering->covered(), place), button, modifiers);
             });
     connect(covering, &LayerCover::released, this, [this] {
         isPressed_ = false;

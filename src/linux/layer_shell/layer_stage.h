@@ -41,7 +41,7 @@ class LayerStage : public QObject {
   private:
     void cover(QScreen& screen);
     void uncover();
-    LayerSpot spotAt(QScreen& screen, const QPoint& point) const;
+    LayerSpot spotAt(QScreen* screen, const QPoint& point) const;
 
     std::vector<LayerCover*> covers_;
     std::optional<LayerSpot> pointer_; ///< when it last came upon the windows
