@@ -33,7 +33,7 @@ bool isInSidePanel(const Span& x, const Span& y) {
 
 /// `margin`, as long as that leaves the window room on the other side.
 int kept(int margin, int least, int length, int free) {
-    return std::max(std::min(margin, free - gap - length), least);
+    return std::max(std::min(margin, free - gap - length), std::min(least, free - length));
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "linux/layer_shell/layer_popover.h"
 
+#include <algorithm>
+
 #include <LayerShellQt/Window>
 #include <QMenu>
 #include <QWindow>
@@ -69,7 +71,7 @@ void LayerPopover::open(const StatusItem& item, bool isClicked) {
 void LayerPopover::place() {
     const QSize screen = spot_.screen ? spot_.screen->size() : spot_.free;
     const int room = heightBeside(spot_.point, screen, spot_.free);
-    frame_->resize(popoverWidth, popoverHeight(room, frame_->contentHeight()));
+    frame_->resize(popoverWidth, std::min(popoverHeight(room, frame_->contentHeight()), spot_.free.height()));
     placeAt(*frame_, spot_);
 }
 
