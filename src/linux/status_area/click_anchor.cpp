@@ -59,6 +59,14 @@ std::optional<QRect> panelRectAt(QPoint point) {
     return rect & whole;
 }
 
+QRect acrossPanel(QRect item, const QRect& panel) {
+    if (std::min(panel.width(), panel.height()) > thickestPanel || !panel.contains(item))
+        return item;
+    const bool isUpright = panel.height() > panel.width();
+    return isUpright ? QRect(panel.left(), item.top(), panel.width(), item.height())
+                     : QRect(item.left(), panel.top(), item.width(), panel.height());
+}
+
 bool isOnScreenEdge(QPoint point) {
     const QScreen* screen = QGuiApplication::screenAt(point);
     if (screen == nullptr || point == screen->geometry().topLeft())

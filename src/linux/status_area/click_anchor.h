@@ -19,6 +19,9 @@ QRect fromNativeRect(QRect rect);
 /// point is on no screen.
 std::optional<QRect> panelRectAt(QPoint point);
 
+/// `item`, as thick as `panel`, which it lies in; unchanged where that is too thick for a panel.
+QRect acrossPanel(QRect item, const QRect& panel);
+
 /// True when a point that a host sent can be a click on a panel: it lies near the edge of a screen.
 bool isOnScreenEdge(QPoint point);
 

@@ -217,9 +217,15 @@ void TrayWindow::mouseReleaseEvent(QMouseEvent* event) {
     click(told);
 }
 
+/// As thick as its panel, which not all panels tell the screen.
 QRect TrayWindow::anchor() const {
-    const QRect rect = embedded_ ? xcbRootRect(xcbConnection(), static_cast<xcb_window_t>(winId())) : QRect();
-    return rect.isEmpty() ? panelCorner(row_.size().width()) : fromNativeRect(rect);
+    const auto window = static_cast<xcb_window_t>(winId());
+    const QRect rect = embedded_ ? xcbRootRect(xcbConnection(), window) : QRect();
+    if (rect.isEmpty())
+        return panelCorner(row_.size().width());
+    const auto ancestors = xcbAncestors(xcbConnection(), window);
+    const QRect panel = ancestors.empty() ? QRect() : fromNativeRect(xcbRootRect(xcbConnection(), ancestors.back()));
+    return acrossPanel(fromNativeRect(rect), panel);
 }
 
 } // namespace vantrix
