@@ -41,6 +41,7 @@ class KeyboardHolder : public QWidget {
         setAttribute(Qt::WA_TranslucentBackground);
         setAttribute(Qt::WA_QuitOnClose, false);
         setFixedSize(1, 1);
+        setWindowTitle(QStringLiteral("Vantrix")); // what is said to have the focus
         xcbLeaveOutOfLists(xcbConnection(), static_cast<xcb_window_t>(winId()));
         connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, &KeyboardHolder::focusChanged);
         show();
