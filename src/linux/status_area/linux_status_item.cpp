@@ -29,6 +29,11 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
         connect(tray_.get(), &X11Tray::ownerChanged, this, &LinuxStatusItem::trayChanged, Qt::QueuedConnection);
         connect(tray_.get(), &X11Tray::looksChanged, this, &LinuxStatusItem::redraw);
     }
+    retryTimer_.setSingleShot(true);
+    connect(&retryTimer_, &QTimer::timeout, this, [this] {
+        rejectedTray_ = 0;
+        choose();
+    });
     stripTimer_.setSingleShot(true);
     connect(&stripTimer_, &QTimer::timeout, this, [this] {
         if (kind_ != Kind::none || candidate_ || !row_)
@@ -97,10 +102,19 @@ void LinuxStatusItem::traySettled(bool readable) {
     if (kind_ == Kind::tray)
         hide();
     choose();
+    retryLater();
+}
+
+void LinuxStatusItem::retryLater() {
+    if (retries_ < 2)
+        retryTimer_.start(surroundings_.trayRetryDelay * (retries_ == 0 ? 1 : 6));
+    ++retries_;
 }
 
 void LinuxStatusItem::trayChanged() {
     rejectedTray_ = 0;
+    retries_ = 0;
+    retryTimer_.stop();
     candidate_.reset();
     if (kind_ == Kind::tray)
         hide();

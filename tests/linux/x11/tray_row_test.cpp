@@ -44,6 +44,7 @@ struct TrayRow : testing::Test {
                          appearance,
                          {.bus = std::make_shared<BusLink>(std::nullopt),
                           .stripDelay = std::chrono::milliseconds(50),
+                          .trayRetryDelay = std::chrono::milliseconds(50),
                           .lookInterval = std::chrono::milliseconds(0)}};
 };
 
@@ -64,12 +65,15 @@ TEST_F(TrayRow, DocksAndPaintsWithTheRoomItNeeds) {
 }
 
 TEST_F(TrayRow, GivesWayToTheStripWhereOnlyASquareIsGranted) {
-    FakeTray tray(FakeTray::square);
+    bool isLaidOut = false;
+    FakeTray tray([&](QSize wanted) { return isLaidOut ? wanted : FakeTray::square(wanted); });
     tray.claim();
     item.show(content);
     EXPECT_TRUE(becomes(tray, [&] { return tray.icon != 0; }));
     EXPECT_TRUE(becomes(tray, [&] { return item.kind() == Kind::strip; }));
     EXPECT_TRUE(becomes(tray, [&] { return tray.icon == 0; })) << "the square is still in the tray";
+    isLaidOut = true;
+    EXPECT_TRUE(becomes(tray, [&] { return item.kind() == Kind::tray; })) << "it had only been late";
 }
 
 TEST_F(TrayRow, IsNotMappedBeforeTheTrayTookItIn) {

@@ -13,6 +13,7 @@
 namespace {
 
 std::string temporaryFolder;
+uid_t peer = ::geteuid();
 
 } // namespace
 
@@ -22,6 +23,11 @@ extern "C" size_t confstr(int name, char* text, size_t size) noexcept {
         return 0;
     std::strncpy(text, temporaryFolder.c_str(), size);
     return temporaryFolder.size() + 1;
+}
+
+extern "C" int getpeereid(int, uid_t* user, gid_t*) {
+    *user = peer;
+    return 0;
 }
 
 namespace vantrix {
@@ -43,6 +49,9 @@ TEST(InstanceChannel, TakesTheRequestsOfOthersOneInstanceAtATime) {
     channel->received = [&requests](const std::string& request) { requests.push_back(request); };
     EXPECT_TRUE(isAnswered("show-popover"));
     EXPECT_TRUE(isAnswered("quit"));
+    ++peer;
+    EXPECT_FALSE(isAnswered("quit")) << "another user's";
+    --peer;
     EXPECT_EQ(requests, (std::vector<std::string>{"show-popover", "quit"}));
     EXPECT_EQ(claimInstance(), nullptr);
     channel.reset();

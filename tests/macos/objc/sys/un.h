@@ -7,4 +7,4 @@
 #define SOL_LOCAL 0
 #define LOCAL_PEERPID 0x002
 
-int getpeereid(int socket, uid_t* user, gid_t* group);
+extern "C" int getpeereid(int socket, uid_t* user, gid_t* group);
