@@ -1,23 +1,28 @@
 """Is the row there as a whole, and can it be read?"""
 
-from picture import FAINT, contrast, ground, ink, ink_picture, least_contrast, likeness, luminance, median
-from tiles import tile_faults
+from legibility import least_contrast, runs
+from likeness import LEAST, likeness
+from picture import FAINT, contrast, ink_picture, luminance, usual_colour
+from tiles import icon_ink, tile_faults
 
 LEAST_CONTRAST = 3.0
-LEAST_LIKENESS = 0.6
 SEAM = 1.25  # contrast from which on the row's ground stands out of the panel as a box
 
 
-def whole(place, picture, wanted):
-    """Why the row, in `picture`, is not all there; None where it is. `wanted` is its ink where nothing cuts it."""
-    lines = ink(picture)
+def whole(place, lines, wanted, empty):
+    """Why the row, whose ink is in `lines`, is not all there; None where it is. `wanted`: its ink where nothing cuts
+    it, in every style that is right; `empty`: the panel without it."""
+    behind = usual_colour(empty)
     cut = f"of its window {place.rect} only {place.visible} is seen"
     if runs_into_cut(place, lines):
         return cut
+    if place.label:
+        return label_faults(place.label, lines)
     if len(place.items) > 1:
-        return tile_faults(place, picture, LEAST_LIKENESS)
-    alike = likeness(ink_picture(lines), wanted)
-    if alike >= LEAST_LIKENESS:
+        return tile_faults(place, ink_picture(lines), behind)
+    sent = [icon_ink(item, behind) for _, item in place.items]
+    alike = max(likeness(ink_picture(lines), row) for row in [*wanted, *sent])
+    if alike >= LEAST:
         return None
     return cut if place.visible != place.rect else f"what is seen in {place.rect} is unlike the row ({alike:.2f})"
 
@@ -30,25 +35,18 @@ def runs_into_cut(place, lines):
                for side, edge in edges.items())
 
 
-def readable(picture):
-    found = least_contrast(ink(picture))
+def label_faults(label, lines):
+    """A label is cut, if at all, at its end; the picture beside it counts as a word."""
+    wanted, seen = 1 + len(label.split()), len(runs([max(column) for column in zip(*lines)], gap=2))
+    return None if seen >= wanted else f"{seen} words of {wanted} are seen: {label}"
+
+
+def readable(lines):
+    found = least_contrast(lines)
     return None if found >= LEAST_CONTRAST else f"contrast {found:.1f}"
 
 
-def blends(screen, place, picture):
-    """Why the row stands out of the panel as a box."""
-    beside = beside_row(place)
-    if not beside:
-        return None
-    inside = median([luminance(colour) for colour in ground(picture)])
-    outside = median([luminance(colour) for colour in ground(screen.picture(beside))])
-    found = contrast(inside, outside)
-    return None if found < SEAM else f"the row's ground stands out of the panel as a box ({found:.1f})"
-
-
-def beside_row(place):
-    """A few pixels of the panel before the row, or after it; None where it fills the panel."""
-    seen = place.visible
-    before = seen._replace(left=seen.left - 6, right=seen.left - 2)
-    after = seen._replace(left=seen.right + 2, right=seen.right + 6)
-    return next((rect for rect in (before, after) if rect.cut(place.panel) == rect), None)
+def blends(screen, place):
+    """Why the row's window stands out of the panel as a box."""
+    found = contrast(*(luminance(usual_colour(screen.picture(rect))) for rect in (place.visible, place.panel)))
+    return None if place.items or found < SEAM else f"the row stands out of the panel as a box ({found:.1f})"

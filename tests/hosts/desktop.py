@@ -11,6 +11,9 @@ FOLDERS = {"HOME": "home", "XDG_CONFIG_HOME": "home/.config", "XDG_CACHE_HOME": 
            "XDG_DATA_HOME": "home/.local/share", "XDG_STATE_HOME": "home/.local/state", "XDG_RUNTIME_DIR": "run",
            "TMPDIR": "tmp"}
 
+PATH = os.environ["PATH"] + ":/usr/libexec"  # where some have the programs of their sessions
+
+X_SOCKETS = "/tmp/.X11-unix"
 WALLPAPER = 0x3A6EA5  # neither dark nor light, as behind panels that let it through
 
 
@@ -18,7 +21,7 @@ class Desktop:
     def __init__(self, folder, size="1280x800"):
         self.folder = Path(folder)
         self.processes = {}
-        self.environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8", "NO_AT_BRIDGE": "1",
+        self.environment = {"PATH": PATH, "LANG": "C.UTF-8", "NO_AT_BRIDGE": "1",
                             "LIBGL_ALWAYS_SOFTWARE": "1", "QT_QUICK_BACKEND": "software"}
         for variable, name in FOLDERS.items():
             (self.folder / name).mkdir(parents=True, mode=0o700, exist_ok=True)
@@ -26,14 +29,20 @@ class Desktop:
         self._start_display(size)
         self._start_bus("DBUS_SESSION_BUS_ADDRESS")
 
+    def enter(self, *command, socket, **environment):
+        """Starts a Wayland session within the X screen, and goes on in there, where programs have another X screen."""
+        before = set(os.listdir(X_SOCKETS))
+        self.start(*command, **environment)
+        name = self.wait("XWayland", lambda: min(set(os.listdir(X_SOCKETS)) - before, default=None), 60)
+        self.environment |= {"DISPLAY": name.replace("X", ":"), "WAYLAND_DISPLAY": socket}
+        for authority in Path(self.environment["XDG_RUNTIME_DIR"]).glob("*auth*"):
+            os.environ["XAUTHORITY"] = self.environment["XAUTHORITY"] = str(authority)
+        self.inner = Screen(self.environment["DISPLAY"])
+
     def start_system_bus(self, template):
         """A system bus of its own, on which one service is played."""
         self._start_bus("DBUS_SYSTEM_BUS_ADDRESS")
         self.start("/usr/bin/python3", "-m", "dbusmock", "--system", "--template", template)
-
-    @property
-    def home(self):
-        return Path(self.environment["HOME"])
 
     def _start_display(self, size):
         reader, writer = os.pipe()
@@ -51,7 +60,7 @@ class Desktop:
 
     def write(self, name, text):
         """A file in the home folder."""
-        path = self.home / name
+        path = Path(self.environment["HOME"]) / name
         path.parent.mkdir(parents=True, exist_ok=True)
         path.write_text(text)
         return path
@@ -86,11 +95,6 @@ class Desktop:
         if not answer:
             raise RuntimeError(f"no {what} within {seconds} s")
         return answer
-
-
-def displays():
-    """The numbers of the X screens there are."""
-    return {name.removeprefix("X") for name in os.listdir("/tmp/.X11-unix")}
 
 
 def told(reader, writer):

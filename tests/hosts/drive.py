@@ -18,19 +18,18 @@ from machine import Machine
 from picture import ink, ink_picture
 from place import find_place
 from program import Program
+from reference import STYLES, reference
 
-REFERENCE = "reference.png"
 SETTLED = 4  # seconds: two readings, and the host's own pace
 
 
 class Drive:
     def __init__(self, host, binary, folder, shots):
         self.host, self.shots = host, Path(shots)
-        self.wanted = ink_picture(ink(Image.open(self.shots / REFERENCE)))
-        machine = Machine(Path(folder) / "machine")
+        self.wanted = [ink_picture(ink(Image.open(reference(shots, style)))) for style in STYLES]
         self.desktop = Desktop(Path(folder) / "session", host.size)
+        self.program = Program(self.desktop, binary, Machine(Path(folder) / "machine"), **host.environment)
         self.empty = {}  # the screen without the program, dark and light
-        self.program = Program(self.desktop, binary, machine, **host.environment)
 
     def tell(self, check, reason, ok="ok"):
         print(json.dumps({"check": check, "verdict": "RED" if reason else ok, "reason": reason or ""}), flush=True)
@@ -44,11 +43,11 @@ class Drive:
         self.host.start(self.desktop)
         self.desktop.screen.point(self.desktop.screen.rect.middle)
         time.sleep(SETTLED)
-        self.dark = self.host.themes[-1] if self.host.themes else None
+        for dark in self.host.themes or (None,):
+            self.turn(dark)
+            self.empty[dark] = self.desktop.screen.picture()
         self.program.start()
         time.sleep(SETTLED + 3)  # a tray without room for the row is given up by then
-        if not self.program.row_window():
-            self.picture_empty()
         place = self.find()
         if not place:
             self.shot("nothing")
@@ -56,31 +55,21 @@ class Drive:
         self.tell("shown as", None, ok=str(place))
         for check, reason in self.look(place, "start"):
             self.tell(check, reason)
-        self.gestures(self.best([place, *self.themes()]))
-        self.restart()
-
-    def picture_empty(self):
-        """Only what differs from the panel without the program can be known as an item of it."""
-        self.program.end()
-        for dark in self.host.themes or (None,):
-            self.turn(dark)
-            self.empty[dark] = self.desktop.screen.picture()
-        self.program.start()
-
-    def best(self, places):
-        """The last place, unless the row cannot be seen there any more."""
-        latest, widest = places[-1], max(places, key=lambda place: place.visible.width)
-        return widest if latest.visible.width < widest.visible.width // 2 else latest
+        places = [place, *self.themes()]  # it may be unseen in some of them
+        for check, reason in self.gestures(max(places, key=lambda place: place.visible.width)).checks():
+            self.tell(check, reason)
+        if self.host.restarts:
+            self.restart()
 
     def turn(self, dark):
         if dark is not None:
             self.host.go(self.desktop, dark)
-            self.dark = dark
+        self.dark = dark
         time.sleep(SETTLED)
 
     def find(self):
         """Where the row is once it has settled; None where there is none."""
-        search = lambda: find_place(self.program, self.empty.get(self.dark), self.host)
+        search = lambda: find_place(self.program, self.empty[self.dark], self.host, self.dark)
         if not soon(search, 12):
             return None
         time.sleep(SETTLED)
@@ -92,10 +81,11 @@ class Drive:
         if place.visible.empty:
             yield "whole", "nothing is to be seen of it"
             return
-        picture = self.desktop.screen.picture(place.visible)
-        yield "whole", appearance_checks.whole(place, picture, self.wanted)
-        yield "readable", appearance_checks.readable(picture)
-        yield "no box", appearance_checks.blends(self.desktop.screen, place, picture)
+        empty = self.empty[self.dark].crop(place.visible)
+        lines = ink(self.desktop.screen.picture(place.visible), empty if place.items else None)  # a tray makes room
+        yield "whole", appearance_checks.whole(place, lines, self.wanted, empty)
+        yield "readable", appearance_checks.readable(lines)
+        yield "no box", appearance_checks.blends(self.desktop.screen, place)
 
     def look_again(self, moment):
         """The place, after telling as one check how the row looks by now."""
@@ -115,23 +105,18 @@ class Drive:
         return list(filter(None, places))
 
     def gestures(self, place):
-        gestures = Gestures(self.program, place, self.shot)
-        for check, act in (("5 clicks", gestures.five_clicks), ("right click", gestures.right_click),
-                           ("right click over popover", gestures.right_click_over_popover),
-                           ("Escape", gestures.escape), ("click outside", gestures.click_outside)):
-            self.tell(check, act())
-        gestures.reset()
+        return Gestures(self.program, place, self.host.draws_menus, self.shot)
 
     def restart(self):
-        if self.host.restarts:
-            self.host.restart(self.desktop)
-            self.look_again("panel restarted")
+        self.host.restart(self.desktop)
+        time.sleep(SETTLED)
+        if place := self.look_again("panel restarted"):
+            self.tell("click after restart", self.gestures(place).one_click())
 
 
 def main():
     name, *rest = sys.argv[1:]
-    host = next(host for host in HOSTS if host.name == name)
-    drive = Drive(host, *rest)
+    drive = Drive(next(host for host in HOSTS if host.name == name), *rest)
     try:
         drive.run()
     except Exception as failure:  # whatever goes wrong is a result
@@ -140,4 +125,5 @@ def main():
         drive.tell("drive", f"{type(failure).__name__}: {failure}")
 
 
-main()
+if __name__ == "__main__":
+    main()

@@ -1,4 +1,4 @@
-"""What can be told from pixels: what is drawn, how well it can be read, and whether two pictures show the same."""
+"""What can be told from pixels: what is drawn on a ground, and what has changed."""
 
 from math import log
 
@@ -16,7 +16,7 @@ def luminance(colour):
 
 
 def contrast(a, b):
-    """From 1, the same lightness, to 21, black on white."""
+    """From 1, the same luminance, to 21, black on white."""
     low, high = sorted((a, b))
     return (high + 0.05) / (low + 0.05)
 
@@ -25,24 +25,23 @@ def median(values):
     return sorted(values)[len(values) // 2]
 
 
-def ground(picture):
-    """The colour behind the text, for every line of pixels: text covers less than half of a line."""
-    if picture.height > picture.width:  # where the lines of a panel at the side are too short for that
-        usual = max(picture.getcolors(picture.width * picture.height))[1]
-        return [usual] * picture.height
-    rows = []
-    for y in range(picture.height):
-        line = [picture.getpixel((x, y)) for x in range(picture.width)]
-        rows.append(tuple(median([colour[part] for colour in line]) for part in range(3)))
-    return rows
+def usual_colour(picture):
+    """That of the ground, of which text covers less than half."""
+    return tuple(median(band.getdata()) for band in picture.split())
 
 
-def ink(picture):
-    """The contrast of every pixel with what is behind it, as lines of numbers."""
-    lines = []
-    for y, behind in enumerate(luminance(colour) for colour in ground(picture)):
-        lines.append([contrast(luminance(picture.getpixel((x, y))), behind) for x in range(picture.width)])
-    return lines
+def luminances(picture):
+    """Lines of numbers."""
+    pixels = [luminance(colour) for colour in picture.getdata()]
+    return [pixels[start:start + picture.width] for start in range(0, len(pixels), picture.width)]
+
+
+def ink(picture, empty=None):
+    """The contrast of every pixel with what is behind it: with `empty`, the same place without the text, or else with
+    what is usual in its line, of which text covers less than half."""
+    if empty:
+        return [[contrast(*pair) for pair in zip(*lines)] for lines in zip(luminances(picture), luminances(empty))]
+    return [[contrast(value, behind) for value in line] for line in luminances(picture) for behind in [median(line)]]
 
 
 def ink_picture(lines):
@@ -52,59 +51,6 @@ def ink_picture(lines):
     if most > FAINT:
         picture.putdata([round(255 * log(value) / log(most)) for line in lines for value in line])
     return picture
-
-
-def ink_rect(picture):
-    """Where an `ink_picture` has ink; None where there is none."""
-    box = picture.point(lambda value: 255 if value > 70 else 0).getbbox()
-    return Rectangle(*box) if box else None
-
-
-def least_contrast(lines):
-    """The contrast of the text that can be read worst. A text is what stands by itself, above or below."""
-    cells = [cell for columns in texts(lines) for cell in halves(lines, columns)]
-    return min((median(sorted(cell)[-5:]) for cell in cells if len(cell) > 8), default=1.0)
-
-
-def texts(lines, gap=None):
-    """The ranges of columns with ink between gaps of more than `gap` pixels."""
-    gap = gap or max(3, len(lines) // 5)
-    found = []
-    for x in range(len(lines[0])):
-        if max(line[x] for line in lines) < FAINT:
-            continue
-        if found and x - found[-1][1] <= gap:
-            found[-1][1] = x
-        else:
-            found.append([x, x])
-    return found
-
-
-def halves(lines, columns):
-    """The ink of the upper and of the lower text within columns."""
-    middle = len(lines) // 2
-    for part in (lines[:middle], lines[middle:]):
-        yield [value for line in part for value in line[columns[0]:columns[1] + 1] if value >= FAINT]
-
-
-def likeness(seen, wanted):
-    """How alike two ink pictures are whatever their size: 1 the same, 0 unrelated. Each is taken from its first ink to
-    its last, so that one that was cut, and therefore is stretched here, differs."""
-    seen_rect, wanted_rect = ink_rect(seen), ink_rect(wanted)
-    if not seen_rect or not wanted_rect:
-        return 0.0
-    # Coarser than both, because a host that scales a picture blurs it.
-    size = [max(1, round(0.75 * min(pair))) for pair in ((seen_rect.width, wanted_rect.width),
-                                                         (seen_rect.height, wanted_rect.height))]
-    return correlation(*(list(p.crop(r).resize(size, Image.BOX).getdata()) for p, r in
-                         ((seen, seen_rect), (wanted, wanted_rect))))
-
-
-def correlation(a, b):
-    mean_a, mean_b = sum(a) / len(a), sum(b) / len(b)
-    both = sum((x - mean_a) * (y - mean_b) for x, y in zip(a, b))
-    each = sum((x - mean_a) ** 2 for x in a) * sum((y - mean_b) ** 2 for y in b)
-    return both / each ** 0.5 if each else 0.0
 
 
 def change(before, after, within=None):

@@ -4,18 +4,17 @@ import json
 
 import dbus
 
-from screen import MENUS, TOOLTIP
-
 # The readings that most people add to the first two.
 MODULES = "cpu,memory,network,disk,temperature"
+WIDEST = 800  # pixels of what it opens; a wider window of its own catches clicks, and shows nothing
 
 
 class Program:
-    def __init__(self, desktop, binary, machine, host=None, **environment):
-        self.desktop, self.binary, self.machine, self.host = desktop, binary, machine, host
-        self.environment = environment
+    def __init__(self, desktop, binary, machine, style="stacked", **environment):
+        self.desktop, self.binary, self.machine, self.environment = desktop, binary, machine, environment
         desktop.write(".config/vantrix/settings.json",
-                      json.dumps({"menuBarEnabled": MODULES, "updateInterval": 1, "menuBarColorize": False}))
+                      json.dumps({"menuBarEnabled": MODULES, "menuBarStyle": style, "updateInterval": 1,
+                                  "menuBarColorize": False}))
 
     def start(self):
         self.desktop.start(self.binary, *self.machine.options(), **self.environment)
@@ -23,24 +22,15 @@ class Program:
     def end(self):
         self.desktop.end("vantrix")
 
-    def windows(self):
-        return [w for w in self.desktop.inner.windows() if w.program == "vantrix" and w.shown]
+    def window(self, wanted):
+        return next((w for w in self.desktop.inner.windows() if w.program == "vantrix" and w.shown and wanted(w)), None)
 
     def row_window(self):
-        """The window with the row: in a tray, or a strip of its own."""
-        rows = [w for w in self.windows() if w.rect.height <= 64 and w.rect.width > 8
-                and (len(w.parents) > 1 or w.kind.endswith("_DOCK"))]
-        return first(rows)
+        """The window with the row, in a tray."""
+        return self.window(lambda w: w.rect.height <= 64 and w.rect.width > 8 and len(w.parents) > 1)
 
     def popover(self):
-        return first(w for w in self.windows() if w.rect.height >= 400 and w.rect.width >= 300)
-
-    def menu(self):
-        """The window of the item's menu, whoever draws it."""
-        own = (w for w in self.windows() if len(w.parents) == 1 and w.kind != TOOLTIP and 30 < w.rect.height < 300
-               and not w.kind.endswith("_DOCK"))
-        hosts = (w for w in self.desktop.inner.windows() if w.shown and w.kind in MENUS and w.rect.height > 30)
-        return first(own) or first(hosts)
+        return self.window(lambda w: w.rect.height >= 400 and 300 <= w.rect.width <= WIDEST)
 
     def items(self):
         """The items that the bus has of it: pairs of identifier and proxy, in the order of their registration."""
@@ -63,9 +53,10 @@ class Program:
         return found
 
 
+def label_of(item):
+    """The row as text, for hosts that set it beside the picture."""
+    return str(item.Get("org.kde.StatusNotifierItem", "XAyatanaLabel", timeout=2))
+
+
 def properties(bus, service, path):
     return dbus.Interface(bus.get_object(service, path, introspect=False), "org.freedesktop.DBus.Properties")
-
-
-def first(found):
-    return next(iter(found), None)

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Tries Vantrix in every status area that is installed here, and prints a table of what came of it.
 
-Usage: run.py BINARY SHOTS [HOST…]. Pictures, window trees and the table as it grows go into the folder SHOTS."""
+Usage: run.py BINARY SHOTS [HOST…]. Pictures, window trees and the table as it grows go into the folder SHOTS. The exit
+status is 1 where something is red, or a host is missing that was asked for."""
 
 import json
 import os
@@ -53,15 +54,16 @@ def main():
     os.makedirs(shots, exist_ok=True)
     if not os.getuid():
         os.chmod(shots, 0o777)
-    if failure := contained_run("reference.py", binary, FOLDER, os.path.join(shots, "reference.png"))[1]:
+    if unknown := set(names) - {host.name for host in HOSTS}:
+        sys.exit(f"hosts: no such host: {', '.join(sorted(unknown))}")
+    if failure := contained_run("reference.py", binary, FOLDER, shots)[1]:
         sys.exit(f"hosts: the row's own picture: {failure}")
     table = Table()
     for host in HOSTS:
         if names and host.name not in names:
             continue
-        missing = host.missing()
-        if missing:
-            table.skip(host.name, f"not installed: {', '.join(missing)}")
+        if missing := host.missing():
+            table.skip(host.name, f"not installed: {', '.join(missing)}", asked=bool(names))
         else:
             table.add(host.name, drive(host, binary, shots))
         (Path(shots) / "table.md").write_text(table.markdown() + "\n")

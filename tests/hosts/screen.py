@@ -13,8 +13,6 @@ TOOLTIP = "_NET_WM_WINDOW_TYPE_TOOLTIP"
 # The library trips over the numbers of the others when it talks to two X servers.
 ext.__extensions__ = [named for named in ext.__extensions__ if named[0] == "XTEST"]
 
-MENUS = {f"_NET_WM_WINDOW_TYPE_{kind}" for kind in ("MENU", "POPUP_MENU", "DROPDOWN_MENU")}
-
 
 @dataclass(frozen=True)
 class Window:
@@ -39,31 +37,29 @@ class Screen:
 
     def windows(self):
         """Every window but the root, parents before children."""
-        found = []
-        self._collect(self.root, (self.root.id,), self.rect, (0, 0), True, found)
-        return found
+        return list(self._below(self.root, (self.root.id,), self.rect, (0, 0), True))
 
-    def _collect(self, window, parents, frame, origin, shown, found):
+    def _below(self, window, parents, frame, origin, shown):
         try:
             children = window.query_tree().children
         except error.XError:
             return
         for child in children:
             try:
-                self._collect_one(child, parents, frame, origin, shown, found)
+                found = self._window(child, parents, frame, origin, shown)
             except error.XError:
                 continue  # closed meanwhile
+            yield found
+            yield from self._below(child, (*parents, child.id), found.visible, found.rect[:2], found.shown)
 
-    def _collect_one(self, window, parents, frame, origin, shown, found):
+    def _window(self, window, parents, frame, origin, shown):
         place = window.get_geometry()
         left = origin[0] + place.x + place.border_width
         top = origin[1] + place.y + place.border_width
         rect = Rectangle(left, top, left + place.width, top + place.height)
-        mapped = shown and window.get_attributes().map_state == X.IsViewable
+        shown = shown and window.get_attributes().map_state == X.IsViewable
         names = window.get_wm_class()
-        visible = rect.cut(frame)
-        found.append(Window(window.id, parents, rect, visible, mapped, names[0] if names else "", self._kind(window)))
-        self._collect(window, (*parents, window.id), visible, (left, top), mapped, found)
+        return Window(window.id, parents, rect, rect.cut(frame), shown, names[0] if names else "", self._kind(window))
 
     def _kind(self, window):
         kinds = window.get_full_property(self.display.get_atom("_NET_WM_WINDOW_TYPE"), X.AnyPropertyType)

@@ -2,38 +2,50 @@
 
 from PIL import Image
 
-from picture import ink, ink_picture, likeness, texts
+from likeness import LEAST, ink_rect, likeness
+from picture import ink, ink_picture
 from program import MODULES
 
 
-def icon_ink(item):
-    """The ink of the largest picture that the item offers."""
+def icon_ink(item, behind):
+    """The ink of the largest picture that the item offers, on a ground of that colour."""
     pixmaps = item.Get("org.kde.StatusNotifierItem", "IconPixmap", timeout=2)
     width, height, data = max(pixmaps, key=lambda pixmap: pixmap[0])
-    return Image.frombytes("RGBA", (width, height), bytes(data)).getchannel("R")  # A R G B in memory
+    alpha, *colours = Image.frombytes("RGBA", (width, height), bytes(data)).split()  # A R G B in memory
+    shown = Image.new("RGB", (width, height), behind)
+    shown.paste(Image.merge("RGB", colours), mask=alpha)
+    return ink_picture(ink(shown, Image.new("RGB", shown.size, behind)))
 
 
-def cells(lines, count):
-    """The ink of each item: what wide gaps part, else equal parts."""
-    drawn = ink_picture(lines)
+def cells(drawn, count):
+    """The ink of each item. Hosts make tiles equal, and leave gaps: the border is the emptiest place near that of equal
+    parts."""
+    drawn = drawn.crop(ink_rect(drawn))
     upright = drawn.height > drawn.width
-    for gap in range(2, 9) if not upright else ():
-        found = texts(lines, gap)
-        if len(found) == count:
-            return [drawn.crop((left, 0, right + 1, drawn.height)) for left, right in found]
-    side = (drawn.height if upright else drawn.width) / count
-    edges = [round(number * side) for number in range(count + 1)]
+    profile = list(drawn.resize((1, drawn.height) if upright else (drawn.width, 1), Image.BOX).getdata())
+    side = len(profile) / count
+    edges = [0, *(emptiest(profile, number * side, side / 4) for number in range(1, count)), len(profile)]
     return [drawn.crop((0, a, drawn.width, b) if upright else (a, 0, b, drawn.height))
             for a, b in zip(edges, edges[1:])]
 
 
-def tile_faults(place, picture, least):
-    """Why the tiles are not whole, or not in the row's order; None where they are."""
-    wanted = [(name, icon_ink(item)) for name, item in place.items]
+def emptiest(profile, about, reach):
+    """The middle of the emptiest places at most `reach` away."""
+    near = range(round(about - reach), round(about + reach) + 1)
+    least = min(profile[place] for place in near)
+    places = [place for place in near if profile[place] == least]
+    return places[len(places) // 2]
+
+
+def tile_faults(place, drawn, behind):
+    """Why the tiles, in an ink picture, are not whole, or not in the row's order; None where they are."""
+    if not ink_rect(drawn):
+        return f"no tile is to be seen in {place.visible}"
+    wanted = [(name, icon_ink(item, behind)) for name, item in place.items]
     seen = []
-    for cell in cells(ink(picture), len(wanted)):
+    for cell in cells(drawn, len(wanted)):
         alike, name = max((likeness(cell, icon), name) for name, icon in wanted)
-        if alike < least:
+        if alike < LEAST:
             return f"a tile is not like any that was sent ({alike:.2f}) in {place.visible}"
         seen.append(name.split("-")[-1])  # MATE's have a number before
     return None if seen == MODULES.split(",") else f"order of the tiles: {' '.join(seen)}"

@@ -12,7 +12,7 @@ HOSTS = [
     Xfce(),
     Xfce("120 DPI", dpi=120),
     Xfce("scale 1.25", environment={"QT_SCALE_FACTOR": "1.25"}),
-    Xfce("scale 2", environment={"QT_SCALE_FACTOR": "2"}),
+    Xfce("scale 2", environment={"QT_SCALE_FACTOR": "2"}, screen="2560x1600"),
     Xfce("vertical", mode=1, size=40),
     Xfce("square icons", square="true"),
     Mate(),
@@ -23,6 +23,7 @@ HOSTS = [
     Sway("waybar"),
     Sway("swaybar"),
     Plasma(),
+    Plasma(wayland=True),
     Gnome(),
     Gnome(wayland=True),
 ]

@@ -1,13 +1,9 @@
 """GNOME with its AppIndicator extension, as X11 session, and nested as Wayland session."""
 
-import os
 import time
-from pathlib import Path
 
-from desktop import displays
-from hosts.host import Host, tray_owner
+from hosts.host import Host
 from rectangle import Rectangle
-from screen import Screen
 
 SETTINGS = """[org/gnome/shell]
 enabled-extensions=['ubuntu-appindicators@ubuntu.com']
@@ -28,7 +24,9 @@ lock-enabled=false
 
 class Gnome(Host):
     themes = (True, False)
+    draws_menus = labels = True
     programs = ("gnome-shell", "gsettings", "gdbus")
+    panel_command = ("gnome-shell", "--x11")
     panel = Rectangle(760, 0, 1280, 32)  # right of the clock
 
     def __init__(self, wayland=False):
@@ -42,24 +40,15 @@ class Gnome(Host):
         desktop.write(".config/glib-2.0/settings/keyfile", SETTINGS)
         desktop.start_system_bus("logind")
         if self.wayland:
-            self.start_nested(desktop)
+            desktop.enter("gnome-shell", "--nested", "--wayland", socket="wayland-0",
+                          MUTTER_DEBUG_DUMMY_MODE_SPECS=self.size)
+            time.sleep(15)
+            self.leave_overview(desktop)
         else:
-            self.start_shell(desktop)
+            self.start_panel(desktop)
 
-    def start_shell(self, desktop):
-        desktop.start("gnome-shell", "--x11")
-        desktop.wait("tray", lambda: tray_owner(desktop), 60)
-        self.leave_overview(desktop)
-
-    def start_nested(self, desktop):
-        before = displays()
-        desktop.start("gnome-shell", "--nested", "--wayland", MUTTER_DEBUG_DUMMY_MODE_SPECS=self.size)
-        number = desktop.wait("XWayland", lambda: min(displays() - before, default=None), 60)
-        authority = next(Path(desktop.environment["XDG_RUNTIME_DIR"]).glob(".mutter-Xwaylandauth*"))
-        os.environ["XAUTHORITY"] = desktop.environment["XAUTHORITY"] = str(authority)
-        desktop.environment |= {"DISPLAY": f":{number}", "WAYLAND_DISPLAY": "wayland-0"}
-        time.sleep(15)  # the window manager of that screen starts with the first program on it
-        desktop.inner = Screen(f":{number}")
+    def start_panel(self, desktop):
+        super().start_panel(desktop)
         self.leave_overview(desktop)
 
     def leave_overview(self, desktop):
@@ -67,10 +56,6 @@ class Gnome(Host):
         desktop.run("gdbus", "call", "--session", "--dest", "org.gnome.Shell", "--object-path", "/org/gnome/Shell",
                     "--method", "org.freedesktop.DBus.Properties.Set", "org.gnome.Shell", "OverviewActive", "<false>")
         time.sleep(2)
-
-    def restart(self, desktop):
-        desktop.end("gnome-shell")
-        self.start_shell(desktop)
 
     def go(self, desktop, dark):
         scheme = "prefer-dark" if dark else "default"

@@ -4,31 +4,40 @@ import shutil
 
 import dbus
 
+from desktop import PATH
+
 
 class Host:
+    """Each has `start(desktop)`, which returns when its panel is ready, and `go(desktop, dark)`, which makes desktop and
+    panel dark or light."""
+
     name = ""
     programs = ()  # without them it is not installed
-    themes = (False, True)  # dark or not: what it is made to be in turn while running, at last what it was at first
+    panel_command = ()  # the program that shows the panel, among those
+    themes = (False, True)  # dark or not: what it is made to be in turn, at last what it was at first
     restarts = True  # its panel can be started anew within the session
-    panel = None  # where the panel is, within the screen; None for the whole screen
-    handle = 0  # pixels before its first item that are its own
+    panel = None  # where the panel, or the part of it for items, is within the screen; None where it is a window
+    handle = {}  # dark or not: pixels before its first item that are its own
+    draws_menus = False  # they are no windows of the X screen that the program is on
+    labels = False  # it shows an item's text, and a click on that opens the menu, a double click the popover
     environment = {}  # Vantrix's own, beside the session's
     size = "1280x800"
 
     def missing(self):
-        return [program for program in self.programs if not shutil.which(program)]
+        return [program for program in self.programs if not shutil.which(program, path=PATH)]
 
-    def start(self, desktop):
-        """Starts the desktop up to its panel, and returns when that is ready."""
-        raise NotImplementedError
+    def ready(self, desktop):
+        """Whether the panel has its status area."""
+        return tray_owner(desktop)
+
+    def start_panel(self, desktop):
+        desktop.start(*self.panel_command)
+        desktop.wait("status area", lambda: self.ready(desktop), 60)
 
     def restart(self, desktop):
         """Ends the panel and starts it anew."""
-        raise NotImplementedError
-
-    def go(self, desktop, dark):
-        """Makes the desktop, and the panel, dark or light."""
-        raise NotImplementedError
+        desktop.end(self.panel_command[0])
+        self.start_panel(desktop)
 
 
 def tray_owner(desktop):

@@ -1,6 +1,6 @@
 """LXQt: lxqt-panel with its two status areas, old and new."""
 
-from hosts.host import Host, tray_owner
+from hosts.host import Host
 
 PANEL = """[General]
 panels=panel1
@@ -18,8 +18,9 @@ alignment=Right
 
 class Lxqt(Host):
     name = "LXQt"
-    handle = 7
+    handle = {False: 7}
     programs = ("lxqt-panel", "openbox")
+    panel_command = ("lxqt-panel",)
 
     def start(self, desktop):
         desktop.environment["XDG_CURRENT_DESKTOP"] = "LXQt"
@@ -28,15 +29,6 @@ class Lxqt(Host):
         desktop.start("openbox")
         self.start_panel(desktop)
 
-    def start_panel(self, desktop):
-        desktop.start("lxqt-panel")
-        desktop.wait("tray", lambda: tray_owner(desktop))
-
-    def restart(self, desktop):
-        desktop.end("lxqt-panel")
-        self.start_panel(desktop)
-
     def go(self, desktop, dark):
-        self.handle = 0 if dark else 7  # cannot be seen on the dark panel
         theme, icons = ("debian", "breeze-dark") if dark else ("light", "breeze")
         desktop.write(".config/lxqt/lxqt.conf", f"[General]\ntheme={theme}\nicon_theme={icons}\n")

@@ -1,6 +1,6 @@
 """MATE: mate-panel with its notification area, which takes both kinds of items."""
 
-from hosts.host import Host, tray_owner
+from hosts.host import Host
 
 SETTINGS = """[org/mate/panel/general]
 object-id-list=['notification-area']
@@ -25,6 +25,7 @@ class Mate(Host):
     name = "MATE"
     themes = (True, False)
     programs = ("mate-panel", "mate-settings-daemon", "marco")
+    panel_command = ("mate-panel",)
 
     def __init__(self, variant="", orientation="top", size=26):
         self.name = " ".join(filter(None, (self.name, variant)))
@@ -37,14 +38,6 @@ class Mate(Host):
         desktop.start("mate-settings-daemon")
         desktop.wait("settings", lambda: desktop.inner.owner("_XSETTINGS_S0"))
         desktop.start("marco", "--no-composite")
-        self.start_panel(desktop)
-
-    def start_panel(self, desktop):
-        desktop.start("mate-panel")
-        desktop.wait("tray", lambda: tray_owner(desktop))
-
-    def restart(self, desktop):
-        desktop.end("mate-panel")
         self.start_panel(desktop)
 
     def go(self, desktop, dark):

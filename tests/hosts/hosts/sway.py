@@ -2,10 +2,8 @@
 
 import os
 
-from desktop import displays
 from hosts.host import Host, watched
 from rectangle import Rectangle
-from screen import Screen
 
 CONFIG = """xwayland force
 default_border none
@@ -24,12 +22,12 @@ COLOURS = {True: {"ground": "323232", "text": "ffffff"}, False: {"ground": "eeee
 class Sway(Host):
     """With `bar`, which is "swaybar" or "waybar"."""
 
-    themes = (False, True)
-    panel = Rectangle(0, 0, 1280, 40)
+    draws_menus = True
 
     def __init__(self, bar):
         self.name = f"{bar} on sway"
         self.bar = bar
+        self.panel = Rectangle(0, 0, 1280, 30 if bar == "waybar" else 23)
         self.programs = ("sway", "swaymsg", "swaybar", "Xwayland") + (("waybar",) if bar == "waybar" else ())
 
     def configure(self, desktop, dark):
@@ -44,23 +42,15 @@ class Sway(Host):
         desktop.environment |= {"WLR_BACKENDS": "x11", "WLR_RENDERER": "pixman", "XDG_CURRENT_DESKTOP": "sway",
                                 "WLR_LIBINPUT_NO_DEVICES": "1"}
         runtime = desktop.environment["XDG_RUNTIME_DIR"]
-        outer = desktop.environment["DISPLAY"]
-        before = displays()
-        desktop.start("sway")
+        desktop.enter("sway", socket="wayland-1")
         name = desktop.wait("sway", lambda: next((n for n in os.listdir(runtime) if n.startswith("sway-ipc")), None))
-        desktop.environment |= {"SWAYSOCK": f"{runtime}/{name}", "WAYLAND_DISPLAY": "wayland-1"}
-        number = desktop.wait("XWayland", lambda: min(displays() - before, default=None))
-        desktop.environment["DISPLAY"] = f":{number}"
-        desktop.inner = Screen(f":{number}")
+        desktop.environment["SWAYSOCK"] = f"{runtime}/{name}"
         desktop.wait("bar", lambda: watched(desktop))
 
     def restart(self, desktop):
-        self.reload(desktop)
-
-    def reload(self, desktop):
         """Starts the bar anew, too. Not waited for: the answer comes late, or never."""
         desktop.start("swaymsg", "reload")
 
     def go(self, desktop, dark):
         self.configure(desktop, dark)
-        self.reload(desktop)
+        self.restart(desktop)

@@ -1,6 +1,6 @@
 """XFCE: xfce4-panel with its Status Tray plugin, which takes both kinds of items."""
 
-from hosts.host import Host, tray_owner
+from hosts.host import Host
 
 PANEL = """<?xml version="1.0" encoding="UTF-8"?>
 <channel name="xfce4-panel" version="1.0">
@@ -34,12 +34,14 @@ class Xfce(Host):
     name = "XFCE"
     themes = (True, False)
     programs = ("xfce4-panel", "xfsettingsd", "xfwm4", "xfconf-query")
+    panel_command = ("xfce4-panel", "--disable-wm-check")
 
-    def __init__(self, variant="", size=26, mode=0, square="false", dpi=None, environment=None):
+    def __init__(self, variant="", size=26, mode=0, square="false", dpi=None, environment=None, screen=Host.size):
         self.name = " ".join(filter(None, (self.name, variant)))
         self.values = {"size": size, "mode": mode, "square": square}
         self.dpi = dpi
         self.environment = environment or {}
+        self.size = screen
 
     def start(self, desktop):
         desktop.environment["XDG_CURRENT_DESKTOP"] = "XFCE"
@@ -49,14 +51,6 @@ class Xfce(Host):
         desktop.start("xfsettingsd", "--disable-daemon")
         desktop.wait("settings", lambda: desktop.inner.owner("_XSETTINGS_S0"))
         desktop.start("xfwm4", "--compositor=off")
-        self.start_panel(desktop)
-
-    def start_panel(self, desktop):
-        desktop.start("xfce4-panel", "--disable-wm-check")
-        desktop.wait("tray", lambda: tray_owner(desktop))
-
-    def restart(self, desktop):
-        desktop.end("xfce4-panel")
         self.start_panel(desktop)
 
     def go(self, desktop, dark):
