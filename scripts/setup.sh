@@ -12,7 +12,7 @@ declare -A packages=(
   [debian]="debootstrap git"
   [hosts]="xvfb dbus python3-xlib python3-pil python3-dbus python3-dbusmock libglib2.0-bin fonts-dejavu-core openbox trayer
     xfce4-panel xfce4-settings xfwm4 gnome-themes-extra mate-panel mate-settings-daemon mate-themes marco lxqt-panel
-    lxqt-branding-debian sway waybar xwayland plasma-desktop kwin-x11 xdg-desktop-portal-kde gnome-shell
+    lxqt-branding-debian sway waybar xwayland plasma-desktop kwin-x11 kwin-wayland xdg-desktop-portal-kde gnome-shell
     gnome-shell-extension-appindicator xdg-desktop-portal-gnome"
 )
 

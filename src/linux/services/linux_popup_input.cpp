@@ -1,7 +1,8 @@
 #include "platform/popup_input.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
+#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -73,11 +74,37 @@ struct PopupInput {
     Q_DISABLE_COPY_MOVE(PopupInput)
 };
 
+/// Grabs the mouse for a pop-up again, as the panel that was clicked may still have it while the pop-up opens.
+class MouseGrab {
+  public:
+    MouseGrab() {
+        timer_.setInterval(interval);
+        QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { grab(); });
+        timer_.start();
+    }
+
+  private:
+    static constexpr int interval = 100; // milliseconds
+    static constexpr int most = 10;
+
+    void grab() {
+        const QWidget* popup = QApplication::activePopupWidget();
+        QWindow* window = popup ? popup->windowHandle() : nullptr;
+        if ((window && window->setMouseGrabEnabled(true)) || ++attempts_ == most)
+            timer_.stop();
+    }
+
+    QTimer timer_;
+    int attempts_ = 0;
+};
+
 } // namespace
 
 std::shared_ptr<void> takeInput(bool takesMouse, std::function<void()> lost) {
-    if (xcbConnection() == nullptr || qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    if (xcbConnection() == nullptr)
         return nullptr;
+    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+        return std::make_shared<MouseGrab>();
     return std::make_shared<PopupInput>(takesMouse, std::move(lost));
 }
 

@@ -1,7 +1,8 @@
 #include "linux/status_area/halo.h"
 
 #include <algorithm>
-#include <cstdlib>
+#include <cstddef>
+#include <numeric>
 #include <vector>
 
 #include <QPainter>
@@ -10,53 +11,65 @@ namespace vantrix {
 
 namespace {
 
-constexpr int reach = 3;      // points; wide enough to fill the letters, so that they stand on an even ground
-constexpr float gain = 12.0F; // even close to a thin stroke the halo is as dense as it gets
-constexpr float density = 0.75F;
+constexpr int reach = 3;     // points; wide enough to fill the letters, so that they stand on an even ground
+constexpr int gain = 12;     // even close to a thin stroke the halo is as dense as it gets
+constexpr int density = 191; // of 255
 
-/// How much of each pixel is covered, 0 to 1, as lines one after another.
+/// A number for each pixel, as lines one after another.
 struct Cover {
     int width;
     int height;
-    std::vector<float> values;
+    std::vector<int> values;
 };
 
-/// Blurs along lines, and swaps lines and columns.
-Cover blurred(const Cover& cover, int radius) {
-    const auto weight = static_cast<float>((radius + 1) * (radius + 1));
-    Cover result{cover.height, cover.width, std::vector<float>(cover.values.size())};
-    for (int y = 0; y < cover.height; ++y)
-        for (int x = 0; x < cover.width; ++x) {
-            float sum = 0.0F;
-            for (int i = std::max(-radius, -x); i <= std::min(radius, cover.width - 1 - x); ++i)
-                sum += static_cast<float>(radius + 1 - std::abs(i)) *
-                       cover.values[static_cast<std::size_t>(y * cover.width + x + i)];
-            result.values[static_cast<std::size_t>(x * cover.height + y)] = sum / weight;
+/// Adds up along lines what is less than `length` away, the nearer the more: twice the sum of `length` neighbours, once
+/// to either side. Swaps lines and columns.
+Cover spread(const Cover& cover, int length) {
+    Cover result{cover.height, cover.width, std::vector<int>(cover.values.size())};
+    std::vector<int> sums(static_cast<std::size_t>(cover.width + length));
+    for (int y = 0; y < cover.height; ++y) {
+        const int* line = cover.values.data() + std::ptrdiff_t{y} * cover.width;
+        int sum = 0;
+        for (int x = 0; x < cover.width + length; ++x) {
+            sum += (x < cover.width ? line[x] : 0) - (x >= length ? line[x - length] : 0);
+            sums[static_cast<std::size_t>(x)] = sum;
         }
+        sum = std::accumulate(sums.end() - length, sums.end(), 0);
+        for (int x = cover.width - 1; x >= 0; --x) {
+            sum += sums[static_cast<std::size_t>(x)] - sums[static_cast<std::size_t>(x + length)];
+            result.values[static_cast<std::size_t>(x * cover.height + y)] = sum;
+        }
+    }
     return result;
 }
 
 Cover coverOf(const QImage& image) {
     Cover cover{image.width(), image.height(), {}};
     cover.values.reserve(static_cast<std::size_t>(image.width() * image.height()));
-    for (int y = 0; y < image.height(); ++y)
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x)
-            cover.values.push_back(static_cast<float>(qAlpha(image.pixel(x, y))) / 255.0F);
+            cover.values.push_back(qAlpha(line[x]));
+    }
     return cover;
 }
 
 } // namespace
 
 QImage withHalo(const QImage& glyphs, const QColor& color, int pixels) {
-    const Cover cover = blurred(blurred(coverOf(glyphs), reach * pixels), reach * pixels);
+    const int length = reach * pixels + 1;
+    const int whole = length * length * length * length; // the sum of all weights
+    const Cover cover =
+        spread(spread(coverOf(glyphs.convertToFormat(QImage::Format_ARGB32_Premultiplied)), length), length);
     QImage image(glyphs.size(), QImage::Format_ARGB32_Premultiplied);
-    QColor shade = color;
-    for (int y = 0; y < image.height(); ++y)
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
-            const float near = std::min(gain * cover.values[static_cast<std::size_t>(y * cover.width + x)], 1.0F);
-            shade.setAlphaF(near * density);
-            image.setPixelColor(x, y, shade);
+            const int near =
+                std::min(gain * cover.values[static_cast<std::size_t>(y * image.width() + x)] / whole, 255);
+            line[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), near * density / 255));
         }
+    }
     QPainter painter(&image);
     painter.drawImage(image.rect(), glyphs, glyphs.rect()); // whatever their scale
     return image;

@@ -73,8 +73,8 @@ bool HostPanel::look() {
         find();
     if (dock_ == XCB_NONE)
         return false;
-    const QSize dock = xcbRootRect(xcbConnection(), dock_).size();
-    const bool upright = dock.height() > dock.width();
+    place_ = xcbRootRect(xcbConnection(), dock_);
+    const bool upright = place_.height() > place_.width();
     QRect area = seen(window_);
     if (area.isEmpty())
         area = seen(dock_); // a status area without items takes no room

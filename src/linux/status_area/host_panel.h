@@ -29,6 +29,9 @@ class HostPanel {
     /// The usual colour where the items are; while it is hidden or covered, the one seen last.
     const std::optional<QColor>& ground() const { return ground_; }
 
+    /// Where it is on the root window, in device pixels; empty while that is not known.
+    const QRect& place() const { return place_; }
+
     /// It is higher than wide, so that only squares fit.
     bool isUpright() const { return upright_; }
 
@@ -42,6 +45,7 @@ class HostPanel {
     std::uint32_t dock_ = 0;   ///< 0 while there is none
     std::uint32_t window_ = 0; ///< the dock, or the window of the reader's in it
     std::optional<QColor> ground_;
+    QRect place_;
     bool upright_ = false;
 };
 

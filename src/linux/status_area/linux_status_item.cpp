@@ -162,6 +162,10 @@ QRect LinuxStatusItem::anchor() const {
     return candidate_ ? candidate_->anchor() : panelCorner(row_ ? row_->size().width() : 1);
 }
 
+bool LinuxStatusItem::placeIsKnown() const {
+    return backend_ && backend_->placeIsKnown();
+}
+
 void LinuxStatusItem::popoverShown(bool shown) const {
     if (backend_)
         backend_->popoverShown(shown);

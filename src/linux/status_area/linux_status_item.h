@@ -48,7 +48,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
 
     void show(const StatusContent& content) override;
     QRect anchor() const override;
-    bool placeIsKnown() const override { return kind_ == Kind::tray || kind_ == Kind::strip; }
+    bool placeIsKnown() const override;
     void popoverShown(bool shown) const override;
     void click(const StatusClick& click) const override { handlers_.clicked(click); }
 

@@ -22,6 +22,8 @@ class StatusBackend {
 
     /// The rectangle beside which the popover and the menu open, in device-independent pixels.
     virtual QRect anchor() const = 0;
+    /// True when that is no guess.
+    virtual bool placeIsKnown() const { return true; }
 };
 
 } // namespace vantrix

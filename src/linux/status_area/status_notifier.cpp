@@ -202,9 +202,14 @@ void StatusNotifier::registerNext() {
 /// that changes meanwhile.
 void StatusNotifier::settle() {
     if (ids_ != wantedIds())
-        show(row_);
-    else if (published_ && publishedLook_ != look())
+        return show(row_);
+    if (published_ && publishedLook_ != look())
         paced_.runNow();
+    // GNOME draws a label only once it has changed, when it was busy while it read the item.
+    for (const auto& object : objects_)
+        if (object->content().label)
+            object->announce(QStringLiteral("XAyatanaNewLabel"),
+                             {*object->content().label, object->content().labelGuide});
 }
 
 /// The row's tile that object `index` shows; objects are in the order of their registration.
@@ -348,7 +353,8 @@ void StatusNotifier::clicked(std::size_t index, StatusClick click, QPoint point)
 }
 
 QRect StatusNotifier::anchor() const {
-    return clickRect_.value_or(panelCorner(single() ? row_.size().width() : 22));
+    const QRect item = clickRect_.value_or(panelCorner(single() ? row_.size().width() : 22));
+    return panel_.place().isEmpty() ? item : acrossPanel(item, fromNativeRect(panel_.place()));
 }
 
 std::vector<StatusMenuEntry> StatusNotifier::menuEntries() const {

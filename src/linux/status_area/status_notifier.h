@@ -35,6 +35,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     void popoverShown(bool shown) override;
     void lookAround() override;
     QRect anchor() const override;
+    bool placeIsKnown() const override { return clickRect_.has_value(); }
 
   private:
     /// How the row is drawn for what is known of the panel.

@@ -86,6 +86,19 @@ class FakeTray {
         xcb_flush(connection_);
     }
 
+    /// False while another client has it.
+    bool grabMouse() {
+        const auto cookie =
+            xcb_grab_pointer(connection_, 0, screen_->root, XCB_EVENT_MASK_BUTTON_PRESS, XCB_GRAB_MODE_ASYNC,
+                             XCB_GRAB_MODE_ASYNC, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
+        const XcbReply<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(connection_, cookie, nullptr));
+        return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+    }
+    void releaseMouse() {
+        xcb_ungrab_pointer(connection_, XCB_CURRENT_TIME);
+        xcb_flush(connection_);
+    }
+
     bool isMapped(xcb_window_t window) const {
         const auto cookie = xcb_get_window_attributes(connection_, window);
         const XcbReply<xcb_get_window_attributes_reply_t> reply(

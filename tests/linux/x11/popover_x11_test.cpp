@@ -52,6 +52,18 @@ TEST_F(PopoverOnScreen, OnlyAClickOutsideClosesIt) {
     EXPECT_TRUE(spinUntil([&] { return !mouse.isMapped(window); }));
 }
 
+TEST_F(PopoverOnScreen, GetsTheMouseOnceAPanelThatHadItLetsGo) {
+    host.close();
+    ASSERT_TRUE(spinUntil([&] { return mouse.grabMouse(); }));
+    host.show(anchor);
+    mouse.releaseMouse();
+    EXPECT_TRUE(spinUntil([&] {
+        const bool wasFree = mouse.grabMouse();
+        mouse.releaseMouse();
+        return !wasFree;
+    }));
+}
+
 class Item : public StatusItem {
   public:
     void show(const StatusContent&) override {}
