@@ -112,7 +112,7 @@ class RowPainter {
         const FittedLine upper{captioned ? fonts().caption : fonts().twoLines, captioned ? item.label : item.lines[0],
                                captioned ? captionColor() : valueColor(item)};
         const FittedLine lower{captioned ? fonts().value : fonts().twoLines, lineOf(item, captioned ? 0 : 1),
-                               valueColor(item)};
+                               valueColor(item), captioned ? fonts().value.width("88%") : 0.0};
         const double block = upper.height() + lineGap + lower.height();
         const double base = (MenuBarRenderer::height - block) / 2.0;
         drawFitted(lower, base);
@@ -142,11 +142,9 @@ class RowPainter {
         const MonospacedFont& font;
         const std::string& text;
         QColor color;
+        double usualWidth = 0.0; ///< a narrower text is set no larger than one of this width
 
-        double scale() const {
-            const double width = font.width(text);
-            return width > tileTextWidth ? tileTextWidth / width : 1.0;
-        }
+        double scale() const { return std::min(tileTextWidth / std::max(font.width(text), usualWidth), 1.0); }
         double height() const { return font.capHeight() * scale(); }
     };
 
