@@ -29,11 +29,6 @@ LinuxStatusItem::LinuxStatusItem(Handlers handlers, UserDefaults& defaults, cons
         connect(tray_.get(), &X11Tray::ownerChanged, this, &LinuxStatusItem::trayChanged, Qt::QueuedConnection);
         connect(tray_.get(), &X11Tray::looksChanged, this, &LinuxStatusItem::redraw);
     }
-    retryTimer_.setSingleShot(true);
-    connect(&retryTimer_, &QTimer::timeout, this, [this] {
-        rejectedTray_ = 0;
-        choose();
-    });
     stripTimer_.setSingleShot(true);
     connect(&stripTimer_, &QTimer::timeout, this, [this] {
         if (kind_ != Kind::none || candidate_ || !row_)
@@ -84,7 +79,8 @@ void LinuxStatusItem::choose() {
 }
 
 void LinuxStatusItem::tryTray() {
-    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_, appearance_, surroundings_.lookInterval);
+    candidate_ = std::make_unique<TrayWindow>(*tray_, handlers_, appearance_, surroundings_.lookInterval,
+                                              surroundings_.trayPatience);
     connect(candidate_.get(), &TrayWindow::settled, this, &LinuxStatusItem::traySettled, Qt::QueuedConnection);
     candidate_->show(*row_);
 }
@@ -102,19 +98,10 @@ void LinuxStatusItem::traySettled(bool readable) {
     if (kind_ == Kind::tray)
         hide();
     choose();
-    retryLater();
-}
-
-void LinuxStatusItem::retryLater() {
-    if (retries_ < 2)
-        retryTimer_.start(surroundings_.trayRetryDelay * (retries_ == 0 ? 1 : 6));
-    ++retries_;
 }
 
 void LinuxStatusItem::trayChanged() {
     rejectedTray_ = 0;
-    retries_ = 0;
-    retryTimer_.stop();
     candidate_.reset();
     if (kind_ == Kind::tray)
         hide();

@@ -25,9 +25,8 @@ struct StatusSurroundings {
     std::shared_ptr<BusLink> bus = sharedSessionBus();
     /// How long a desktop may take to bring up its status area before the strip is shown.
     std::chrono::milliseconds stripDelay{4000};
-    /// When a tray that had no room for the row is tried again, and, six times later, once more: at login panels take
-    /// long to lay themselves out.
-    std::chrono::milliseconds trayRetryDelay{10000};
+    /// How long a tray may cut the row before it is given up.
+    std::chrono::milliseconds trayPatience{2500};
     /// How often at most the panel's colour is looked at, while the row changes.
     std::chrono::milliseconds lookInterval{4000};
     NotifierWatch::HostOfProcess hostOfProcess = notifierHostOfProcess;
@@ -65,7 +64,6 @@ class LinuxStatusItem : public QObject, public StatusItem {
     void use(Kind kind, std::unique_ptr<StatusBackend> backend);
     void hide();
     void trayChanged();
-    void retryLater();
 
     Handlers handlers_;
     UserDefaults& defaults_;
@@ -79,8 +77,6 @@ class LinuxStatusItem : public QObject, public StatusItem {
     Kind kind_ = Kind::none;
     bool wasTold_ = false;           ///< that the panel shows it
     std::uint32_t rejectedTray_ = 0; ///< owner of a tray that has no room for the row
-    int retries_ = 0;                ///< of that tray
-    QTimer retryTimer_;
     QTimer stripTimer_;
     std::optional<StatusRow> row_;
 };

@@ -33,9 +33,9 @@ QSize withAir(const StatusRow& row) {
 } // namespace
 
 TrayWindow::TrayWindow(X11Tray& tray, const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
-                       std::chrono::milliseconds lookInterval)
+                       std::chrono::milliseconds lookInterval, std::chrono::milliseconds patience)
     : RowWindow(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint, handlers), tray_(tray),
-      appearance_(appearance), lookInterval_(lookInterval), alpha_(tray.wantsAlpha()) {
+      appearance_(appearance), lookInterval_(lookInterval), patience_(patience), alpha_(tray.wantsAlpha()) {
     setAttribute(Qt::WA_TranslucentBackground, alpha_);
     setAttribute(Qt::WA_OpaquePaintEvent, !alpha_);
     verdict_.setSingleShot(true);
@@ -106,12 +106,20 @@ QRectF TrayWindow::slot() const {
     return seen_ ? *seen_ & QRectF(rect()) : QRectF(rect());
 }
 
-/// Looks at what the tray has made of the window.
+/// Looks at what the tray has made of the window. A busy panel, as all are at login, takes long to lay itself out.
 void TrayWindow::judge() {
     if (embedded_)
         measureSlot();
     askForRoom();
-    Q_EMIT settled(embedded_ && fitRow(row_, slot().size(), devicePixelRatioF()));
+    const bool isReadable = embedded_ && fitRow(row_, slot().size(), devicePixelRatioF());
+    if (isReadable || !embedded_ || (sinceCut_.isValid() && sinceCut_.hasExpired(patience_.count()))) {
+        sinceCut_.invalidate();
+        Q_EMIT settled(isReadable);
+        return;
+    }
+    if (!sinceCut_.isValid())
+        sinceCut_.start();
+    verdict_.start(layoutPatience);
 }
 
 void TrayWindow::measureSlot() {

@@ -26,14 +26,15 @@ class TrayWindow : public RowWindow, public StatusBackend {
     Q_OBJECT
   public:
     TrayWindow(X11Tray& tray, const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
-               std::chrono::milliseconds lookInterval);
+               std::chrono::milliseconds lookInterval, std::chrono::milliseconds patience);
 
     void show(const StatusRow& row) override;
     void lookAround() override;
     QRect anchor() const override;
 
   Q_SIGNALS:
-    /// `readable` is false when the tray did not embed the window, cut it, or threw it out.
+    /// `readable` is false when the tray did not embed the window, threw it out, or cut it and left it at that for as
+    /// long as the patience with it lasts.
     void settled(bool readable);
 
   protected:
@@ -57,6 +58,7 @@ class TrayWindow : public RowWindow, public StatusBackend {
     X11Tray& tray_;
     const AppearanceSource& appearance_;
     std::chrono::milliseconds lookInterval_;
+    std::chrono::milliseconds patience_;
     StatusRow row_;
     std::optional<QRectF> seen_; ///< the part that the tray leaves of the window, in points, as last measured
     PressedButtons clicks_;
@@ -66,6 +68,7 @@ class TrayWindow : public RowWindow, public StatusBackend {
     /// False under Wayland, where the X server's screen shows nothing but its own clients.
     bool showsScreen_ = !qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
     QTimer verdict_;
+    QElapsedTimer sinceCut_; ///< valid while it cannot be read
     QTimer backgroundTimer_;
     bool alpha_ = false;
     bool docked_ = false;

@@ -80,6 +80,12 @@ class FakeTray {
         resizeIcon(rootRect(icon).size());
     }
 
+    /// Grants anew what the window in it last asked for.
+    void layOut() {
+        resizeIcon(wanted);
+        xcb_flush(connection_);
+    }
+
     /// Takes the keyboard away from whichever window has it.
     void focusRoot() {
         xcb_set_input_focus(connection_, XCB_INPUT_FOCUS_NONE, screen_->root, XCB_CURRENT_TIME);
@@ -192,12 +198,14 @@ class FakeTray {
 
 /// Lets program and tray work until the condition holds; false when it does not in time.
 template<typename Condition>
-bool becomes(FakeTray& tray, Condition condition) {
+bool becomes(FakeTray& tray, Condition condition, std::chrono::milliseconds patience = std::chrono::seconds(20)) {
     QCoreApplication::processEvents(); // what the program asks for goes out before the tray acts
-    return spinUntil([&] {
-        tray.pump();
-        return condition();
-    });
+    return spinUntil(
+        [&] {
+            tray.pump();
+            return condition();
+        },
+        patience);
 }
 
 /// True when some pixel is `color`, but for the softness of small type.

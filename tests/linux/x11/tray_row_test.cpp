@@ -44,7 +44,7 @@ struct TrayRow : testing::Test {
                          appearance,
                          {.bus = std::make_shared<BusLink>(std::nullopt),
                           .stripDelay = std::chrono::milliseconds(50),
-                          .trayRetryDelay = std::chrono::milliseconds(50),
+                          .trayPatience = std::chrono::milliseconds(1200),
                           .lookInterval = std::chrono::milliseconds(0)}};
 };
 
@@ -65,15 +65,24 @@ TEST_F(TrayRow, DocksAndPaintsWithTheRoomItNeeds) {
 }
 
 TEST_F(TrayRow, GivesWayToTheStripWhereOnlyASquareIsGranted) {
-    bool isLaidOut = false;
-    FakeTray tray([&](QSize wanted) { return isLaidOut ? wanted : FakeTray::square(wanted); });
+    FakeTray tray(FakeTray::square);
     tray.claim();
     item.show(content);
     EXPECT_TRUE(becomes(tray, [&] { return tray.icon != 0; }));
     EXPECT_TRUE(becomes(tray, [&] { return item.kind() == Kind::strip; }));
     EXPECT_TRUE(becomes(tray, [&] { return tray.icon == 0; })) << "the square is still in the tray";
+}
+
+TEST_F(TrayRow, GivesABusyTrayTime) {
+    bool isLaidOut = false;
+    FakeTray tray([&](QSize wanted) { return isLaidOut ? wanted : FakeTray::square(wanted); });
+    tray.claim();
+    item.show(content);
+    EXPECT_FALSE(becomes(
+        tray, [&] { return item.kind() != Kind::none; }, std::chrono::milliseconds(800)));
     isLaidOut = true;
-    EXPECT_TRUE(becomes(tray, [&] { return item.kind() == Kind::tray; })) << "it had only been late";
+    tray.layOut();
+    EXPECT_TRUE(becomes(tray, [&] { return item.kind() == Kind::tray; }));
 }
 
 TEST_F(TrayRow, IsNotMappedBeforeTheTrayTookItIn) {
