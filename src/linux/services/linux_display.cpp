@@ -97,7 +97,8 @@ bool windowsAreBlended() {
 
 bool mouseIsPressed() {
     xcb_connection_t* connection = xcbConnection();
-    return connection != nullptr && xcbIsMousePressed(connection);
+    // Under Wayland the X server does not hear of the release when its window has closed at the press.
+    return connection != nullptr && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && xcbIsMousePressed(connection);
 }
 
 bool windowsCanFade() {
