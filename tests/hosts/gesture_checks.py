@@ -127,6 +127,7 @@ class Gestures:
         if not soon(self.menu, PATIENCE):
             return "no menu" + (", but the popover" if self.shown() else "")
         drawn = not self.menu_window()
+        time.sleep(GLANCE)
         self.desktop.screen.key("Escape")
         return None if drawn or soon(lambda: not self.menu(), PATIENCE) else "Escape does not close the menu"
 
