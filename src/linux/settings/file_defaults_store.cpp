@@ -29,6 +29,9 @@ constexpr auto rereadDelay = 50ms;
 /// Before what could not be written is tried again; doubled each time.
 constexpr auto firstPause = 500ms;
 constexpr auto longestPause = 5min;
+/// With another instance that is writing; at the end, one that hangs must not cost the changes.
+constexpr auto lockPatience = 50ms;
+constexpr auto lastPatience = 3s;
 
 QString nearestFolder(const QString& file) {
     QFileInfo folder(QFileInfo(file).path());
@@ -63,6 +66,7 @@ FileDefaultsStore::FileDefaultsStore(const QString& path) : path_(path), target_
 FileDefaultsStore::~FileDefaultsStore() {
     // The owner is being destroyed too and must not be called any more.
     changedOutside = nullptr;
+    isEnding_ = true;
     flush();
 }
 
@@ -101,7 +105,10 @@ void FileDefaultsStore::flush() {
 
 /// Another instance must not write between the reading and the writing, or its changes would be undone.
 bool FileDefaultsStore::merge() {
-    const FolderLock lock(QFile::encodeName(QFileInfo(target_).path()).toStdString());
+    const auto patience = isEnding_ ? lastPatience : lockPatience;
+    const FolderLock lock(QFile::encodeName(QFileInfo(target_).path()).toStdString(), patience);
+    if (lock.isBusy() && !isEnding_)
+        return false; // it is tried again
     const bool edited = reloadIfChanged();
     write();
     return edited;

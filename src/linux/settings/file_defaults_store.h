@@ -53,6 +53,7 @@ class FileDefaultsStore final : public DefaultsStore {
     std::chrono::milliseconds pause_; ///< before the next attempt, once one has failed
     QTimer rereadTimer_;
     QFileSystemWatcher watcher_;
+    bool isEnding_ = false;
     bool complainedOfReading_ = false;
     bool complainedOfWriting_ = false;
 };

@@ -37,10 +37,13 @@ bool makePrivateFolder(const std::filesystem::path& folder) {
     return ::mkdir(folder.c_str(), 0700) == 0;
 }
 
-FolderLock::FolderLock(const std::filesystem::path& folder)
+FolderLock::FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds patience)
     : folder_(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    constexpr int attempts = 20;
-    for (int i = 0; i < attempts && folder_ && ::flock(folder_.get(), LOCK_EX | LOCK_NB) != 0; ++i)
+    const auto isHeld = [this] {
+        return folder_ && ::flock(folder_.get(), LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+    };
+    const auto end = std::chrono::steady_clock::now() + patience;
+    while ((isBusy_ = isHeld()) && std::chrono::steady_clock::now() < end)
         std::this_thread::sleep_for(5ms);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -15,14 +16,18 @@ bool writeAll(int file, std::string_view bytes);
 /// made or existed before.
 bool makePrivateFolder(const std::filesystem::path& folder);
 
-/// Holds off the other instances that are about to change files of `folder` in several steps, as long as it lives. One
-/// of them that hangs is waited for a moment only.
+/// Holds off the other instances that are about to change files of `folder` in several steps, as long as it lives.
 class FolderLock {
   public:
-    explicit FolderLock(const std::filesystem::path& folder);
+    /// One that holds it already is waited for no longer than `patience`.
+    FolderLock(const std::filesystem::path& folder, std::chrono::milliseconds patience);
+
+    /// Another one still holds it. False also for a folder that is not there, or cannot be locked.
+    bool isBusy() const { return isBusy_; }
 
   private:
     FileDescriptor folder_;
+    bool isBusy_ = false;
 };
 
 /// Removes what writers of `path` that were killed have left beside it, unless it may still be in use.
