@@ -129,6 +129,7 @@ class Gestures:
         drawn = not self.menu_window()
         time.sleep(GLANCE)
         self.desktop.screen.key("Escape")
+        self.desktop.screen.point(self.outside)  # where it was in the calm picture
         return None if drawn or soon(lambda: not self.menu(), PATIENCE) else "Escape does not close the menu"
 
     def right_click_over_popover(self):
