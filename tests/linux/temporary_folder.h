@@ -18,7 +18,8 @@ class TemporaryFolder {
     TemporaryFolder() {
         path_ = std::filesystem::exists("/dev/shm") ? "/dev/shm" : std::filesystem::temp_directory_path();
         path_.append("/vantrix-").append(6, 'X'); // the letters that mkdtemp replaces
-        mkdtemp(path_.data());
+        if (mkdtemp(path_.data()) == nullptr)
+            std::abort(); // or what follows would write anywhere
     }
     ~TemporaryFolder() { std::filesystem::remove_all(path_); }
     TemporaryFolder(const TemporaryFolder&) = delete;

@@ -22,6 +22,7 @@ const QString menuPath = QStringLiteral("/StatusNotifierItem/Menu");
 
 // Tooltips are looked at rarely, so hosts that fetch them separately need not do so on every pass.
 constexpr int toolTipPaceFactor = 3;
+constexpr int panelPaceFactor = 3; // a look at another program's windows takes a dozen round trips
 
 constexpr auto toolTipPatience = std::chrono::milliseconds(150); // until a host has read the one that it was told of
 constexpr double haloedCaption = 0.75;                           // opacity; its ground is less even than a panel's
@@ -57,7 +58,8 @@ StatusNotifier::StatusNotifier(std::optional<QString> busAddress, const Notifier
                                const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
                                PanelText panelText, std::chrono::milliseconds lookInterval)
     : busAddress_(std::move(busAddress)), host_(host), handlers_(handlers), appearance_(appearance),
-      panelText_(std::move(panelText)), panel_(lookInterval), paced_(host.pace, [this] { publish(); }),
+      panelText_(std::move(panelText)), panel_(lookInterval * panelPaceFactor),
+      paced_(host.pace, [this] { publish(); }),
       pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }) {
     panel_.addReader(host_.process);
     registration_.setSingleShot(true);
