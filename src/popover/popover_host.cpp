@@ -4,12 +4,12 @@
 #include <QScreen>
 
 #include "popover/popover_place.h"
+#include "popover/popover_view.h"
 #include "views/theme.h"
 
 namespace vantrix {
 namespace {
 
-constexpr int popoverWidth = 340;
 constexpr int fadeDuration = 120;  // milliseconds
 constexpr qint64 sameClick = 300;  // milliseconds from a click's press until a status area tells of it
 constexpr int mouseInterval = 20;  // milliseconds
@@ -32,7 +32,7 @@ PopoverHost::~PopoverHost() = default;
 void PopoverHost::makeFrame() {
     frame_ = std::make_unique<PopoverFrame>(theme_, makeView_());
     // Compositors that lay out their windows like tiles leave those alone that cannot be made wider.
-    frame_->setFixedWidth(popoverWidth);
+    frame_->setFixedWidth(PopoverView::contentWidth);
     frame_->setMinimumHeight(1);
     QObject::connect(&fade_, &QVariantAnimation::valueChanged, frame_.get(),
                      [this](const QVariant& opacity) { frame_->setWindowOpacity(opacity.toDouble()); });
@@ -134,7 +134,7 @@ void PopoverHost::watch(QScreen& screen) {
 void PopoverHost::place() {
     const QScreen* shownOn = screen();
     const QRect visible = shownOn ? shownOn->availableGeometry() : QRect();
-    const QSize size(popoverWidth, popoverHeight(visible.height(), frame_->contentHeight()));
+    const QSize size(PopoverView::contentWidth, popoverHeight(visible.height(), frame_->contentHeight()));
     frame_->setGeometry(shownOn ? popoverPlace(size, anchor_, visible) : QRect(anchor_.bottomLeft(), size));
 }
 

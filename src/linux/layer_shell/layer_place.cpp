@@ -5,8 +5,7 @@
 namespace vantrix {
 namespace {
 
-constexpr int gap = 8;        // to panels, of which some float as far from the space that they reserve, and to edges
-constexpr int itemReach = 11; // from the middle of an item to its edge
+constexpr int gap = 8; // to panels, of which some float as far from the space that they reserve, and to edges
 constexpr int thickestPanel = 96;
 
 /// One direction of the screen, in which a point lies `before` the nearer of two edges.

@@ -9,6 +9,9 @@ namespace vantrix {
 /// By how much sizes that should be equal differ at fractional scales, at most.
 inline constexpr int rounding = 2;
 
+/// From the point where an item was clicked to its edge, about.
+inline constexpr int itemReach = 11;
+
 /// What a compositor is told of a window's place: the edges of the screen, less the panels', that it goes to, and how
 /// far from them it stays, in device-independent pixels.
 struct LayerPlace {

@@ -9,12 +9,10 @@
 #include "linux/layer_shell/layer_cover.h"
 #include "linux/layer_shell/layer_place.h"
 #include "popover/popover_place.h"
+#include "popover/popover_view.h"
 
 namespace vantrix {
 namespace {
-
-constexpr int popoverWidth = 340;
-constexpr int itemReach = 11; // from the point where an item was clicked to its edge, about
 
 /// Puts `window` there; it has its size, and is shown next or already.
 void placeAt(QWidget& window, const LayerSpot& spot) {
@@ -71,7 +69,8 @@ void LayerPopover::open(const StatusItem& item, bool isClicked) {
 void LayerPopover::place() {
     const QSize screen = spot_.screen ? spot_.screen->size() : spot_.free;
     const int room = heightBeside(spot_.point, screen, spot_.free);
-    frame_->resize(popoverWidth, std::min(popoverHeight(room, frame_->contentHeight()), spot_.free.height()));
+    frame_->resize(PopoverView::contentWidth,
+                   std::min(popoverHeight(room, frame_->contentHeight()), spot_.free.height()));
     placeAt(*frame_, spot_);
 }
 

@@ -60,8 +60,10 @@ StatusNotifier::StatusNotifier(std::optional<QString> busAddress, const Notifier
     : busAddress_(std::move(busAddress)), host_(host), handlers_(handlers), appearance_(appearance),
       panelText_(std::move(panelText)), panel_(lookInterval * panelPaceFactor),
       paced_(host.pace, [this] { publish(); }),
-      pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }) {
+      pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }),
+      lookInterval_(lookInterval * panelPaceFactor) {
     panel_.addReader(host_.process);
+    lookAtConfiguration();
     registration_.setSingleShot(true);
     connect(&registration_, &QTimer::timeout, this, &StatusNotifier::registerNext);
     titleTimer_.setSingleShot(true);
@@ -95,8 +97,19 @@ void StatusNotifier::popoverShown(bool shown) {
 
 /// Panels may change their colours and their places without a word.
 void StatusNotifier::lookAround() {
-    if (panel_.look())
+    const bool isConfiguredAnew = lookAtConfiguration();
+    if (panel_.look() || isConfiguredAnew)
         show(row_);
+}
+
+/// Files are read as rarely as a panel is looked at, and only where none can be. True when they say something else.
+bool StatusNotifier::lookAtConfiguration() {
+    const bool isDue = !sinceConfigured_.isValid() || sinceConfigured_.hasExpired(lookInterval_.count());
+    if (!host_.isPlasma || panel_.ground() || !isDue)
+        return false;
+    sinceConfigured_.start();
+    const auto color = plasmaPanelColor();
+    return std::exchange(configured_, color) != color;
 }
 
 /// On a panel that is higher than wide, a wide picture would be squeezed.
@@ -229,9 +242,7 @@ void StatusNotifier::publish() {
 }
 
 StatusNotifier::Look StatusNotifier::look() const {
-    std::optional<QColor> ground = panel_.ground();
-    if (!ground && host_.isPlasma)
-        ground = plasmaPanelColor();
+    const std::optional<QColor> ground = panel_.ground() ? panel_.ground() : configured_;
     const std::optional<QColor> text = panelText_();
     if (ground)
         return {paletteOn(*ground, text)};

@@ -5,6 +5,7 @@
 #include <set>
 #include <vector>
 
+#include <QElapsedTimer>
 #include <QObject>
 
 #include "linux/services/bus_link.h"
@@ -54,6 +55,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     void dropItems();
     void registerFirst();
     void registerNext();
+    bool lookAtConfiguration();
     void settle();
     void noteReader(const QString& name);
     Look look() const;
@@ -95,6 +97,9 @@ class StatusNotifier : public QObject, public StatusBackend {
     bool hasTitle_ = true;
     QTimer titleTimer_;
     std::optional<QRect> clickRect_;
+    std::chrono::milliseconds lookInterval_;
+    QElapsedTimer sinceConfigured_;
+    std::optional<QColor> configured_; ///< the panel's colour as its configuration last had it
 };
 
 } // namespace vantrix
