@@ -269,8 +269,8 @@ void StatusNotifier::update(std::size_t index, const Look& look) {
         object.announce(QStringLiteral("NewTitle"));
     if (content.label != before.label)
         object.announce(QStringLiteral("XAyatanaNewLabel"), {*content.label, content.labelGuide});
-    // Hosts that show labels show no tooltips; those that fetch everything already have it.
-    if (content.toolTip == before.toolTip || content.label || (newIcon && host_.fetchesAll))
+    // Those that fetch everything already have it.
+    if (content.toolTip == before.toolTip || (newIcon && host_.fetchesAll))
         return;
     staleToolTips_.insert(&object);
     pacedToolTips_.request();
@@ -282,11 +282,12 @@ NotifierContent StatusNotifier::contentOf(std::size_t index, const Look& look) c
     content.icon = samePixmaps(tile, look) ? objects_[index]->content().icon : pixmapsOf(tile, look);
     content.title = hasTitle_ ? titleOf(tile) : QString();
     // Only the first tile has the text of the whole row: if all had, all would have to be sent whenever one changes.
-    if (hasToolTip_)
-        content.toolTip = toolTipOf(tile);
+    // Hosts that show labels show no tool tips.
     if (layout() == NotifierLayout::labelled) {
         content.label = row_.label();
         content.labelGuide = row_.labelGuide();
+    } else if (hasToolTip_) {
+        content.toolTip = toolTipOf(tile);
     }
     return content;
 }
