@@ -302,7 +302,7 @@ QString StatusNotifier::titleOf(std::size_t tile) const {
 
 /// The first tile's is that of the whole row; the others tell of their own module alone, so that few change at once.
 QString StatusNotifier::toolTipOf(std::size_t tile) const {
-    const QString details = handlers_.details(tile == 0 ? std::nullopt : row_.tileModule(tile));
+    QString details = handlers_.details(tile == 0 ? std::nullopt : row_.tileModule(tile));
     if (!details.isEmpty())
         return details;
     return tile == 0 ? row_.text() : row_.tileText(tile);
