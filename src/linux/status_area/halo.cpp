@@ -22,6 +22,11 @@ struct Cover {
     std::vector<int> values;
 };
 
+/// Of the pixel at `column` of line `line`, in lines of that length.
+std::size_t placeOf(int line, int column, int length) {
+    return static_cast<std::size_t>(line) * static_cast<std::size_t>(length) + static_cast<std::size_t>(column);
+}
+
 /// Adds up along lines what is less than `length` away, the nearer the more: twice the sum of `length` neighbours, once
 /// to either side. Swaps lines and columns.
 Cover spread(const Cover& cover, int length) {
@@ -36,8 +41,9 @@ Cover spread(const Cover& cover, int length) {
         }
         sum = std::accumulate(sums.end() - length, sums.end(), 0);
         for (int x = cover.width - 1; x >= 0; --x) {
-            sum += sums[static_cast<std::size_t>(x)] - sums[static_cast<std::size_t>(x + length)];
-            result.values[static_cast<std::size_t>(x * cover.height + y)] = sum;
+            const int* from = sums.data() + x;
+            sum += from[0] - from[length];
+            result.values[placeOf(x, y, cover.height)] = sum;
         }
     }
     return result;
@@ -45,7 +51,7 @@ Cover spread(const Cover& cover, int length) {
 
 Cover coverOf(const QImage& image) {
     Cover cover{image.width(), image.height(), {}};
-    cover.values.reserve(static_cast<std::size_t>(image.width() * image.height()));
+    cover.values.reserve(placeOf(image.height(), 0, image.width()));
     for (int y = 0; y < image.height(); ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
         for (int x = 0; x < image.width(); ++x)
@@ -65,8 +71,7 @@ QImage withHalo(const QImage& glyphs, const QColor& color, int pixels) {
     for (int y = 0; y < image.height(); ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
         for (int x = 0; x < image.width(); ++x) {
-            const int near =
-                std::min(gain * cover.values[static_cast<std::size_t>(y * image.width() + x)] / whole, 255);
+            const int near = std::min(gain * cover.values[placeOf(y, x, image.width())] / whole, 255);
             line[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), near * density / 255));
         }
     }

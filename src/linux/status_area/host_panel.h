@@ -6,6 +6,7 @@
 
 #include <QColor>
 #include <QElapsedTimer>
+#include <QRect>
 #include <QtGlobal>
 
 namespace vantrix {

@@ -10,7 +10,7 @@ namespace {
 /// The first of the files of that name that says something; what a session has by default comes after the user's own.
 QVariant configured(const QString& file, const QString& key) {
     for (const QString& path : QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, file)) {
-        const QVariant value = QSettings(path, QSettings::IniFormat).value(key);
+        QVariant value = QSettings(path, QSettings::IniFormat).value(key);
         if (value.isValid())
             return value;
     }

@@ -114,6 +114,7 @@ QImage imageOf(xcb_connection_t* connection, xcb_window_t window, const QRect& r
 void setAtoms(xcb_connection_t* connection, xcb_window_t window, const QByteArray& property,
               const std::vector<QByteArray>& names) {
     std::vector<xcb_atom_t> values;
+    values.reserve(names.size());
     for (const QByteArray& name : names)
         values.push_back(xcbAtom(connection, name));
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, xcbAtom(connection, property), XCB_ATOM_ATOM, 32,
