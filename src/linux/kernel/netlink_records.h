@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <cstring>
 #include <optional>
@@ -39,6 +40,13 @@ inline std::optional<NetlinkMessage> takeNetlinkMessage(std::string_view& datagr
     const auto body = datagram.substr(NLMSG_HDRLEN, header->nlmsg_len - NLMSG_HDRLEN);
     removeAligned(datagram, header->nlmsg_len);
     return NetlinkMessage{*header, body};
+}
+
+/// The errno that an NLMSG_ERROR message begins with; 0 when it acknowledges.
+inline int errorNumber(std::string_view body) {
+    constexpr int highest = 4095; // of the kernel's
+    const int code = recordAt<int>(body).value_or(-EBADMSG);
+    return code <= 0 && code >= -highest ? -code : EBADMSG;
 }
 
 /// The attributes behind the fixed record that a body begins with.

@@ -1,6 +1,5 @@
 #include "linux/network/nl80211_messages.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 
@@ -104,7 +103,7 @@ std::optional<GenericAnswer> takeGenericAnswer(std::string_view& datagram) {
     GenericAnswer answer;
     answer.sequence = taken->header.nlmsg_seq;
     if (taken->header.nlmsg_type == NLMSG_ERROR) {
-        answer.error = std::abs(recordAt<int>(taken->body).value_or(-EBADMSG));
+        answer.error = errorNumber(taken->body);
         answer.kind = answer.error != 0 ? GenericAnswer::Kind::failed : GenericAnswer::Kind::done;
     } else if (taken->header.nlmsg_type != NLMSG_DONE) {
         const bool isOneOfMany = (taken->header.nlmsg_flags & NLM_F_MULTI) != 0;

@@ -1,7 +1,6 @@
 #include "linux/network/rtnetlink_subscriber.h"
 
 #include <cerrno>
-#include <cstdlib>
 
 namespace vantrix {
 namespace {
@@ -133,7 +132,7 @@ RtnetlinkSubscriber::Answer RtnetlinkSubscriber::takeAnswer(RtnetlinkTable& tabl
             answer = Answer::complete;
         } else if (isRefusal) {
             // A kernel that does not know such a list, as one without IPv6, has nothing to put on it.
-            const int error = std::abs(recordAt<int>(message->body).value_or(EBADMSG));
+            const int error = errorNumber(message->body);
             answer = error == EOPNOTSUPP || error == EAFNOSUPPORT ? Answer::complete : Answer::refused;
         } else {
             table.takeListed(*message);

@@ -2,6 +2,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <ctime>
 #include <utility>
 
 #include <fcntl.h>
@@ -25,6 +26,18 @@ std::int64_t nanoseconds(const timespec& time) {
 
 FileStamp stampOf(const struct stat& status) {
     return {status.st_dev, status.st_ino, status.st_size, nanoseconds(status.st_mtim), nanoseconds(status.st_ctim)};
+}
+
+/// The stamp of what is read or written just now. Another edit within the same step of the file system's clock would
+/// not show in it: a file that is so young gets one that no file has, and is read again when it is next looked at.
+FileStamp stampToKeep(const struct stat& status) {
+    constexpr std::int64_t longestStep = 20'000'000; // the kernel's clock makes 100 steps a second or more
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    FileStamp stamp = stampOf(status);
+    if (nanoseconds(now) - stamp.attributeTime < longestStep)
+        stamp.attributeTime = -1;
+    return stamp;
 }
 
 SettingsFile failed(SettingsFile file, SettingsFile::State state, const char* problem) {
@@ -119,7 +132,7 @@ SettingsFile readSettingsFile(const QString& path) {
     if (!file || ::fstat(file.get(), &status) != 0)
         return failed(std::move(result), State::damaged, "cannot be read");
     // Taken from the open file before reading it, so that an edit made meanwhile is seen as a change.
-    result.stamp = stampOf(status);
+    result.stamp = stampToKeep(status);
     return parsed(std::move(result), readUpTo(SettingsFile::sizeLimit + 1, file));
 }
 
@@ -145,7 +158,7 @@ Replaced replaceFile(const QString& path, const QByteArray& contents, const Repl
     struct stat status {};
     if (::fstat(file.get(), &status) != 0)
         return {FileStamp(), 0};
-    return {stampOf(status), 0};
+    return {stampToKeep(status), 0};
 }
 
 } // namespace vantrix

@@ -77,6 +77,15 @@ TEST_F(FileDefaultsStoreTest, TwoInstancesKeepEachOthersChanges) {
     EXPECT_EQ(object().size(), 2 * changes);
 }
 
+TEST_F(FileDefaultsStoreTest, SeesAnEditWithinOneStepOfTheClock) {
+    write("{\"key\":1}");
+    FileDefaultsStore store(path_);
+    write("{\"key\":2}");
+    store.setValue(other, 1.0);
+    store.flush();
+    EXPECT_EQ(object().value(key).toInt(), 2);
+}
+
 TEST_F(FileDefaultsStoreTest, RemovesWhatKilledWritersLeft) {
     put(at(".settings.json.abcdef"), "{");
     put(at(".settings.json.ABCDEF"), "{");
