@@ -10,6 +10,7 @@
 
 #include "linux/layer_shell/layer_shell.h"
 #include "linux/services/display_choice.h"
+#include "linux/services/session_bus.h"
 #include "linux/status_area/xcb_support.h"
 
 namespace vantrix {
@@ -17,6 +18,8 @@ namespace {
 
 /// How long a desktop may take to bring up its status area; without one there will be a strip, which X11 alone places.
 constexpr std::chrono::seconds patienceWithPanel{4};
+
+constexpr std::chrono::seconds patienceWithBus{2};
 
 bool userChosePlatform(int argc, char** argv) {
     return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || std::any_of(argv + 1, argv + argc, [](const char* a) {
@@ -64,6 +67,7 @@ bool waylandIsUsable() {
 } // namespace
 
 std::shared_ptr<void> prepareDisplay(int argc, char** argv) {
+    keepSilentBusFromToolkit(patienceWithBus);
     const auto nothingToKeep = std::make_shared<bool>(true);
     if (userChosePlatform(argc, argv))
         return nothingToKeep;

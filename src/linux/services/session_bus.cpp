@@ -4,9 +4,19 @@
 
 #include <QFile>
 
+#include "linux/services/bus_probe.h"
+
 namespace vantrix {
 
 namespace {
+
+constexpr const char* addressVariable = "DBUS_SESSION_BUS_ADDRESS";
+
+/// The address that the environment no longer tells.
+std::optional<QString>& keptAddress() {
+    static std::optional<QString> address;
+    return address;
+}
 
 QString nextConnectionName() {
     static std::atomic<int> count = 0; // connections are made on several threads
@@ -16,7 +26,9 @@ QString nextConnectionName() {
 } // namespace
 
 std::optional<QString> sessionBusAddress() {
-    const QString address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    if (keptAddress())
+        return keptAddress();
+    const QString address = qEnvironmentVariable(addressVariable);
     if (address.startsWith(u"autolaunch:") || address.startsWith(u"disabled:"))
         return std::nullopt;
     if (!address.isEmpty())
@@ -25,6 +37,14 @@ std::optional<QString> sessionBusAddress() {
     if (socket.startsWith(u"/bus") || !QFile::exists(socket))
         return std::nullopt;
     return QStringLiteral("unix:path=") + socket;
+}
+
+void keepSilentBusFromToolkit(std::chrono::milliseconds patience) {
+    const auto address = sessionBusAddress();
+    if (!address || busAnswers(*address, patience))
+        return;
+    keptAddress() = address;
+    qputenv(addressVariable, "disabled:");
 }
 
 std::optional<QString> systemBusAddress() {

@@ -3,9 +3,11 @@
 #include <cstring>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <unistd.h>
 
 #include "linux/bluetooth/bluez_watch.h"
 #include "linux/services/private_bus.h"
+#include "linux/services/session_bus.h"
 #include "posix/file_descriptor.h"
 
 namespace vantrix {
@@ -41,6 +43,19 @@ TEST(BusAnswers, TellsDaemonsThatWorkFromThoseThatDoNot) {
     EXPECT_FALSE(busAnswers(mute.address(), patience));
     EXPECT_FALSE(busAnswers(u"unix:path=/nowhere/bus"_s, patience));
     EXPECT_TRUE(busAnswers(u"tcp:host=localhost,port=1"_s, patience)); // not ours to judge
+}
+
+TEST(SessionBus, IsKeptFromTheToolkitWhileItIsMute) {
+    const auto isKept = [](const QString& address) {
+        qputenv("DBUS_SESSION_BUS_ADDRESS", address.toLocal8Bit());
+        keepSilentBusFromToolkit(std::chrono::milliseconds(50));
+        EXPECT_EQ(sessionBusAddress(), address);
+        ::_exit(testing::Test::HasFailure() ? 2 : qgetenv("DBUS_SESSION_BUS_ADDRESS") == "disabled:");
+    };
+    const PrivateBus bus;
+    const MuteBus mute;
+    EXPECT_EXIT(isKept(mute.address()), testing::ExitedWithCode(1), "");
+    EXPECT_EXIT(isKept(bus.address()), testing::ExitedWithCode(0), "");
 }
 
 /// The toolkit would wait for it for ever, and every other connection with it.
