@@ -30,6 +30,7 @@ doctor:doctor|$rules|monitor/samplers.h|platform/diagnosis.h|platform/sampling_s
 posix:posix|platform/desktop_services.h
 linux/power_supply:linux/(power_supply|$middle|kernel)|$rules
 linux/diagnosis:linux/(diagnosis|power_supply|$middle|kernel)|platform/diagnosis.h|$rules
+linux/capture:linux/(capture|$middle|kernel)|platform/sampling_sources.h|$rules
 "
 for wing in linux macos; do
   allowed+="
@@ -68,7 +69,7 @@ while IFS= read -r name; do
 done < <(git ls-files src | grep -E '\.(h|cpp|mm)$' | sed -E 's/\.[a-z]+$//' | sort -u | sed 's,.*/,,' | sort | uniq -d)
 
 # The core and the kernel sources use no Qt.
-for folder in support samplers sensors accessories {linux,macos}/{kernel,processor,memory,network,disks,graphics,sensors,power_supply,diagnosis} \
+for folder in support samplers sensors accessories {linux,macos}/{kernel,processor,memory,network,disks,graphics,sensors,power_supply,diagnosis,capture} \
   {linux,macos}/*.{h,cpp}; do
   while IFS= read -r file; do
     complain "$file uses Qt"

@@ -36,8 +36,8 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
       notifications_(std::move(parts.notifications)), widgets_(std::move(parts.widgets)),
       alerts_(*notifications_, defaults), widgetBridge_(widgets_.get(), defaults),
       information_(std::move(parts.sources.information)), processor_(*information_),
-      monitor_(std::move(parts.sources), defaults, std::make_unique<QtRepeatingTimer>(),
-               std::make_unique<ThreadTaskRunner>(), std::move(parts.bluetooth)),
+      monitor_(std::move(parts.sources), defaults, std::move(parts.timer), std::make_unique<ThreadTaskRunner>(),
+               std::move(parts.bluetooth)),
       theme_(parts.appearance),
       popover_(parts.makePopover(
           theme_,

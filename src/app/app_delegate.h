@@ -39,6 +39,7 @@ class AppDelegate : public QObject {
         std::unique_ptr<NotificationCenter> notifications;
         std::unique_ptr<WidgetCenter> widgets; ///< may be null
         Bluetooth bluetooth = {};              ///< may be empty
+        std::unique_ptr<RepeatingTimer> timer = std::make_unique<QtRepeatingTimer>();
         std::function<std::unique_ptr<PopoverWindow>(const Theme&, PopoverWindow::MakeView)> makePopover =
             makePopoverWindow;
     };

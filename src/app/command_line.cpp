@@ -85,6 +85,10 @@ class Parser {
             parseCount(option);
         else if (option == "--modules")
             parseModules(option);
+        else if (option == "--capture")
+            parseCapture(option);
+        else if (option == "--replay")
+            result_.replayFolder = folder(option);
         else if (option == "--proc-root")
             result_.roots.proc = withoutTrailingSlashes(value(option));
         else if (option == "--sys-root")
@@ -105,6 +109,19 @@ class Parser {
             return {};
         }
         return arguments_[next_++];
+    }
+
+    /// A value that must not be empty.
+    std::string folder(const std::string& option) {
+        std::string path = value(option);
+        if (error_.empty() && path.empty())
+            error_ = option + " needs a folder";
+        return path;
+    }
+
+    void parseCapture(const std::string& option) {
+        act(Action::capture, option);
+        result_.captureFolder = folder(option);
     }
 
     void parsePrint(const std::string& option) {
@@ -174,10 +191,23 @@ class Parser {
     }
 
     void checkCombination() {
-        if (result_.action == Action::print)
-            return;
+        const bool isCapture = result_.action == Action::capture;
         for (const std::string& option : printOptions_)
-            error_ = option + " goes with --print";
+            if (result_.action != Action::print && (!isCapture || option == "--modules"))
+                error_ = option + " goes with --print";
+        if (!result_.replayFolder.empty())
+            checkReplay();
+    }
+
+    void checkReplay() {
+        const bool isShown =
+            result_.action == Action::run || result_.action == Action::print || result_.action == Action::doctor;
+        if (!isShown)
+            error_ = "--replay goes with --print, --doctor or alone";
+        else if (result_.interval)
+            error_ = "--replay keeps to the times of the capture: it takes no --interval";
+        else if (result_.roots != KernelRoots())
+            error_ = "--replay reads its own trees: it takes no --proc-root and no --sys-root";
     }
 
     const std::vector<std::string>& arguments_;
@@ -205,6 +235,11 @@ std::string helpText() {
            "                        disk, gpu, temperature, battery\n"
            "  --doctor [json]       tell what every reading comes from and why one is\n"
            "                        missing; what a bug report starts with\n"
+           "  --capture DIR         write what is read on this machine into the empty folder\n"
+           "                        DIR, without addresses, serial numbers and names: so\n"
+           "                        that others can see a fault; --count (3) and --interval\n"
+           "  --replay DIR          show such a capture instead of this machine, with\n"
+           "                        --print, --doctor or alone\n"
            "  --show-popover        open the popover of the running program\n"
            "  --show-settings [TAB] open its settings\n"
            "  --quit                end it\n"

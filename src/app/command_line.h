@@ -14,20 +14,33 @@ enum class PrintFormat { text, json, waybar };
 
 /// What the program was asked to do.
 struct CommandLine {
-    enum class Action { run, print, doctor, help, version, showPopover, showSettings, quit, exportScreenshots };
+    enum class Action {
+        run,
+        print,
+        doctor,
+        capture,
+        help,
+        version,
+        showPopover,
+        showSettings,
+        quit,
+        exportScreenshots
+    };
 
     Action action = Action::run;
-    PrintFormat format = PrintFormat::text;            ///< of `print`; of `doctor` text or json
-    std::optional<double> interval;                    ///< seconds, 0.5 to 3600; absent: the stored preference
-    std::optional<long> count;                         ///< passes, at least 1; absent: until interrupted
+    PrintFormat format = PrintFormat::text; ///< of `print`; of `doctor` text or json
+    std::optional<double> interval;         ///< seconds, 0.5 to 3600; absent: the stored preference
+    std::optional<long> count;              ///< passes, at least 1; absent: until interrupted, or for `capture` 3
     std::optional<std::vector<MenuBarModule>> modules; ///< absent: those enabled in the settings
     std::optional<SettingsTab> settingsTab;
-    std::string exportFolder; ///< of `exportScreenshots`
-    KernelRoots roots;        ///< without trailing slashes
+    std::string exportFolder;  ///< of `exportScreenshots`
+    std::string captureFolder; ///< of `capture`
+    std::string replayFolder;  ///< of `run`, `print` and `doctor`: read a capture, not this machine; may be empty
+    KernelRoots roots;         ///< without trailing slashes
 
-    /// False when the roots are those of a host watched from inside a container: the services here say nothing about
-    /// that host.
-    bool watchesThisMachine() const { return roots == KernelRoots(); }
+    /// False when the roots are those of a host watched from inside a container, and in a replay: the services here say
+    /// nothing about that machine.
+    bool watchesThisMachine() const { return roots == KernelRoots() && replayFolder.empty(); }
 };
 
 /// The parsed arguments (without the program's name), or one line that says what is wrong with them.

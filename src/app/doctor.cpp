@@ -42,7 +42,8 @@ int columns() {
 /// Puts the report together. What may hang is asked on a thread of its own and waited for only so long.
 class Doctor {
   public:
-    Doctor(const KernelRoots& roots, const char* version) : roots_(roots), version_(version) {}
+    Doctor(const KernelRoots& roots, const char* version, Replay* replay)
+        : roots_(replay != nullptr ? replay->roots() : roots), version_(version), replay_(replay) {}
 
     DoctorReport examine();
 
@@ -66,6 +67,7 @@ class Doctor {
 
     KernelRoots roots_;
     const char* version_;
+    Replay* replay_; ///< null on this machine
     bool leftThreadBehind_ = false;
 };
 
@@ -84,9 +86,18 @@ void hidePrivateFolders(DoctorReport& report) {
         renameFolder(report, qEnvironmentVariable(variable).toStdString(), std::string("$") + variable);
 }
 
+/// What is told of the machine that replays, not of the one that was captured.
+void forgetThisMachine(DoctorReport& report) {
+    std::erase_if(report.system, [](const auto& fact) {
+        return fact.first == "System" || fact.first == "Session" || fact.first == "Roots";
+    });
+    for (DoctorRow& row : report.readings)
+        row.microseconds.reset();
+}
+
 std::optional<DoctorInstance> Doctor::findInstance() {
     using Statistics = std::optional<ProcessStatistics>;
-    const auto pid = runningInstance();
+    const auto pid = replay_ != nullptr ? std::nullopt : runningInstance();
     if (!pid)
         return std::nullopt;
     DoctorInstance instance{.pid = *pid};
@@ -102,7 +113,7 @@ std::optional<DoctorInstance> Doctor::findInstance() {
 /// Where the sources cannot be told in time, the readings are listed without them.
 std::vector<SourceDiagnosis> Doctor::askSources(const Findings& findings) {
     using Rows = std::vector<SourceDiagnosis>;
-    if (auto rows = inTime<Rows>([roots = roots_] { return diagnoseSources(roots); }))
+    if (auto rows = inTime<Rows>([this] { return replay_ != nullptr ? replay_->diagnose() : diagnoseSources(roots_); }))
         return std::move(*rows);
     Rows rows;
     for (const auto& found : findings)
@@ -116,6 +127,8 @@ std::vector<SourceDiagnosis> Doctor::askSources(const Findings& findings) {
 
 std::vector<SourceDiagnosis> Doctor::askServices() {
     std::vector<SourceDiagnosis> rows;
+    if (replay_ != nullptr)
+        return rows;
     const auto services = diagnoseServices(servicePatience);
     QEventLoop loop;
     services->finished = [&](std::vector<SourceDiagnosis> answers) {
@@ -129,7 +142,7 @@ std::vector<SourceDiagnosis> Doctor::askServices() {
 
 DoctorReport Doctor::examine() {
     DoctorReport report;
-    auto sources = makeSamplingSources(roots_);
+    auto sources = replay_ != nullptr ? replay_->makeSources() : makeSamplingSources(roots_);
     const auto information = std::move(sources.information);
     report.instance = findInstance(); // first, so that this run does not count in its figures
     Examination examination(std::move(sources), readPatience);
@@ -137,7 +150,10 @@ DoctorReport Doctor::examine() {
     start.start();
     examination.beginPass();
     auto services = askServices();
-    waitUntil(start, betweenPasses);
+    if (replay_ == nullptr)
+        waitUntil(start, betweenPasses);
+    else
+        replay_->nextPass();
     const auto findings = examination.finish();
     report.readings = joined(askSources(findings), findings);
     leftThreadBehind_ = leftThreadBehind_ || examination.leftThreadBehind();
@@ -152,18 +168,20 @@ DoctorReport Doctor::examine() {
         renameFolder(report, roots_.sys, "<sys>");
     }
     report.system = systemFacts(version_, *information, roots_);
+    if (replay_ != nullptr)
+        forgetThisMachine(report);
     hidePrivateFolders(report);
     return report;
 }
 
 } // namespace
 
-int runDoctor(const CommandLine& commandLine, const char* version, int& argc, char** argv) {
+int runDoctor(const CommandLine& commandLine, const char* version, Replay* replay, int& argc, char** argv) {
     ignoreBrokenPipes();
     prepareTerminal();
     QCoreApplication application(argc, argv);
     QLocale::setDefault(QLocale::c()); // others than the user read the report
-    Doctor doctor(commandLine.roots, version);
+    Doctor doctor(commandLine.roots, version, replay);
     const DoctorReport report = doctor.examine();
     const bool isJSON = commandLine.format == PrintFormat::json;
     const int status = writeOut(isJSON ? jsonReport(report) : textReport(report, columns())).value_or(0);

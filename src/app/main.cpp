@@ -12,6 +12,7 @@
 #include "menubar/preferences.h"
 #include "platform/appearance.h"
 #include "platform/bluetooth.h"
+#include "platform/capture.h"
 #include "platform/desktop_services.h"
 #include "platform/login_item.h"
 #include "platform/notification_center.h"
@@ -39,11 +40,37 @@ std::string settingsRequest(const CommandLine& commandLine) {
     return message;
 }
 
-int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
+/// Goes on to the next pass of a capture each time; stays at the last.
+class ReplayTimer final : public RepeatingTimer {
+  public:
+    explicit ReplayTimer(Replay& replay) : replay_(replay) {}
+    void schedule(double period, double tolerance, std::function<void()> fire) override {
+        timer_.schedule(period, tolerance, [this, fire = std::move(fire)] {
+            if (replay_.nextPass())
+                fire();
+        });
+    }
+
+  private:
+    Replay& replay_;
+    QtRepeatingTimer timer_;
+};
+
+std::unique_ptr<RepeatingTimer> makeTimer(Replay* replay) {
+    if (replay == nullptr)
+        return std::make_unique<QtRepeatingTimer>();
+    return std::make_unique<ReplayTimer>(*replay);
+}
+
+int runInTerminal(const CommandLine& commandLine, Replay* replay, int& argc, char** argv) {
+    return replay != nullptr ? printReplay(commandLine, *replay, argc, argv) : runInTerminal(commandLine, argc, argv);
+}
+
+int runInStatusArea(const CommandLine& commandLine, Replay* replay, int& argc, char** argv) {
     auto display = prepareDisplay(argc, argv);
     if (!display) {
         std::fprintf(stderr, "vantrix: there is no display to draw on; printing the readings here instead\n");
-        return runInTerminal(commandLine, argc, argv);
+        return runInTerminal(commandLine, replay, argc, argv);
     }
     ignoreBrokenPipes();
     QApplication::setQuitOnLastWindowClosed(false);
@@ -53,13 +80,15 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
     QApplication::setApplicationName(QStringLiteral("vantrix"));
     QApplication::setDesktopFileName(QStringLiteral("vantrix"));
     const auto channel = claimInstance();
+    if (!channel && replay != nullptr)
+        return fail("--replay: Vantrix runs in this session; --quit ends it", 1);
     if (!channel)
         return request("show-popover"); // started twice: the user wants to see the one that runs
     UserDefaults defaults(makeStandardDefaultsStore());
     const auto appearance = makeAppearanceSource();
     AppDelegate delegate(
         {
-            .sources = makeSamplingSources(commandLine.roots),
+            .sources = replay != nullptr ? replay->makeSources() : makeSamplingSources(commandLine.roots),
             .appearance = *appearance,
             .makeStatusItem =
                 [&](StatusItem::Handlers handlers) {
@@ -69,6 +98,7 @@ int runInStatusArea(const CommandLine& commandLine, int& argc, char** argv) {
             .notifications = makeNotificationCenter(),
             .widgets = makeWidgetCenter(),
             .bluetooth = commandLine.watchesThisMachine() ? makeBluetooth() : Bluetooth(),
+            .timer = makeTimer(replay),
         },
         defaults);
     channel->answer = [&](const std::string& message) { return delegate.answerTo(message); };
@@ -90,9 +120,16 @@ int drawScreenshots(const CommandLine& commandLine, int& argc, char** argv) {
 int perform(const CommandLine& commandLine, int& argc, char** argv) {
     using Action = CommandLine::Action;
     if (commandLine.action == Action::run || commandLine.action == Action::print ||
-        commandLine.action == Action::doctor)
+        commandLine.action == Action::doctor || commandLine.action == Action::capture)
         if (const auto root = unreadableRoot(commandLine.roots))
             return fail("cannot read the folder " + *root, usageError);
+    std::unique_ptr<Replay> replay;
+    if (!commandLine.replayFolder.empty()) {
+        auto started = startReplay(commandLine.replayFolder);
+        if (const auto* problem = std::get_if<std::string>(&started))
+            return fail("--replay: " + *problem, usageError);
+        replay = std::move(std::get<std::unique_ptr<Replay>>(started));
+    }
     switch (commandLine.action) {
     case Action::help:
         std::fputs(helpText().c_str(), stdout);
@@ -107,15 +144,17 @@ int perform(const CommandLine& commandLine, int& argc, char** argv) {
     case Action::quit:
         return request("quit");
     case Action::print:
-        return runInTerminal(commandLine, argc, argv);
+        return runInTerminal(commandLine, replay.get(), argc, argv);
     case Action::doctor:
-        return runDoctor(commandLine, VANTRIX_VERSION, argc, argv);
+        return runDoctor(commandLine, VANTRIX_VERSION, replay.get(), argc, argv);
+    case Action::capture:
+        return runCapture(commandLine, argc, argv);
     case Action::exportScreenshots:
         return drawScreenshots(commandLine, argc, argv);
     case Action::run:
         break;
     }
-    return runInStatusArea(commandLine, argc, argv);
+    return runInStatusArea(commandLine, replay.get(), argc, argv);
 }
 
 } // namespace

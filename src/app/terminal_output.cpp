@@ -1,5 +1,8 @@
 #include "app/terminal_output.h"
 
+#include <cstdio>
+#include <thread>
+
 #include <QCoreApplication>
 #include <QTimer>
 
@@ -52,7 +55,72 @@ class LinePrinter {
     long printed_ = 0;
 };
 
+/// Stores nothing.
+class NoStore final : public DefaultsStore {
+  public:
+    QVariant value(const QString&) const override { return {}; }
+    void setValue(const QString&, const QVariant&) override {}
+};
+
+int fail(const std::string& message) {
+    std::fprintf(stderr, "vantrix: %s\n", message.c_str());
+    return 1;
+}
+
+/// A look before the first pass, since loads and rates are differences, then the passes.
+bool takePasses(Capture& capture, long count, double interval) {
+    const UserDefaults defaults(std::make_unique<NoStore>());
+    capture.beginPass();
+    SystemMonitor monitor(capture.makeSources(), defaults, std::make_unique<QtRepeatingTimer>(),
+                          std::make_unique<ImmediateTaskRunner>());
+    monitor.setInterval(interval);
+    monitor.sample();
+    bool isWritten = capture.endPass({});
+    for (long pass = 0; isWritten && pass < count; ++pass) {
+        std::this_thread::sleep_for(std::chrono::duration<double>(interval));
+        capture.beginPass();
+        monitor.sample();
+        isWritten = capture.endPass(jsonLine(monitor.readings(), {}));
+    }
+    return isWritten;
+}
+
 } // namespace
+
+int runCapture(const CommandLine& commandLine, int& argc, char** argv) {
+    constexpr long usualCount = 3;
+    QCoreApplication application(argc, argv);
+    UserDefaults defaults(makeStandardDefaultsStore());
+    registerPreferences(defaults);
+    const double interval = commandLine.interval.value_or(updateInterval(defaults));
+    auto started = startCapture(commandLine.captureFolder, commandLine.roots, interval);
+    if (const auto* problem = std::get_if<std::string>(&started))
+        return fail("--capture: " + *problem);
+    Capture& capture = *std::get<std::unique_ptr<Capture>>(started);
+    if (!takePasses(capture, commandLine.count.value_or(usualCount), interval))
+        return fail("--capture: cannot write into the folder " + commandLine.captureFolder);
+    return writeOut(std::to_string(capture.fileCount()) + " files in " + commandLine.captureFolder +
+                    ": look at its README before you send them\n")
+        .value_or(0);
+}
+
+int printReplay(const CommandLine& commandLine, Replay& replay, int& argc, char** argv) {
+    ignoreBrokenPipes();
+    QCoreApplication application(argc, argv);
+    UserDefaults defaults(std::make_unique<NoStore>());
+    registerPreferences(defaults);
+    SystemMonitor monitor(replay.makeSources(), defaults, std::make_unique<QtRepeatingTimer>(),
+                          std::make_unique<ImmediateTaskRunner>());
+    monitor.setInterval(replay.interval().value_or(updateInterval(defaults)));
+    LinePrinter printer(commandLine, monitor, defaults);
+    monitor.sample();
+    while (replay.nextPass()) {
+        monitor.sample();
+        if (const auto status = printer.print())
+            return *status;
+    }
+    return 0;
+}
 
 int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
     ignoreBrokenPipes();

@@ -1,5 +1,3 @@
-#include "platform/sampling_sources.h"
-
 #include <linux/netlink.h>
 
 #include "linux/disks/proc_diskstats.h"
@@ -20,6 +18,7 @@
 #include "linux/power_supply/power_supply_accessories.h"
 #include "linux/processor/linux_system_information.h"
 #include "linux/processor/proc_stat.h"
+#include "linux/sampling_parts.h"
 #include "linux/sensors/linux_sensor_keys.h"
 #include "linux/sensors/linux_temperatures.h"
 #include "linux/sensors/powercap_energy.h"
@@ -49,18 +48,27 @@ std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRo
 } // namespace
 
 SamplingSources makeSamplingSources(const KernelRoots& roots) {
+    const auto news = std::make_shared<RtnetlinkSubscriber>(); // opens nothing until it is asked
+    return makeSamplingSources(roots, {.makeClock = std::make_unique<LinuxClock>,
+                                       .information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys),
+                                       .network = makeNetworkSource(roots, news),
+                                       .networkInfo = makeNetworkInfoSource(roots, news),
+                                       .volume = std::make_unique<VolumeStatistics>(volumeFolders(roots.proc)),
+                                       .nvidia = makeNvidiaLibrary()});
+}
+
+SamplingSources makeSamplingSources(const KernelRoots& roots, SamplingParts parts) {
     SamplingSources sources;
-    sources.clock = std::make_unique<LinuxClock>();
-    sources.information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys);
+    sources.clock = parts.makeClock();
+    sources.information = std::move(parts.information);
     sources.cpu = std::make_unique<ProcStatSource>(roots.proc);
     sources.memory = std::make_unique<LinuxMemorySource>(roots.proc, roots.sys);
-    const auto news = std::make_shared<RtnetlinkSubscriber>(); // opens nothing until it is asked
-    sources.network = makeNetworkSource(roots, news);
-    sources.networkInfo = makeNetworkInfoSource(roots, news);
+    sources.network = std::move(parts.network);
+    sources.networkInfo = std::move(parts.networkInfo);
     sources.disks = std::make_unique<DiskStatsSource>(roots.proc, roots.sys);
-    sources.volume = std::make_unique<VolumeStatistics>(volumeFolders(roots.proc));
-    auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, std::make_unique<LinuxClock>(), makeNvidiaLibrary());
-    const auto sensorClock = std::make_shared<LinuxClock>();
+    sources.volume = std::move(parts.volume);
+    auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, parts.makeClock(), std::move(parts.nvidia));
+    const std::shared_ptr<const Clock> sensorClock = parts.makeClock();
     sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);
     sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperatures());
     sources.gpu = std::move(gpu);

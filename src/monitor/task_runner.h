@@ -30,4 +30,13 @@ class ThreadTaskRunner final : public TaskRunner {
     std::shared_ptr<Shared> shared_;
 };
 
+/// At once, on the thread that asks: so that what comes of it does not depend on how long it took.
+class ImmediateTaskRunner final : public TaskRunner {
+  public:
+    void run(std::function<void()> work, std::function<void()> done) override {
+        work();
+        done();
+    }
+};
+
 } // namespace vantrix

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <filesystem>
 
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/graphics/gpu_meter.h"
@@ -15,8 +14,8 @@ const std::string name(reading_name::gpu);
 
 /// The driver's name; empty when none is bound. Follows a link, and opens nothing.
 std::string driverOf(const std::string& device) {
-    std::error_code error;
-    return std::filesystem::read_symlink(device + "/driver", error).filename().string();
+    const std::string driver = linkTarget(device + "/driver");
+    return driver.substr(driver.rfind('/') + 1);
 }
 
 SourceDiagnosis asleep(const std::string& device) {

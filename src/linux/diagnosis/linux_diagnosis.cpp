@@ -5,11 +5,15 @@
 
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/graphics/nvidia_library.h"
+#include "linux/kernel/kernel_tree.h"
+#include "linux/kernel/reading_manner.h"
 
 namespace vantrix {
 
 Reach reachOf(const std::string& path) {
-    if (::faccessat(AT_FDCWD, path.c_str(), R_OK, AT_EACCESS) == 0)
+    if (readingManner.watch != nullptr)
+        readingManner.watch->find(path, 0);
+    if (::faccessat(AT_FDCWD, placeOf(path).c_str(), R_OK, AT_EACCESS) == 0)
         return Reach::readable;
     return errno == EACCES || errno == EPERM ? Reach::denied : Reach::missing;
 }

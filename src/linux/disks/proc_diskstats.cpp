@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include <unistd.h>
-
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
 
@@ -11,14 +9,6 @@ namespace vantrix {
 namespace {
 
 constexpr std::uint64_t sectorSize = 512;
-
-/// Where the entry of a disk leads to in the tree of devices; empty when it is no link.
-std::string deviceOf(const std::string& entry) {
-    std::string target(4096, '\0');
-    const ssize_t length = readlink(entry.c_str(), target.data(), target.size());
-    target.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
-    return target;
-}
 
 /// A disk that is reached over several paths has a disk for each, which count the same bytes as it does.
 bool isSumOfPaths(const std::string& device) {
@@ -68,7 +58,7 @@ bool isPhysicalDisk(const std::string& sys, std::string_view name) {
     if (!isEntryName(entryName))
         return false;
     const std::string entry = sys + "/block/" + entryName;
-    return pathExists(entry + "/device") && !isSumOfPaths(deviceOf(entry));
+    return pathExists(entry + "/device") && !isSumOfPaths(linkTarget(entry));
 }
 
 DiskStatsSource::DiskStatsSource(const std::string& proc, std::string sys)

@@ -6,6 +6,8 @@
 #include <thread>
 #include <vector>
 
+#include "linux/kernel/reading_manner.h"
+
 namespace vantrix {
 namespace {
 
@@ -59,6 +61,10 @@ BackgroundThread::~BackgroundThread() {
 }
 
 bool BackgroundThread::run(const std::shared_ptr<Job>& job) {
+    if (readingManner.isRepeatable) {
+        job->perform();
+        return true;
+    }
     if (!queue_)
         queue_ = std::make_shared<Queue>();
     const std::lock_guard lock(queue_->mutex);

@@ -4,7 +4,8 @@
 
 namespace vantrix {
 
-/// A thread that is started for a job, and ends when there was none for a while.
+/// A thread that is started for a job, and ends when there was none for a while. Where reading is to be repeatable,
+/// jobs are performed by whoever runs them.
 class BackgroundThread : public Background {
   public:
     /// Never waits for a job: a driver that hangs must not keep the program from ending. Jobs that have not begun are

@@ -5,6 +5,9 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 
+#include "linux/kernel/kernel_tree.h"
+#include "linux/kernel/reading_manner.h"
+
 namespace vantrix {
 namespace {
 
@@ -25,6 +28,11 @@ KernelFile::KernelFile(std::string path, Kind kind)
     : path_(std::move(path)), kind_(kind), buffer_(kind == Kind::records ? 4 * pageSize : 512) {}
 
 std::optional<std::string_view> KernelFile::read() {
+    const auto text = readText();
+    return readingManner.watch != nullptr ? readingManner.watch->read(path_, text, sizeLimit) : text;
+}
+
+std::optional<std::string_view> KernelFile::readText() {
     if (!file_ && !open())
         return std::nullopt;
     const bool isRead = fill();
@@ -35,7 +43,7 @@ std::optional<std::string_view> KernelFile::read() {
 
 bool KernelFile::open() {
     // Not blocking: a foreign root may hold anything, even a pipe that nobody writes to.
-    file_ = FileDescriptor(::open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+    file_ = FileDescriptor(::open(placeOf(path_).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
     if (!file_)
         return false;
     // The number is the lowest that was free, so it tells how many are open.

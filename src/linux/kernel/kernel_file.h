@@ -27,6 +27,7 @@ class KernelFile {
     std::optional<std::string_view> read();
 
   private:
+    std::optional<std::string_view> readText();
     bool open();
     bool fill();
 

@@ -1,8 +1,15 @@
 #include "linux/kernel/kernel_folder.h"
 
+#include <utility>
+
+#include "linux/kernel/kernel_tree.h"
+#include "linux/kernel/reading_manner.h"
+
 namespace vantrix {
 
 bool KernelFolder::list() {
+    if (readingManner.isRepeatable)
+        return listSorted();
     if (stream_)
         rewinddir(stream_.get());
     else
@@ -19,6 +26,12 @@ bool KernelFolder::list() {
     isChanged |= count != names_.size();
     names_.resize(count);
     return isChanged;
+}
+
+bool KernelFolder::listSorted() {
+    auto names = entriesStartingWith(path_, "");
+    std::erase_if(names, [](const std::string& name) { return name == "." || name == ".."; });
+    return std::exchange(names_, std::move(names)) != names_;
 }
 
 bool KernelFolder::note(std::size_t place, std::string_view name) {

@@ -26,6 +26,7 @@ class KernelFolder {
         void operator()(DIR* stream) const { closedir(stream); }
     };
 
+    bool listSorted();
     bool note(std::size_t place, std::string_view name);
 
     std::string path_;

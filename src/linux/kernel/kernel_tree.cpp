@@ -1,19 +1,23 @@
 #include "linux/kernel/kernel_tree.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <memory>
 
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "linux/kernel/reading_manner.h"
 #include "platform/sampling_sources.h"
 #include "posix/file_descriptor.h"
 
 namespace vantrix {
+namespace {
 
-std::optional<std::string> readStart(const std::string& path, std::size_t limit) {
-    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
+std::optional<std::string> readText(const std::string& path, std::size_t limit) {
+    const FileDescriptor file(::open(placeOf(path).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
     if (!file)
         return std::nullopt;
     std::string text(limit, '\0');
@@ -32,6 +36,20 @@ std::optional<std::string> readStart(const std::string& path, std::size_t limit)
     return text;
 }
 
+} // namespace
+
+std::optional<std::string> readStart(const std::string& path, std::size_t limit) {
+    auto text = readText(path, limit);
+    if (readingManner.watch == nullptr)
+        return text;
+    const auto shown = readingManner.watch->read(path, text, limit);
+    return shown ? std::optional(std::string(shown->substr(0, limit))) : std::nullopt;
+}
+
+const std::string& placeOf(const std::string& path) {
+    return readingManner.watch != nullptr ? readingManner.watch->placeOf(path) : path;
+}
+
 std::string pathBelow(const std::string& folder, std::string_view entry) {
     std::string path = folder;
     path += '/';
@@ -40,12 +58,32 @@ std::string pathBelow(const std::string& folder, std::string_view entry) {
 }
 
 bool pathExists(const std::string& path) {
-    return access(path.c_str(), F_OK) == 0;
+    if (readingManner.watch != nullptr)
+        readingManner.watch->find(path, 0);
+    return access(placeOf(path).c_str(), F_OK) == 0;
 }
 
 std::uint64_t entryNumber(const std::string& path) {
     struct stat status {};
-    return stat(path.c_str(), &status) == 0 ? status.st_ino : 0;
+    const std::uint64_t number = stat(placeOf(path).c_str(), &status) == 0 ? status.st_ino : 0;
+    if (readingManner.watch != nullptr)
+        readingManner.watch->find(path, number);
+    return number;
+}
+
+std::string linkTarget(const std::string& path) {
+    std::string target(4096, '\0');
+    const ssize_t length = readlink(placeOf(path).c_str(), target.data(), target.size());
+    target.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    return readingManner.watch != nullptr ? readingManner.watch->follow(path, target) : target;
+}
+
+std::string resolvedPath(const std::string& path) {
+    if (readingManner.watch != nullptr)
+        return readingManner.watch->resolve(path);
+    std::error_code error;
+    const auto resolved = std::filesystem::canonical(path, error);
+    return error ? path : resolved.string();
 }
 
 bool isEntryName(std::string_view name) {
@@ -55,13 +93,16 @@ bool isEntryName(std::string_view name) {
 
 std::vector<std::string> entriesStartingWith(const std::string& folder, std::string_view prefix) {
     std::vector<std::string> names;
-    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(folder.c_str()), closedir);
-    if (!stream)
-        return names;
-    while (const dirent* entry = readdir(stream.get())) {
-        if (std::string_view(entry->d_name).starts_with(prefix))
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(opendir(placeOf(folder).c_str()), closedir);
+    const bool isWatched = readingManner.watch != nullptr; // what is shown may begin otherwise
+    while (const dirent* entry = stream ? readdir(stream.get()) : nullptr) {
+        if (isWatched || std::string_view(entry->d_name).starts_with(prefix))
             names.emplace_back(entry->d_name);
     }
+    if (isWatched)
+        readingManner.watch->list(folder, prefix, names);
+    if (readingManner.isRepeatable)
+        std::sort(names.begin(), names.end());
     return names;
 }
 

@@ -52,11 +52,17 @@ const WiFiReading& BackgroundWiFi::read(int link) {
     unanswered_ = !isFirst && questions_->isUnderWay ? unanswered_ + 1 : 0;
     questions_->wantedLink = link;
     questions_->isAsked = true;
-    if (!questions_->isUnderWay && !background_.run(questions_)) {
-        current_.fail("no thread for nl80211");
-        return current_;
+    if (!questions_->isUnderWay) {
+        questions_->isUnderWay = true;
+        lock.unlock(); // it may be performed at once
+        const bool isRunning = background_.run(questions_);
+        lock.lock();
+        if (!isRunning) {
+            questions_->isUnderWay = false;
+            current_.fail("no thread for nl80211");
+            return current_;
+        }
     }
-    questions_->isUnderWay = true;
     if (isFirst)
         questions_->answered.wait_for(lock, patience, [&] { return !questions_->isUnderWay; });
     if (questions_->answeredLink == link && unanswered_ < questionsUntilStale)

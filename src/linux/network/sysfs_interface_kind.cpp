@@ -1,9 +1,6 @@
 #include "linux/network/sysfs_interface_kind.h"
 
-#include <array>
-
 #include <net/if_arp.h>
-#include <unistd.h>
 
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/text_scan.h"
@@ -26,9 +23,7 @@ constexpr Sort sorts[] = {
 };
 
 bool isOnUSB(const std::string& folder) {
-    std::array<char, 512> target;
-    const ssize_t length = readlink((folder + "device/subsystem").c_str(), target.data(), target.size());
-    return length > 0 && std::string_view(target.data(), static_cast<std::size_t>(length)).ends_with("/usb");
+    return linkTarget(folder + "device/subsystem").ends_with("/usb");
 }
 
 InterfaceKind kindOfPort(const std::string& folder) {

@@ -1,7 +1,6 @@
 #include "linux/sensors/sensor_files.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include "linux/kernel/kernel_tree.h"
 #include "support/integer.h"
@@ -18,12 +17,6 @@ std::string readName(const std::string& path) {
     text.erase(text.find_last_not_of(' ') + 1);
     text.erase(0, std::min(text.find_first_not_of(' '), text.size()));
     return repairedUTF8(text);
-}
-
-std::string resolvedPath(const std::string& folder) {
-    std::error_code error;
-    const auto path = std::filesystem::canonical(folder, error);
-    return error ? folder : path.string();
 }
 
 FileProbe::FileProbe(const std::string& path, double scale, const std::string& faultPath) : file_(path), scale_(scale) {

@@ -12,10 +12,6 @@ namespace vantrix {
 /// ends, at most 64 bytes. Empty when there is none.
 std::string readName(const std::string& path);
 
-/// `folder` without links. Devices are opened by their own place in the tree, so that a file that is opened anew is
-/// never that of another device which was given the same number.
-std::string resolvedPath(const std::string& folder);
-
 /// The value of one file times `scale`, unless another says that the sensor has a fault.
 class FileProbe : public TimedSensor::Probe {
   public:

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "linux/kernel/kernel_tree.h"
 #include "linux/sensors/hwmon_chips.h"
 #include "linux/sensors/temperature_roles.h"
 

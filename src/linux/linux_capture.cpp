@@ -1,0 +1,138 @@
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include "linux/answered_parts.h"
+#include "linux/capture/tree_recorder.h"
+#include "linux/kernel/linux_clock.h"
+#include "linux/pass_folder.h"
+#include "linux/processor/linux_system_information.h"
+#include "platform/capture.h"
+#include "samplers/processor_description.h"
+
+namespace vantrix {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// What this machine and its user are called.
+std::vector<std::string> ownNames() {
+    std::vector<std::string> names;
+    char host[256] = "";
+    if (::gethostname(host, sizeof host - 1) == 0) {
+        names.emplace_back(host);
+        names.push_back(names.back().substr(0, names.back().find('.')));
+    }
+    if (const passwd* user = ::getpwuid(::getuid())) {
+        names.emplace_back(user->pw_name);
+        std::string person = user->pw_gecos != nullptr ? user->pw_gecos : "";
+        person.resize(std::min(person.find(','), person.size()));
+        names.push_back(person);
+        for (auto blank = person.find(' '); blank != std::string::npos; blank = person.find(' ')) {
+            names.push_back(person.substr(0, blank));
+            person.erase(0, blank + 1);
+        }
+        names.push_back(person);
+    }
+    return names;
+}
+
+class LinuxCapture : public Capture {
+  public:
+    LinuxCapture(std::string folder, const KernelRoots& roots, double interval)
+        : folder_(std::move(folder)), roots_(roots), interval_(interval) {
+        readingManner = {true, &recorder_};
+    }
+    ~LinuxCapture() override { readingManner = {}; }
+
+    SamplingSources makeSources() override {
+        return makeSamplingSources(roots_, makeAnsweredParts(roots_, answers_, clock_, &redaction_));
+    }
+    void beginPass() override;
+    bool endPass(const std::string& record) override;
+    std::size_t fileCount() const override { return files_; }
+
+  private:
+    bool writeReadme() const;
+
+    std::string folder_;
+    KernelRoots roots_;
+    double interval_;
+    Redaction redaction_{ownNames()};
+    TreeRecorder recorder_{roots_, redaction_};
+    std::shared_ptr<Answers> answers_ = std::make_shared<Answers>();
+    PassClock clock_;
+    int passes_ = 0; // that were laid down
+    std::size_t files_ = 0;
+};
+
+void LinuxCapture::beginPass() {
+    const double now = std::round(LinuxClock().uptime() * 1000.0) / 1000.0;
+    clock_.set(now);
+    answers_->clear();
+    answers_->set("clock", now);
+    answers_->set("interval", interval_);
+    recorder_.beginPass();
+}
+
+bool LinuxCapture::endPass(const std::string& record) {
+    if (passes_ == 0) { // what a report of a replay needs
+        diagnoseSources(roots_);
+        const LinuxSystemInformation information(roots_.proc, roots_.sys);
+        const ProcessorDescription processor(information);
+        processor.brand();
+        processor.cores();
+    }
+    const std::string layer = passFolder(folder_, passes_);
+    const auto count = recorder_.layDown(layer);
+    if (!count || !answers_->save(layer + "/answers"))
+        return false;
+    files_ += *count + 1;
+    ++passes_;
+    if (record.empty())
+        return writeReadme();
+    std::ofstream records(folder_ + "/records.json", std::ios::app);
+    records << record << '\n';
+    return static_cast<bool>(records.flush());
+}
+
+bool LinuxCapture::writeReadme() const {
+    std::ofstream file(folder_ + "/README");
+    file
+        << "What Vantrix reads on a machine, and nothing else of it, for people who look for a fault in how it reads.\n"
+           "\n"
+           "proc, sys     the kernel's files as they were read before the first pass\n"
+           "answers       what was learnt otherwise: time, room on the disk, the connection\n"
+           "pass-001 ...  what was other in each pass; the lists \"absent\", \"folders\" and\n"
+           "              \"unreadable\" name what files cannot show\n"
+           "records.json  what came of each pass\n"
+           "\n"
+           "Hardware and network addresses, serial numbers, the names of networks, of this machine and of its user\n"
+           "were replaced, everywhere alike. The models of devices are as they were: please look whether one that\n"
+           "you named yourself bears a name that you would rather not show. They stand in files named model_name,\n"
+           "name and uevent; `grep -r NAME .` finds them.\n"
+           "\n"
+           "To see it again: vantrix --replay DIR --print json\n";
+    return static_cast<bool>(file.flush());
+}
+
+} // namespace
+
+OrProblem<Capture> startCapture(const std::string& folder, const KernelRoots& roots, double interval) {
+    std::error_code error;
+    if (fs::exists(folder, error) && !fs::is_directory(folder, error))
+        return folder + " is no folder";
+    fs::create_directories(folder, error);
+    const bool isEmpty = !error && fs::is_empty(folder, error);
+    if (error)
+        return "cannot write into the folder " + folder;
+    if (!isEmpty)
+        return "the folder " + folder + " is not empty";
+    return std::make_unique<LinuxCapture>(folder, roots, interval);
+}
+
+} // namespace vantrix
