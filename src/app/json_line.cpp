@@ -160,8 +160,11 @@ std::vector<Field> fieldsOf(const Readings& readings) {
 
 std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules) {
     QJsonObject object{{u"interval"_s, readings.interval}};
+    const auto isWanted = [&modules](const std::optional<MenuBarModule>& module) {
+        return !modules || (module && std::find(modules->begin(), modules->end(), *module) != modules->end());
+    };
     for (const auto& [module, key, value] : fieldsOf(readings))
-        if (!modules || (module && std::ranges::find(*modules, *module) != modules->end()))
+        if (isWanted(module))
             object.insert(key, value);
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
 }

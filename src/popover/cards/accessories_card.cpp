@@ -54,7 +54,9 @@ void AccessoriesCard::makeRows(const std::vector<AccessoryBattery>& accessories)
 
 void AccessoriesCard::showReadings(const Readings& readings) {
     const auto& accessories = readings.accessories;
-    if (!std::ranges::equal(accessories, shown_, sameDevice) || rows_.size() != accessories.size())
+    const bool sameDevices =
+        std::equal(accessories.begin(), accessories.end(), shown_.begin(), shown_.end(), sameDevice);
+    if (!sameDevices || rows_.size() != accessories.size())
         makeRows(accessories);
     shown_ = accessories;
     setSubtitle(QString::fromStdString(localizedCount("%lld connected", static_cast<long long>(accessories.size()))));

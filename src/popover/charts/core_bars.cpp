@@ -55,7 +55,7 @@ CoreBars::CoreBars(const Theme& theme, const UserDefaults& defaults) : View(them
 void CoreBars::setValues(std::span<const double> values) {
     if (values.size() != values_.size())
         updateGeometry();
-    if (std::ranges::equal(values, values_))
+    if (std::equal(values.begin(), values.end(), values_.begin(), values_.end()))
         return update(); // the thresholds may have changed
     values_.assign(values.begin(), values.end());
     announceChange();

@@ -75,7 +75,7 @@ Sparkline::Sparkline(const Theme& theme, const QString& name, ColorRole color, c
 
 void Sparkline::setValues(std::span<const double> values, double interval) {
     interval_ = interval;
-    if (std::ranges::equal(values, values_))
+    if (std::equal(values.begin(), values.end(), values_.begin(), values_.end()))
         return;
     values_.assign(values.begin(), values.end());
     tell();
@@ -93,7 +93,7 @@ void Sparkline::setColor(ColorRole color) {
 double Sparkline::top() const {
     if (scale_.maximum)
         return std::max(*scale_.maximum, 0.0);
-    const double largest = values_.empty() ? 0.0 : *std::ranges::max_element(values_);
+    const double largest = values_.empty() ? 0.0 : *std::max_element(values_.begin(), values_.end());
     return std::max({largest, scale_.minimumScale, 0.0});
 }
 
@@ -121,7 +121,7 @@ QString Sparkline::textAt(double x) const {
 QString Sparkline::accessibleText() const {
     if (values_.empty())
         return accessibleName();
-    const auto [least, most] = std::ranges::minmax_element(values_);
+    const auto [least, most] = std::minmax_element(values_.begin(), values_.end());
     const auto written = [this](double value) { return text_(value).toStdString(); };
     const std::string summary = formatted(localized("now %@, lowest %@, highest %@"),
                                           {written(values_.back()), written(*least), written(*most)});
