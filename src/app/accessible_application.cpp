@@ -36,7 +36,7 @@ class ApplicationInterface final : public QAccessibleObject {
     static QWidgetList windows() {
         QWidgetList visible;
         for (QWidget* window : QApplication::topLevelWidgets())
-            if (window->isVisible() && window->windowType() != Qt::Desktop)
+            if (window->isVisible() && !window->inherits("QDesktopWidget"))
                 visible.append(window);
         return visible;
     }

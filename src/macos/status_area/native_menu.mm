@@ -36,7 +36,7 @@ namespace {
 NSString* keyEquivalent(const QKeySequence& shortcut) {
     if (shortcut.isEmpty())
         return @"";
-    return QString(QChar(shortcut[0].key())).toLower().toNSString();
+    return QString(QChar(static_cast<char16_t>(shortcut[0].key()))).toLower().toNSString();
 }
 
 NSMenuItem* makeItem(const StatusMenuEntry& entry) {
