@@ -16,6 +16,10 @@ std::optional<int> AccessoryLevels::main() const {
     return left ? left : right;
 }
 
+std::optional<int> publishedLevel(int percent) {
+    return percent > 0 ? std::optional(percent) : std::nullopt;
+}
+
 void appendAccessory(std::vector<AccessoryReading>& list, AccessoryReading accessory, const AccessoryLevels& levels) {
     if (const auto level = levels.main()) {
         accessory.battery.percent = boundedPercent(*level);

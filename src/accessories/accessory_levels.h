@@ -21,6 +21,10 @@ struct AccessoryLevels {
     std::optional<int> main() const;
 };
 
+/// The level that a value published by a classic Bluetooth device stands for. Absent for 0, which the system publishes
+/// for every part that reported nothing.
+std::optional<int> publishedLevel(int percent);
+
 /// Appends the accessory with its main level and, where its case has one, an entry for that: the name followed by
 /// " case" in the language of the interface. Appends nothing for absent levels; others are brought within 0 to 100.
 void appendAccessory(std::vector<AccessoryReading>& list, AccessoryReading accessory, const AccessoryLevels& levels);

@@ -11,7 +11,7 @@ namespace vantrix {
 /// What one source tells of an accessory's battery, with what tells the accessory from others; that is never shown.
 struct AccessoryReading {
     AccessoryBattery battery;
-    std::string address = {};    ///< the radio's, "AA:BB:CC:DD:EE:FF"; empty when unknown
+    std::string address = {};    ///< the radio's, "AA:BB:CC:DD:EE:FF" or "aa-bb-…"; empty when unknown
     std::string identifier = {}; ///< what else the system knows the accessory by; empty when unknown
     bool isNamed = true;         ///< false when the name only says what kind of thing it is, or repeats its address
     bool isCase = false;         ///< the case that earbuds are carried in

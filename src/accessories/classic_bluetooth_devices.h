@@ -12,7 +12,7 @@ class ClassicBluetoothDevices {
   public:
     struct Device {
         std::string name;    ///< empty when unknown
-        std::string address; ///< "AA:BB:CC:DD:EE:FF"; empty when unknown
+        std::string address; ///< as the system writes it, which a nameless device shows; empty when unknown
         bool isConnected = false;
         int majorClass = 0; ///< of the class of device; 4 is audio and video
         AccessoryLevels levels;

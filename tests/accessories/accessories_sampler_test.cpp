@@ -4,7 +4,6 @@
 
 #include "accessories/accessory_levels.h"
 #include "accessories/bluetooth_uuid.h"
-#include "accessories/classic_device_values.h"
 
 namespace vantrix {
 namespace {
@@ -68,8 +67,7 @@ TEST(AccessoryLevels, MainIsTheSingleThenTheCombinedThenTheLeast) {
         EXPECT_EQ(levels.main(), main);
 }
 
-TEST(ClassicDeviceValues, AreTheAddressAndTheLevelsThatAreMeant) {
-    EXPECT_EQ(addressWithColons("0c-4d-e9-ff-0a-b1"), "0C:4D:E9:FF:0A:B1");
+TEST(AccessoryLevels, ThatAreMeantAreAboveZero) {
     EXPECT_EQ(publishedLevel(0), std::nullopt) << "a part that told nothing";
     EXPECT_EQ(publishedLevel(1), 1);
 }

@@ -102,7 +102,7 @@ TEST_F(BluetoothBatteryReaderTest, ListsClassicDevices) {
     constexpr int peripheral = 5;
     system.classic->devices = {
         {"Buds", "00:01", true, audio, {.left = 40, .right = 30, .box = 90}},
-        {"", "00:02", true, peripheral, {.combined = 120}},
+        {"", "00-0a", true, peripheral, {.combined = 120}},
         {"Travel Mouse", "00:04", true, peripheral, {}},
         {"Far away", "00:05", false, audio, {.single = 50}},
     };
@@ -110,9 +110,9 @@ TEST_F(BluetoothBatteryReaderTest, ListsClassicDevices) {
     EXPECT_THAT(batteriesOf(reader->classic()),
                 ElementsAre(AccessoryBattery{"Buds", 30, false, "headphones"},
                             AccessoryBattery{"Buds case", 90, false, "earbuds.case"},
-                            AccessoryBattery{"00:02", 100, false, "dot.radiowaves.left.and.right"}));
+                            AccessoryBattery{"00-0a", 100, false, "dot.radiowaves.left.and.right"}));
     EXPECT_EQ(reader->diagnostics(),
-              "on, 0 with battery service | classic: Buds 30%, 00:02 100%, Travel Mouse [no value] class 5");
+              "on, 0 with battery service | classic: Buds 30%, 00-0a 100%, Travel Mouse [no value] class 5");
 }
 
 TEST_F(BluetoothBatteryReaderTest, LeavesNothingBehindThatCallsIt) {

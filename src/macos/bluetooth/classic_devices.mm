@@ -1,6 +1,5 @@
 #include "macos/bluetooth/classic_devices.h"
 
-#include "accessories/classic_device_values.h"
 #include "macos/kernel/objc_text.h"
 
 #import <Foundation/Foundation.h>
@@ -20,7 +19,7 @@ std::optional<int> levelOf(IOBluetoothDevice* device, NSString* key) {
 ClassicBluetoothDevices::Device described(IOBluetoothDevice* native) {
     ClassicBluetoothDevices::Device device;
     device.name = textOf(native.name);
-    device.address = addressWithColons(textOf(native.addressString));
+    device.address = textOf(native.addressString);
     device.isConnected = [native isConnected];
     device.majorClass = static_cast<int>(native.deviceClassMajor);
     device.levels.single = levelOf(native, @"batteryPercentSingle");
