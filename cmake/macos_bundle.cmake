@@ -20,9 +20,10 @@ function(vantrix_make_bundle target)
                MACOSX_BUNDLE_GUI_IDENTIFIER ${VANTRIX_BUNDLE_IDENTIFIER}
                MACOSX_BUNDLE_BUNDLE_VERSION ${PROJECT_VERSION}
                MACOSX_BUNDLE_SHORT_VERSION_STRING ${PROJECT_VERSION}
-               # What rewrites the program where it is installed would break its signature.
+               # What rewrites the program where it is installed would break its signature. Of the folders that it is
+               # linked from, only Qt's is there on other machines; Swift's libraries are found by their own names.
                BUILD_WITH_INSTALL_RPATH ON
-               INSTALL_RPATH_USE_LINK_PATH ON)
+               INSTALL_RPATH "${QT6_INSTALL_PREFIX}/${QT6_INSTALL_LIBS}")
 
   add_executable(draw_iconset ${source}/draw_iconset.cpp)
   target_link_libraries(draw_iconset PRIVATE Qt6::Gui Qt6::Svg)
