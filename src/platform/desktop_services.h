@@ -5,12 +5,16 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "support/user_defaults.h"
 
 class QSocketNotifier;
+class QWidget;
 
 namespace vantrix {
+
+struct StatusMenuEntry;
 
 /// To be called first: makes sure that there are standard streams, and asks the system for many open files.
 void prepareProcess();
@@ -35,6 +39,10 @@ void prepareTerminal();
 
 /// Brings the program to the front, on systems where its windows would otherwise open behind those of others.
 void activateProgram();
+
+/// Shows a menu of `entries` below `widget`, drawn by the system, and returns when it has closed. False where the
+/// program has to draw its menus itself.
+bool popUpSystemMenu(const std::vector<StatusMenuEntry>& entries, const QWidget& widget);
 
 /// True when the display blends windows that have an alpha channel with what is behind them. May change at any time.
 bool windowsAreBlended();

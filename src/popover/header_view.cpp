@@ -3,6 +3,7 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/desktop_services.h"
 #include "views/shortcut_menu.h"
 #include "views/symbol_button.h"
 #include "views/symbol_view.h"
@@ -48,7 +49,10 @@ HeaderView::HeaderView(const Theme& theme, const std::string& processor, MenuEnt
 HeaderView::~HeaderView() = default;
 
 void HeaderView::openMenu() {
-    menu_ = makeMenu(menuEntries_());
+    const std::vector<StatusMenuEntry> entries = menuEntries_();
+    if (popUpSystemMenu(entries, *button_))
+        return;
+    menu_ = makeMenu(entries);
     menu_->setPalette(theme().palette());
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
     const QPoint corner = mirrored ? button_->rect().bottomLeft() : button_->rect().bottomRight();

@@ -27,7 +27,7 @@ class HeaderView : public View {
   private:
     MenuEntries menuEntries_;
     SymbolButton* button_;
-    std::unique_ptr<QMenu> menu_; // the one that was shown last
+    std::unique_ptr<QMenu> menu_; // the last one that the program drew itself
 };
 
 } // namespace vantrix

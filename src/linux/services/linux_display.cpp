@@ -105,6 +105,10 @@ bool mouseIsPressed() {
     return connection != nullptr && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && xcbIsMousePressed(connection);
 }
 
+bool popUpSystemMenu(const std::vector<StatusMenuEntry>& /*entries*/, const QWidget& /*widget*/) {
+    return false;
+}
+
 bool windowsCanFade() {
     return xcbConnection() != nullptr && windowsAreBlended();
 }

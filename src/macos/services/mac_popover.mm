@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "macos/services/popover_content.h"
+#include "platform/desktop_services.h"
 #include "platform/popover_window.h"
 #include "platform/status_item.h"
 #include "views/theme.h"
@@ -44,11 +45,11 @@ NS_ASSUME_NONNULL_END
 namespace vantrix {
 namespace {
 
-/// The event number, which a press and its release share; absent when the current event has another type or window.
-std::optional<NSInteger> clickNumber(NSEventType type, NSWindow* window) {
+/// The event number, which a press and its release share, and no other click has; absent when the current event is of
+/// another type.
+std::optional<NSInteger> clickNumber(NSEventType type) {
     NSEvent* event = NSApp.currentEvent;
-    const bool isMeant = event && window && event.type == type && event.window == window;
-    return isMeant ? std::optional<NSInteger>(event.eventNumber) : std::nullopt;
+    return event && event.type == type ? std::optional<NSInteger>(event.eventNumber) : std::nullopt;
 }
 
 /// An NSPopover around the toolkit's view. It closes when the user clicks elsewhere.
@@ -74,7 +75,6 @@ class MacPopover final : public PopoverWindow {
             NSView* button = (__bridge NSView*)reinterpret_cast<void*>(item.nativeView());
             if (!button.window)
                 return; // an error without one
-            itemWindow_ = button.window;
             if (!content_)
                 makeContent();
             NSScreen* screen = button.window.screen ? button.window.screen : NSScreen.mainScreen;
@@ -82,6 +82,7 @@ class MacPopover final : public PopoverWindow {
             popover_.animates = !theme_.reducesMotion();
             popover_.appearance = NSApp.effectiveAppearance; // not the menu bar's, which depends on the wallpaper
             content_->show();
+            activateProgram(); // a click on the item does not, and a popover of an inactive program gets no keys
             [popover_ showRelativeToRect:button.bounds ofView:button preferredEdge:NSRectEdgeMinY];
             [view().window makeKeyWindow];
             [view().window makeFirstResponder:view()];
@@ -100,12 +101,12 @@ class MacPopover final : public PopoverWindow {
         const auto closing = std::exchange(closingClick_, std::nullopt);
         if (isShown())
             close();
-        else if (!closing || closing != clickNumber(NSEventTypeLeftMouseUp, itemWindow_))
+        else if (!closing || closing != clickNumber(NSEventTypeLeftMouseUp))
             show(item);
     }
 
   private:
-    void closing() { closingClick_ = clickNumber(NSEventTypeLeftMouseDown, itemWindow_); }
+    void closing() { closingClick_ = clickNumber(NSEventTypeLeftMouseDown); }
 
     void closed() {
         if (!isShown()) // it may be open again
@@ -142,9 +143,8 @@ class MacPopover final : public PopoverWindow {
     std::unique_ptr<PopoverContent> content_;
     VantrixPopoverDelegate* delegate_;
     NSPopover* popover_;
-    NSView* ground_ = nil; ///< the popover's content; the toolkit's view fills it
-    __weak NSWindow* itemWindow_ = nil;
-    std::optional<NSInteger> closingClick_; ///< the click on the item whose press closed the popover
+    NSView* ground_ = nil;                  ///< the popover's content; the toolkit's view fills it
+    std::optional<NSInteger> closingClick_; ///< the one whose press closed the popover
 };
 
 } // namespace

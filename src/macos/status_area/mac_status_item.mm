@@ -29,14 +29,13 @@ NS_ASSUME_NONNULL_END
 
 - (void)statusItemClicked:(NSView*)button {
     using Button = vantrix::StatusClick::Button;
-    // The latest event, whatever it is: when an assistive program presses the button, it is no click on the button, and
-    // counts as a plain left click.
+    // The latest event, whatever it is: when an assistive program presses the button, it is no click, and counts as a
+    // plain left one. Its window is not always the button's, as the system may show the item in one of its own.
     NSEvent* event = NSApp.currentEvent;
     const bool right = event && event.type == NSEventTypeRightMouseUp;
     const bool left = event && event.type == NSEventTypeLeftMouseUp;
-    const bool onButton = (left || right) && event.window == button.window;
-    const bool control = onButton && (event.modifierFlags & NSEventModifierFlagControl) != 0;
-    _clicked({.button = onButton && right ? Button::right : Button::left, .control = control});
+    const bool control = (left || right) && (event.modifierFlags & NSEventModifierFlagControl) != 0;
+    _clicked({.button = right ? Button::right : Button::left, .control = control});
 }
 
 @end

@@ -1,6 +1,10 @@
 #include "macos/status_area/native_menu.h"
 
+#include <QWidget>
+
 #import <AppKit/AppKit.h>
+
+#include "platform/desktop_services.h"
 
 NS_ASSUME_NONNULL_BEGIN
 
@@ -58,6 +62,20 @@ NSMenu* makeNativeMenu(const std::vector<StatusMenuEntry>& entries) {
     for (const StatusMenuEntry& entry : entries)
         [menu addItem:makeItem(entry)];
     return menu;
+}
+
+/// The toolkit's own pop-up is a window outside the popover, which may close for it before a click has arrived there.
+bool popUpSystemMenu(const std::vector<StatusMenuEntry>& entries, const QWidget& widget) {
+    @autoreleasepool {
+        const QWidget& window = *widget.window();
+        NSView* view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
+        // The toolkit's views count from the top, as it does.
+        const QPointF place = widget.mapTo(&window, QPoint(0, widget.height()));
+        static NSMenu* menu = nil; // until the next one: its chosen action may run after it has closed
+        menu = makeNativeMenu(entries);
+        [menu popUpMenuPositioningItem:nil atLocation:place.toCGPoint() inView:view];
+    }
+    return true;
 }
 
 } // namespace vantrix

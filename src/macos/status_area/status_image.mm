@@ -1,5 +1,6 @@
 #include "macos/status_area/status_image.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 
@@ -23,23 +24,22 @@ MenuBarPalette currentPalette() {
             .red = resolved(NSColor.systemRedColor)};
 }
 
-/// Pixels per point.
-double scaleOf(CGContextRef context) {
-    const CGAffineTransform toDevice = CGContextGetUserSpaceToDeviceSpaceTransform(context);
-    return std::hypot(toDevice.a, toDevice.b);
+/// Pixels per point of the screen that shows the view. The context that is drawn into may be of another scale.
+double scaleOf(NSView* _Nullable view) {
+    NSWindow* window = view.window;
+    const double scale = window ? window.backingScaleFactor : NSScreen.mainScreen.backingScaleFactor;
+    return std::max(scale, 1.0); // without a screen there is none
 }
 
-void draw(CGContextRef context, const QImage& picture, NSRect place) {
+void draw(const QImage& picture, NSRect place) {
     const CFRef<CGImageRef> image(picture.toCGImage());
-    CGContextDrawImage(context, place, image.get());
+    CGContextDrawImage(NSGraphicsContext.currentContext.CGContext, place, image.get());
 }
 
-void drawRow(const StatusContent& content, NSRect place) {
-    CGContextRef context = NSGraphicsContext.currentContext.CGContext;
+void drawRow(const StatusContent& content, NSRect place, double scale) {
     QImage picture;
-    MenuBarRenderer::render(picture, content.items, content.style, content.colorize, currentPalette(),
-                            scaleOf(context));
-    draw(context, picture, place);
+    MenuBarRenderer::render(picture, content.items, content.style, content.colorize, currentPalette(), scale);
+    draw(picture, place);
 }
 
 NSImage* rowImage(const StatusContent& content, NSView* button) {
@@ -55,7 +55,7 @@ NSImage* rowImage(const StatusContent& content, NSView* button) {
                                NSAppearance* appearance =
                                    view ? view.effectiveAppearance : NSAppearance.currentDrawingAppearance;
                                [appearance performAsCurrentDrawingAppearance:^{
-                                 drawRow(*row, place);
+                                 drawRow(*row, place, scaleOf(view));
                                }];
                                return YES;
                              }];
@@ -65,21 +65,21 @@ NSImage* rowImage(const StatusContent& content, NSView* button) {
 }
 
 /// Where the system has no such symbol.
-NSImage* ownGauge() {
+NSImage* ownGauge(NSView* button) {
+    __weak NSView* shownIn = button;
     return [NSImage imageWithSize:NSMakeSize(gaugeSide, gaugeSide)
                           flipped:NO
                    drawingHandler:^BOOL(NSRect place) {
-                     CGContextRef context = NSGraphicsContext.currentContext.CGContext;
-                     const double side = std::round(gaugeSide * scaleOf(context));
-                     draw(context, symbolImage(gaugeName, Qt::black, static_cast<int>(side)), place);
+                     const double side = std::round(gaugeSide * scaleOf(shownIn));
+                     draw(symbolImage(gaugeName, Qt::black, static_cast<int>(side)), place);
                      return YES;
                    }];
 }
 
-NSImage* gauge() {
+NSImage* gauge(NSView* button) {
     NSImage* image = [NSImage imageWithSystemSymbolName:nativeText(gaugeName) accessibilityDescription:nil];
     if (!image)
-        image = ownGauge();
+        image = ownGauge(button);
     image.accessibilityDescription = @"Vantrix";
     [image setTemplate:YES];
     return image;
@@ -88,7 +88,7 @@ NSImage* gauge() {
 } // namespace
 
 NSImage* statusImage(const StatusContent& content, NSView* button) {
-    return content.items.empty() ? gauge() : rowImage(content, button);
+    return content.items.empty() ? gauge(button) : rowImage(content, button);
 }
 
 } // namespace vantrix

@@ -104,7 +104,6 @@ typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagContro
 @interface NSEvent : NSObject <NSCopying>
 @property(readonly) NSEventType type;
 @property(readonly) NSEventModifierFlags modifierFlags;
-@property(nullable, readonly, weak) NSWindow* window;
 @property(readonly) NSInteger eventNumber; // of mouse events alone
 @end
 
@@ -166,10 +165,12 @@ typedef NS_ENUM(NSUInteger, NSCellImagePosition) { NSImageOnly = 1 };
 @property(class, nullable, readonly, strong) NSScreen* mainScreen;
 @property(readonly) NSRect frame;
 @property(readonly) NSRect visibleFrame;
+@property(readonly) CGFloat backingScaleFactor;
 @end
 
 @interface NSWindow : NSResponder <NSAppearanceCustomization>
 @property(nullable, readonly, strong) NSScreen* screen;
+@property(readonly) CGFloat backingScaleFactor;
 - (void)makeKeyWindow;
 - (BOOL)makeFirstResponder:(nullable NSResponder*)responder;
 - (NSRect)convertRectToScreen:(NSRect)rect;
@@ -197,6 +198,7 @@ typedef NSString* NSNibName NS_TYPED_EXTENSIBLE_ENUM;
 @interface NSMenu : NSObject <NSCopying>
 - (instancetype)initWithTitle:(NSString*)title NS_DESIGNATED_INITIALIZER;
 - (void)addItem:(NSMenuItem*)newItem;
+- (BOOL)popUpMenuPositioningItem:(nullable NSMenuItem*)item atLocation:(NSPoint)location inView:(nullable NSView*)view;
 @end
 
 @interface NSStatusBarButton : NSButton

@@ -18,7 +18,3 @@ struct CGRect {
 };
 
 typedef enum CGRectEdge : std::uint32_t { CGRectMinXEdge, CGRectMinYEdge, CGRectMaxXEdge, CGRectMaxYEdge } CGRectEdge;
-
-struct CGAffineTransform {
-    CGFloat a, b, c, d, tx, ty;
-};

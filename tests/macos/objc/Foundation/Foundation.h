@@ -26,6 +26,7 @@ typedef unsigned long NSUInteger;
 #define NS_RETURNS_INNER_POINTER __attribute__((objc_returns_inner_pointer))
 #define NS_NOESCAPE __attribute__((noescape))
 
+typedef CGPoint NSPoint;
 typedef CGSize NSSize;
 typedef CGRect NSRect;
 
