@@ -222,6 +222,10 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Benachrichtigungen sind für Vantrix deaktiviert. Aktiviere sie unter „Systemeinstellungen → Mitteilungen“.</translation>
     </message>
+    <message>
+        <source>This copy of Vantrix is signed without a developer's identity, and macOS shows no notifications of such programs.</source>
+        <translation>Diese Kopie von Vantrix ist ohne Entwickleridentität signiert, und macOS zeigt von solchen Programmen keine Benachrichtigungen an.</translation>
+    </message>
     <!-- A value in a graph: how long ago it was -->
     <message><source>now</source><translation>jetzt</translation></message>
     <message><source>%lld s ago</source><translation>vor %lld Sek.</translation></message>

@@ -231,6 +231,10 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Las notificaciones de Vantrix están desactivadas. Actívalas en Ajustes del Sistema → Notificaciones.</translation>
     </message>
+    <message>
+        <source>This copy of Vantrix is signed without a developer's identity, and macOS shows no notifications of such programs.</source>
+        <translation>Esta copia de Vantrix está firmada sin la identidad de un desarrollador, y macOS no muestra notificaciones de programas así.</translation>
+    </message>
     <!-- A value in a graph: how long ago it was -->
     <message><source>now</source><translation>ahora</translation></message>
     <message><source>%lld s ago</source><translation>hace %lld s</translation></message>

@@ -228,6 +228,10 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Les notifications de Vantrix sont désactivées. Activez-les dans Réglages Système → Notifications.</translation>
     </message>
+    <message>
+        <source>This copy of Vantrix is signed without a developer's identity, and macOS shows no notifications of such programs.</source>
+        <translation>Cette copie de Vantrix est signée sans identité de développeur, et macOS n’affiche pas les notifications de tels programmes.</translation>
+    </message>
     <!-- A value in a graph: how long ago it was -->
     <message><source>now</source><translation>maintenant</translation></message>
     <message><source>%lld s ago</source><translation>il y a %lld s</translation></message>

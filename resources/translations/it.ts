@@ -222,6 +222,10 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Le notifiche di Vantrix sono disattivate. Attivale in Impostazioni di Sistema → Notifiche.</translation>
     </message>
+    <message>
+        <source>This copy of Vantrix is signed without a developer's identity, and macOS shows no notifications of such programs.</source>
+        <translation>Questa copia di Vantrix è firmata senza l'identità di uno sviluppatore, e macOS non mostra le notifiche di programmi simili.</translation>
+    </message>
     <!-- A value in a graph: how long ago it was -->
     <message><source>now</source><translation>adesso</translation></message>
     <message><source>%lld s ago</source><translation>%lld s fa</translation></message>

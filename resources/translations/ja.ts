@@ -204,6 +204,10 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Vantrixの通知はオフになっています。「システム設定」→「通知」でオンにしてください。</translation>
     </message>
+    <message>
+        <source>This copy of Vantrix is signed without a developer's identity, and macOS shows no notifications of such programs.</source>
+        <translation>このVantrixは開発者のIDで署名されていないため、macOSは通知を表示しません。</translation>
+    </message>
     <!-- A value in a graph: how long ago it was -->
     <message><source>now</source><translation>現在</translation></message>
     <message><source>%lld s ago</source><translation>%lld秒前</translation></message>

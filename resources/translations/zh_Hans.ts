@@ -201,6 +201,10 @@
         <source>Notifications are turned off for Vantrix. Enable them in System Settings → Notifications.</source>
         <translation>Vantrix 的通知已关闭。请在“系统设置”→“通知”中打开。</translation>
     </message>
+    <message>
+        <source>This copy of Vantrix is signed without a developer's identity, and macOS shows no notifications of such programs.</source>
+        <translation>此 Vantrix 副本未使用开发者身份签名，macOS 不会显示此类程序的通知。</translation>
+    </message>
     <!-- A value in a graph: how long ago it was -->
     <message><source>now</source><translation>现在</translation></message>
     <message><source>%lld s ago</source><translation>%lld 秒前</translation></message>

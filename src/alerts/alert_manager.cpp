@@ -133,6 +133,9 @@ void AlertManager::sendTest(std::function<void(const QString&)> done) {
     center_.requestAuthorization([manager = QPointer<AlertManager>(this), done = std::move(done)](bool granted) {
         if (!manager)
             return;
+        if (!granted && !manager->center_.canBeAllowed())
+            return done(localizedText("This copy of Vantrix is signed without a developer's identity, and macOS shows "
+                                      "no notifications of such programs."));
         if (!granted)
             return done(localizedText(
                 "Notifications are turned off for Vantrix. Enable them in System Settings → Notifications."));

@@ -27,6 +27,10 @@ class NotificationCenter {
     /// the main thread, and never once the centre is gone.
     virtual void requestAuthorization(std::function<void(bool granted)> answer) = 0;
 
+    /// False where the system would show nothing of this program whatever the user allows, and does not list it among
+    /// those that may be allowed.
+    virtual bool canBeAllowed() const { return true; }
+
     /// Called by systems that leave this to the program. Set once, by the owner; without it nothing is shown then.
     std::function<Presentation()> willPresent;
 };

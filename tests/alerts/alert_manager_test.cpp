@@ -127,7 +127,7 @@ TEST_F(AlertManagerTest, TellsOfWhatHasLastedAndAgainEvery15Minutes) {
 TEST_F(AlertManagerTest, TheTestAsksFirst) {
     QStringList outcomes;
     const auto note = [&](const QString& outcome) { outcomes << outcome; };
-    for (int request = 0; request < 3; ++request)
+    for (int request = 0; request < 4; ++request)
         manager->sendTest(note);
     EXPECT_TRUE(center.posts.empty() && outcomes.empty());
     center.requests[0](true);
@@ -135,10 +135,13 @@ TEST_F(AlertManagerTest, TheTestAsksFirst) {
     EXPECT_EQ(center.posts, (std::vector<Post>{{u"vantrix.test"_s, u"Vantrix"_s, u"Notifications are working."_s}}));
     EXPECT_EQ(outcomes.size(), 2);
     EXPECT_TRUE(outcomes.back().startsWith(u"Notifications are turned off"));
+    center.isSigned = false;
+    center.requests[2](false);
+    EXPECT_TRUE(outcomes.back().startsWith(u"This copy of Vantrix is signed without"));
     manager.reset();
-    center.requests[2](true); // too late
+    center.requests[3](true); // too late
     EXPECT_EQ(center.posts.size(), 1u);
-    EXPECT_EQ(outcomes.size(), 2);
+    EXPECT_EQ(outcomes.size(), 3);
 }
 
 } // namespace

@@ -24,6 +24,9 @@ struct FakeNotificationCenter : NotificationCenter {
     }
     void requestAuthorization(std::function<void(bool)> answer) override { requests.push_back(std::move(answer)); }
 
+    bool canBeAllowed() const override { return isSigned; }
+
+    bool isSigned = true;
     std::vector<Post> posts;
     std::function<void()> onPost;
     std::vector<std::function<void(bool)>> requests;

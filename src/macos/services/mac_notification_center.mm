@@ -3,6 +3,8 @@
 #include <utility>
 #include <vector>
 
+#include "macos/mac_signature.h"
+
 #import <Foundation/Foundation.h>
 #import <UserNotifications/UserNotifications.h>
 #import <dispatch/dispatch.h>
@@ -28,6 +30,7 @@ class MacNotificationCenter final : public NotificationCenter {
 
     void post(const QString& identifier, const QString& title, const QString& body) override;
     void requestAuthorization(std::function<void(bool)> answer) override;
+    bool canBeAllowed() const override { return center_ && isSignedByIdentity(); }
 
     void answerAll(bool granted);
     UNNotificationPresentationOptions presentationOptions() const;

@@ -1,5 +1,10 @@
 #include <CoreGraphics/CoreGraphics.h>
 #import <Foundation/Foundation.h>
+#import <UserNotifications/UserNotifications.h>
+#import <dispatch/dispatch.h>
+
+#include <memory>
+#include <utility>
 
 #include <QObject>
 #include <QTimer>
@@ -7,6 +12,7 @@
 #include "macos/bluetooth/bluetooth_access.h"
 #include "macos/kernel/cf_ref.h"
 #include "macos/mac_application_group.h"
+#include "macos/mac_signature.h"
 #include "platform/diagnosis.h"
 #include "platform/login_item.h"
 
@@ -41,14 +47,21 @@ SourceDiagnosis statusArea() {
     return {"Status area", "NSStatusBar", SourceState::absent, {}, "There is no desktop session to draw in."};
 }
 
-SourceDiagnosis notifications() {
-    if (NSBundle.mainBundle.bundleIdentifier)
-        return {"Notifications", "UNUserNotificationCenter", SourceState::ok, "application bundle", {}};
-    return {"Notifications",
-            "UNUserNotificationCenter",
-            SourceState::absent,
-            {},
-            "Only an application bundle may notify: start Vantrix.app."};
+SourceDiagnosis notifications(SourceState state, std::string value, std::string reason) {
+    return {"Notifications", "UNUserNotificationCenter", state, std::move(value), std::move(reason)};
+}
+
+SourceDiagnosis notifications(UNAuthorizationStatus status) {
+    if (status == UNAuthorizationStatusAuthorized || status == UNAuthorizationStatusProvisional)
+        return notifications(SourceState::ok, "allowed", {});
+    if (!isSignedByIdentity())
+        return notifications(
+            SourceState::denied, {},
+            "The program is signed ad hoc, for this machine alone, and macOS shows no notifications of "
+            "such programs: sign it with an identity.");
+    if (status == UNAuthorizationStatusDenied)
+        return notifications(SourceState::denied, {}, "Allow them in System Settings, Notifications.");
+    return notifications(SourceState::ok, "not asked for yet", "The test notification in the settings asks for them.");
 }
 
 SourceDiagnosis widgetData() {
@@ -62,24 +75,53 @@ SourceDiagnosis loginItem() {
     return {"Login item", "SMAppService", SourceState::ok, makeLoginItem()->isEnabled() ? "on" : "off", {}};
 }
 
-/// The answers come from other processes of the system; this waits for them.
+/// Most answers come from other processes of the system, and this waits for them; that of the notification centre comes
+/// later, on any thread.
 class MacServiceDiagnoses final : public ServiceDiagnoses {
   public:
-    MacServiceDiagnoses() {
-        QTimer::singleShot(0, &context_, [this] {
-            if (finished)
-                finished({bluetooth(), statusArea(), notifications(), widgetData(), loginItem()});
-        });
+    explicit MacServiceDiagnoses(std::chrono::milliseconds patience)
+        : life_(std::make_shared<MacServiceDiagnoses*>(this)) {
+        // Outside a bundle, asking for the centre ends the program.
+        if (!NSBundle.mainBundle.bundleIdentifier)
+            reportLater(
+                std::chrono::milliseconds(0),
+                notifications(SourceState::absent, {}, "Only an application bundle may notify: start Vantrix.app."));
+        else
+            ask(patience);
     }
 
   private:
+    void ask(std::chrono::milliseconds patience) {
+        reportLater(patience, notifications(SourceState::silent, {}, "The notification centre does not answer."));
+        const std::weak_ptr<MacServiceDiagnoses*> life = life_;
+        [[UNUserNotificationCenter currentNotificationCenter]
+            getNotificationSettingsWithCompletionHandler:^(UNNotificationSettings* settings) {
+              const UNAuthorizationStatus status = settings.authorizationStatus;
+              dispatch_async(dispatch_get_main_queue(), ^{
+                if (const auto owner = life.lock())
+                    (*owner)->report(notifications(status));
+              });
+            }];
+    }
+
+    void reportLater(std::chrono::milliseconds time, const SourceDiagnosis& notifications) {
+        QTimer::singleShot(time, &context_, [this, notifications] { report(notifications); });
+    }
+
+    void report(const SourceDiagnosis& notifications) {
+        if (!std::exchange(hasReported_, true) && finished)
+            finished({bluetooth(), statusArea(), notifications, widgetData(), loginItem()});
+    }
+
+    std::shared_ptr<MacServiceDiagnoses*> life_; ///< ends with this
+    bool hasReported_ = false;
     QObject context_;
 };
 
 } // namespace
 
-std::unique_ptr<ServiceDiagnoses> diagnoseServices(std::chrono::milliseconds /*patience*/) {
-    return std::make_unique<MacServiceDiagnoses>();
+std::unique_ptr<ServiceDiagnoses> diagnoseServices(std::chrono::milliseconds patience) {
+    return std::make_unique<MacServiceDiagnoses>(patience);
 }
 
 } // namespace vantrix

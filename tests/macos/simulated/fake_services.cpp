@@ -1,4 +1,5 @@
 #include <IOKit/ps/IOPowerSources.h>
+#include <Security/SecCode.h>
 #include <Security/SecTask.h>
 #include <SystemConfiguration/SystemConfiguration.h>
 
@@ -7,6 +8,7 @@
 
 using namespace vantrix::simulated;
 
+const CFStringRef kSecCodeInfoCertificates = CFSTR("certificates");
 const CFStringRef kSCNetworkInterfaceTypeEthernet = CFSTR("Ethernet");
 const CFStringRef kSCNetworkInterfaceTypeIEEE80211 = CFSTR("IEEE80211");
 
@@ -70,6 +72,18 @@ CFTypeRef SecTaskCopyValueForEntitlement(SecTaskRef task, CFStringRef entitlemen
     object(task, Kind::opaque);
     const bool isThere = text(entitlement) == "com.apple.security.application-groups" && mac().applicationGroups;
     return answer(isThere ? make(*mac().applicationGroups) : nullptr);
+}
+
+OSStatus SecCodeCopySelf(SecCSFlags, SecCodeRef* self) {
+    *self = as<SecCodeRef>(fails() ? nullptr : makeOpaque());
+    return *self ? errSecSuccess : -1;
+}
+
+OSStatus SecCodeCopySigningInformation(SecStaticCodeRef code, SecCSFlags flags, CFDictionaryRef* information) {
+    object(code, Kind::opaque);
+    const bool isAsked = flags == kSecCSSigningInformation;
+    *information = as<CFDictionaryRef>(answer(isAsked && mac().signature ? make(*mac().signature) : nullptr));
+    return *information ? errSecSuccess : -1;
 }
 
 namespace vantrix {

@@ -65,7 +65,8 @@ struct Machine {
     std::optional<List> energy;       ///< channels, from one snapshot to the next; absent: the library is missing
     std::int64_t energySnapshots = 0; ///< taken so far
     std::optional<Value> applicationGroups;
-    Dictionary propertyLists; ///< by the text that holds them
+    std::optional<Dictionary> signature; ///< what is told of it; absent: there is none
+    Dictionary propertyLists;            ///< by the text that holds them
 
     /// Decides over each call that may fail, by name.
     std::function<Outcome(const std::string& call)> judge;

@@ -2,6 +2,7 @@
 
 #include "macos/mac_accessories.h"
 #include "macos/mac_application_group.h"
+#include "macos/mac_signature.h"
 #include "macos/processor/sysctl_information.h"
 #include "macos/simulated/machine.h"
 #include "platform/diagnosis.h"
@@ -19,6 +20,23 @@ TEST(ApplicationGroup, IsTheFirstOfAListOfTexts) {
         Machine machine;
         machine.applicationGroups = entitlement;
         EXPECT_EQ(applicationGroup(), group);
+        EXPECT_EQ(machine.outstanding(), "");
+    }
+}
+
+TEST(Signature, IsSomebodysWhereItHasCertificates) {
+    const std::pair<std::optional<Dictionary>, bool> rows[] = {
+        {std::nullopt, false},
+        {Dictionary{{"flags", 2}}, false}, // ad hoc
+        {Dictionary{{"certificates", List{}}}, false},
+        {Dictionary{{"certificates", List{"of a developer"}}}, true},
+    };
+    for (const auto& [signature, isSomebodys] : rows) {
+        Machine machine;
+        machine.signature = signature;
+        EXPECT_EQ(isSignedByIdentity(), isSomebodys);
+        machine.judge = [](const std::string&) { return Outcome::fails; };
+        EXPECT_FALSE(isSignedByIdentity());
         EXPECT_EQ(machine.outstanding(), "");
     }
 }

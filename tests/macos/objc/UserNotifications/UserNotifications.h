@@ -37,6 +37,18 @@ typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
     UNNotificationPresentationOptionBanner = (1 << 4),
 };
 
+typedef NS_ENUM(NSInteger, UNAuthorizationStatus) {
+    UNAuthorizationStatusNotDetermined = 0,
+    UNAuthorizationStatusDenied,
+    UNAuthorizationStatusAuthorized,
+    UNAuthorizationStatusProvisional,
+};
+
+@interface UNNotificationSettings : NSObject <NSCopying>
+@property(readonly) UNAuthorizationStatus authorizationStatus;
+- (instancetype)init NS_UNAVAILABLE;
+@end
+
 @protocol UNUserNotificationCenterDelegate <NSObject>
 // Optional to the system. Required here, so that a misspelt one is found.
 - (void)userNotificationCenter:(UNUserNotificationCenter*)center
@@ -50,6 +62,7 @@ typedef NS_OPTIONS(NSUInteger, UNNotificationPresentationOptions) {
 - (instancetype)init NS_UNAVAILABLE;
 - (void)requestAuthorizationWithOptions:(UNAuthorizationOptions)options
                       completionHandler:(void (^)(BOOL granted, NSError* _Nullable error))completionHandler;
+- (void)getNotificationSettingsWithCompletionHandler:(void (^)(UNNotificationSettings* settings))completionHandler;
 - (void)addNotificationRequest:(UNNotificationRequest*)request
          withCompletionHandler:(nullable void (^)(NSError* _Nullable error))completionHandler;
 @end
