@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick check-darwin check-debian hosts bench ground-truth format clean
+.PHONY: run build test test-asan check check-quick check-darwin mac-report check-debian hosts bench ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -37,6 +37,10 @@ check-quick:
 # Optional: fetches a cross compiler.
 check-darwin:
 	scripts/check_darwin.sh
+
+# On a Mac: what only a Mac can tell, as one text.
+mac-report:
+	scripts/mac_report.sh
 
 # Builds and tests in fresh systems of Debian 12 and 13; as root.
 check-debian:
