@@ -119,6 +119,18 @@
     <message><source>%@ TB</source><translation>%@ TB</translation></message>
     <message><source>%@ PB</source><translation>%@ PB</translation></message>
     <message><source>%@ EB</source><translation>%@ EB</translation></message>
+    <message><source>%@ KiB</source><translation>%@ KiB</translation></message>
+    <message><source>%@ MiB</source><translation>%@ MiB</translation></message>
+    <message><source>%@ GiB</source><translation>%@ GiB</translation></message>
+    <message><source>%@ TiB</source><translation>%@ TiB</translation></message>
+    <message><source>%@ kb</source><translation>%@ kbit</translation></message>
+    <message><source>%@ Mb</source><translation>%@ Mbit</translation></message>
+    <message><source>%@ Gb</source><translation>%@ Gbit</translation></message>
+    <message><source>%@ Tb</source><translation>%@ Tbit</translation></message>
+    <message numerus="yes">
+        <source>%lld bits</source>
+        <translation><numerusform>%lld Bit</numerusform><numerusform>%lld Bit</numerusform></translation>
+    </message>
     <message><source>%@/s</source><translation>%@/s</translation></message>
     <message><source>%lld dBm · %@</source><translation>%lld dBm · %@</translation></message>
     <message><source>%@ dB</source><translation>%@ dB</translation></message>
@@ -141,6 +153,17 @@
     <message>
         <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
         <translation>Nichts wird orange: Die Warnschwelle liegt nicht unter der kritischen Schwelle.</translation>
+    </message>
+    <message><source>Units</source><translation>Einheiten</translation></message>
+    <message><source>°C</source><translation>°C</translation></message>
+    <message><source>°F</source><translation>°F</translation></message>
+    <message><source>Bytes</source><translation>Byte</translation></message>
+    <message><source>Bits</source><translation>Bit</translation></message>
+    <message><source>GB</source><translation>GB</translation></message>
+    <message><source>GiB</source><translation>GiB</translation></message>
+    <message>
+        <source>Memory is counted in steps of 1024 under either name.</source>
+        <translation>Speicher wird unter beiden Namen in Schritten von 1024 gezählt.</translation>
     </message>
     <message><source>Preview</source><translation>Vorschau</translation></message>
     <message>
@@ -264,6 +287,7 @@
     <message><source>Bond</source><translation>Bündelung</translation></message>
     <message><source>VLAN</source><translation>VLAN</translation></message>
     <message><source>%@°C</source><translation>%@ °C</translation></message>
+    <message><source>%@°F</source><translation>%@ °F</translation></message>
     <message><source>Battery charge</source><translation>Akkuladung</translation></message>
 </context>
 </TS>

@@ -16,5 +16,9 @@
         <source>%lld bytes</source>
         <translation><numerusform>%lld byte</numerusform><numerusform>%lld bytes</numerusform></translation>
     </message>
+    <message numerus="yes">
+        <source>%lld bits</source>
+        <translation><numerusform>%lld bit</numerusform><numerusform>%lld bits</numerusform></translation>
+    </message>
 </context>
 </TS>

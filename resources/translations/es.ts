@@ -122,6 +122,18 @@
     <message><source>%@ TB</source><translation>%@ TB</translation></message>
     <message><source>%@ PB</source><translation>%@ PB</translation></message>
     <message><source>%@ EB</source><translation>%@ EB</translation></message>
+    <message><source>%@ KiB</source><translation>%@ KiB</translation></message>
+    <message><source>%@ MiB</source><translation>%@ MiB</translation></message>
+    <message><source>%@ GiB</source><translation>%@ GiB</translation></message>
+    <message><source>%@ TiB</source><translation>%@ TiB</translation></message>
+    <message><source>%@ kb</source><translation>%@ kb</translation></message>
+    <message><source>%@ Mb</source><translation>%@ Mb</translation></message>
+    <message><source>%@ Gb</source><translation>%@ Gb</translation></message>
+    <message><source>%@ Tb</source><translation>%@ Tb</translation></message>
+    <message numerus="yes">
+        <source>%lld bits</source>
+        <translation><numerusform>%lld bit</numerusform><numerusform>%lld bits</numerusform></translation>
+    </message>
     <message><source>%@/s</source><translation>%@/s</translation></message>
     <message><source>%lld dBm · %@</source><translation>%lld dBm · %@</translation></message>
     <message><source>%@ dB</source><translation>%@ dB</translation></message>
@@ -144,6 +156,17 @@
     <message>
         <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
         <translation>Nada se vuelve naranja: el umbral de advertencia no está por debajo del crítico.</translation>
+    </message>
+    <message><source>Units</source><translation>Unidades</translation></message>
+    <message><source>°C</source><translation>°C</translation></message>
+    <message><source>°F</source><translation>°F</translation></message>
+    <message><source>Bytes</source><translation>Bytes</translation></message>
+    <message><source>Bits</source><translation>Bits</translation></message>
+    <message><source>GB</source><translation>GB</translation></message>
+    <message><source>GiB</source><translation>GiB</translation></message>
+    <message>
+        <source>Memory is counted in steps of 1024 under either name.</source>
+        <translation>La memoria se cuenta en pasos de 1024 con cualquiera de los dos nombres.</translation>
     </message>
     <message><source>Preview</source><translation>Vista previa</translation></message>
     <message>
@@ -273,6 +296,7 @@
     <message><source>Bond</source><translation>Agregación</translation></message>
     <message><source>VLAN</source><translation>VLAN</translation></message>
     <message><source>%@°C</source><translation>%@ °C</translation></message>
+    <message><source>%@°F</source><translation>%@ °F</translation></message>
     <message><source>Battery charge</source><translation>Carga de la batería</translation></message>
 </context>
 </TS>

@@ -119,6 +119,18 @@
     <message><source>%@ TB</source><translation>%@ To</translation></message>
     <message><source>%@ PB</source><translation>%@ Po</translation></message>
     <message><source>%@ EB</source><translation>%@ Eo</translation></message>
+    <message><source>%@ KiB</source><translation>%@ Kio</translation></message>
+    <message><source>%@ MiB</source><translation>%@ Mio</translation></message>
+    <message><source>%@ GiB</source><translation>%@ Gio</translation></message>
+    <message><source>%@ TiB</source><translation>%@ Tio</translation></message>
+    <message><source>%@ kb</source><translation>%@ kbit</translation></message>
+    <message><source>%@ Mb</source><translation>%@ Mbit</translation></message>
+    <message><source>%@ Gb</source><translation>%@ Gbit</translation></message>
+    <message><source>%@ Tb</source><translation>%@ Tbit</translation></message>
+    <message numerus="yes">
+        <source>%lld bits</source>
+        <translation><numerusform>%lld bit</numerusform><numerusform>%lld bits</numerusform></translation>
+    </message>
     <message><source>%@/s</source><translation>%@/s</translation></message>
     <message><source>%lld dBm · %@</source><translation>%lld dBm · %@</translation></message>
     <message><source>%@ dB</source><translation>%@ dB</translation></message>
@@ -141,6 +153,17 @@
     <message>
         <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
         <translation>Rien ne passe à l’orange : le seuil d’avertissement n’est pas inférieur au seuil critique.</translation>
+    </message>
+    <message><source>Units</source><translation>Unités</translation></message>
+    <message><source>°C</source><translation>°C</translation></message>
+    <message><source>°F</source><translation>°F</translation></message>
+    <message><source>Bytes</source><translation>Octets</translation></message>
+    <message><source>Bits</source><translation>Bits</translation></message>
+    <message><source>GB</source><translation>Go</translation></message>
+    <message><source>GiB</source><translation>Gio</translation></message>
+    <message>
+        <source>Memory is counted in steps of 1024 under either name.</source>
+        <translation>La mémoire est comptée par pas de 1024 sous les deux noms.</translation>
     </message>
     <message><source>Preview</source><translation>Aperçu</translation></message>
     <message>
@@ -270,6 +293,7 @@
     <message><source>Bond</source><translation>Agrégat</translation></message>
     <message><source>VLAN</source><translation>VLAN</translation></message>
     <message><source>%@°C</source><translation>%@ °C</translation></message>
+    <message><source>%@°F</source><translation>%@ °F</translation></message>
     <message><source>Battery charge</source><translation>Charge de la batterie</translation></message>
 </context>
 </TS>

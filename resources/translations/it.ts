@@ -122,6 +122,18 @@
     <message><source>%@ TB</source><translation>%@ TB</translation></message>
     <message><source>%@ PB</source><translation>%@ PB</translation></message>
     <message><source>%@ EB</source><translation>%@ EB</translation></message>
+    <message><source>%@ KiB</source><translation>%@ KiB</translation></message>
+    <message><source>%@ MiB</source><translation>%@ MiB</translation></message>
+    <message><source>%@ GiB</source><translation>%@ GiB</translation></message>
+    <message><source>%@ TiB</source><translation>%@ TiB</translation></message>
+    <message><source>%@ kb</source><translation>%@ kb</translation></message>
+    <message><source>%@ Mb</source><translation>%@ Mb</translation></message>
+    <message><source>%@ Gb</source><translation>%@ Gb</translation></message>
+    <message><source>%@ Tb</source><translation>%@ Tb</translation></message>
+    <message numerus="yes">
+        <source>%lld bits</source>
+        <translation><numerusform>%lld bit</numerusform><numerusform>%lld bit</numerusform></translation>
+    </message>
     <message><source>%@/s</source><translation>%@/s</translation></message>
     <message><source>%lld dBm · %@</source><translation>%lld dBm · %@</translation></message>
     <message><source>%@ dB</source><translation>%@ dB</translation></message>
@@ -144,6 +156,17 @@
     <message>
         <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
         <translation>Nulla diventa arancione: la soglia di attenzione non è inferiore a quella critica.</translation>
+    </message>
+    <message><source>Units</source><translation>Unità</translation></message>
+    <message><source>°C</source><translation>°C</translation></message>
+    <message><source>°F</source><translation>°F</translation></message>
+    <message><source>Bytes</source><translation>Byte</translation></message>
+    <message><source>Bits</source><translation>Bit</translation></message>
+    <message><source>GB</source><translation>GB</translation></message>
+    <message><source>GiB</source><translation>GiB</translation></message>
+    <message>
+        <source>Memory is counted in steps of 1024 under either name.</source>
+        <translation>La memoria si conta a passi di 1024 con entrambi i nomi.</translation>
     </message>
     <message><source>Preview</source><translation>Anteprima</translation></message>
     <message><source>Select at least one module</source><translation>Seleziona almeno un modulo</translation></message>
@@ -264,6 +287,7 @@
     <message><source>Bond</source><translation>Aggregazione</translation></message>
     <message><source>VLAN</source><translation>VLAN</translation></message>
     <message><source>%@°C</source><translation>%@ °C</translation></message>
+    <message><source>%@°F</source><translation>%@ °F</translation></message>
     <message><source>Battery charge</source><translation>Carica della batteria</translation></message>
 </context>
 </TS>

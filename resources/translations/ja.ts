@@ -119,6 +119,18 @@
     <message><source>%@ TB</source><translation>%@ TB</translation></message>
     <message><source>%@ PB</source><translation>%@ PB</translation></message>
     <message><source>%@ EB</source><translation>%@ EB</translation></message>
+    <message><source>%@ KiB</source><translation>%@ KiB</translation></message>
+    <message><source>%@ MiB</source><translation>%@ MiB</translation></message>
+    <message><source>%@ GiB</source><translation>%@ GiB</translation></message>
+    <message><source>%@ TiB</source><translation>%@ TiB</translation></message>
+    <message><source>%@ kb</source><translation>%@ kb</translation></message>
+    <message><source>%@ Mb</source><translation>%@ Mb</translation></message>
+    <message><source>%@ Gb</source><translation>%@ Gb</translation></message>
+    <message><source>%@ Tb</source><translation>%@ Tb</translation></message>
+    <message numerus="yes">
+        <source>%lld bits</source>
+        <translation><numerusform>%lldビット</numerusform></translation>
+    </message>
     <message><source>%@/s</source><translation>%@/秒</translation></message>
     <message><source>%lld dBm · %@</source><translation>%lld dBm · %@</translation></message>
     <message><source>%@ dB</source><translation>%@ dB</translation></message>
@@ -141,6 +153,17 @@
     <message>
         <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
         <translation>警告のしきい値が危険のしきい値以上のため、オレンジにはなりません。</translation>
+    </message>
+    <message><source>Units</source><translation>単位</translation></message>
+    <message><source>°C</source><translation>°C</translation></message>
+    <message><source>°F</source><translation>°F</translation></message>
+    <message><source>Bytes</source><translation>バイト</translation></message>
+    <message><source>Bits</source><translation>ビット</translation></message>
+    <message><source>GB</source><translation>GB</translation></message>
+    <message><source>GiB</source><translation>GiB</translation></message>
+    <message>
+        <source>Memory is counted in steps of 1024 under either name.</source>
+        <translation>どちらの表記でもメモリは1024を単位に数えます。</translation>
     </message>
     <message><source>Preview</source><translation>プレビュー</translation></message>
     <message><source>Select at least one module</source><translation>モジュールを1つ以上選択してください</translation></message>
@@ -246,6 +269,7 @@
     <message><source>Bond</source><translation>ボンド</translation></message>
     <message><source>VLAN</source><translation>VLAN</translation></message>
     <message><source>%@°C</source><translation>%@°C</translation></message>
+    <message><source>%@°F</source><translation>%@°F</translation></message>
     <message><source>Battery charge</source><translation>バッテリー残量</translation></message>
 </context>
 </TS>

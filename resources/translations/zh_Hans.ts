@@ -119,6 +119,18 @@
     <message><source>%@ TB</source><translation>%@ TB</translation></message>
     <message><source>%@ PB</source><translation>%@ PB</translation></message>
     <message><source>%@ EB</source><translation>%@ EB</translation></message>
+    <message><source>%@ KiB</source><translation>%@ KiB</translation></message>
+    <message><source>%@ MiB</source><translation>%@ MiB</translation></message>
+    <message><source>%@ GiB</source><translation>%@ GiB</translation></message>
+    <message><source>%@ TiB</source><translation>%@ TiB</translation></message>
+    <message><source>%@ kb</source><translation>%@ kb</translation></message>
+    <message><source>%@ Mb</source><translation>%@ Mb</translation></message>
+    <message><source>%@ Gb</source><translation>%@ Gb</translation></message>
+    <message><source>%@ Tb</source><translation>%@ Tb</translation></message>
+    <message numerus="yes">
+        <source>%lld bits</source>
+        <translation><numerusform>%lld 比特</numerusform></translation>
+    </message>
     <message><source>%@/s</source><translation>%@/秒</translation></message>
     <message><source>%lld dBm · %@</source><translation>%lld dBm · %@</translation></message>
     <message><source>%@ dB</source><translation>%@ dB</translation></message>
@@ -141,6 +153,17 @@
     <message>
         <source>Nothing turns orange: the warning threshold is not below the critical one.</source>
         <translation>警告阈值不低于严重阈值，因此不会显示橙色。</translation>
+    </message>
+    <message><source>Units</source><translation>单位</translation></message>
+    <message><source>°C</source><translation>°C</translation></message>
+    <message><source>°F</source><translation>°F</translation></message>
+    <message><source>Bytes</source><translation>字节</translation></message>
+    <message><source>Bits</source><translation>比特</translation></message>
+    <message><source>GB</source><translation>GB</translation></message>
+    <message><source>GiB</source><translation>GiB</translation></message>
+    <message>
+        <source>Memory is counted in steps of 1024 under either name.</source>
+        <translation>无论使用哪种名称，内存都按 1024 进位。</translation>
     </message>
     <message><source>Preview</source><translation>预览</translation></message>
     <message><source>Select at least one module</source><translation>请至少选择一个模块</translation></message>
@@ -243,6 +266,7 @@
     <message><source>Bond</source><translation>链路聚合</translation></message>
     <message><source>VLAN</source><translation>VLAN</translation></message>
     <message><source>%@°C</source><translation>%@°C</translation></message>
+    <message><source>%@°F</source><translation>%@°F</translation></message>
     <message><source>Battery charge</source><translation>电池电量</translation></message>
 </context>
 </TS>

@@ -30,10 +30,6 @@ QString localizedText(std::string_view english, std::initializer_list<std::strin
     return QString::fromStdString(formatted(localized(english), values));
 }
 
-std::string temperatureText(double celsius) {
-    return formatted(localized("%@°C"), {std::string_view(roundedInteger(celsius))});
-}
-
 } // namespace
 
 AlertManager::AlertManager(NotificationCenter& center, const UserDefaults& defaults, WallClock clock)
@@ -54,7 +50,7 @@ void AlertManager::evaluate(const Readings& readings) {
         sustained += readings.interval;
         if (sustained < duration || !havePassed(cooldown, lastSent_[indexOf(kind)], clock_()))
             continue;
-        const Message message = messageFor(kind, readings);
+        const Message message = messageFor(kind, readings, units(defaults_));
         send(kind, message.title, message.body);
     }
 }
@@ -98,7 +94,7 @@ bool AlertManager::holds(Kind kind, const Readings& readings) const {
     return false;
 }
 
-AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readings) {
+AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readings, const Units& units) {
     switch (kind) {
     case Kind::cpu:
         return {localizedText("High CPU usage"),
@@ -106,8 +102,8 @@ AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readin
     case Kind::memory:
         return {localizedText("Memory is running low"),
                 localizedText("%@ of %@ in use and the system is under memory pressure.",
-                              {memoryText(usedMemory(readings.memory)).toStdString(),
-                               memoryText(readings.memory.total).toStdString()})};
+                              {memoryText(usedMemory(readings.memory), units.memory).toStdString(),
+                               memoryText(readings.memory.total, units.memory).toStdString()})};
     case Kind::disk:
         return {localizedText("Disk almost full"),
                 localizedText("Only %@ free on the startup disk.", {byteText(readings.disk.available).toStdString()})};
@@ -116,7 +112,7 @@ AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readin
                 localizedText("%@ left. Plug in the charger.", {std::to_string(readings.battery->percent) + '%'})};
     case Kind::temperature:
         return {localizedText("CPU is running hot"),
-                localizedText("The CPU temperature is %@.", {temperatureText(*readings.sensors.cpu)})};
+                localizedText("The CPU temperature is %@.", {degreesText(*readings.sensors.cpu, units.temperature)})};
     case Kind::test:
         break;
     }
@@ -139,7 +135,7 @@ void AlertManager::sendTest(std::function<void(const QString&)> done) {
         if (!granted)
             return done(localizedText(
                 "Notifications are turned off for Vantrix. Enable them in System Settings → Notifications."));
-        const Message message = messageFor(Kind::test, {});
+        const Message message = messageFor(Kind::test, {}, {});
         manager->send(Kind::test, message.title, message.body);
         done(localizedText("Test notification sent."));
     });

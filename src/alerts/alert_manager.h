@@ -10,6 +10,7 @@
 
 #include "monitor/readings.h"
 #include "platform/notification_center.h"
+#include "support/units.h"
 #include "support/wall_clock.h"
 
 namespace vantrix {
@@ -51,7 +52,7 @@ class AlertManager : public QObject {
 
     bool holds(Kind kind, const Readings& readings) const;
     bool isWanted(Kind kind) const;
-    static Message messageFor(Kind kind, const Readings& readings);
+    static Message messageFor(Kind kind, const Readings& readings, const Units& units);
 
     NotificationCenter& center_;
     const UserDefaults& defaults_;

@@ -70,7 +70,10 @@ void AppDelegate::createStatusItem() {
     statusItem_ = makeStatusItem_({
         .clicked = [this](const StatusClick& click) { statusItemClicked(click); },
         .menu = [this] { return menuEntries(); },
-        .details = [this](std::optional<MenuBarModule> module) { return statusDetails(monitor_.readings(), module); },
+        .details =
+            [this](std::optional<MenuBarModule> module) {
+                return statusDetails(monitor_.readings(), units(defaults_), module);
+            },
         .menuWillOpen = [this] { popover_->close(); },
     });
 }

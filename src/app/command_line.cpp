@@ -229,6 +229,8 @@ std::string helpText() {
            "\n"
            "  --print FORMAT        no window: one line per pass on standard output, as\n"
            "                        text, json or waybar (that bar's custom module)\n"
+           "                        json is in bytes, bytes per second, °C and W, whatever\n"
+           "                        units the settings choose for the other two\n"
            "  --interval SECONDS    with --print: time between passes, 0.5 to 3600\n"
            "  --count N             with --print: stop after N passes\n"
            "  --modules A,B         with --print: what to show, of cpu, memory, network,\n"

@@ -18,20 +18,20 @@ QString withoutMarkup(QString text) {
     return text.replace(u'<', u'\u2039').replace(u'>', u'\u203a').replace(u'&', u'\uff06').simplified();
 }
 
-QString memoryLine(const Readings& readings) {
+QString memoryLine(const Readings& readings, const Units& units) {
     const MemorySample& memory = readings.memory;
     if (memory.total == 0)
         return {};
-    return line(localizedText("Memory"),
-                memoryText(usedMemory(memory)) + u' ' + localizedText("of %@", memoryText(memory.total)));
+    return line(localizedText("Memory"), memoryText(usedMemory(memory), units.memory) + u' ' +
+                                             localizedText("of %@", memoryText(memory.total, units.memory)));
 }
 
-QString networkLine(const Readings& readings) {
+QString networkLine(const Readings& readings, const Units&) {
     return line(localizedText("Network"),
                 withoutMarkup(QString::fromStdString(readings.networkInfo.ssid.value_or(std::string()))));
 }
 
-QString diskLine(const Readings& readings) {
+QString diskLine(const Readings& readings, const Units&) {
     const DiskSample& disk = readings.disk;
     if (disk.total == 0)
         return {};
@@ -40,18 +40,18 @@ QString diskLine(const Readings& readings) {
     return line(localizedText("Disk"), QString::fromStdString(free));
 }
 
-QString temperatureLine(const Readings& readings) {
+QString temperatureLine(const Readings& readings, const Units& units) {
     const SensorsSample& sensors = readings.sensors;
     const std::pair<std::string_view, std::optional<double>> named[] = {
         {"CPU", sensors.cpu}, {"GPU", sensors.gpu}, {"SoC", sensors.soc}, {"SSD", sensors.ssd}};
     QStringList texts;
     for (const auto& [name, celsius] : named)
         if (celsius)
-            texts += QString::fromStdString(localized(name)) + u' ' + temperatureText(*celsius);
+            texts += QString::fromStdString(localized(name)) + u' ' + temperatureText(*celsius, units.temperature);
     return line(localizedText("Temperature"), texts.join(QStringLiteral(" · ")));
 }
 
-QString powerLine(const Readings& readings) {
+QString powerLine(const Readings& readings, const Units&) {
     const SensorsSample& sensors = readings.sensors;
     if (sensors.systemPower)
         return line(localizedText("System power"), powerText(*sensors.systemPower));
@@ -62,7 +62,7 @@ QString powerLine(const Readings& readings) {
 
 struct Detail {
     MenuBarModule module;
-    QString (*text)(const Readings&);
+    QString (*text)(const Readings&, const Units&);
 };
 
 constexpr Detail details[] = {{MenuBarModule::memory, memoryLine},
@@ -73,11 +73,11 @@ constexpr Detail details[] = {{MenuBarModule::memory, memoryLine},
 
 } // namespace
 
-QString statusDetails(const Readings& readings, std::optional<MenuBarModule> module) {
+QString statusDetails(const Readings& readings, const Units& units, std::optional<MenuBarModule> module) {
     QStringList lines;
     for (const Detail& detail : details)
         if (!module || *module == detail.module)
-            lines += detail.text(readings);
+            lines += detail.text(readings, units);
     lines.removeAll(QString());
     return lines.join(u'\n');
 }

@@ -24,8 +24,8 @@ std::string cpuText(const ProcessStatistics& statistics) {
 std::string memoryTexts(const ProcessStatistics& statistics) {
     if (!statistics.residentBytes || !statistics.ownBytes)
         return "may not be read";
-    return memoryText(*statistics.residentBytes).toStdString() + ", of which " +
-           memoryText(*statistics.ownBytes).toStdString() + " its own";
+    return memoryText(*statistics.residentBytes, MemoryUnit::gb).toStdString() + ", of which " +
+           memoryText(*statistics.ownBytes, MemoryUnit::gb).toStdString() + " its own";
 }
 
 std::string wakeUpsText(const ProcessStatistics& statistics) {

@@ -35,7 +35,8 @@ std::string diskSpaceText(const DiskSample& disk) {
 std::string diskRatesText(const DiskSample& disk) {
     if (!disk.readRate || !disk.writeRate)
         return {};
-    return "read " + compactRate(*disk.readRate) + "/s, write " + compactRate(*disk.writeRate) + "/s";
+    return "read " + compactRate(*disk.readRate, NetworkUnit::bytes) + "/s, write " +
+           compactRate(*disk.writeRate, NetworkUnit::bytes) + "/s";
 }
 
 std::string temperaturesText(const SensorsSample& sensors) {
@@ -73,7 +74,8 @@ std::vector<Finding> readMemory(Samplers& machine) {
     const auto sample = machine.memory.sample();
     if (!sample)
         return {};
-    const QString use = memoryText(usedMemory(*sample)) + QStringLiteral(" of ") + memoryText(sample->total);
+    const QString use = memoryText(usedMemory(*sample), MemoryUnit::gb) + QStringLiteral(" of ") +
+                        memoryText(sample->total, MemoryUnit::gb);
     return {found(use.toStdString()), found(wordOf(sample->pressure))};
 }
 
@@ -81,7 +83,8 @@ std::vector<Finding> readNetwork(Samplers& machine) {
     const auto sample = machine.network.sample();
     if (!sample)
         return {};
-    return {found("in " + compactRate(sample->download) + "/s, out " + compactRate(sample->upload) + "/s")};
+    return {found("in " + compactRate(sample->download, NetworkUnit::bytes) + "/s, out " +
+                  compactRate(sample->upload, NetworkUnit::bytes) + "/s")};
 }
 
 std::vector<Finding> readConnection(Samplers& machine) {

@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "support/units.h"
+
 namespace vantrix {
 
 /// The readings that the status item can show. The declaration order is the default order.
@@ -60,6 +62,21 @@ inline constexpr auto settingsTabs = std::to_array<Choice<SettingsTab>>({
     {SettingsTab::menuBar, "menuBar", "Menu Bar", "menubar.rectangle"},
     {SettingsTab::popover, "popover", "Popover", "rectangle.stack"},
     {SettingsTab::alerts, "alerts", "Alerts", "bell.badge"},
+});
+
+inline constexpr auto temperatureUnits = std::to_array<Choice<TemperatureUnit>>({
+    {TemperatureUnit::celsius, "celsius", "°C", ""},
+    {TemperatureUnit::fahrenheit, "fahrenheit", "°F", ""},
+});
+
+inline constexpr auto networkUnits = std::to_array<Choice<NetworkUnit>>({
+    {NetworkUnit::bytes, "bytes", "Bytes", ""},
+    {NetworkUnit::bits, "bits", "Bits", ""},
+});
+
+inline constexpr auto memoryUnits = std::to_array<Choice<MemoryUnit>>({
+    {MemoryUnit::gb, "gb", "GB", ""},
+    {MemoryUnit::gib, "gib", "GiB", ""},
 });
 
 /// The case whose raw value is exactly `rawValue`, letter case included.

@@ -48,16 +48,18 @@ std::optional<MenuBarItem> memoryItem(const Readings& readings, const UserDefaul
     return percentItem("RAM", usedFraction(readings.memory), severity, readings.memoryHistory);
 }
 
-std::optional<MenuBarItem> networkItem(const Readings& readings, const UserDefaults&) {
+std::optional<MenuBarItem> networkItem(const Readings& readings, const UserDefaults& defaults) {
+    const NetworkUnit unit = units(defaults).network;
     double scale = leastNetworkScale;
     for (double rate : readings.downloadHistory)
         scale = std::max(scale, rate);
-    return MenuBarItem{"NET",
-                       {"↓" + compactRate(readings.network.download), "↑" + compactRate(readings.network.upload)},
-                       MenuBarSeverity::normal,
-                       scaledHistory(readings.downloadHistory, scale),
-                       0.0,
-                       "↓99M"};
+    return MenuBarItem{
+        "NET",
+        {"↓" + compactRate(readings.network.download, unit), "↑" + compactRate(readings.network.upload, unit)},
+        MenuBarSeverity::normal,
+        scaledHistory(readings.downloadHistory, scale),
+        0.0,
+        unit == NetworkUnit::bits ? "↓999Mb" : "↓99M"};
 }
 
 std::optional<MenuBarItem> diskItem(const Readings& readings, const UserDefaults& defaults) {
@@ -74,12 +76,12 @@ std::optional<MenuBarItem> gpuItem(const Readings& readings, const UserDefaults&
     return percentItem("GPU", *readings.gpu, severityOf(*readings.gpu, defaults), readings.gpuHistory);
 }
 
-std::optional<MenuBarItem> temperatureItem(const Readings& readings, const UserDefaults&) {
+std::optional<MenuBarItem> temperatureItem(const Readings& readings, const UserDefaults& defaults) {
     if (!readings.sensors.cpu)
         return std::nullopt;
     const double celsius = *readings.sensors.cpu;
     return MenuBarItem{"TEMP",
-                       {roundedInteger(celsius) + "°"},
+                       {roundedInteger(inUnit(celsius, units(defaults).temperature)) + "°"},
                        reached(celsius, hot, warm),
                        scaledHistory(readings.cpuTemperatureHistory, temperatureScale),
                        std::clamp(celsius / temperatureScale, 0.0, 1.0),

@@ -60,6 +60,9 @@ const std::vector<Preference>& allPreferences() {
         {key::alertTemperature, true},
         {key::alertDuration, 30.0},
         {key::diskAlertThreshold, 0.92},
+        {key::temperatureUnit, text(temperatureUnits.front().rawValue)},
+        {key::networkUnit, text(networkUnits.front().rawValue)},
+        {key::memoryUnit, text(memoryUnits.front().rawValue)},
         {key::settingsTab, text(choiceOf(settingsTabs, SettingsTab::general).rawValue), false},
     };
     return table;
@@ -94,9 +97,25 @@ std::vector<MenuBarModule> enabledMenuBarModules(const UserDefaults& defaults) {
     return modules;
 }
 
+std::string standardText(const QString& key) {
+    for (const Preference& preference : allPreferences())
+        if (preference.key == key)
+            return preference.standard.toString().toStdString();
+    return {};
+}
+
+std::string storedText(const UserDefaults& defaults, const QString& key) {
+    return defaults.string(key).value_or(QString()).toStdString();
+}
+
+Units units(const UserDefaults& defaults) {
+    return {chosen(defaults, preference_key::temperatureUnit, temperatureUnits),
+            chosen(defaults, preference_key::networkUnit, networkUnits),
+            chosen(defaults, preference_key::memoryUnit, memoryUnits)};
+}
+
 MenuBarStyle menuBarStyle(const UserDefaults& defaults) {
-    const QString name = defaults.string(preference_key::menuBarStyle).value_or(QString());
-    return choiceNamed(menuBarStyles, name.toStdString()).value_or(MenuBarStyle::stacked);
+    return chosen(defaults, preference_key::menuBarStyle, menuBarStyles);
 }
 
 double updateInterval(const UserDefaults& defaults) {

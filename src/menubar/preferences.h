@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <set>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -31,6 +33,9 @@ inline const QString alertBattery = QStringLiteral("alertBattery");
 inline const QString alertTemperature = QStringLiteral("alertTemperature");
 inline const QString alertDuration = QStringLiteral("alertDuration");           ///< seconds
 inline const QString diskAlertThreshold = QStringLiteral("diskAlertThreshold"); ///< 0 to 1
+inline const QString temperatureUnit = QStringLiteral("temperatureUnit");
+inline const QString networkUnit = QStringLiteral("networkUnit");
+inline const QString memoryUnit = QStringLiteral("memoryUnit");
 inline const QString settingsTab = QStringLiteral("settingsTab");
 } // namespace preference_key
 
@@ -52,6 +57,22 @@ std::vector<MenuBarModule> moduleOrder(const UserDefaults& defaults);
 
 /// The modules to show, in display order; may be empty.
 std::vector<MenuBarModule> enabledMenuBarModules(const UserDefaults& defaults);
+
+/// The text that stands for `key` until the user chooses.
+std::string standardText(const QString& key);
+/// The stored text; empty where there is none.
+std::string storedText(const UserDefaults& defaults, const QString& key);
+
+/// The stored choice, or the standard one for any text that names none.
+template<typename Case, std::size_t N>
+Case chosen(const UserDefaults& defaults, const QString& key, const std::array<Choice<Case>, N>& choices) {
+    if (const auto named = choiceNamed(choices, storedText(defaults, key)))
+        return *named;
+    return choiceNamed(choices, standardText(key)).value_or(choices.front().value);
+}
+
+/// The units to write values in.
+Units units(const UserDefaults& defaults);
 
 /// `stacked` for any text that names no style.
 MenuBarStyle menuBarStyle(const UserDefaults& defaults);

@@ -4,7 +4,6 @@
 #include <QVBoxLayout>
 
 #include "popover/charts/sparkline.h"
-#include "popover/reading_text.h"
 #include "views/symbol_view.h"
 #include "views/text_label.h"
 
@@ -39,8 +38,9 @@ RateColumn::RateColumn(const Theme& theme, const Style& style)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
-void RateColumn::setRate(double rate, std::span<const double> history, double interval) {
-    rate_->setText(rateText(rate));
+void RateColumn::setRate(double rate, std::span<const double> history, double interval, RateText text) {
+    rate_->setText(text(rate));
+    history_->setText(text);
     history_->setValues(history, interval);
 }
 

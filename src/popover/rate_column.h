@@ -3,6 +3,7 @@
 #include <span>
 #include <string_view>
 
+#include "popover/reading_text.h"
 #include "views/theme_colors.h"
 #include "views/view.h"
 
@@ -26,8 +27,8 @@ class RateColumn : public View {
 
     RateColumn(const Theme& theme, const Style& style);
 
-    /// Bytes per second; the history's are `interval` seconds apart.
-    void setRate(double rate, std::span<const double> history, double interval);
+    /// Bytes per second, written by `text`; the history's are `interval` seconds apart.
+    void setRate(double rate, std::span<const double> history, double interval, RateText text = rateText);
 
     QString accessibleText() const override;
 

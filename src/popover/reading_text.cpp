@@ -10,18 +10,32 @@
 
 namespace vantrix {
 
-QString rateText(double rate) {
+namespace {
+
+/// Without the fraction; negative numbers and NaN are 0.
+std::uint64_t whole(double rate) {
     constexpr auto most = std::numeric_limits<std::uint64_t>::max();
-    std::uint64_t bytes = 0;
     if (rate >= static_cast<double>(most))
-        bytes = most;
-    else if (rate > 0.0)
-        bytes = static_cast<std::uint64_t>(rate);
-    return localizedText("%@/s", byteText(bytes));
+        return most;
+    return rate > 0.0 ? static_cast<std::uint64_t>(rate) : 0;
 }
 
-QString temperatureText(double celsius) {
-    return localizedText("%@°C", QString::fromStdString(roundedInteger(celsius)));
+} // namespace
+
+QString rateText(double rate) {
+    return localizedText("%@/s", byteText(whole(rate)));
+}
+
+QString bitRateText(double rate) {
+    return localizedText("%@/s", bitText(whole(rate * 8.0)));
+}
+
+RateText rateTextIn(NetworkUnit unit) {
+    return unit == NetworkUnit::bits ? bitRateText : rateText;
+}
+
+QString temperatureText(double celsius, TemperatureUnit unit) {
+    return QString::fromStdString(degreesText(celsius, unit));
 }
 
 QString powerText(double watts) {

@@ -9,8 +9,15 @@ namespace vantrix {
 /// Bytes per second, the fraction dropped: "9.4 MB/s". Negative rates and NaN are 0.
 QString rateText(double bytesPerSecond);
 
-/// Whole degrees: "52°C".
-QString temperatureText(double celsius);
+/// The same in bits: "75.2 Mb/s".
+QString bitRateText(double bytesPerSecond);
+
+/// Writes a rate in bytes per second.
+using RateText = QString (*)(double);
+RateText rateTextIn(NetworkUnit unit);
+
+/// Whole degrees: "52°C", "126°F".
+QString temperatureText(double celsius, TemperatureUnit unit);
 
 /// "16.4 W".
 QString powerText(double watts);

@@ -7,6 +7,7 @@
 #include "menubar/preferences.h"
 #include "platform/login_item.h"
 #include "settings/bindings.h"
+#include "settings/choice_control.h"
 #include "settings/controls/picker.h"
 #include "settings/controls/slider.h"
 #include "settings/controls/switch.h"
@@ -50,6 +51,7 @@ GeneralSettings::GeneralSettings(const Theme& theme, UserDefaults& defaults, Log
     : Form(theme), defaults_(defaults), loginItem_(loginItem) {
     addLoginItem();
     addThresholds();
+    addUnits();
 }
 
 void GeneralSettings::addLoginItem() {
@@ -99,6 +101,17 @@ void GeneralSettings::addThreshold(FormSection& section, Slider* slider, const Q
     section.addRow({.caption = caption,
                     .control = withPercent(theme(), slider, defaults_, key, &ThemeColors::label),
                     .mark = new Dot(theme(), color)});
+}
+
+void GeneralSettings::addUnits() {
+    FormSection& section =
+        addSection(localizedText("Units"), {localizedText("Memory is counted in steps of 1024 under either name.")});
+    const auto addRow = [&](const QString& caption, const QString& key, const auto& choices) {
+        section.addRow({.caption = caption, .control = choiceControl(theme(), defaults_, key, caption, choices)});
+    };
+    addRow(localizedText("Temperature"), preference_key::temperatureUnit, temperatureUnits);
+    addRow(localizedText("Network"), preference_key::networkUnit, networkUnits);
+    addRow(localizedText("Memory"), preference_key::memoryUnit, memoryUnits);
 }
 
 void GeneralSettings::readLoginItem() {

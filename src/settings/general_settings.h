@@ -24,6 +24,7 @@ class GeneralSettings : public Form {
     void addThreshold(FormSection& section, Slider* slider, const QString& key, const QString& caption,
                       ColorRole color);
     void addThresholds();
+    void addUnits();
     void readLoginItem();
 
     UserDefaults& defaults_;

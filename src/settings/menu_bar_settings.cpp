@@ -5,8 +5,8 @@
 
 #include "menubar/preferences.h"
 #include "settings/bindings.h"
+#include "settings/choice_control.h"
 #include "settings/controls/drawing.h"
-#include "settings/controls/segmented_control.h"
 #include "settings/controls/switch.h"
 #include "settings/menu_bar_preview.h"
 #include "settings/module_list.h"
@@ -53,16 +53,8 @@ void MenuBarSettings::addPreview(const SystemMonitor& monitor) {
 void MenuBarSettings::addStyle() {
     FormSection& section = addSection(localizedText("Style"));
     const QString name = localizedText("Layout");
-    QStringList titles;
-    for (const auto& style : menuBarStyles)
-        titles.append(localizedText(style.title));
-    auto* layouts = new SegmentedControl(theme(), name, titles);
-    follow(*layouts, defaults_, [this, layouts] { layouts->setCurrent(static_cast<int>(menuBarStyle(defaults_))); });
-    connect(layouts, &SegmentedControl::chosen, this, [this](int index) {
-        defaults_.set(preference_key::menuBarStyle,
-                      QString::fromUtf8(menuBarStyles[static_cast<std::size_t>(index)].rawValue));
-    });
-    section.addRow({.caption = name, .control = layouts});
+    section.addRow({.caption = name,
+                    .control = choiceControl(theme(), defaults_, preference_key::menuBarStyle, name, menuBarStyles)});
 
     const QString colorize = localizedText("Color values above the thresholds");
     auto* control = new Switch(theme(), colorize);

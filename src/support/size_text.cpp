@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <span>
 
 #include <QLocale>
 
@@ -13,25 +14,22 @@ namespace {
 /// The most digits after the point, by unit from kilobytes up.
 constexpr std::array decimals{0, 1, 2, 2, 2, 2};
 
-std::string unitText(std::size_t unit) {
-    switch (unit) {
-    case 0:
-        return localized("%@ KB");
-    case 1:
-        return localized("%@ MB");
-    case 2:
-        return localized("%@ GB");
-    case 3:
-        return localized("%@ TB");
-    case 4:
-        return localized("%@ PB");
-    default:
-        return localized("%@ EB");
-    }
-}
+/// Units of which each is `base` times the one before; the first is `base` times the smallest.
+struct Scale {
+    double base;
+    std::span<const std::string_view> units;
+    bool ofBits = false;
+};
 
-QString withUnit(const QString& value, std::size_t unit) {
-    return QString::fromStdString(formatted(unitText(unit), {value.toStdString()}));
+constexpr std::array bytes{localizedLater("%@ KB"), localizedLater("%@ MB"), localizedLater("%@ GB"),
+                           localizedLater("%@ TB"), localizedLater("%@ PB"), localizedLater("%@ EB")};
+constexpr std::array binaryBytes{localizedLater("%@ KiB"), localizedLater("%@ MiB"), localizedLater("%@ GiB"),
+                                 localizedLater("%@ TiB")};
+constexpr std::array bits{localizedLater("%@ kb"), localizedLater("%@ Mb"), localizedLater("%@ Gb"),
+                          localizedLater("%@ Tb")};
+
+QString withUnit(const QString& value, std::string_view unit) {
+    return QString::fromStdString(formatted(localized(unit), {value.toStdString()}));
 }
 
 /// `value` rounded to `digits` after the point, without trailing zeros.
@@ -46,32 +44,39 @@ QString trimmed(double value, int digits) {
     return locale.toString(value, 'f', digits);
 }
 
-QString sizeText(std::uint64_t bytes, double base) {
-    if (bytes == 0)
-        return withUnit(trimmed(0.0, 0), 0);
-    if (static_cast<double>(bytes) < base)
-        return QString::fromStdString(localizedCount("%lld bytes", static_cast<long long>(bytes)));
-    double value = static_cast<double>(bytes) / base;
+QString sizeText(std::uint64_t size, const Scale& scale) {
+    if (size == 0)
+        return withUnit(trimmed(0.0, 0), scale.units.front());
+    if (static_cast<double>(size) < scale.base)
+        return QString::fromStdString(
+            localizedCount(scale.ofBits ? "%lld bits" : "%lld bytes", static_cast<long long>(size)));
+    double value = static_cast<double>(size) / scale.base;
     std::size_t unit = 0;
     const auto rounded = [&] {
-        const double scale = std::pow(10.0, decimals[unit]);
-        return std::round(value * scale) / scale;
+        const double places = std::pow(10.0, decimals[unit]);
+        return std::round(value * places) / places;
     };
-    while (unit + 1 < decimals.size() && rounded() >= base) { // 999.96 MB reads 1 GB, not 1000 MB
-        value /= base;
+    while (unit + 1 < scale.units.size() && rounded() >= scale.base) { // 999.96 MB reads 1 GB, not 1000 MB
+        value /= scale.base;
         ++unit;
     }
-    return withUnit(trimmed(value, decimals[unit]), unit);
+    return withUnit(trimmed(value, decimals[unit]), scale.units[unit]);
 }
 
 } // namespace
 
-QString byteText(std::uint64_t bytes) {
-    return sizeText(bytes, 1000.0);
+QString byteText(std::uint64_t size) {
+    return sizeText(size, {1000.0, bytes});
 }
 
-QString memoryText(std::uint64_t bytes) {
-    return sizeText(bytes, 1024.0);
+QString memoryText(std::uint64_t size, MemoryUnit unit) {
+    if (unit == MemoryUnit::gib)
+        return sizeText(size, {1024.0, binaryBytes});
+    return sizeText(size, {1024.0, bytes});
+}
+
+QString bitText(std::uint64_t size) {
+    return sizeText(size, {1000.0, bits, true});
 }
 
 } // namespace vantrix

@@ -8,18 +8,25 @@
 #include <utility>
 
 #include "support/checked.h"
+#include "support/localization.h"
 
 namespace vantrix {
 namespace {
 
 /// A stream, because printf follows the process's locale, and a Mac's standard library has std::to_chars for
 /// fractions only from 13.3 on.
-std::string scaled(double value, int decimals, char unit) {
+std::string scaled(double value, int decimals, std::string_view unit) {
     std::ostringstream text;
     text.imbue(std::locale::classic());
     text << std::fixed << std::setprecision(decimals) << value << unit;
     return std::move(text).str();
 }
+
+struct RateUnits {
+    std::string_view kilo;
+    std::string_view mega;
+    std::string_view giga;
+};
 
 long long rounded(double value) {
     constexpr double most = 9.2e18; // what fits into 64 bits
@@ -52,16 +59,25 @@ LoadTexts loadTexts(double total, double user, double system) {
     return {wholePercent(ofUser), wholePercent(shown - ofUser), wholePercent(100 - shown)};
 }
 
-std::string compactRate(double rate) {
+std::string compactRate(double bytesPerSecond, NetworkUnit unit) {
+    const bool inBits = unit == NetworkUnit::bits;
+    const RateUnits units = inBits ? RateUnits{"kb", "Mb", "Gb"} : RateUnits{"K", "M", "G"};
+    const double rate = inBits ? bytesPerSecond * 8.0 : bytesPerSecond;
     if (!(rate >= 1e3))
-        return "0K";
+        return scaled(0.0, 0, units.kilo);
     if (rate < 1e6)
-        return scaled(rate / 1e3, 0, 'K');
+        return scaled(rate / 1e3, 0, units.kilo);
     if (rate < 1e7)
-        return scaled(rate / 1e6, 1, 'M');
+        return scaled(rate / 1e6, 1, units.mega);
     if (rate < 1e9)
-        return scaled(rate / 1e6, 0, 'M');
-    return scaled(rate / 1e9, 1, 'G');
+        return scaled(rate / 1e6, 0, units.mega);
+    return scaled(rate / 1e9, 1, units.giga);
+}
+
+std::string degreesText(double celsius, TemperatureUnit unit) {
+    const std::string degrees = roundedInteger(inUnit(celsius, unit));
+    const bool inCelsius = unit == TemperatureUnit::celsius;
+    return formatted(localized(inCelsius ? "%@°C" : "%@°F"), {std::string_view(degrees)});
 }
 
 void appendToList(std::string& list, std::string_view entry) {

@@ -3,6 +3,8 @@
 #include <string>
 #include <string_view>
 
+#include "support/units.h"
+
 namespace vantrix {
 
 /// `fraction` × 100, rounded half away from zero, then "%". A value that is not finite is a fault.
@@ -20,8 +22,12 @@ struct LoadTexts {
 LoadTexts loadTexts(double total, double user, double system);
 
 /// `bytesPerSecond` in decimal units without a space or "/s": "0K", "12K", "1.5M", "25M", "2.0G". Negative rates and
-/// NaN are "0K". The unit is chosen by the rate itself, so 999,500 gives "1000K".
-std::string compactRate(double bytesPerSecond);
+/// NaN are "0K". The unit is chosen by the rate itself, so 999,500 gives "1000K". In bits, which are eight times as
+/// many: "0kb", "12kb", "1.5Mb", "2.0Gb".
+std::string compactRate(double bytesPerSecond, NetworkUnit unit);
+
+/// Whole degrees with their sign, localised: "52°C", "126°F".
+std::string degreesText(double celsius, TemperatureUnit unit);
 
 /// `value` rounded half away from zero, as an integer. A value that is not finite is a fault.
 std::string roundedInteger(double value);

@@ -154,6 +154,9 @@ TEST(TranslatedTexts, NameEveryChoice) {
     expectTitles(menuBarStyles);
     expectTitles(popoverCards);
     expectTitles(settingsTabs);
+    expectTitles(temperatureUnits);
+    expectTitles(networkUnits);
+    expectTitles(memoryUnits);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "fakes/fake_defaults.h"
+#include "menubar/menu_bar_renderer.h"
 #include "monitor/readings.h"
 
 namespace vantrix {
@@ -84,6 +85,25 @@ TEST_F(MenuBarItemTest, NetworkScalesItsHistoryByItsPeakButNotBelowTheFloor) {
     EXPECT_THAT(item(MenuBarModule::network).history, ElementsAre(0.25, 0.5));
     readings.downloadHistory = {100'000, 400'000};
     EXPECT_THAT(item(MenuBarModule::network).history, ElementsAre(0.25, 1.0));
+}
+
+TEST_F(MenuBarItemTest, UnitsChangeTheTextsAndNothingElse) {
+    readings = demoReadings();
+    readings.network = {300'000, 15'000};
+    readings.sensors.cpu = 79.9;
+    defaults.set(preference_key::networkUnit, QStringLiteral("bits"));
+    defaults.set(preference_key::temperatureUnit, QStringLiteral("fahrenheit"));
+    EXPECT_EQ(itemText(item(MenuBarModule::network)), "NET ↓2.4Mb ↑120kb");
+    const MenuBarItem warm = item(MenuBarModule::temperature);
+    EXPECT_EQ(itemText(warm), "TEMP 176°");
+    EXPECT_EQ(warm.severity, normal);
+    EXPECT_DOUBLE_EQ(warm.fraction, 79.9 / 110);
+    const auto width = [this](double rate) {
+        readings.network = {rate, rate};
+        return MenuBarRenderer::layout(item(MenuBarModule::network), MenuBarStyle::stacked).total;
+    };
+    for (const double rate : {12e3, 1.2e6, 12e6, 124e6, 1.2e9}) // up to 999 Mb/s, and Gb/s
+        EXPECT_EQ(width(rate), width(0.0)) << rate;
 }
 
 TEST_F(MenuBarItemTest, ModulesWithoutDataLeaveNoGap) {

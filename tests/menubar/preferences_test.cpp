@@ -10,6 +10,7 @@ namespace {
 using enum MenuBarModule;
 using Modules = std::vector<MenuBarModule>;
 using fakes::FakeDefaults;
+using namespace Qt::StringLiterals;
 namespace key = preference_key;
 
 QString text(const char* value) {
@@ -56,6 +57,19 @@ TEST(Preferences, EnabledModules) {
             user.set(key::menuBarEnabled, text(row.enabled));
         EXPECT_EQ(enabledMenuBarModules(user), row.modules) << row.name;
     }
+}
+
+TEST(Preferences, AChoiceOfAnUnknownNameIsTheStandardOne) {
+    FakeDefaults user;
+    for (const QString& key : {key::temperatureUnit, key::networkUnit, key::memoryUnit})
+        user.set(key, u"Kelvin"_s);
+    EXPECT_EQ(units(user), Units());
+    user.set(key::menuBarStyle, u"Graph"_s);
+    EXPECT_EQ(menuBarStyle(user), MenuBarStyle::stacked) << "not the first of its table";
+    user.set(key::temperatureUnit, u"fahrenheit"_s);
+    user.set(key::networkUnit, u"bits"_s);
+    user.set(key::memoryUnit, u"gib"_s);
+    EXPECT_EQ(units(user), (Units{TemperatureUnit::fahrenheit, NetworkUnit::bits, MemoryUnit::gib}));
 }
 
 } // namespace

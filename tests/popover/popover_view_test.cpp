@@ -120,6 +120,21 @@ TEST_F(PopoverViewTest, FollowsTheMonitorOnlyWhileItIsOpen) {
     EXPECT_THAT(textsOf(*closed), Contains("User: 25%"));
 }
 
+TEST_F(PopoverViewTest, ChangesItsUnitsWhileItIsOpen) {
+    const auto view = makeView();
+    view->show();
+    monitor.loadDemo();
+    settle();
+    EXPECT_THAT(textsOf(*view), AllOf(Contains("App: 6.25 GB"), Contains("2.4 MB/s"), Contains("SoC: 45°C")));
+    defaults.set(preference_key::temperatureUnit, u"fahrenheit"_s);
+    defaults.set(preference_key::networkUnit, u"bits"_s);
+    defaults.set(preference_key::memoryUnit, u"gib"_s);
+    settle();
+    EXPECT_THAT(textsOf(*view), AllOf(Contains("App: 6.25 GiB"), Contains("19.2 Mb/s"), Contains("SoC: 113°F"),
+                                      Contains("Temperature: 88°F"), Contains("31 MB/s"), // a disk's stay in bytes
+                                      Contains(StartsWith("Download history: now 20"))));
+}
+
 TEST_F(PopoverViewTest, KeysScrollItWithoutAFocusOfItsOwn) {
     monitor.loadDemo();
     const auto view = makeView();

@@ -36,13 +36,19 @@ TEST(ReadingText, RatesDropFractionsAndNeverGoBelowZero) {
                                                     {std::nan(""), "0 KB/s"}, {infinity, "18.45 EB/s"}};
     for (const auto& [rate, text] : cases)
         EXPECT_EQ(rateText(rate).toStdString(), text) << rate;
+    const std::pair<double, const char*> inBits[] = {
+        {300'000.0, "2.4 Mb/s"}, {64.2, "513 bits/s"}, {-5.0, "0 kb/s"}, {1.25e8, "1 Gb/s"}};
+    for (const auto& [rate, text] : inBits)
+        EXPECT_EQ(rateTextIn(NetworkUnit::bits)(rate).toStdString(), text) << rate;
 }
 
 TEST(ReadingText, WritesTheDecimalSignOfTheRegion) {
     const QLocale before;
     QLocale::setDefault(QLocale(QLocale::Italian, QLocale::Italy));
     EXPECT_EQ(byteText(9'400'000), QStringLiteral("9,4 MB"));
-    EXPECT_EQ(memoryText(std::uint64_t{1000} << 20), QStringLiteral("1000 MB")); // no grouping
+    EXPECT_EQ(memoryText(std::uint64_t{1000} << 20, MemoryUnit::gb), QStringLiteral("1000 MB")); // no grouping
+    EXPECT_EQ(memoryText(std::uint64_t{5} << 29, MemoryUnit::gib), QStringLiteral("2,5 GiB"));
+    EXPECT_EQ(memoryText(std::uint64_t{3} << 50, MemoryUnit::gib), QStringLiteral("3072 TiB")); // the largest unit
     QLocale::setDefault(before);
 }
 

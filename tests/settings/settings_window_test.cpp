@@ -1,8 +1,11 @@
 #include "settings/settings_window.h"
 
+#include <QRadioButton>
+
 #include "posix/spin_until.h"
 #include "settings/controls/picker.h"
 #include "settings/controls/push_button.h"
+#include "settings/controls/segmented_control.h"
 #include "settings/controls/slider.h"
 #include "settings/controls/switch.h"
 #include "settings/form_row.h"
@@ -106,6 +109,16 @@ TEST_F(SettingsWindowTest, SwitchesFollowAndStore) {
         store(key, before);
         EXPECT_EQ(control.isChecked(), before) << name;
     }
+}
+
+TEST_F(SettingsWindowTest, SegmentsFollowAndStore) {
+    show(SettingsTab::general);
+    store(preference_key::temperatureUnit, QStringLiteral("Kelvin"));
+    EXPECT_EQ(control<SegmentedControl>("Temperature").current(), 0) << "what has no such name is the standard";
+    control<QRadioButton>("°F").click();
+    EXPECT_EQ(stored(preference_key::temperatureUnit), u"fahrenheit");
+    store(preference_key::memoryUnit, QStringLiteral("gib"));
+    EXPECT_TRUE(control<QRadioButton>("GiB").isChecked());
 }
 
 TEST_F(SettingsWindowTest, WhatASwitchedOffMasterLeavesWithoutEffectIsOffAndDisabled) {

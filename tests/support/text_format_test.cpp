@@ -39,8 +39,10 @@ TEST(CompactRate, ChoosesUnitByTheRateItself) {
         {1.15e9, "1.1G"}, {12.34e9, "12.3G"},     {std::nan(""), "0K"},
     };
     for (const auto& [rate, text] : rows)
-        EXPECT_EQ(compactRate(rate), text) << rate;
-    EXPECT_EQ(compactRate(infinity), "infG");
+        EXPECT_EQ(compactRate(rate, NetworkUnit::bytes), text) << rate;
+    EXPECT_EQ(compactRate(infinity, NetworkUnit::bytes), "infG");
+    for (const auto& [rate, text] : {std::pair(124.9, "0kb"), {125.0, "1kb"}, {3e5, "2.4Mb"}, {1.5e9, "12.0Gb"}})
+        EXPECT_EQ(compactRate(rate, NetworkUnit::bits), text) << rate;
 }
 
 TEST(RoundedIntegerDeathTest, RejectsWhatIsNoFiniteNumber) {

@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "menubar/preferences.h"
 #include "monitor/readings.h"
 #include "popover/cards/row_column.h"
 #include "popover/charts/segmented_bar.h"
@@ -47,8 +48,8 @@ QString durationText(int minutes) {
 } // namespace
 
 BatteryCard::BatteryCard(const CardContext& context)
-    : Card(context.theme, localizedText("Battery"), "battery.75percent"), charge_(new Headline(context.theme)),
-      bar_(new SegmentedBar(context.theme, localizedText("Battery charge"))),
+    : Card(context.theme, localizedText("Battery"), "battery.75percent"), defaults_(context.defaults),
+      charge_(new Headline(context.theme)), bar_(new SegmentedBar(context.theme, localizedText("Battery charge"))),
       time_(new TextLabel(context.theme, {.points = 12.0, .color = &ThemeColors::secondary, .wraps = true})),
       capacity_(new StatRow(context.theme, localizedText("Maximum capacity"))),
       cycles_(new StatRow(context.theme, localizedText("Cycle count"))),
@@ -80,7 +81,9 @@ void BatteryCard::showBattery(const BatterySample& battery) {
     }
     capacity_->showIfKnown(battery.healthPercent, [](int percent) { return percentText(percent / 100.0); });
     cycles_->showIfKnown(battery.cycleCount, [](int cycles) { return QString::number(cycles); });
-    temperature_->showIfKnown(battery.temperature, temperatureText);
+    temperature_->showIfKnown(battery.temperature, [unit = units(defaults_).temperature](double celsius) {
+        return temperatureText(celsius, unit);
+    });
     power_->setLabel(battery.isCharging ? localizedText("Charging power") : localizedText("Discharge power"));
     power_->showIfKnown(battery.watts, powerText);
 }

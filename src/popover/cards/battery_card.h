@@ -19,6 +19,7 @@ class BatteryCard : public Card {
   private:
     void showBattery(const BatterySample& battery);
 
+    const UserDefaults& defaults_;
     Headline* charge_;
     SegmentedBar* bar_;
     TextLabel* time_;

@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "menubar/preferences.h"
 #include "monitor/readings.h"
 #include "popover/cards/row_column.h"
 #include "popover/charts/segmented_bar.h"
@@ -35,8 +36,8 @@ ColorRole colorOf(MemorySample::Pressure pressure) {
 } // namespace
 
 MemoryCard::MemoryCard(const CardContext& context)
-    : Card(context.theme, localizedText("Memory"), "memorychip"), used_(new Headline(context.theme)),
-      shares_(new SegmentedBar(context.theme, localizedText("Memory in use"))),
+    : Card(context.theme, localizedText("Memory"), "memorychip"), defaults_(context.defaults),
+      used_(new Headline(context.theme)), shares_(new SegmentedBar(context.theme, localizedText("Memory in use"))),
       app_(new StatRow(context.theme, localizedText("App"), StatRow::Lead::mark(&ThemeColors::accent))),
       wired_(new StatRow(context.theme, localizedText("Wired"), StatRow::Lead::mark(&ThemeColors::orange))),
       compressed_(new StatRow(context.theme, localizedText("Compressed"), StatRow::Lead::mark(&ThemeColors::purple))),
@@ -50,16 +51,16 @@ MemoryCard::MemoryCard(const CardContext& context)
 
 void MemoryCard::showReadings(const Readings& readings) {
     const MemorySample& memory = readings.memory;
-    used_->setText(memoryText(usedMemory(memory)),
-                   QStringLiteral("%@ ") + localizedText("of %@", memoryText(memory.total)));
+    const auto text = [unit = units(defaults_).memory](std::uint64_t bytes) { return memoryText(bytes, unit); };
+    used_->setText(text(usedMemory(memory)), QStringLiteral("%@ ") + localizedText("of %@", text(memory.total)));
     used_->setColor(colorOf(memory.pressure));
     shares_->setSegments({{0, fractionOf(memory.app, memory.total), &ThemeColors::accent},
                           {1, fractionOf(memory.wired, memory.total), &ThemeColors::orange},
                           {2, fractionOf(memory.compressed, memory.total), &ThemeColors::purple}});
-    app_->setValue(memoryText(memory.app));
-    wired_->setValue(memoryText(memory.wired));
-    compressed_->setValue(memoryText(memory.compressed));
-    swap_->setValue(memoryText(memory.swapUsed));
+    app_->setValue(text(memory.app));
+    wired_->setValue(text(memory.wired));
+    compressed_->setValue(text(memory.compressed));
+    swap_->setValue(text(memory.swapUsed));
     pressure_->setText(pressureLine(memory.pressure));
 }
 

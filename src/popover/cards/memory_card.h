@@ -16,6 +16,7 @@ class MemoryCard : public Card {
     void showReadings(const Readings& readings) override;
 
   private:
+    const UserDefaults& defaults_;
     Headline* used_;
     SegmentedBar* shares_;
     StatRow* app_;

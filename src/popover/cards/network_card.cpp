@@ -4,6 +4,7 @@
 
 #include <QVBoxLayout>
 
+#include "menubar/preferences.h"
 #include "monitor/readings.h"
 #include "popover/cards/row_column.h"
 #include "popover/charts/stat_row.h"
@@ -72,7 +73,7 @@ std::optional<QString> shown(const std::optional<std::string>& text) {
 } // namespace
 
 NetworkCard::NetworkCard(const CardContext& context)
-    : Card(context.theme, localizedText("Network"), "network"),
+    : Card(context.theme, localizedText("Network"), "network"), defaults_(context.defaults),
       download_(new RateColumn(context.theme, {localizedText("Download"), localizedText("Download history"),
                                                "arrow.down", &ThemeColors::accent, leastScale})),
       upload_(new RateColumn(context.theme, {localizedText("Upload"), localizedText("Upload history"), "arrow.up",
@@ -94,8 +95,9 @@ NetworkCard::NetworkCard(const CardContext& context)
 
 void NetworkCard::showReadings(const Readings& readings) {
     setSymbol(symbolOf(readings.networkInfo.kind));
-    download_->setRate(readings.network.download, readings.downloadHistory, readings.interval);
-    upload_->setRate(readings.network.upload, readings.uploadHistory, readings.interval);
+    const RateText text = rateTextIn(units(defaults_).network);
+    download_->setRate(readings.network.download, readings.downloadHistory, readings.interval, text);
+    upload_->setRate(readings.network.upload, readings.uploadHistory, readings.interval, text);
     showConnection(readings.networkInfo);
 }
 

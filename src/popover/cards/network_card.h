@@ -18,6 +18,7 @@ class NetworkCard : public Card {
   private:
     void showConnection(const NetworkInfo& info);
 
+    const UserDefaults& defaults_;
     RateColumn* download_;
     RateColumn* upload_;
     QWidget* connection_;

@@ -2,6 +2,7 @@
 
 #include <QVBoxLayout>
 
+#include "menubar/preferences.h"
 #include "monitor/readings.h"
 #include "popover/cards/row_column.h"
 #include "popover/charts/stat_row.h"
@@ -29,17 +30,17 @@ void showHeat(StatRow* row, double temperature) {
     row->setValueColor(heat == &ThemeColors::green ? nullptr : heat);
 }
 
-void showTemperature(StatRow* row, const std::optional<double>& temperature) {
-    row->showIfKnown(temperature, temperatureText);
+void showTemperature(StatRow* row, const std::optional<double>& temperature, TemperatureUnit unit) {
+    row->showIfKnown(temperature, [unit](double celsius) { return temperatureText(celsius, unit); });
     if (temperature)
         showHeat(row, *temperature);
 }
 
-QString cpuText(const SensorsSample& sensors) {
-    QString mean = temperatureText(*sensors.cpu);
+QString cpuText(const SensorsSample& sensors, TemperatureUnit unit) {
+    QString mean = temperatureText(*sensors.cpu, unit);
     if (!sensors.cpuHottest)
         return mean;
-    return mean + QStringLiteral(" · ") + localizedText("max %@", temperatureText(*sensors.cpuHottest));
+    return mean + QStringLiteral(" · ") + localizedText("max %@", temperatureText(*sensors.cpuHottest, unit));
 }
 
 QString fanText(const FanReading& fan) {
@@ -69,7 +70,7 @@ void resizeRows(std::vector<StatRow*>& rows, std::size_t count, QVBoxLayout& col
 } // namespace
 
 SensorsCard::SensorsCard(const CardContext& context)
-    : Card(context.theme, localizedText("Sensors"), "thermometer.medium"),
+    : Card(context.theme, localizedText("Sensors"), "thermometer.medium"), defaults_(context.defaults),
       unavailable_(new TextLabel(context.theme, {.points = 11.0, .color = &ThemeColors::secondary, .wraps = true},
                                  localizedText("Temperatures are not available on this Mac."))),
       details_(new QWidget), fanColumn_(columnOf({})), allSensors_(new DisclosureButton(context.theme)),
@@ -130,15 +131,16 @@ void SensorsCard::showReadings(const Readings& readings) {
 }
 
 void SensorsCard::showTemperatures(const SensorsSample& sensors) {
+    const TemperatureUnit unit = units(defaults_).temperature;
     cpu_->setVisible(sensors.cpu.has_value());
     if (sensors.cpu) {
-        cpu_->setValue(cpuText(sensors));
+        cpu_->setValue(cpuText(sensors, unit));
         showHeat(cpu_, *sensors.cpu);
     }
-    showTemperature(gpu_, sensors.gpu);
-    showTemperature(soc_, sensors.soc);
-    showTemperature(ssd_, sensors.ssd);
-    showTemperature(battery_, sensors.battery);
+    showTemperature(gpu_, sensors.gpu, unit);
+    showTemperature(soc_, sensors.soc, unit);
+    showTemperature(ssd_, sensors.ssd, unit);
+    showTemperature(battery_, sensors.battery, unit);
 }
 
 void SensorsCard::showPowers(const SensorsSample& sensors, const ComponentPower& components) {
@@ -168,9 +170,10 @@ void SensorsCard::showAll() {
         return;
     resizeRows(sensors_, all_.size(), *static_cast<QVBoxLayout*>(sensorList_->layout()), theme(),
                StatRow::Lead::none());
+    const TemperatureUnit unit = units(defaults_).temperature;
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
         sensors_[i]->setLabel(QString::fromStdString(all_[i].name));
-        sensors_[i]->setValue(temperatureText(all_[i].value));
+        sensors_[i]->setValue(temperatureText(all_[i].value, unit));
     }
 }
 

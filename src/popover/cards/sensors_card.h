@@ -25,6 +25,7 @@ class SensorsCard : public Card {
     void showFans(const SensorsSample& sensors);
     void showAll();
 
+    const UserDefaults& defaults_;
     TextLabel* unavailable_;
     QWidget* details_;
     StatRow* cpu_;

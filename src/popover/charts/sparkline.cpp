@@ -90,6 +90,14 @@ void Sparkline::setColor(ColorRole color) {
     update();
 }
 
+void Sparkline::setText(Text text) {
+    if (text == text_)
+        return;
+    text_ = text;
+    tell();
+    announceChange();
+}
+
 double Sparkline::top() const {
     if (scale_.maximum)
         return std::max(*scale_.maximum, 0.0);

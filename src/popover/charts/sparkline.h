@@ -29,6 +29,7 @@ class Sparkline : public View {
     /// Oldest first, `interval` seconds apart.
     void setValues(std::span<const double> values, double interval);
     void setColor(ColorRole color);
+    void setText(Text text);
 
     /// The value at the upper edge; never negative.
     double top() const;

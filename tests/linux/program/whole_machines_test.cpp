@@ -96,9 +96,14 @@ class WorkingMachine : public fakes::FixtureMachine {
     const Machine& machine_;
 };
 
-/// The second line that the program prints of a machine that worked since the first.
+/// The second line that the program prints of a machine that worked since the first, whatever units its user prefers.
 QJsonObject printed(const WorkingMachine& machine) {
+    machine.write("vantrix/settings.json",
+                  R"({"temperatureUnit": "fahrenheit", "networkUnit": "bits", "memoryUnit": "gib"})");
     QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"XDG_CONFIG_HOME"_s, QString::fromStdString(machine.path("")));
+    program.setProcessEnvironment(environment);
     program.start(QStringLiteral(VANTRIX_PROGRAM),
                   {u"--print"_s, u"json"_s, u"--interval"_s, u"0.5"_s, u"--count"_s, u"2"_s, u"--proc-root"_s,
                    QString::fromStdString(machine.path("proc")), u"--sys-root"_s,
