@@ -183,6 +183,11 @@
     </message>
     <message><source>Move %@ up</source><translation>%@ nach oben bewegen</translation></message>
     <message><source>Move %@ down</source><translation>%@ nach unten bewegen</translation></message>
+    <message><source>What modules show</source><translation>Inhalt der Module</translation></message>
+    <message><source>Space in use</source><translation>Belegter Platz</translation></message>
+    <message><source>Read and write</source><translation>Lesen und Schreiben</translation></message>
+    <message><source>Mean</source><translation>Mittel</translation></message>
+    <message><source>Hottest</source><translation>Höchste</translation></message>
     <message><source>Cards</source><translation>Karten</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>

@@ -186,6 +186,11 @@
     </message>
     <message><source>Move %@ up</source><translation>Subir: %@</translation></message>
     <message><source>Move %@ down</source><translation>Bajar: %@</translation></message>
+    <message><source>What modules show</source><translation>Qué muestran los módulos</translation></message>
+    <message><source>Space in use</source><translation>Espacio usado</translation></message>
+    <message><source>Read and write</source><translation>Lectura y escritura</translation></message>
+    <message><source>Mean</source><translation>Media</translation></message>
+    <message><source>Hottest</source><translation>Máxima</translation></message>
     <message><source>Cards</source><translation>Tarjetas</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>

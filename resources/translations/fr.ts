@@ -183,6 +183,11 @@
     </message>
     <message><source>Move %@ up</source><translation>Monter : %@</translation></message>
     <message><source>Move %@ down</source><translation>Descendre : %@</translation></message>
+    <message><source>What modules show</source><translation>Contenu des modules</translation></message>
+    <message><source>Space in use</source><translation>Espace utilisé</translation></message>
+    <message><source>Read and write</source><translation>Lecture et écriture</translation></message>
+    <message><source>Mean</source><translation>Moyenne</translation></message>
+    <message><source>Hottest</source><translation>Maximale</translation></message>
     <message><source>Cards</source><translation>Cartes</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>

@@ -183,6 +183,11 @@
     </message>
     <message><source>Move %@ up</source><translation>Sposta più su: %@</translation></message>
     <message><source>Move %@ down</source><translation>Sposta più giù: %@</translation></message>
+    <message><source>What modules show</source><translation>Contenuto dei moduli</translation></message>
+    <message><source>Space in use</source><translation>Spazio usato</translation></message>
+    <message><source>Read and write</source><translation>Lettura e scrittura</translation></message>
+    <message><source>Mean</source><translation>Media</translation></message>
+    <message><source>Hottest</source><translation>Massima</translation></message>
     <message><source>Cards</source><translation>Schede</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>

@@ -177,6 +177,11 @@
     </message>
     <message><source>Move %@ up</source><translation>%@を上に移動</translation></message>
     <message><source>Move %@ down</source><translation>%@を下に移動</translation></message>
+    <message><source>What modules show</source><translation>モジュールの表示内容</translation></message>
+    <message><source>Space in use</source><translation>使用容量</translation></message>
+    <message><source>Read and write</source><translation>読み書き速度</translation></message>
+    <message><source>Mean</source><translation>平均</translation></message>
+    <message><source>Hottest</source><translation>最高</translation></message>
     <message><source>Cards</source><translation>カード</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>

@@ -177,6 +177,11 @@
     </message>
     <message><source>Move %@ up</source><translation>上移 %@</translation></message>
     <message><source>Move %@ down</source><translation>下移 %@</translation></message>
+    <message><source>What modules show</source><translation>模块显示的内容</translation></message>
+    <message><source>Space in use</source><translation>已用空间</translation></message>
+    <message><source>Read and write</source><translation>读写速度</translation></message>
+    <message><source>Mean</source><translation>平均</translation></message>
+    <message><source>Hottest</source><translation>最高</translation></message>
     <message><source>Cards</source><translation>卡片</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>

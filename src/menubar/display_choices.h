@@ -21,6 +21,12 @@ enum class PopoverCard { cpu, memory, network, disk, gpu, sensors, battery, acce
 /// The tabs of the settings window.
 enum class SettingsTab { general, menuBar, popover, alerts };
 
+/// What the status item shows of the disk.
+enum class DiskModuleShows { used, rates };
+
+/// Which temperature of the processor the status item shows.
+enum class TemperatureModuleShows { mean, hottest };
+
 /// What the settings store and the views need to know of one case.
 template<typename Case>
 struct Choice {
@@ -77,6 +83,16 @@ inline constexpr auto networkUnits = std::to_array<Choice<NetworkUnit>>({
 inline constexpr auto memoryUnits = std::to_array<Choice<MemoryUnit>>({
     {MemoryUnit::gb, "gb", "GB", ""},
     {MemoryUnit::gib, "gib", "GiB", ""},
+});
+
+inline constexpr auto diskModuleContents = std::to_array<Choice<DiskModuleShows>>({
+    {DiskModuleShows::used, "used", "Space in use", ""},
+    {DiskModuleShows::rates, "rates", "Read and write", ""},
+});
+
+inline constexpr auto temperatureModuleContents = std::to_array<Choice<TemperatureModuleShows>>({
+    {TemperatureModuleShows::mean, "mean", "Mean", ""},
+    {TemperatureModuleShows::hottest, "hottest", "Hottest", ""},
 });
 
 /// The case whose raw value is exactly `rawValue`, letter case included.

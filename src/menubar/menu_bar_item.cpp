@@ -13,8 +13,9 @@ namespace vantrix {
 namespace {
 
 constexpr double leastNetworkScale = 100'000.0; // bytes per second: an idle line draws as one
-constexpr double diskWarningMargin = 0.07;      // below the disk threshold
-constexpr double temperatureScale = 110.0;      // °C
+constexpr double leastDiskScale = 1'000'000.0;
+constexpr double diskWarningMargin = 0.07; // below the disk threshold
+constexpr double temperatureScale = 110.0; // °C
 constexpr double hot = 90.0;
 constexpr double warm = 80.0;
 constexpr int batteryLow = 20; // percent
@@ -37,6 +38,16 @@ MenuBarItem percentItem(std::string label, double fraction, MenuBarSeverity seve
     return {std::move(label), {compactPercent(fraction)}, severity, std::move(history), fraction, "100%"};
 }
 
+/// Two rates, with a graph of the first up to its peak.
+MenuBarItem ratesItem(std::string label, std::vector<std::string> lines, const History& history, double leastScale,
+                      std::string reference) {
+    double scale = leastScale;
+    for (double rate : history)
+        scale = std::max(scale, rate);
+    return {std::move(label),    std::move(lines), MenuBarSeverity::normal, scaledHistory(history, scale), 0.0,
+            std::move(reference)};
+}
+
 std::optional<MenuBarItem> cpuItem(const Readings& readings, const UserDefaults& defaults) {
     const double load = readings.cpu.total;
     return percentItem("CPU", load, severityOf(load, defaults), readings.cpuHistory);
@@ -50,19 +61,22 @@ std::optional<MenuBarItem> memoryItem(const Readings& readings, const UserDefaul
 
 std::optional<MenuBarItem> networkItem(const Readings& readings, const UserDefaults& defaults) {
     const NetworkUnit unit = units(defaults).network;
-    double scale = leastNetworkScale;
-    for (double rate : readings.downloadHistory)
-        scale = std::max(scale, rate);
-    return MenuBarItem{
-        "NET",
-        {"↓" + compactRate(readings.network.download, unit), "↑" + compactRate(readings.network.upload, unit)},
-        MenuBarSeverity::normal,
-        scaledHistory(readings.downloadHistory, scale),
-        0.0,
-        unit == NetworkUnit::bits ? "↓999Mb" : "↓99M"};
+    return ratesItem(
+        "NET", {"↓" + compactRate(readings.network.download, unit), "↑" + compactRate(readings.network.upload, unit)},
+        readings.downloadHistory, leastNetworkScale, unit == NetworkUnit::bits ? "↓999Mb" : "↓99M");
+}
+
+MenuBarItem diskRatesItem(const Readings& readings) {
+    const auto line = [](const char* what, const std::optional<double>& rate) {
+        return what + compactRate(rate.value_or(0.0), NetworkUnit::bytes);
+    };
+    return ratesItem(localized("DISK"), {line("R ", readings.disk.readRate), line("W ", readings.disk.writeRate)},
+                     readings.diskReadHistory, leastDiskScale, "W 999M");
 }
 
 std::optional<MenuBarItem> diskItem(const Readings& readings, const UserDefaults& defaults) {
+    if (chosen(defaults, preference_key::diskModuleShows, diskModuleContents) == DiskModuleShows::rates)
+        return diskRatesItem(readings);
     if (readings.disk.total == 0)
         return std::nullopt;
     const double used = usedFraction(readings.disk);
@@ -77,9 +91,13 @@ std::optional<MenuBarItem> gpuItem(const Readings& readings, const UserDefaults&
 }
 
 std::optional<MenuBarItem> temperatureItem(const Readings& readings, const UserDefaults& defaults) {
-    if (!readings.sensors.cpu)
+    const SensorsSample& sensors = readings.sensors;
+    const bool hottest = chosen(defaults, preference_key::temperatureModuleShows, temperatureModuleContents) ==
+                         TemperatureModuleShows::hottest;
+    const auto& shown = hottest && sensors.cpuHottest ? sensors.cpuHottest : sensors.cpu;
+    if (!shown)
         return std::nullopt;
-    const double celsius = *readings.sensors.cpu;
+    const double celsius = *shown;
     return MenuBarItem{"TEMP",
                        {roundedInteger(inUnit(celsius, units(defaults).temperature)) + "°"},
                        reached(celsius, hot, warm),

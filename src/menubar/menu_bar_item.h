@@ -15,7 +15,7 @@ enum class MenuBarSeverity { normal, warning, critical };
 /// One reading as the status item shows it.
 struct MenuBarItem {
     std::string label;              ///< short upper-case caption
-    std::vector<std::string> lines; ///< the value; two lines for the network, one for all else
+    std::vector<std::string> lines; ///< the value; two lines for rates, one for all else
     MenuBarSeverity severity = MenuBarSeverity::normal;
     std::vector<double> history; ///< 0 to 1, oldest first; empty where the module has none
     double fraction = 0.0;       ///< present value on its own scale, 0 to 1

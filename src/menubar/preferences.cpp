@@ -63,6 +63,8 @@ const std::vector<Preference>& allPreferences() {
         {key::temperatureUnit, text(temperatureUnits.front().rawValue)},
         {key::networkUnit, text(networkUnits.front().rawValue)},
         {key::memoryUnit, text(memoryUnits.front().rawValue)},
+        {key::diskModuleShows, text(diskModuleContents.front().rawValue)},
+        {key::temperatureModuleShows, text(temperatureModuleContents.front().rawValue)},
         {key::settingsTab, text(choiceOf(settingsTabs, SettingsTab::general).rawValue), false},
     };
     return table;

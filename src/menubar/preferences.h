@@ -36,6 +36,8 @@ inline const QString diskAlertThreshold = QStringLiteral("diskAlertThreshold"); 
 inline const QString temperatureUnit = QStringLiteral("temperatureUnit");
 inline const QString networkUnit = QStringLiteral("networkUnit");
 inline const QString memoryUnit = QStringLiteral("memoryUnit");
+inline const QString diskModuleShows = QStringLiteral("diskModuleShows");
+inline const QString temperatureModuleShows = QStringLiteral("temperatureModuleShows");
 inline const QString settingsTab = QStringLiteral("settingsTab");
 } // namespace preference_key
 

@@ -36,6 +36,7 @@ MenuBarSettings::MenuBarSettings(const Theme& theme, UserDefaults& defaults, con
                {localizedText("Only the checked modules appear in the menu bar, in this order. With none selected, "
                               "Vantrix shows just its icon.")})
         .addRow(new ModuleList(theme, defaults_));
+    addContents();
 }
 
 void MenuBarSettings::addPreview(const SystemMonitor& monitor) {
@@ -48,6 +49,18 @@ void MenuBarSettings::addPreview(const SystemMonitor& monitor) {
         new TextLabel(theme(), {.points = bodyPoints, .color = &ThemeColors::secondary, .wraps = true}, nothing)));
     addSection(localizedText("Preview")).addRow(holder);
     follow(*holder, defaults_, [this, pages] { pages->setCurrentIndex(enabledMenuBarModules(defaults_).empty()); });
+}
+
+void MenuBarSettings::addContents() {
+    FormSection& section = addSection(localizedText("What modules show"));
+    const QString disk = localizedText("Disk");
+    section.addRow(
+        {.caption = disk,
+         .control = choiceControl(theme(), defaults_, preference_key::diskModuleShows, disk, diskModuleContents)});
+    const QString temperature = localizedText("CPU temperature");
+    section.addRow({.caption = temperature,
+                    .control = choiceControl(theme(), defaults_, preference_key::temperatureModuleShows, temperature,
+                                             temperatureModuleContents)});
 }
 
 void MenuBarSettings::addStyle() {

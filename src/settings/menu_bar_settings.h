@@ -17,6 +17,7 @@ class MenuBarSettings : public Form {
   private:
     void addPreview(const SystemMonitor& monitor);
     void addStyle();
+    void addContents();
 
     UserDefaults& defaults_;
 };

@@ -157,6 +157,8 @@ TEST(TranslatedTexts, NameEveryChoice) {
     expectTitles(temperatureUnits);
     expectTitles(networkUnits);
     expectTitles(memoryUnits);
+    expectTitles(diskModuleContents);
+    expectTitles(temperatureModuleContents);
 }
 
 } // namespace

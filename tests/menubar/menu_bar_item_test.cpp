@@ -106,6 +106,27 @@ TEST_F(MenuBarItemTest, UnitsChangeTheTextsAndNothingElse) {
         EXPECT_EQ(width(rate), width(0.0)) << rate;
 }
 
+TEST_F(MenuBarItemTest, DiskAndTemperatureShowWhatIsChosen) {
+    using enum MenuBarModule;
+    readings.disk = {.total = 100, .available = 1, .readRate = 31e6, .writeRate = 9.4e6};
+    readings.sensors = {.cpu = 52.0};
+    readings.diskReadHistory = {5e5, 2e6};
+    defaults.set(preference_key::diskModuleShows, QStringLiteral("rates"));
+    defaults.set(preference_key::temperatureModuleShows, QStringLiteral("hottest"));
+    EXPECT_EQ(itemText(item(temperature)), "TEMP 52°") << "where only one is known";
+    readings.sensors.cpuHottest = 90.0;
+    EXPECT_EQ(itemText(item(temperature)), "TEMP 90°");
+    EXPECT_EQ(item(temperature).severity, critical);
+    const MenuBarItem rates{"DISK", {"R 31M", "W 9.4M"}, normal, {0.25, 1.0}, 0.0, "W 999M", disk};
+    EXPECT_EQ(item(disk), rates);
+    readings.disk = {};
+    EXPECT_EQ(itemText(item(disk)), "DISK R 0K W 0K") << "before the second reading";
+    defaults.set(preference_key::diskModuleShows, QStringLiteral("Rates"));
+    defaults.set(preference_key::temperatureModuleShows, QStringLiteral("coldest"));
+    readings.disk = {.total = 100, .available = 25};
+    EXPECT_EQ(accessibilityLabel({item(disk), item(temperature)}), "DISK 75%, TEMP 52°");
+}
+
 TEST_F(MenuBarItemTest, ModulesWithoutDataLeaveNoGap) {
     readings.cpu.total = 0.125;
     const std::vector<MenuBarModule> modules{MenuBarModule::gpu,         MenuBarModule::cpu,
