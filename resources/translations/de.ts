@@ -211,10 +211,13 @@
         <translation>Akku bei %@ oder weniger, lädt nicht</translation>
     </message>
     <message><source>CPU temperature above 95 °C</source><translation>CPU-Temperatur über 95 °C</translation></message>
+    <message><source>CPU temperature above %@</source><translation>CPU-Temperatur über %@</translation></message>
     <message><source>Conditions</source><translation>Bedingungen</translation></message>
     <message><source>Only after it lasts</source><translation>Erst nach einer Dauer von</translation></message>
     <message><source>Disk full threshold</source><translation>Schwelle für volles Laufwerk</translation></message>
     <message><source>Disk full alert at</source><translation>Laufwerk-Warnung ab</translation></message>
+    <message><source>Battery low alert at</source><translation>Akku-Warnung ab</translation></message>
+    <message><source>CPU temperature alert at</source><translation>CPU-Temperatur-Warnung ab</translation></message>
     <message><source>Send test notification</source><translation>Testbenachrichtigung senden</translation></message>
     <!-- Notifications -->
     <message><source>High CPU usage</source><translation>Hohe CPU-Auslastung</translation></message>

@@ -217,10 +217,19 @@
         <source>CPU temperature above 95 °C</source>
         <translation>Temperatura de la CPU por encima de 95 °C</translation>
     </message>
+    <message>
+        <source>CPU temperature above %@</source>
+        <translation>Temperatura de la CPU por encima de %@</translation>
+    </message>
     <message><source>Conditions</source><translation>Condiciones</translation></message>
     <message><source>Only after it lasts</source><translation>Solo si dura al menos</translation></message>
     <message><source>Disk full threshold</source><translation>Umbral de disco lleno</translation></message>
     <message><source>Disk full alert at</source><translation>Aviso de disco lleno al</translation></message>
+    <message><source>Battery low alert at</source><translation>Aviso de batería baja al</translation></message>
+    <message>
+        <source>CPU temperature alert at</source>
+        <translation>Aviso de temperatura de la CPU a</translation>
+    </message>
     <message><source>Send test notification</source><translation>Enviar notificación de prueba</translation></message>
     <!-- Notifications -->
     <message><source>High CPU usage</source><translation>Uso elevado de la CPU</translation></message>

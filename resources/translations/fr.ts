@@ -214,10 +214,19 @@
         <source>CPU temperature above 95 °C</source>
         <translation>Température du CPU au-dessus de 95 °C</translation>
     </message>
+    <message>
+        <source>CPU temperature above %@</source>
+        <translation>Température du CPU au-dessus de %@</translation>
+    </message>
     <message><source>Conditions</source><translation>Conditions</translation></message>
     <message><source>Only after it lasts</source><translation>Seulement après une durée de</translation></message>
     <message><source>Disk full threshold</source><translation>Seuil de disque plein</translation></message>
     <message><source>Disk full alert at</source><translation>Alerte de disque plein à</translation></message>
+    <message><source>Battery low alert at</source><translation>Alerte de batterie faible à</translation></message>
+    <message>
+        <source>CPU temperature alert at</source>
+        <translation>Alerte de température du CPU à</translation>
+    </message>
     <message>
         <source>Send test notification</source>
         <translation>Envoyer une notification de test</translation>

@@ -214,10 +214,13 @@
         <source>CPU temperature above 95 °C</source>
         <translation>Temperatura CPU oltre 95 °C</translation>
     </message>
+    <message><source>CPU temperature above %@</source><translation>Temperatura CPU oltre %@</translation></message>
     <message><source>Conditions</source><translation>Condizioni</translation></message>
     <message><source>Only after it lasts</source><translation>Solo se dura almeno</translation></message>
     <message><source>Disk full threshold</source><translation>Soglia di disco pieno</translation></message>
     <message><source>Disk full alert at</source><translation>Avviso di disco pieno al</translation></message>
+    <message><source>Battery low alert at</source><translation>Avviso di batteria scarica al</translation></message>
+    <message><source>CPU temperature alert at</source><translation>Avviso di temperatura CPU a</translation></message>
     <message><source>Send test notification</source><translation>Invia notifica di prova</translation></message>
     <!-- Notifications -->
     <message><source>High CPU usage</source><translation>Utilizzo elevato della CPU</translation></message>

@@ -205,10 +205,13 @@
         <translation>バッテリー残量が%@以下で充電していないとき</translation>
     </message>
     <message><source>CPU temperature above 95 °C</source><translation>CPU温度が95 °Cを超えたとき</translation></message>
+    <message><source>CPU temperature above %@</source><translation>CPU温度が%@を超えたとき</translation></message>
     <message><source>Conditions</source><translation>条件</translation></message>
     <message><source>Only after it lasts</source><translation>継続時間</translation></message>
     <message><source>Disk full threshold</source><translation>ディスク使用率のしきい値</translation></message>
     <message><source>Disk full alert at</source><translation>ディスク通知の使用率</translation></message>
+    <message><source>Battery low alert at</source><translation>バッテリー通知の残量</translation></message>
+    <message><source>CPU temperature alert at</source><translation>CPU温度通知のしきい値</translation></message>
     <message><source>Send test notification</source><translation>テスト通知を送信</translation></message>
     <!-- Notifications -->
     <message><source>High CPU usage</source><translation>CPU使用率が高くなっています</translation></message>

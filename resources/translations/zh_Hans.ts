@@ -202,10 +202,13 @@
     <message><source>Disk almost full</source><translation>磁盘空间即将用尽</translation></message>
     <message><source>Battery at %@ or less, not charging</source><translation>电池电量不高于 %@ 且未充电</translation></message>
     <message><source>CPU temperature above 95 °C</source><translation>CPU 温度高于 95 °C</translation></message>
+    <message><source>CPU temperature above %@</source><translation>CPU 温度高于 %@</translation></message>
     <message><source>Conditions</source><translation>条件</translation></message>
     <message><source>Only after it lasts</source><translation>持续时间达到</translation></message>
     <message><source>Disk full threshold</source><translation>磁盘占用阈值</translation></message>
     <message><source>Disk full alert at</source><translation>磁盘占用提醒阈值</translation></message>
+    <message><source>Battery low alert at</source><translation>电池电量提醒阈值</translation></message>
+    <message><source>CPU temperature alert at</source><translation>CPU 温度提醒阈值</translation></message>
     <message><source>Send test notification</source><translation>发送测试通知</translation></message>
     <!-- Notifications -->
     <message><source>High CPU usage</source><translation>CPU 占用率过高</translation></message>

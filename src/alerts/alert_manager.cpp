@@ -16,9 +16,6 @@ namespace {
 
 using Kind = AlertManager::Kind;
 
-constexpr int lowBattery = 15;        // percent
-constexpr double hotProcessor = 95.0; // °C
-
 /// The kinds that are evaluated, in this order.
 constexpr std::array evaluatedKinds{Kind::cpu, Kind::memory, Kind::disk, Kind::battery, Kind::temperature};
 
@@ -85,9 +82,10 @@ bool AlertManager::holds(Kind kind, const Readings& readings) const {
                usedFraction(readings.disk) >= defaults_.number(preference_key::diskAlertThreshold);
     case Kind::battery:
         return readings.battery && !readings.battery->isPluggedIn && !readings.battery->isCharging &&
-               readings.battery->percent <= lowBattery;
+               readings.battery->percent <= defaults_.number(preference_key::batteryAlertPercent);
     case Kind::temperature:
-        return readings.sensors.cpu && *readings.sensors.cpu >= hotProcessor;
+        return readings.sensors.cpu &&
+               *readings.sensors.cpu >= defaults_.number(preference_key::temperatureAlertCelsius);
     case Kind::test:
         break;
     }

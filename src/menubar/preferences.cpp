@@ -65,6 +65,8 @@ const std::vector<Preference>& allPreferences() {
         {key::memoryUnit, text(memoryUnits.front().rawValue)},
         {key::diskModuleShows, text(diskModuleContents.front().rawValue)},
         {key::temperatureModuleShows, text(temperatureModuleContents.front().rawValue)},
+        {key::batteryAlertPercent, 15.0},
+        {key::temperatureAlertCelsius, 95.0},
         {key::settingsTab, text(choiceOf(settingsTabs, SettingsTab::general).rawValue), false},
     };
     return table;

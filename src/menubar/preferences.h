@@ -38,6 +38,8 @@ inline const QString networkUnit = QStringLiteral("networkUnit");
 inline const QString memoryUnit = QStringLiteral("memoryUnit");
 inline const QString diskModuleShows = QStringLiteral("diskModuleShows");
 inline const QString temperatureModuleShows = QStringLiteral("temperatureModuleShows");
+inline const QString batteryAlertPercent = QStringLiteral("batteryAlertPercent");         ///< 0 to 100
+inline const QString temperatureAlertCelsius = QStringLiteral("temperatureAlertCelsius"); ///< whatever is shown
 inline const QString settingsTab = QStringLiteral("settingsTab");
 } // namespace preference_key
 

@@ -15,13 +15,14 @@
 #include "settings/controls/switch.h"
 #include "settings/fraction_slider.h"
 #include "settings/settings_texts.h"
+#include "support/text_format.h"
 #include "support/user_defaults.h"
 #include "views/focus_ring.h"
 
 namespace vantrix {
 namespace {
 
-constexpr double lowBattery = 0.15;
+constexpr double usualLimit = 95.0; // °C: the one that the fixed text names
 constexpr double footnotePoints = 11.0;
 constexpr int testPadding = 7; // around what is in the row of the test
 constexpr int roomBelow = 24;  // the rest of the row, and of the page
@@ -63,20 +64,42 @@ FormRow& AlertsSettings::addKind(FormSection& section, const QString& caption, c
     return row;
 }
 
+/// A kind whose caption tells its limit.
+void AlertsSettings::addKind(FormSection& section, const std::function<QString()>& caption, const QString& key) {
+    FormRow& row = addKind(section, QString(), key);
+    follow(row, defaults_, [&row, caption] {
+        const QString text = caption();
+        row.caption().setText(text);
+        row.control().setAccessibleName(text);
+    });
+}
+
+QString AlertsSettings::batteryLimit() const {
+    return thresholdText(defaults_.number(preference_key::batteryAlertPercent) / 100.0);
+}
+
+QString AlertsSettings::temperatureLimit() const {
+    const double celsius = defaults_.number(preference_key::temperatureAlertCelsius);
+    return QString::fromStdString(degreesText(celsius, units(defaults_).temperature));
+}
+
 void AlertsSettings::addKinds() {
     FormSection& section = addSection(localizedText("Notify me about"));
-    FormRow& cpu = addKind(section, QString(), preference_key::alertCPU);
-    follow(cpu, defaults_, [this, &cpu] {
-        const double threshold = defaults_.number(preference_key::criticalThreshold);
-        const QString text = localizedText("CPU above %@", thresholdText(threshold));
-        cpu.caption().setText(text);
-        cpu.control().setAccessibleName(text);
-    });
+    const auto cpu = [this] {
+        return localizedText("CPU above %@", thresholdText(defaults_.number(preference_key::criticalThreshold)));
+    };
+    const auto battery = [this] { return localizedText("Battery at %@ or less, not charging", batteryLimit()); };
+    const auto temperature = [this] {
+        const bool isUsual = defaults_.number(preference_key::temperatureAlertCelsius) == usualLimit &&
+                             units(defaults_).temperature == TemperatureUnit::celsius;
+        return isUsual ? localizedText("CPU temperature above 95 °C")
+                       : localizedText("CPU temperature above %@", temperatureLimit());
+    };
+    addKind(section, cpu, preference_key::alertCPU);
     addKind(section, localizedText("Memory under pressure"), preference_key::alertMemory);
     addKind(section, localizedText("Disk almost full"), preference_key::alertDisk);
-    addKind(section, localizedText("Battery at %@ or less, not charging", thresholdText(lowBattery)),
-            preference_key::alertBattery);
-    addKind(section, localizedText("CPU temperature above 95 °C"), preference_key::alertTemperature);
+    addKind(section, battery, preference_key::alertBattery);
+    addKind(section, temperature, preference_key::alertTemperature);
 }
 
 void AlertsSettings::addConditions() {
@@ -93,6 +116,29 @@ void AlertsSettings::addConditions() {
                                    .control = withPercent(theme(), full, defaults_, preference_key::diskAlertThreshold,
                                                           &ThemeColors::secondary)});
     enableWhile(row, {preference_key::alertsEnabled, preference_key::alertDisk});
+
+    const Slider::Range percents{.least = 5, .most = 50, .step = 1};
+    addLimit(
+        section, new Slider(theme(), localizedText("Battery low alert at"), percents),
+        preference_key::batteryAlertPercent, preference_key::alertBattery, [this] { return batteryLimit(); },
+        QStringLiteral("100%"));
+    const Slider::Range degrees{.least = 60, .most = 105, .step = 1};
+    const auto widest = QString::fromStdString(degreesText(usualLimit, TemperatureUnit::fahrenheit));
+    addLimit(
+        section, new Slider(theme(), localizedText("CPU temperature alert at"), degrees),
+        preference_key::temperatureAlertCelsius, preference_key::alertTemperature,
+        [this] { return temperatureLimit(); }, widest);
+}
+
+/// A row for the limit of a kind, named after its slider.
+void AlertsSettings::addLimit(FormSection& section, Slider* slider, const QString& key, const QString& kind,
+                              const std::function<QString()>& text, const QString& widest) {
+    bindWholeSlider(*slider, defaults_, key);
+    slider->valueText = text;
+    FormRow& row =
+        section.addRow({.caption = slider->accessibleName(),
+                        .control = withValue(theme(), slider, defaults_, text, widest, &ThemeColors::secondary)});
+    enableWhile(row, {preference_key::alertsEnabled, kind});
 }
 
 void AlertsSettings::addTest() {

@@ -6,6 +6,7 @@
 
 namespace vantrix {
 
+class Slider;
 class UserDefaults;
 
 /// Asks for a test notification. Says, perhaps much later, how it went.
@@ -20,6 +21,11 @@ class AlertsSettings : public Form {
 
   private:
     FormRow& addKind(FormSection& section, const QString& caption, const QString& key);
+    void addKind(FormSection& section, const std::function<QString()>& caption, const QString& key);
+    void addLimit(FormSection& section, Slider* slider, const QString& key, const QString& kind,
+                  const std::function<QString()>& text, const QString& widest);
+    QString batteryLimit() const;
+    QString temperatureLimit() const;
     void enableWhile(FormRow& row, const QStringList& keys);
     void addKinds();
     void addConditions();

@@ -1,6 +1,7 @@
 #include "settings/bindings.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QAbstractButton>
 
@@ -52,6 +53,12 @@ void bindSlider(Slider& slider, UserDefaults& defaults, const QString& key) {
     follow(slider, defaults, [&slider, &defaults, key] { slider.setFraction(defaults.number(key)); });
     QObject::connect(&slider, &Slider::fractionChosen, &slider,
                      [&defaults, key](double fraction) { defaults.set(key, fraction); });
+}
+
+void bindWholeSlider(Slider& slider, UserDefaults& defaults, const QString& key) {
+    follow(slider, defaults, [&slider, &defaults, key] { slider.setFraction(defaults.number(key) / 100.0); });
+    QObject::connect(&slider, &Slider::fractionChosen, &slider,
+                     [&defaults, key](double fraction) { defaults.set(key, std::round(fraction * 100.0)); });
 }
 
 void bindSeconds(Picker& picker, UserDefaults& defaults, const QString& key, const std::vector<double>& choices,

@@ -22,6 +22,8 @@ void follow(QObject& context, const UserDefaults& defaults, const std::function<
 /// where it has one, is off.
 void bindSwitch(QAbstractButton& button, UserDefaults& defaults, const QString& key, const QString& master = {});
 void bindSlider(Slider& slider, UserDefaults& defaults, const QString& key);
+/// Stored are whole numbers, a hundred times what the slider stands at.
+void bindWholeSlider(Slider& slider, UserDefaults& defaults, const QString& key);
 
 /// The picker offers `choices` seconds and the present value, even if it is none of them; `present` reads it.
 void bindSeconds(Picker& picker, UserDefaults& defaults, const QString& key, const std::vector<double>& choices,

@@ -13,20 +13,27 @@
 
 namespace vantrix {
 
-PercentLabel::PercentLabel(const Theme& theme, ColorRole color)
-    : TextLabel(theme, {.points = bodyPoints, .color = color, .monospaced = true, .side = Qt::AlignRight}) {}
+ValueLabel::ValueLabel(const Theme& theme, ColorRole color, const QString& widest)
+    : TextLabel(theme, {.points = bodyPoints, .color = color, .monospaced = true, .side = Qt::AlignRight}),
+      widest_(widest) {}
 
-QSize PercentLabel::sizeHint() const {
+QSize ValueLabel::sizeHint() const {
     const QSize own = TextLabel::sizeHint();
-    const int widest = static_cast<int>(std::ceil(theme().digits(bodyPoints).width("100%")));
+    const int widest = static_cast<int>(std::ceil(theme().digits(bodyPoints).width(widest_.toStdString())));
     return {std::max(own.width(), widest), own.height()};
+}
+
+QWidget* withValue(const Theme& theme, Slider* slider, const UserDefaults& defaults,
+                   const std::function<QString()>& text, const QString& widest, ColorRole color) {
+    auto* label = new ValueLabel(theme, color, widest);
+    follow(*label, defaults, [label, text] { label->setText(text()); });
+    return besideEachOther(slider, label);
 }
 
 QWidget* withPercent(const Theme& theme, Slider* slider, const UserDefaults& defaults, const QString& key,
                      ColorRole color) {
-    auto* label = new PercentLabel(theme, color);
-    follow(*label, defaults, [label, &defaults, key] { label->setText(thresholdText(defaults.number(key))); });
-    return besideEachOther(slider, label);
+    const auto text = [&defaults, key] { return thresholdText(defaults.number(key)); };
+    return withValue(theme, slider, defaults, text, QStringLiteral("100%"), color);
 }
 
 } // namespace vantrix

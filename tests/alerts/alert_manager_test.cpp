@@ -65,12 +65,14 @@ TEST_F(AlertManagerTest, KnowsTheConditionsAndTheirTexts) {
         {battery({.percent = 10, .isPluggedIn = true}), ""},
         {celsius(95.0), "The CPU temperature is 95°C."},
         {celsius(94.9), ""},
-        // from here on in other units
-        {celsius(95.0), "The CPU temperature is 203°F."},
-        {celsius(94.9), ""},
+        // from here on in other units and with other limits
+        {celsius(80.0), "The CPU temperature is 176°F."},
+        {celsius(79.9), ""},
+        {battery({.percent = 30}), "30% left. Plug in the charger."},
+        {battery({.percent = 31}), ""},
         {memory(Pressure::warning, 15, 16), "15 GiB of 16 GiB in use and the system is under memory pressure."},
     };
-    constexpr std::size_t inOtherUnits = std::size(table) - 3;
+    constexpr std::size_t inOtherUnits = std::size(table) - 5;
     defaults.set(preference_key::criticalThreshold, 0.85);
     defaults.set(preference_key::diskAlertThreshold, 0.92);
     defaults.set(preference_key::alertDuration, 0.0);
@@ -79,6 +81,8 @@ TEST_F(AlertManagerTest, KnowsTheConditionsAndTheirTexts) {
         if (row == inOtherUnits) {
             defaults.set(preference_key::temperatureUnit, u"fahrenheit"_s);
             defaults.set(preference_key::memoryUnit, u"gib"_s);
+            defaults.set(preference_key::temperatureAlertCelsius, 80.0);
+            defaults.set(preference_key::batteryAlertPercent, 30.0);
         }
         AlertManager(center, defaults, [] { return 0.0; }).evaluate(table[row].readings);
         EXPECT_EQ(center.posts.empty() ? QString() : center.posts[0].body, QString::fromUtf8(table[row].text)) << row;

@@ -58,6 +58,21 @@ TEST_F(SettingsWindowTest, SlidersStoreCleanNumbersAndPushTheOtherOne) {
     EXPECT_TRUE(shows("CPU above 55%")) << "the critical threshold";
 }
 
+TEST_F(SettingsWindowTest, AlertLimitsAreWholeNumbersInTheUnitOfTheSettings) {
+    show(SettingsTab::alerts);
+    store(preference_key::alertsEnabled, true);
+    auto& hot = control<Slider>("CPU temperature alert at");
+    press(hot, Qt::Key_Left);
+    EXPECT_EQ(defaults.number(preference_key::temperatureAlertCelsius), 94.0);
+    EXPECT_TRUE(shows("CPU temperature above 94°C"));
+    store(preference_key::temperatureUnit, QStringLiteral("fahrenheit"));
+    EXPECT_TRUE(shows("CPU temperature above 201°F"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&hot)->text(QAccessible::Value), u"201°F");
+    press(control<Slider>("Battery low alert at"), Qt::Key_Right);
+    EXPECT_EQ(defaults.number(preference_key::batteryAlertPercent), 16.0);
+    EXPECT_TRUE(shows("Battery at 16% or less, not charging"));
+}
+
 TEST_F(SettingsWindowTest, ThresholdsStandOnOneScaleAndAreMarkedWhereTheyMeet) {
     show(SettingsTab::general);
     auto& warning = control<Slider>("Warning threshold");

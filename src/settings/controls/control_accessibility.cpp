@@ -17,7 +17,8 @@ class SliderInterface final : public QAccessibleWidget, public QAccessibleValueI
 
     QString text(QAccessible::Text kind) const override {
         if (kind == QAccessible::Value)
-            return QStringLiteral("%1%").arg(std::lround(slider().fraction() * 100.0));
+            return slider().valueText ? slider().valueText()
+                                      : QStringLiteral("%1%").arg(std::lround(slider().fraction() * 100.0));
         return QAccessibleWidget::text(kind);
     }
 

@@ -32,6 +32,9 @@ class Slider : public QSlider {
     /// Shows that number, or the nearer end of the groove, without announcing it.
     void setFraction(double fraction);
 
+    /// What assistive programs say for the present value; a percentage where it is not set.
+    std::function<QString()> valueText;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
