@@ -69,11 +69,13 @@ SamplingSources makeSamplingSources(const KernelRoots& roots, SamplingParts part
     sources.volume = std::move(parts.volume);
     auto gpu = std::make_unique<LinuxGPUSource>(roots.sys, parts.makeClock(), std::move(parts.nvidia));
     const std::shared_ptr<const Clock> sensorClock = parts.makeClock();
-    sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock);
-    sources.temperatures = std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperatures());
+    const auto threads = std::make_shared<DeviceThreads>();
+    sources.sensorKeys = std::make_unique<LinuxSensorKeys>(roots.sys, sensorClock, threads);
+    sources.temperatures =
+        std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperatures(), threads);
     sources.gpu = std::move(gpu);
     sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
-    sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock);
+    sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock, threads);
     sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
     return sources;
 }

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fixture_machine.h"
+#include "linux/read_in_place.h"
 #include "monitor/samplers.h"
 
 namespace vantrix {
@@ -108,6 +109,7 @@ std::ptrdiff_t openFiles() {
 /// Chips and zones lose their names, sensors and counters their numbers; what is shown stays plausible, whether the
 /// machine was known before or not, and comes back whole, also where devices come and go. And nothing grows.
 TEST(Garbage, NoFileMakesAReadingImplausible) {
+    const ReadInPlace inPlace;
     const struct {
         const char* machine;
         int times;

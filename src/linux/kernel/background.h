@@ -12,6 +12,8 @@ class Background {
       public:
         virtual ~Job() = default;
         virtual void perform() = 0;
+
+        const void* owner = nullptr; ///< for whom it is performed; tells apart those who share a thread
     };
 
     virtual ~Background() = default;
@@ -19,14 +21,6 @@ class Background {
     virtual bool run(const std::shared_ptr<Job>& job) = 0;
     /// Waits until all jobs are performed, but for none longer than `patience` from its beginning on.
     virtual void wait(std::chrono::milliseconds patience) = 0;
-
-    /// Remembers that a sensor read here was very slow, for the others of its device. For the sampling thread alone.
-    void noteSlowDevice() { ++slowReads_; }
-    /// How often that was so.
-    int slowReads() const { return slowReads_; }
-
-  private:
-    int slowReads_ = 0;
 };
 
 } // namespace vantrix

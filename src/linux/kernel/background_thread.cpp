@@ -1,5 +1,6 @@
 #include "linux/kernel/background_thread.h"
 
+#include <algorithm>
 #include <condition_variable>
 #include <mutex>
 #include <system_error>
@@ -24,6 +25,7 @@ struct BackgroundThread::Queue {
     std::condition_variable hasProgress;
     std::vector<std::shared_ptr<Job>> jobs;
     std::chrono::steady_clock::time_point begun; ///< the job at work
+    const void* owner = nullptr;                 ///< of that job
     bool isWorking = false;
     bool isRunning = false; ///< the thread
     bool isClosed = false;
@@ -40,6 +42,7 @@ struct BackgroundThread::Queue {
         auto job = std::move(jobs.front());
         jobs.erase(jobs.begin());
         isWorking = true;
+        owner = job->owner;
         begun = std::chrono::steady_clock::now();
         hasProgress.notify_all();
         return job;
@@ -92,6 +95,31 @@ void BackgroundThread::wait(std::chrono::milliseconds patience) {
         if (queue.hasProgress.wait_until(lock, end) == std::cv_status::timeout)
             return;
     }
+}
+
+const void* BackgroundThread::heldUpBy(std::chrono::milliseconds patience) const {
+    if (!queue_)
+        return nullptr;
+    const std::lock_guard lock(queue_->mutex);
+    const bool isHeldUp = queue_->isWorking && std::chrono::steady_clock::now() - queue_->begun > patience;
+    return isHeldUp ? queue_->owner : nullptr;
+}
+
+void BackgroundThread::handOverTo(BackgroundThread& other, const void* owner) {
+    if (!queue_)
+        return;
+    std::vector<std::shared_ptr<Job>> handedOver;
+    {
+        const std::lock_guard lock(queue_->mutex);
+        auto& jobs = queue_->jobs;
+        const auto others =
+            std::stable_partition(jobs.begin(), jobs.end(), [owner](const auto& job) { return job->owner == owner; });
+        handedOver.assign(others, jobs.end());
+        jobs.erase(others, jobs.end());
+    }
+    for (const auto& job : handedOver)
+        if (!other.run(job))
+            run(job); // late rather than never
 }
 
 } // namespace vantrix

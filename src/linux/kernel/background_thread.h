@@ -15,6 +15,11 @@ class BackgroundThread : public Background {
     bool run(const std::shared_ptr<Job>& job) override;
     void wait(std::chrono::milliseconds patience) override;
 
+    /// The owner of the job that has been at work for longer than `patience`; null when there is none.
+    const void* heldUpBy(std::chrono::milliseconds patience) const;
+    /// Hands the waiting jobs over, but for those of `owner`.
+    void handOverTo(BackgroundThread& other, const void* owner);
+
   private:
     struct Queue;
 

@@ -32,9 +32,9 @@ struct TimedSensor::Reading : Background::Job {
 };
 
 TimedSensor::TimedSensor(std::unique_ptr<Probe> probe, std::shared_ptr<Background> background,
-                         std::shared_ptr<const Clock> clock)
+                         std::shared_ptr<const Clock> clock, Kind kind)
     : reading_(std::make_shared<Reading>(std::move(probe), clock)), background_(std::move(background)),
-      clock_(std::move(clock)) {}
+      clock_(std::move(clock)), kind_(kind) {}
 
 std::optional<double> TimedSensor::value() {
     double now = clock_->uptime();
@@ -42,11 +42,7 @@ std::optional<double> TimedSensor::value() {
 }
 
 std::optional<double> TimedSensor::value(double& now) {
-    if (std::exchange(slowReadsSeen_, background_->slowReads()) != background_->slowReads())
-        isSlow_ = true;
-    if (!isSlow_ && !std::exchange(wasRead_, true))
-        readFirst(now);
-    else if (!isSlow_)
+    if (isDirect_)
         readDirectly(now);
     else
         readAside(now);
@@ -58,41 +54,30 @@ std::optional<double> TimedSensor::lastValue(double age) {
     return clock_->uptime() - takenAt_ > age ? std::nullopt : last_;
 }
 
-void TimedSensor::readFirst(double& now) {
-    readAside(now);
-    if (!isUnderWay_) {
-        waitingSince_.reset();
-        return readDirectly(now); // no thread to be had now
-    }
-    background_->wait(std::chrono::milliseconds(std::lround(verySlowAfter * 1e3)));
-    now = clock_->uptime();
-    collect();
-    isSlow_ = isUnderWay_ || reading_->duration > verySlowAfter;
-    if (isSlow_)
-        background_->noteSlowDevice();
-}
-
 void TimedSensor::readDirectly(double& now) {
     reading_->read(now);
     now = reading_->finishedAt;
+    finishedAt_ = now;
     last_ = reading_->value;
     takenAt_ = now;
     slowReads_ = reading_->duration > slowAfter ? slowReads_ + 1 : 0;
-    const bool isVerySlow = reading_->duration > verySlowAfter;
-    if (isVerySlow)
-        background_->noteSlowDevice();
-    isSlow_ = slowReads_ > 1 || isVerySlow;
+    isDirect_ = slowReads_ < 2 && reading_->duration <= verySlowAfter;
     quickReads_ = 0;
 }
 
-void TimedSensor::readAside(double now) {
+void TimedSensor::readAside(double& now) {
     collect();
     if (!waitingSince_)
         waitingSince_ = now;
-    if (isUnderWay_)
-        return;
-    reading_->isDone.store(false, std::memory_order_relaxed);
-    isUnderWay_ = background_->run(reading_);
+    if (!isUnderWay_) {
+        reading_->isDone.store(false, std::memory_order_relaxed);
+        isUnderWay_ = background_->run(reading_);
+    }
+    if (isUnderWay_ && !(now - finishedAt_.value_or(-oldAfter) < oldAfter)) {
+        background_->wait(std::chrono::milliseconds(std::lround(verySlowAfter * 1e3)));
+        now = clock_->uptime();
+    }
+    collect();
 }
 
 void TimedSensor::collect() {
@@ -101,9 +86,10 @@ void TimedSensor::collect() {
     isUnderWay_ = false;
     waitingSince_.reset();
     last_ = reading_->value;
+    finishedAt_ = reading_->finishedAt;
     takenAt_ = clock_->uptime(); // not when it was read: passes may be further apart than values may be old
     quickReads_ = reading_->duration > slowAfter ? 0 : quickReads_ + 1;
-    isSlow_ = quickReads_ < quickReadsToReturn;
+    isDirect_ = kind_ == Kind::registers && quickReads_ >= quickReadsToReturn;
     slowReads_ = 0;
 }
 

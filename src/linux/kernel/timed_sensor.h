@@ -8,11 +8,10 @@
 
 namespace vantrix {
 
-/// A sensor whose reads are timed. One that takes longer than 0.5 ms twice in a row, or 20 ms once, is read in the
-/// background from then on, so that it never delays a pass again. After those 20 ms, so are all sensors of its device,
-/// which share the background. After many quick reads in a row it is read directly again: the machine had been busy,
-/// the sensor was not slow. The first read of all is waited for no longer than those 20 ms: a driver that hangs would
-/// hold up the start.
+/// A sensor that never delays a pass. Any device may hang, so it is read in the background, and a pass takes the value
+/// of the last read that has finished; only where that is old, or the first has not been, it is waited for briefly.
+/// Registers of the processor answer at once and are read directly; one that takes longer than 0.5 ms twice in a row,
+/// or 20 ms once, is treated as a device, until many reads in a row were quick: then the machine had been busy.
 class TimedSensor {
   public:
     class Probe {
@@ -22,17 +21,20 @@ class TimedSensor {
         virtual std::optional<double> read() = 0;
     };
 
+    enum class Kind { device, registers };
+
     static constexpr double slowAfter = 0.0005;    ///< seconds; who answers later talks to hardware over a slow bus
     static constexpr double verySlowAfter = 0.02;  ///< seconds
+    static constexpr double oldAfter = 20.0;       ///< seconds
     static constexpr double staleAfter = 10.0;     ///< seconds
     static constexpr int quickReadsToReturn = 100; ///< in a row
 
     /// The clock is shared since a read that hangs may outlive the sensor. Any thread may ask it.
     TimedSensor(std::unique_ptr<Probe> probe, std::shared_ptr<Background> background,
-                std::shared_ptr<const Clock> clock);
+                std::shared_ptr<const Clock> clock, Kind kind = Kind::device);
 
-    /// The value now, or, of a slow sensor, the one that its last finished read gave. Absent when that read gave none,
-    /// before the first has finished, and when a slow sensor was asked more than 10 s ago and has not answered yet.
+    /// The value now, or, of a device, the one that its last finished read gave. Absent when that read gave none,
+    /// before the first has finished, and when a device was asked more than 10 s ago and has not answered yet.
     std::optional<double> value();
     /// The same, at less cost when many sensors are read in turn: `now` is the clock's time, which each read moves on.
     std::optional<double> value(double& now);
@@ -43,22 +45,21 @@ class TimedSensor {
   private:
     struct Reading;
 
-    void readFirst(double& now);
     void readDirectly(double& now);
-    void readAside(double now);
+    void readAside(double& now);
     void collect();
 
     std::shared_ptr<Reading> reading_;
     std::shared_ptr<Background> background_;
     std::shared_ptr<const Clock> clock_;
+    Kind kind_;
+    bool isDirect_ = kind_ == Kind::registers;
     std::optional<double> last_;
+    std::optional<double> finishedAt_; // the last read
     double takenAt_ = 0.0;
     std::optional<double> waitingSince_;
     int slowReads_ = 0;  // directly, in a row
     int quickReads_ = 0; // in the background, in a row
-    bool isSlow_ = false;
-    int slowReadsSeen_ = 0; // of its device
-    bool wasRead_ = false;
     bool isUnderWay_ = false;
 };
 

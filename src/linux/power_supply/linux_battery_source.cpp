@@ -1,6 +1,5 @@
 #include "linux/power_supply/linux_battery_source.h"
 
-#include "linux/kernel/background_thread.h"
 #include "linux/kernel/kernel_tree.h"
 #include "linux/sensors/supply_kind.h"
 
@@ -39,7 +38,7 @@ void LinuxBatterySource::findSupplies() {
     if (packs.empty())
         return;
     shared_ = std::make_shared<SharedSupplyReading>(); // a look under way may still hold the old one
-    sensor_.emplace(std::make_unique<SupplyProbe>(packs, externals, shared_), std::make_shared<BackgroundThread>(),
+    sensor_.emplace(std::make_unique<SupplyProbe>(packs, externals, shared_), std::make_shared<DeviceThread>(threads_),
                     clock_);
 }
 

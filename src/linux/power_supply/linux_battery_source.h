@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "linux/kernel/device_threads.h"
 #include "linux/kernel/rescan_schedule.h"
 #include "linux/power_supply/battery_packs.h"
 #include "linux/power_supply/supply_reading.h"
@@ -16,8 +17,10 @@ namespace vantrix {
 class LinuxBatterySource : public BatterySampler::Source {
   public:
     LinuxBatterySource(const std::string& sys, std::shared_ptr<const Clock> clock,
+                       std::shared_ptr<DeviceThreads> threads = std::make_shared<DeviceThreads>(),
                        int listingPeriod = RescanSchedule::quick.passesPerListing)
-        : clock_(std::move(clock)), schedule_({sys + "/class/power_supply"}, {listingPeriod, 0}) {}
+        : clock_(std::move(clock)), threads_(std::move(threads)),
+          schedule_({sys + "/class/power_supply"}, {listingPeriod, 0}) {}
 
     std::optional<std::span<const Properties>> powerSources() override;
     const Properties* smartBattery() override;
@@ -26,6 +29,7 @@ class LinuxBatterySource : public BatterySampler::Source {
     void findSupplies();
 
     std::shared_ptr<const Clock> clock_;
+    std::shared_ptr<DeviceThreads> threads_;
     RescanSchedule schedule_;
     std::shared_ptr<SharedSupplyReading> shared_;
     std::optional<TimedSensor> sensor_; // absent on a machine without packs

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "linux/kernel/background_thread.h"
-
 namespace vantrix {
 namespace {
 
@@ -37,8 +35,9 @@ class HwmonFans::Probe : public TimedSensor::Probe {
     bool hasLimits_ = false;
 };
 
-HwmonFans::HwmonFans(std::string sys, std::shared_ptr<const Clock> clock)
-    : sys_(std::move(sys)), clock_(std::move(clock)), schedule_({sys_ + "/class/hwmon"}) {}
+HwmonFans::HwmonFans(std::string sys, std::shared_ptr<const Clock> clock, std::shared_ptr<DeviceThreads> threads)
+    : sys_(std::move(sys)), clock_(std::move(clock)), threads_(std::move(threads)), schedule_({sys_ + "/class/hwmon"}) {
+}
 
 void HwmonFans::beginPass() {
     if (schedule_.isDue())
@@ -72,7 +71,7 @@ void HwmonFans::search() {
         const auto numbers = sensorNumbers(chip.folder, "fan", "_input");
         if (numbers.empty())
             continue;
-        const auto background = std::make_shared<BackgroundThread>();
+        const auto background = std::make_shared<DeviceThread>(threads_);
         chips.push_back({DeviceRest(chip.device), {}});
         const bool isAwake = chips.back().rest.look(clock_->uptime()) == DeviceRest::State::awake;
         for (const int number : numbers) {

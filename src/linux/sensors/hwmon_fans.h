@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "linux/kernel/device_rest.h"
+#include "linux/kernel/device_threads.h"
 #include "linux/kernel/rescan_schedule.h"
 #include "linux/sensors/hwmon_chips.h"
 
@@ -18,7 +19,7 @@ namespace vantrix {
 /// since boards list connectors that no fan is plugged into.
 class HwmonFans {
   public:
-    HwmonFans(std::string sys, std::shared_ptr<const Clock> clock);
+    HwmonFans(std::string sys, std::shared_ptr<const Clock> clock, std::shared_ptr<DeviceThreads> threads);
 
     /// To be called once at the beginning of each pass.
     void beginPass();
@@ -69,6 +70,7 @@ class HwmonFans {
 
     std::string sys_;
     std::shared_ptr<const Clock> clock_;
+    std::shared_ptr<DeviceThreads> threads_;
     RescanSchedule schedule_;
     std::vector<Chip> chips_;
     std::vector<Fan> fans_;

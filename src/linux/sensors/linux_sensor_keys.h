@@ -14,8 +14,9 @@ namespace vantrix {
 /// here: they are all in the list of sensors.
 class LinuxSensorKeys : public SensorKeys {
   public:
-    LinuxSensorKeys(const std::string& sys, const std::shared_ptr<const Clock>& clock)
-        : fans_(sys, clock), powers_(sys, clock) {}
+    LinuxSensorKeys(const std::string& sys, const std::shared_ptr<const Clock>& clock,
+                    const std::shared_ptr<DeviceThreads>& threads = std::make_shared<DeviceThreads>())
+        : fans_(sys, clock, threads), powers_(sys, clock, threads) {}
 
     std::optional<double> value(std::string_view key) override;
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "linux/kernel/background_thread.h"
 #include "linux/sensors/found_temperatures.h"
 #include "linux/sensors/temperature_names.h"
 
@@ -19,11 +18,19 @@ double intervalOf(std::string_view chip) {
     return std::any_of(std::begin(commanded), std::end(commanded), isPrefix) ? ofCommands : 0.0;
 }
 
+/// Of the drivers whose sensors are registers of the processor.
+TimedSensor::Kind kindOf(std::string_view chip) {
+    constexpr std::string_view processors[] = {"coretemp", "k8temp",      "k10temp",
+                                               "zenpower", "via_cputemp", "x86_pkg_temp"};
+    const bool isProcessor = std::find(std::begin(processors), std::end(processors), chip) != std::end(processors);
+    return isProcessor ? TimedSensor::Kind::registers : TimedSensor::Kind::device;
+}
+
 } // namespace
 
 LinuxTemperatures::LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
-                                     std::shared_ptr<const TimedValues> nvidia)
-    : sys_(std::move(sys)), clock_(std::move(clock)), nvidia_(std::move(nvidia)),
+                                     std::shared_ptr<const TimedValues> nvidia, std::shared_ptr<DeviceThreads> threads)
+    : sys_(std::move(sys)), clock_(std::move(clock)), nvidia_(std::move(nvidia)), threads_(std::move(threads)),
       schedule_({sys_ + "/class/hwmon", sys_ + "/class/thermal"}) {}
 
 bool LinuxTemperatures::read(std::vector<HIDTemperatureSampler::Service>& services) {
@@ -70,7 +77,7 @@ void LinuxTemperatures::search() {
     std::vector<std::shared_ptr<Background>> backgrounds; // one a chip: a sensor that hangs holds up its chip alone
     chips_.clear();
     for (const auto& [name, device] : found.chips) {
-        backgrounds.push_back(std::make_shared<BackgroundThread>());
+        backgrounds.push_back(std::make_shared<DeviceThread>(threads_));
         chips_.push_back({DeviceRest(device, name == "drivetemp", intervalOf(name)), {}});
     }
     std::vector<Sensor> sensors;
@@ -78,7 +85,8 @@ void LinuxTemperatures::search() {
         const FoundTemperature& place = found.sensors[i];
         sensors.push_back(takeOrMake(sensors_, place.path, names[i], [&] {
             auto probe = std::make_unique<FileProbe>(place.path, millidegree, place.faultPath);
-            return Sensor{{place.path, names[i], TimedSensor(std::move(probe), backgrounds[place.device], clock_)}, 0};
+            TimedSensor sensor(std::move(probe), backgrounds[place.device], clock_, kindOf(place.chip));
+            return Sensor{{place.path, names[i], std::move(sensor)}, 0};
         }));
         sensors.back().chip = place.device;
     }

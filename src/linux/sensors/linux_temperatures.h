@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "linux/kernel/device_rest.h"
+#include "linux/kernel/device_threads.h"
 #include "linux/kernel/rescan_schedule.h"
 #include "linux/kernel/timed_value.h"
 #include "linux/sensors/hwmon_chips.h"
@@ -18,7 +19,8 @@ namespace vantrix {
 class LinuxTemperatures : public HIDTemperatureSampler::Source {
   public:
     LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
-                      std::shared_ptr<const TimedValues> nvidia = nullptr);
+                      std::shared_ptr<const TimedValues> nvidia = nullptr,
+                      std::shared_ptr<DeviceThreads> threads = std::make_shared<DeviceThreads>());
 
     bool read(std::vector<HIDTemperatureSampler::Service>& services) override;
 
@@ -39,6 +41,7 @@ class LinuxTemperatures : public HIDTemperatureSampler::Source {
     std::string sys_;
     std::shared_ptr<const Clock> clock_;
     std::shared_ptr<const TimedValues> nvidia_; // may be null
+    std::shared_ptr<DeviceThreads> threads_;
     RescanSchedule schedule_;
     std::vector<Chip> chips_;
     std::vector<Sensor> sensors_;

@@ -28,8 +28,8 @@ std::vector<std::string> metersOf(const std::string& folder) {
 
 } // namespace
 
-PowerTotals::PowerTotals(std::string sys, std::shared_ptr<const Clock> clock)
-    : sys_(std::move(sys)), clock_(std::move(clock)),
+PowerTotals::PowerTotals(std::string sys, std::shared_ptr<const Clock> clock, std::shared_ptr<DeviceThreads> threads)
+    : sys_(std::move(sys)), clock_(std::move(clock)), threads_(std::move(threads)),
       schedule_({sys_ + "/class/hwmon", sys_ + "/class/power_supply", sys_ + "/class/powercap"}) {}
 
 void PowerTotals::beginPass() {
@@ -106,7 +106,7 @@ void PowerTotals::findMeters(std::vector<KeptSensor>& system, std::vector<KeptSe
                 const bool isAveraging = pathExists(meter + "_average");
                 auto probe = std::make_unique<FileProbe>(meter + (isAveraging ? "_average" : "_input"), microwatt);
                 return KeptSensor{meter, label,
-                                  TimedSensor(std::move(probe), std::make_shared<BackgroundThread>(), clock_)};
+                                  TimedSensor(std::move(probe), std::make_shared<DeviceThread>(threads_), clock_)};
             }));
         }
     }
@@ -130,7 +130,7 @@ KeptSensor PowerTotals::findSupply(std::vector<KeptSensor>& known, const std::st
     return takeOrMake(known, folder, name, [&] {
         return KeptSensor{folder, name,
                           TimedSensor(std::make_unique<SupplyPower>(folder, stateFile, state),
-                                      std::make_shared<BackgroundThread>(), clock_)};
+                                      std::make_shared<DeviceThread>(threads_), clock_)};
     });
 }
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "linux/kernel/device_threads.h"
 #include "linux/kernel/rescan_schedule.h"
 #include "linux/sensors/hwmon_chips.h"
 #include "linux/sensors/powercap_zones.h"
@@ -14,7 +15,7 @@ namespace vantrix {
 /// Watts that the whole machine draws and that its adapter delivers.
 class PowerTotals {
   public:
-    PowerTotals(std::string sys, std::shared_ptr<const Clock> clock);
+    PowerTotals(std::string sys, std::shared_ptr<const Clock> clock, std::shared_ptr<DeviceThreads> threads);
 
     /// To be called once at the beginning of each pass.
     void beginPass();
@@ -42,6 +43,7 @@ class PowerTotals {
 
     std::string sys_;
     std::shared_ptr<const Clock> clock_;
+    std::shared_ptr<DeviceThreads> threads_;
     RescanSchedule schedule_;
     std::optional<Platform> platform_;
     std::vector<KeptSensor> meters_;

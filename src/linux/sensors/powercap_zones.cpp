@@ -29,7 +29,7 @@ std::optional<std::uint64_t> wrappedGrowth(std::uint64_t now, std::uint64_t befo
 EnergyZone::EnergyZone(std::string folder, std::string name, std::shared_ptr<const Clock> clock)
     : folder_(std::move(folder)), id_(folder_.substr(folder_.rfind('/') + 1)), name_(std::move(name)),
       counter_(std::make_unique<FileProbe>(folder_ + "/energy_uj", 1.0), std::make_shared<BackgroundThread>(),
-               std::move(clock)) {
+               std::move(clock), TimedSensor::Kind::registers) {
     KernelFile range(folder_ + "/max_energy_range_uj");
     range_ = energyOf(readNumber(range)).value_or(0);
 }

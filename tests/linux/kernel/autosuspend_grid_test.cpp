@@ -7,6 +7,7 @@
 #include "fakes/fixture_machine.h"
 #include "linux/graphics/linux_gpu_source.h"
 #include "linux/opened_files.h"
+#include "linux/read_in_place.h"
 #include "linux/sensors/linux_sensor_keys.h"
 #include "linux/sensors/linux_temperatures.h"
 
@@ -21,6 +22,7 @@ struct SharedClock : Clock {
 
 /// Passes over an idle graphics card, whose load, temperature and fan are asked for.
 struct Card {
+    ReadInPlace inPlace;
     fakes::FixtureMachine machine{"idle-card"};
     double now = 1000.3;
     LinuxGPUSource loads{machine.path("sys"), std::make_unique<SharedClock>(now), nullptr};

@@ -43,93 +43,87 @@ struct FakeProbe : TimedSensor::Probe {
 };
 
 struct TimedSensorTest : ::testing::Test {
+    using Kind = TimedSensor::Kind;
+
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     std::shared_ptr<FakeBackground> background = std::make_shared<FakeBackground>();
     FakeProbe* probe = nullptr;
-    TimedSensor sensor = make(probe);
+    TimedSensor device = make(Kind::device);
 
-    TimedSensor make(FakeProbe*& made) {
-        made = new FakeProbe(*clock);
-        return {std::unique_ptr<TimedSensor::Probe>(made), background, clock};
+    TimedSensor make(Kind kind) {
+        probe = new FakeProbe(*clock);
+        return {std::unique_ptr<TimedSensor::Probe>(probe), background, clock, kind};
     }
-    std::optional<double> valueAfter(double seconds, double duration = 0.0) {
+    std::optional<double> valueAfter(TimedSensor& sensor, double seconds, double duration = 0.0) {
         clock->now += seconds;
         probe->duration = duration;
         return sensor.value();
     }
-    void becomeSlow() { valueAfter(0.0, 0.021); }
 };
 
-TEST_F(TimedSensorTest, ASensorIsSlowOnceTheMachineCannotHaveHeldItUp) {
-    for (const double duration : {0.0004, 0.003, 0.0004, 0.003, 0.003}) {
-        EXPECT_EQ(valueAfter(2.0, duration), 1.0);
-        EXPECT_TRUE(background->jobs.empty());
-    }
-    EXPECT_EQ(probe->reads, 5);
-    probe->next.reset();
-    EXPECT_EQ(valueAfter(2.0), 1.0); // two in a row were its own
-    EXPECT_EQ(probe->reads, 5);
-    EXPECT_EQ(background->jobs.size(), 1u);
-}
-
-TEST_F(TimedSensorTest, SlowSensorsNeverDelayAPassAgain) {
-    becomeSlow();
+TEST_F(TimedSensorTest, ADeviceNeverDelaysAPass) {
+    EXPECT_EQ(valueAfter(device, 0.0), 1.0); // waited for
+    background->hangs = true;
     probe->next = 2.0;
-    EXPECT_EQ(valueAfter(2.0), 1.0);
-    EXPECT_EQ(valueAfter(2.0), 1.0);
+    EXPECT_EQ(valueAfter(device, 2.0), 1.0);
+    EXPECT_EQ(valueAfter(device, 2.0), 1.0);
     EXPECT_EQ(probe->reads, 1);
     EXPECT_EQ(background->jobs.size(), 1u); // one read at a time
     background->performAll();
-    EXPECT_EQ(valueAfter(2.0), 2.0);
+    EXPECT_EQ(valueAfter(device, 2.0), 2.0);
     probe->next.reset();
     background->performAll();
-    EXPECT_EQ(valueAfter(2.0), std::nullopt);
+    EXPECT_EQ(valueAfter(device, 2.0), std::nullopt);
     EXPECT_EQ(probe->reads, 3);
 }
 
-TEST_F(TimedSensorTest, AHangingSensorIsAbsentUntilItAnswers) {
-    becomeSlow();
-    EXPECT_EQ(valueAfter(60.0), 1.0); // however far apart the passes are
-    EXPECT_EQ(valueAfter(9.9), 1.0);
-    EXPECT_EQ(valueAfter(0.2), std::nullopt);
+TEST_F(TimedSensorTest, AnOldValueIsRenewedBeforeItIsShown) {
+    valueAfter(device, 0.0);
+    probe->next = 2.0;
+    EXPECT_EQ(valueAfter(device, 19.0), 1.0);
     background->performAll();
-    EXPECT_EQ(valueAfter(60.0), 1.0);
+    probe->next = 3.0;
+    EXPECT_EQ(valueAfter(device, 3600.0), 3.0);
 }
 
-TEST_F(TimedSensorTest, OneVerySlowReadSendsAllSensorsOfItsDeviceToTheBackground) {
-    FakeProbe* sibling = nullptr;
-    TimedSensor other = make(sibling);
-    EXPECT_EQ(other.value(), 1.0);
-    valueAfter(0.0);
-    becomeSlow();
-    FakeProbe* unread = nullptr;
-    TimedSensor third = make(unread);
-    EXPECT_EQ(other.value(), 1.0);
-    EXPECT_EQ(third.value(), std::nullopt);
-    EXPECT_EQ(sibling->reads + unread->reads, 1);
-    background->performAll();
-    EXPECT_EQ(third.value(), 1.0);
-}
-
-TEST_F(TimedSensorTest, AFirstReadThatHangsHoldsNothingUp) {
+TEST_F(TimedSensorTest, AHangingDeviceIsAbsentUntilItAnswers) {
     background->hangs = true;
-    FakeProbe* sibling = nullptr;
-    TimedSensor other = make(sibling);
-    EXPECT_EQ(sensor.value(), std::nullopt);
-    EXPECT_EQ(other.value(), std::nullopt);
-    EXPECT_EQ(probe->reads + sibling->reads, 0);
+    EXPECT_EQ(valueAfter(device, 0.0), std::nullopt);
     background->performAll();
-    EXPECT_EQ(sensor.value(), 1.0);
+    EXPECT_EQ(valueAfter(device, 0.0), 1.0);
+    EXPECT_EQ(valueAfter(device, 9.9), 1.0);
+    EXPECT_EQ(valueAfter(device, 0.2), std::nullopt);
+    background->performAll();
+    EXPECT_EQ(valueAfter(device, 60.0), 1.0); // however far apart the passes are
 }
 
-TEST_F(TimedSensorTest, IsReadDirectlyAgainOnceItWasTheMachineThatWasSlow) {
-    becomeSlow();
+TEST_F(TimedSensorTest, RegistersAreReadDirectlyUnlessTheyAreSlow) {
+    background->hangs = true;
+    TimedSensor quick = make(Kind::registers);
+    for (const double duration : {0.0004, 0.003, 0.0004, 0.003, 0.003}) {
+        EXPECT_EQ(valueAfter(quick, 2.0, duration), 1.0);
+        EXPECT_TRUE(background->jobs.empty());
+    }
+    probe->next.reset();
+    EXPECT_EQ(valueAfter(quick, 2.0), 1.0); // two in a row were its own
+    EXPECT_EQ(probe->reads, 5);
+    EXPECT_EQ(background->jobs.size(), 1u);
+
+    TimedSensor verySlow = make(Kind::registers);
+    valueAfter(verySlow, 0.0, 0.021);
+    EXPECT_EQ(valueAfter(verySlow, 2.0), 1.0);
+    EXPECT_EQ(probe->reads, 1);
+}
+
+TEST_F(TimedSensorTest, RegistersAreReadDirectlyAgainOnceItWasTheMachineThatWasSlow) {
+    TimedSensor quick = make(Kind::registers);
+    valueAfter(quick, 0.0, 0.021);
     for (int i = 0; i <= TimedSensor::quickReadsToReturn; ++i) {
-        valueAfter(0.0);
+        valueAfter(quick, 0.0);
         background->performAll();
     }
     const int reads = probe->reads;
-    valueAfter(0.0);
+    valueAfter(quick, 0.0);
     EXPECT_EQ(probe->reads, reads + 1);
     EXPECT_TRUE(background->jobs.empty());
 }

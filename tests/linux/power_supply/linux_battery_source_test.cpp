@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "linux/read_in_place.h"
 #include "linux/temporary_folder.h"
 #include "samplers/fake_clock.h"
 
@@ -9,8 +10,9 @@ namespace vantrix {
 namespace {
 
 struct LinuxBatterySourceTest : ::testing::Test {
+    ReadInPlace inPlace;
     TemporaryFolder folder;
-    LinuxBatterySource source{folder.path("sys"), std::make_shared<FakeClock>(), 1};
+    LinuxBatterySource source{folder.path("sys"), std::make_shared<FakeClock>(), std::make_shared<DeviceThreads>(), 1};
 
     const std::string supplies = "sys/class/power_supply/";
 

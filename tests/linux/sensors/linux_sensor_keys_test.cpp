@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "linux/read_in_place.h"
 #include "linux/temporary_folder.h"
 #include "samplers/fake_clock.h"
 
@@ -9,6 +10,7 @@ namespace vantrix {
 namespace {
 
 struct LinuxSensorKeysTest : ::testing::Test {
+    ReadInPlace inPlace;
     TemporaryFolder folder;
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     LinuxSensorKeys keys{folder.path(""), clock};

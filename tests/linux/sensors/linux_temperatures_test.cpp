@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 
 #include "linux/opened_files.h"
+#include "linux/read_in_place.h"
 #include "linux/temporary_folder.h"
 #include "samplers/fake_clock.h"
 
@@ -16,6 +17,7 @@ using ::testing::IsEmpty;
 using ::testing::Pair;
 
 struct LinuxTemperaturesTest : ::testing::Test {
+    ReadInPlace inPlace;
     TemporaryFolder folder;
     std::shared_ptr<FakeClock> clock = std::make_shared<FakeClock>();
     LinuxTemperatures source{folder.path(""), clock};

@@ -1,0 +1,68 @@
+#include "linux/kernel/device_threads.h"
+
+#include <atomic>
+#include <future>
+#include <thread>
+
+#include <gtest/gtest.h>
+
+namespace vantrix {
+namespace {
+
+struct CountingJob : Background::Job {
+    std::atomic<int> performed = 0;
+
+    void perform() override { ++performed; }
+};
+
+struct HangingJob : Background::Job {
+    std::promise<void> answer;
+
+    void perform() override { answer.get_future().wait(); }
+};
+
+struct DeviceThreadsTest : testing::Test {
+    std::shared_ptr<DeviceThreads> threads = std::make_shared<DeviceThreads>();
+    DeviceThread hanging{threads};
+    DeviceThread quick{threads};
+    std::shared_ptr<HangingJob> hangingJob = std::make_shared<HangingJob>();
+    std::shared_ptr<CountingJob> job = std::make_shared<CountingJob>();
+
+    void SetUp() override { hanging.run(hangingJob); }
+    void TearDown() override { hangingJob->answer.set_value(); }
+
+    /// Asks the quick device until the job is performed.
+    bool isPerformed(const CountingJob& awaited) {
+        const int before = awaited.performed;
+        const auto another = std::make_shared<CountingJob>();
+        for (const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+             std::chrono::steady_clock::now() < end;) {
+            quick.run(another);
+            std::this_thread::yield();
+            if (awaited.performed > before)
+                return true;
+        }
+        return false;
+    }
+};
+
+TEST_F(DeviceThreadsTest, ADeviceThatHangsKeepsItsThreadToItself) {
+    quick.run(job);
+    EXPECT_TRUE(isPerformed(*job)) << "it was handed over";
+    const auto next = std::make_shared<CountingJob>();
+    hanging.run(next);
+    quick.run(job);
+    EXPECT_TRUE(isPerformed(*job));
+    EXPECT_EQ(next->performed, 0) << "it would hang, too";
+}
+
+TEST_F(DeviceThreadsTest, APassWaitsForThemAllTogether) {
+    using namespace std::chrono_literals;
+    const auto begin = std::chrono::steady_clock::now();
+    for (int sensors = 0; sensors < 100; ++sensors)
+        hanging.wait(20ms);
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, 1s);
+}
+
+} // namespace
+} // namespace vantrix
