@@ -58,8 +58,8 @@ std::vector<SourceDiagnosis> LinuxReplay::diagnose() const {
 
 OrProblem<Replay> startReplay(const std::string& folder) {
     std::error_code error;
-    if (!std::filesystem::is_directory(folder + "/proc", error) &&
-        !std::filesystem::is_directory(folder + "/sys", error))
+    const auto holds = [&](const char* entry) { return std::filesystem::exists(folder + entry, error); };
+    if (!holds("/proc") && !holds("/sys") && !holds("/bases"))
         return folder + " holds no capture";
     auto replay = std::make_unique<LinuxReplay>(folder);
     if (!replay->layPass(0))

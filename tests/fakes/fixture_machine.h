@@ -1,34 +1,31 @@
 #pragma once
 
+#include "linux/capture/captured_tree.h"
+#include "linux/pass_folder.h"
 #include "linux/temporary_folder.h"
 #include "platform/sampling_sources.h"
 
 namespace vantrix::fakes {
 
-/// The kernel's trees of a machine under tests/fixtures: the ordinary desktop there, the machines that the machine's
-/// file `bases` lists, and over them its own files. What its file `absent` lists, it lacks.
+/// The kernel's trees of a machine under tests/fixtures: the ordinary desktop there, over it the machine's own files
+/// and what is other in its first `passes`.
 class FixtureMachine : public TemporaryFolder {
   public:
-    explicit FixtureMachine(const std::string& name) {
-        lay("ordinary-desktop");
-        lay(name);
+    explicit FixtureMachine(const std::string& name, int passes = 0) {
+        const std::string machine = std::string(FIXTURES) + '/' + name;
+        lay(std::string(FIXTURES) + "/ordinary-desktop");
+        for (int pass = 0; pass <= passes; ++pass)
+            lay(passFolder(machine, pass));
+        if (std::filesystem::exists(machine + "/statvfs"))
+            std::filesystem::copy(machine + "/statvfs", path("statvfs"));
     }
 
     KernelRoots roots() const { return {path("proc"), path("sys")}; }
 
   private:
-    void lay(const std::string& name) const {
-        using Options = std::filesystem::copy_options;
-        const std::string machine = std::string(FIXTURES) + '/' + name;
-        std::string line;
-        for (std::ifstream bases(machine + "/bases"); std::getline(bases, line);)
-            lay(line);
-        for (std::ifstream absent(machine + "/absent"); std::getline(absent, line);)
-            remove(line);
-        std::filesystem::copy(machine, path(""),
-                              Options::recursive | Options::copy_symlinks | Options::overwrite_existing);
-        remove("absent");
-        remove("bases");
+    void lay(const std::string& layer) const {
+        if (!layOver(path("."), layer))
+            std::abort(); // a test of a machine that is there in part would mean nothing
     }
 };
 

@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <vector>
 
 namespace vantrix {
@@ -53,79 +52,97 @@ bool makeFolder(const std::string& path) {
     return !error;
 }
 
+/// What a machine is laid into.
+class Ground {
+  public:
+    explicit Ground(const std::string& folder) : folder_(fs::weakly_canonical(folder).string()) {}
+
+    bool remove(const std::string& entry) const {
+        std::error_code error;
+        if (mayChange(entry))
+            fs::remove_all(path(entry), error);
+        return mayChange(entry) && !error;
+    }
+    bool addFolder(const std::string& entry) const { return mayChange(entry) && makeFolder(path(entry)); }
+    bool add(const std::string& layer, const std::string& entry) const;
+
+  private:
+    std::string path(const std::string& entry) const { return folder_ + '/' + entry; }
+    bool isInside(const fs::path& path) const {
+        std::error_code error;
+        const std::string end = fs::weakly_canonical(path, error).string();
+        return !error && (end + '/').starts_with(folder_ + '/');
+    }
+    /// A capture that somebody sent must not lead out of its folder.
+    bool mayChange(const std::string& entry) const {
+        const std::string tree = entry.substr(0, entry.find('/'));
+        const bool isTree = tree == "proc" || tree == "sys";
+        return isTree && fs::path(entry).filename() != ".." && isInside(fs::path(path(entry)).parent_path());
+    }
+    bool addLink(const fs::path& from, const std::string& to) const;
+
+    std::string folder_;
+};
+
+bool Ground::addLink(const fs::path& from, const std::string& to) const {
+    std::error_code error;
+    const fs::path target = fs::read_symlink(from, error);
+    fs::remove_all(to, error);
+    fs::create_symlink(target, to, error);
+    if (!error && isInside(to))
+        return true;
+    fs::remove(to, error);
+    return false;
+}
+
+bool Ground::add(const std::string& layer, const std::string& entry) const {
+    const fs::path from = layer + '/' + entry;
+    const std::string to = path(entry);
+    std::error_code error;
+    const auto kind = fs::symlink_status(from, error).type();
+    if (!mayChange(entry))
+        return false;
+    if (kind == fs::file_type::directory)
+        return fs::is_directory(to, error) || makeFolder(to);
+    fs::create_directories(fs::path(to).parent_path(), error);
+    if (kind == fs::file_type::symlink)
+        return addLink(from, to);
+    const auto before = fs::symlink_status(to, error).type();
+    if (before != fs::file_type::regular && before != fs::file_type::not_found)
+        fs::remove_all(to, error);
+    fs::copy_file(from, to, fs::copy_options::overwrite_existing, error); // fails for what is no plain file
+    if (!error)
+        fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, error);
+    return !error;
+}
+
 } // namespace
 
+bool layOver(const std::string& folder, const std::string& layer) {
+    const Ground ground(folder);
+    bool isWhole = true;
+    for (const std::string& base : linesOf(layer + "/bases"))
+        isWhole = layOver(folder, fs::path(layer).parent_path() / base) && isWhole;
+    for (const std::string& entry : linesOf(layer + "/absent"))
+        isWhole = ground.remove(entry) && isWhole;
+    for (const char* list : {"/folders", "/unreadable"}) // a folder that is read like a file fails, whoever reads it
+        for (const std::string& entry : linesOf(layer + list))
+            isWhole = ground.addFolder(entry) && isWhole;
+    for (const std::string& entry : entriesBelow(layer))
+        isWhole = ground.add(layer, entry) && isWhole;
+    return isWhole;
+}
+
 CapturedTree::CapturedTree() : path_(folderInMemory()) {
-    if (!path_.empty()) // of another's name while it is read: the trees are looked for through it
-        path_ = fs::canonical(path_);
-    for (const char* tree : {"proc", "sys"})
-        makeFolder(path(tree));
+    for (const std::string& tree : {roots().proc, roots().sys})
+        if (!path_.empty())
+            makeFolder(tree);
 }
 
 CapturedTree::~CapturedTree() {
     std::error_code error;
     if (!path_.empty())
         fs::remove_all(path_, error);
-}
-
-/// Whether an entry may be changed: a capture that somebody sent must not lead out of its folder.
-bool CapturedTree::isInside(const std::string& entry) const {
-    std::error_code error;
-    const bool isTree = entry == "proc" || entry == "sys" || entry.starts_with("proc/") || entry.starts_with("sys/");
-    const fs::path folder = fs::weakly_canonical(fs::path(path(entry)).parent_path(), error);
-    return !path_.empty() && isTree && !error && (folder.string() + '/').starts_with(path_ + '/') &&
-           fs::path(entry).filename() != "..";
-}
-
-bool CapturedTree::lay(const std::string& layer) const {
-    bool isWhole = !path_.empty();
-    const auto each = [&](const char* list, const std::function<bool(const std::string&)>& change) {
-        for (const std::string& line : linesOf(layer + '/' + list))
-            isWhole = change(line) && isWhole;
-    };
-    each("bases", [&](const auto& base) { return lay(fs::path(layer).parent_path() / base); });
-    each("absent", [&](const auto& entry) {
-        std::error_code error;
-        if (isInside(entry))
-            fs::remove_all(path(entry), error);
-        return isInside(entry) && !error;
-    });
-    for (const char* list : {"folders", "unreadable"}) // a folder that is read like a file fails, whoever reads it
-        each(list, [&](const auto& entry) { return isInside(entry) && makeFolder(path(entry)); });
-    for (const std::string& entry : entriesBelow(layer))
-        isWhole = layEntry(layer, entry) && isWhole;
-    return isWhole;
-}
-
-bool CapturedTree::layEntry(const std::string& layer, const std::string& entry) const {
-    const fs::path from = layer + '/' + entry;
-    const std::string to = path(entry);
-    std::error_code error;
-    const auto kind = fs::symlink_status(from, error).type();
-    if (!isInside(entry))
-        return false;
-    if (kind == fs::file_type::directory)
-        return fs::is_directory(to, error) || makeFolder(to);
-    const auto before = fs::symlink_status(to, error).type();
-    if (kind == fs::file_type::symlink) {
-        const fs::path target = fs::read_symlink(from, error);
-        if (before != fs::file_type::not_found)
-            fs::remove_all(to, error);
-        fs::create_symlink(target, to, error);
-        const fs::path end = fs::weakly_canonical(to, error);
-        if (!error && end.string().starts_with(path_ + '/'))
-            return true;
-        fs::remove(to, error);
-        return false;
-    }
-    if (kind != fs::file_type::regular)
-        return false;
-    if (before != fs::file_type::regular && before != fs::file_type::not_found)
-        fs::remove_all(to, error);
-    fs::create_directories(fs::path(to).parent_path(), error);
-    fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
-    fs::permissions(to, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add, error);
-    return !error;
 }
 
 } // namespace vantrix
