@@ -30,6 +30,9 @@ using std::chrono::milliseconds;
 constexpr milliseconds betweenPasses{500}; // loads and rates are differences between two readings
 constexpr milliseconds servicePatience{1000};
 constexpr milliseconds readPatience{2000};
+constexpr const char* captureAdvice =
+    "Is a reading wrong or missing? vantrix --capture DIR writes down what is read on this machine, without addresses, "
+    "serial numbers and names. Whoever gets that folder sees what you see.";
 constexpr const char* bluetoothElsewhere = "Levels are only asked for on the machine itself, not through another root.";
 
 /// The terminal's width, within limits that read well; 80 for a file, so that all reports look the same.
@@ -170,6 +173,8 @@ DoctorReport Doctor::examine() {
     report.system = systemFacts(version_, *information, roots_);
     if (replay_ != nullptr)
         forgetThisMachine(report);
+    else if (canCapture())
+        report.advice = captureAdvice;
     hidePrivateFolders(report);
     return report;
 }

@@ -28,6 +28,7 @@ struct DoctorReport {
     std::vector<DoctorRow> readings;
     std::vector<DoctorRow> services;
     std::optional<DoctorInstance> instance; ///< absent when none runs
+    std::string advice = {};                ///< for people alone; may be empty
 };
 
 /// One word for people and scripts: "ok", "absent", "asleep", "denied", "silent" or "damaged".

@@ -138,8 +138,12 @@ std::string textReport(const DoctorReport& report, int columns) {
     Table readings("READINGS", report.readings, width);
     readings.fit(pass);
     const Table services("SERVICES", report.services, width);
-    return "SYSTEM\n" + factsText(report.system, width) + '\n' + readings.text() + readings.sum("One pass", pass) +
-           '\n' + services.text() + "\nRUNNING INSTANCE\n" + factsText(instanceFacts(report.instance), width);
+    std::string text =
+        "SYSTEM\n" + factsText(report.system, width) + '\n' + readings.text() + readings.sum("One pass", pass);
+    if (!report.services.empty())
+        text += '\n' + services.text();
+    text += "\nRUNNING INSTANCE\n" + factsText(instanceFacts(report.instance), width);
+    return report.advice.empty() ? text : text + '\n' + factsText({{"", report.advice}}, width);
 }
 
 } // namespace vantrix

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -41,6 +42,24 @@ std::vector<std::string> ownNames() {
     return names;
 }
 
+constexpr const char* readme = R"(What Vantrix reads on a machine, and nothing else of it, for people who look for
+a fault in how it reads.
+
+proc, sys     the kernel's files as they were read before the first pass
+answers       what was learnt otherwise: time, room on the disk, the connection
+pass-001 ...  what was other in each pass; the lists "absent", "folders" and
+              "unreadable" tell what files cannot
+records.json  what came of each pass
+
+Hardware and network addresses, serial numbers, and the names of networks, of
+this machine and of its user were replaced, everywhere alike. The models of
+devices and the names of network interfaces are as they were. Please look
+whether you would rather not show one that you chose yourself: grep -r NAME .
+finds it, and it may be changed in every file that bears it.
+
+To see it again: vantrix --replay DIR --print json
+)";
+
 class LinuxCapture : public Capture {
   public:
     LinuxCapture(std::string folder, const KernelRoots& roots, double interval)
@@ -54,7 +73,7 @@ class LinuxCapture : public Capture {
     }
     void beginPass() override;
     bool endPass(const std::string& record) override;
-    std::size_t fileCount() const override { return files_; }
+    std::size_t fileCount() const override;
 
   private:
     bool writeReadme() const;
@@ -67,7 +86,6 @@ class LinuxCapture : public Capture {
     std::shared_ptr<Answers> answers_ = std::make_shared<Answers>();
     PassClock clock_;
     int passes_ = 0; // that were laid down
-    std::size_t files_ = 0;
 };
 
 void LinuxCapture::beginPass() {
@@ -88,10 +106,8 @@ bool LinuxCapture::endPass(const std::string& record) {
         processor.cores();
     }
     const std::string layer = passFolder(folder_, passes_);
-    const auto count = recorder_.layDown(layer);
-    if (!count || !answers_->save(layer + "/answers"))
+    if (!recorder_.layDown(layer) || !answers_->save(layer + "/answers"))
         return false;
-    files_ += *count + 1;
     ++passes_;
     if (record.empty())
         return writeReadme();
@@ -100,27 +116,23 @@ bool LinuxCapture::endPass(const std::string& record) {
     return static_cast<bool>(records.flush());
 }
 
+std::size_t LinuxCapture::fileCount() const {
+    std::error_code error;
+    return static_cast<std::size_t>(std::count_if(fs::recursive_directory_iterator(folder_, error), {},
+                                                  [](const auto& entry) { return !entry.is_directory(); }));
+}
+
 bool LinuxCapture::writeReadme() const {
     std::ofstream file(folder_ + "/README");
-    file
-        << "What Vantrix reads on a machine, and nothing else of it, for people who look for a fault in how it reads.\n"
-           "\n"
-           "proc, sys     the kernel's files as they were read before the first pass\n"
-           "answers       what was learnt otherwise: time, room on the disk, the connection\n"
-           "pass-001 ...  what was other in each pass; the lists \"absent\", \"folders\" and\n"
-           "              \"unreadable\" name what files cannot show\n"
-           "records.json  what came of each pass\n"
-           "\n"
-           "Hardware and network addresses, serial numbers, the names of networks, of this machine and of its user\n"
-           "were replaced, everywhere alike. The models of devices are as they were: please look whether one that\n"
-           "you named yourself bears a name that you would rather not show. They stand in files named model_name,\n"
-           "name and uevent; `grep -r NAME .` finds them.\n"
-           "\n"
-           "To see it again: vantrix --replay DIR --print json\n";
+    file << readme;
     return static_cast<bool>(file.flush());
 }
 
 } // namespace
+
+bool canCapture() {
+    return true;
+}
 
 OrProblem<Capture> startCapture(const std::string& folder, const KernelRoots& roots, double interval) {
     std::error_code error;

@@ -41,6 +41,9 @@ class Replay {
     virtual std::vector<SourceDiagnosis> diagnose() const = 0;
 };
 
+/// False where the kernel shows nothing in files.
+bool canCapture();
+
 template<typename T>
 using OrProblem = std::variant<std::unique_ptr<T>, std::string>;
 

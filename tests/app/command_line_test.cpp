@@ -22,6 +22,9 @@ TEST(CommandLine, ReadsWhatMayBeLeftOut) {
         {"--show-settings", Action::showSettings},
         {"--doctor", Action::doctor},
         {"--doctor json --sys-root /host/sys", Action::doctor},
+        {"--capture /tmp/a --interval 1", Action::capture},
+        {"--replay /tmp/a", Action::run},
+        {"--replay /tmp/a --doctor json", Action::doctor},
         {"-platform offscreen", Action::run},
         {"-exportScreenshots", Action::run},                                  // no folder behind it
         {"--nonsense -exportScreenshots --print", Action::exportScreenshots}, // into a folder of that name
@@ -48,7 +51,8 @@ TEST(CommandLine, ReadsThePrintOptions) {
 TEST(CommandLine, TheUsualRootsAreThisMachinesHoweverTheyAreWritten) {
     for (const char* roots : {"--proc-root /proc/", "--sys-root /sys"})
         EXPECT_TRUE(std::get<CommandLine>(parsed(roots)).watchesThisMachine()) << roots;
-    EXPECT_FALSE(std::get<CommandLine>(parsed("--proc-root /")).watchesThisMachine());
+    for (const char* others : {"--proc-root /", "--replay /tmp/a"})
+        EXPECT_FALSE(std::get<CommandLine>(parsed(others)).watchesThisMachine()) << others;
 }
 
 TEST(CommandLine, SaysInOneLineWhatIsWrong) {
@@ -64,6 +68,13 @@ TEST(CommandLine, SaysInOneLineWhatIsWrong) {
         "--print text --quit",
         "--doctor xml",
         "--doctor --count 2",
+        "--capture",
+        "--capture ",
+        "--capture a --modules cpu",
+        "--capture a --replay b",
+        "--replay a --print text --interval 2",
+        "--replay a --sys-root /host/sys",
+        "--replay a --quit",
         "--interval 2",
         "--show-settings sounds",
         "--proc-root",

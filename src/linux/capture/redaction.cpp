@@ -144,7 +144,7 @@ std::string Redaction::network(const std::string& name) {
     const bool isKnown =
         std::any_of(words_.begin(), words_.end(), [&](const auto& word) { return word.first == lowered; });
     if (!isKnown && !isKernelsWord(lowered))
-        words_.emplace_back(lowered, replacement);
+        words_.insert(words_.begin(), {lowered, replacement}); // which may hold the others
     return replacement;
 }
 

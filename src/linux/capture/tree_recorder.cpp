@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <sstream>
+#include <utility>
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -286,27 +286,22 @@ bool TreeRecorder::write(const std::string& folder, const std::string& key) cons
     return static_cast<bool>(file.flush());
 }
 
-std::optional<std::size_t> TreeRecorder::layDown(const std::string& folder) {
+bool TreeRecorder::layDown(const std::string& folder) {
     std::error_code error;
     fs::create_directories(folder, error);
     std::set<std::string> folders;
     std::set<std::string> unreadable;
     for (const std::string& key : changed_) {
         if (!write(folder, key))
-            return std::nullopt;
+            return false;
         if (known_.at(key).kind == Entry::Kind::unreadable)
             unreadable.insert(key);
         else if (isEmptyFolder(key)) // many ways to send a capture leave them out
             folders.insert(key);
     }
-    if (error || !writeLines(folder + "/absent", absent_) || !writeLines(folder + "/folders", folders) ||
-        !writeLines(folder + "/unreadable", unreadable))
-        return std::nullopt;
-    const auto isFile = [&](const std::string& key) { return known_.at(key).kind != Entry::Kind::folder; };
-    const auto count = std::count_if(changed_.begin(), changed_.end(), isFile);
     changed_.clear();
-    absent_.clear();
-    return static_cast<std::size_t>(count);
+    return !error && writeLines(folder + "/absent", std::exchange(absent_, {})) &&
+           writeLines(folder + "/folders", folders) && writeLines(folder + "/unreadable", unreadable);
 }
 
 } // namespace vantrix

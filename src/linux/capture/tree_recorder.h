@@ -29,8 +29,8 @@ class TreeRecorder : public TreeWatch {
     /// Files may have changed.
     void beginPass() { seen_.clear(); }
     /// Writes what is other than when this was last called into `folder`: the trees "proc" and "sys", and lists of what
-    /// files cannot show. How many files and links; absent when it cannot be written.
-    std::optional<std::size_t> layDown(const std::string& folder);
+    /// files cannot show. False when it cannot be written.
+    bool layDown(const std::string& folder);
 
   private:
     struct Entry {

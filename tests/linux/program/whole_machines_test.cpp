@@ -5,16 +5,12 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
-
-#include <gmock/gmock.h>
 
 #include "fakes/fixture_machine.h"
+#include "linux/program/ended_program.h"
 
 namespace vantrix {
 namespace {
-
-using namespace Qt::StringLiterals;
 
 /// What a person knows of a machine at work by looking into it, and by asking sensors(1) and upower.
 struct Machine {
@@ -58,21 +54,12 @@ std::string captureOf(const Machine& machine) {
     return std::string(FIXTURES) + '/' + machine.name;
 }
 
-/// What the program prints of a capture, whoever runs it and wherever.
-QByteArray replayed(const std::string& capture) {
-    const TemporaryFolder user;
-    user.write("vantrix/settings.json",
+/// What the program prints of a capture, whatever units its user prefers.
+std::string replayed(const std::string& capture) {
+    const TemporaryFolder home;
+    home.write(".config/vantrix/settings.json",
                R"({"temperatureUnit": "fahrenheit", "networkUnit": "bits", "memoryUnit": "gib"})");
-    QProcess program;
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LANGUAGE"_s, u"it"_s);
-    environment.insert(u"TZ"_s, u"Asia/Tokyo"_s);
-    environment.insert(u"XDG_CONFIG_HOME"_s, QString::fromStdString(user.path("")));
-    program.setProcessEnvironment(environment);
-    program.start(QStringLiteral(VANTRIX_PROGRAM),
-                  {u"--replay"_s, QString::fromStdString(capture), u"--print"_s, u"json"_s});
-    EXPECT_TRUE(program.waitForFinished());
-    return program.readAllStandardOutput();
+    return EndedProgram({"--replay", capture, "--print", "json"}, home.path("")).output;
 }
 
 /// KiB in use as htop tells it, which counts locked files as cache; ZFS's cache counts as free as well.
@@ -111,7 +98,7 @@ void expectRates(const Machine& machine, const QJsonObject& line) {
 TEST(WholeMachines, PrintWhatTheCommonToolsTell) {
     for (const Machine& known : machines) {
         SCOPED_TRACE(known.name);
-        const auto lines = replayed(captureOf(known)).trimmed().split('\n');
+        const auto lines = QByteArray::fromStdString(replayed(captureOf(known))).trimmed().split('\n');
         EXPECT_EQ(lines.size(), known.passes);
         const QJsonObject line = QJsonDocument::fromJson(lines.back()).object();
         expectMemory(fakes::FixtureMachine(known.name, known.passes), line[u"memory"]);
@@ -132,7 +119,7 @@ TEST(WholeMachines, PrintTheSameEverywhere) {
         if (!file)
             continue;
         const std::string records((std::istreambuf_iterator<char>(file)), {});
-        EXPECT_EQ(replayed(entry.path()).toStdString(), records) << entry.path();
+        EXPECT_EQ(replayed(entry.path()), records) << entry.path();
         ++count;
     }
     EXPECT_GE(count, 3);
