@@ -1,5 +1,6 @@
 #include "macos/status_area/native_menu.h"
 
+#include <QGuiApplication>
 #include <QWidget>
 
 #import <AppKit/AppKit.h>
@@ -66,6 +67,8 @@ NSMenu* makeNativeMenu(const std::vector<StatusMenuEntry>& entries) {
 
 /// The toolkit's own pop-up is a window outside the popover, which may close for it before a click has arrived there.
 bool popUpSystemMenu(const std::vector<StatusMenuEntry>& entries, const QWidget& widget) {
+    if (QGuiApplication::platformName() != QStringLiteral("cocoa"))
+        return false; // drawn on no screen
     @autoreleasepool {
         const QWidget& window = *widget.window();
         NSView* view = (__bridge NSView*)reinterpret_cast<void*>(window.winId());
