@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick check-darwin mac-report check-debian hosts bench ground-truth format clean
+.PHONY: run build test test-asan check check-quick check-darwin mac-report check-debian hosts bench ground-truth format clean soak
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -51,6 +51,14 @@ check-debian:
 hosts: build
 	scripts/setup.sh hosts
 	tests/hosts/run.py build/release/vantrix build/hosts $(HOSTS)
+
+# By hand: for a while, everything around the program goes wrong. SOAK_PROGRAM=build/asan/vantrix tells more.
+SOAK_PROGRAM ?= build/release/vantrix
+SOAK_MINUTES ?= 10
+SOAK_SEED ?= 1
+soak: build
+	scripts/setup.sh soak
+	tests/soak/soak.py $(SOAK_PROGRAM) $(SOAK_MINUTES) $(SOAK_SEED)
 
 bench:
 	scripts/setup.sh build test bench

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the packages that the named groups of work need and this machine lacks.
-# Groups: build test check bench truth debian hosts.
+# Groups: build test check bench truth debian soak hosts.
 set -euo pipefail
 
 declare -A packages=(
@@ -10,6 +10,7 @@ declare -A packages=(
   [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb xauth"
   [truth]="stress-ng iproute2 python3"
   [debian]="debootstrap git"
+  [soak]="xvfb dbus trayer python3-xlib python3-pil python3-dbus python3-dbusmock fonts-dejavu-core"
   [hosts]="xvfb dbus python3-xlib python3-pil python3-dbus python3-dbusmock libglib2.0-bin fonts-dejavu-core openbox trayer
     xfce4-panel xfce4-settings xfwm4 gnome-themes-extra mate-panel mate-settings-daemon mate-themes marco lxqt-panel
     lxqt-branding-debian sway waybar xwayland plasma-desktop kwin-x11 kwin-wayland xdg-desktop-portal-kde gnome-shell

@@ -27,7 +27,7 @@ class Desktop:
             (self.folder / name).mkdir(parents=True, mode=0o700, exist_ok=True)
             self.environment[variable] = str(self.folder / name)
         self._start_display(size)
-        self._start_bus("DBUS_SESSION_BUS_ADDRESS")
+        self.start_bus("DBUS_SESSION_BUS_ADDRESS")
 
     def enter(self, *command, socket, **environment):
         """Starts a Wayland session within the X screen, and goes on in there, where programs have another X screen."""
@@ -41,7 +41,7 @@ class Desktop:
 
     def start_system_bus(self, template):
         """A system bus of its own, on which one service is played."""
-        self._start_bus("DBUS_SYSTEM_BUS_ADDRESS")
+        self.start_bus("DBUS_SYSTEM_BUS_ADDRESS")
         self.start("/usr/bin/python3", "-m", "dbusmock", "--system", "--template", template)
 
     def _start_display(self, size):
@@ -53,10 +53,13 @@ class Desktop:
         self.screen = self.inner = Screen(self.environment["DISPLAY"])
         self.screen.fill(WALLPAPER)
 
-    def _start_bus(self, variable):
+    def start_bus(self, variable):
+        """Also anew, at the same address."""
+        self.environment[variable] = f"unix:path={self.folder}/{variable}"
         reader, writer = os.pipe()
-        self.start("dbus-daemon", "--session", "--nofork", f"--print-address={writer}", pass_fds=[writer])
-        self.environment[variable] = told(reader, writer)
+        self.start("dbus-daemon", "--session", "--nofork", f"--address={self.environment[variable]}",
+                   f"--print-address={writer}", name=variable, pass_fds=[writer])
+        told(reader, writer)
 
     def write(self, name, text):
         """A file in the home folder."""
@@ -65,12 +68,13 @@ class Desktop:
         path.write_text(text)
         return path
 
-    def start(self, *command, pass_fds=(), **environment):
+    def start(self, *command, name=None, pass_fds=(), **environment):
         """A program that goes on; what it says goes into a log beside the folders."""
-        with open(self.folder / f"{Path(command[0]).name}.log", "ab") as log:
+        name = name or Path(command[0]).name
+        with open(self.folder / f"{name}.log", "ab") as log:
             process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=log, stderr=log, pass_fds=pass_fds,
                                        env=self.environment | environment, cwd=self.folder)
-        self.processes[Path(command[0]).name] = process
+        self.processes[name] = process
         return process
 
     def run(self, *command):
