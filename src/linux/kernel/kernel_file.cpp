@@ -14,6 +14,10 @@ namespace {
 constexpr std::size_t pageSize = 4096;
 constexpr std::size_t sizeLimit = 4 << 20;
 
+std::vector<char> roomFor(KernelFile::Kind kind) {
+    return std::vector<char>(kind == KernelFile::Kind::records ? 4 * pageSize : 512);
+}
+
 ssize_t readAt(int file, char* to, std::size_t room, std::size_t offset) {
     ssize_t length = 0;
     do
@@ -25,7 +29,7 @@ ssize_t readAt(int file, char* to, std::size_t room, std::size_t offset) {
 } // namespace
 
 KernelFile::KernelFile(std::string path, Kind kind)
-    : path_(std::move(path)), kind_(kind), buffer_(kind == Kind::records ? 4 * pageSize : 512) {}
+    : path_(std::move(path)), kind_(kind), buffer_(roomFor(kind)) {}
 
 std::optional<std::string_view> KernelFile::read() {
     const auto text = readText();
@@ -64,8 +68,10 @@ bool KernelFile::fill() {
         if (length < 0)
             return false;
         size_ += static_cast<std::size_t>(length);
-        if (size_ > sizeLimit)
+        if (size_ > sizeLimit) {
+            buffer_ = roomFor(kind_);
             return false;
+        }
         if (length == 0 || (kind_ == Kind::whole && static_cast<std::size_t>(length) < room))
             return true;
     }
