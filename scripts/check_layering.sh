@@ -11,7 +11,7 @@ complain() {
 
 rules="samplers|sensors|accessories|support"
 interfaces="platform/diagnosis.h|platform/sampling_sources.h|platform/thread_priority.h|posix/file_descriptor.h"
-middle="processor|memory|network|disks|graphics|sensors" # side by side: none knows another
+middle="processor|memory|network|disks|graphics|sensors|processes" # side by side: none knows another
 
 # folder : what the folder may include from the project's own folders
 allowed="
@@ -69,7 +69,7 @@ while IFS= read -r name; do
 done < <(git ls-files src | grep -E '\.(h|cpp|mm)$' | sed -E 's/\.[a-z]+$//' | sort -u | sed 's,.*/,,' | sort | uniq -d)
 
 # The core and the kernel sources use no Qt.
-for folder in support samplers sensors accessories {linux,macos}/{kernel,processor,memory,network,disks,graphics,sensors,power_supply,diagnosis,capture} \
+for folder in support samplers sensors accessories {linux,macos}/{kernel,processor,memory,network,disks,graphics,sensors,processes,power_supply,diagnosis,capture} \
   {linux,macos}/*.{h,cpp}; do
   while IFS= read -r file; do
     complain "$file uses Qt"

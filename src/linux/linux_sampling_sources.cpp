@@ -16,6 +16,7 @@
 #include "linux/network/sysfs_links.h"
 #include "linux/power_supply/linux_battery_source.h"
 #include "linux/power_supply/power_supply_accessories.h"
+#include "linux/processes/process_list.h"
 #include "linux/processor/linux_system_information.h"
 #include "linux/processor/proc_stat.h"
 #include "linux/sampling_parts.h"
@@ -43,6 +44,11 @@ std::unique_ptr<NetworkInfoSampler::Source> makeNetworkInfoSource(const KernelRo
     auto wifi = std::make_unique<Nl80211Reader>(std::make_unique<NetlinkSocket>(NETLINK_GENERIC));
     return std::make_unique<LinuxNetworkInfo>(roots.sys, std::make_unique<RtnetlinkRoutes>(news),
                                               std::make_unique<ProcNetRoutes>(roots.proc + "/net"), std::move(wifi));
+}
+
+/// The entries here are those of this machine's applications.
+ApplicationEntries applicationEntries(const KernelRoots& roots) {
+    return {roots == KernelRoots() ? applicationFolders() : std::vector<std::string>(), wantedLanguages()};
 }
 
 } // namespace
@@ -77,6 +83,7 @@ SamplingSources makeSamplingSources(const KernelRoots& roots, SamplingParts part
     sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
     sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock, threads);
     sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
+    sources.processes = std::make_unique<ProcessList>(roots.proc, roots.sys, applicationEntries(roots));
     return sources;
 }
 

@@ -27,6 +27,9 @@ struct Samplers {
     DiskSampler disk{*sources.disks, *sources.volume, *sources.clock};
     std::optional<GPUSampler> gpu = ifPresent<GPUSampler>(sources.gpu);
     SensorsSampler sensors{sources.sensorKeys.get(), sources.temperatures.get(), sources.energy.get(), *sources.clock};
+    std::optional<ProcessSampler> processes =
+        sources.processes ? std::optional<ProcessSampler>(std::in_place, *sources.processes, *sources.clock)
+                          : std::nullopt;
     std::optional<BatterySampler> battery = ifPresent<BatterySampler>(sources.battery);
 };
 

@@ -13,6 +13,7 @@
 #include "samplers/memory_sampler.h"
 #include "samplers/network_info_sampler.h"
 #include "samplers/network_sampler.h"
+#include "samplers/process_sampler.h"
 #include "sensors/hid_temperature_sampler.h"
 #include "sensors/io_report_sampler.h"
 #include "sensors/sensor_keys.h"
@@ -35,7 +36,7 @@ struct KernelRoots {
 std::optional<std::string> unreadableRoot(const KernelRoots& roots);
 
 /// Everything the samplers read from. Null where the system offers no way to read it: `gpu`, the three sources of
-/// sensors, `battery`, `accessories` and `networkInfo`; `location` where a network's name needs no permission.
+/// sensors, `battery`, `accessories`, `networkInfo` and `processes`; `location` where a network's name needs no permission.
 /// The others are never null.
 struct SamplingSources {
     std::unique_ptr<Clock> clock;
@@ -53,6 +54,7 @@ struct SamplingSources {
     std::unique_ptr<IOReportSampler::Source> energy;
     std::unique_ptr<BatterySampler::Source> battery;
     std::unique_ptr<AccessoriesSampler> accessories;
+    std::unique_ptr<ProcessSampler::Source> processes;
 };
 
 SamplingSources makeSamplingSources(const KernelRoots& roots);
