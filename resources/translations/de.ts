@@ -52,6 +52,9 @@
     <message><source>Pressure: normal</source><translation>Auslastung: normal</translation></message>
     <message><source>Pressure: warning</source><translation>Auslastung: erhöht</translation></message>
     <message><source>Pressure: critical</source><translation>Auslastung: kritisch</translation></message>
+    <message><source>Kernel</source><translation>Kernel</translation></message>
+    <message><source>Programs by CPU use</source><translation>Programme nach CPU-Nutzung</translation></message>
+    <message><source>Programs by memory use</source><translation>Programme nach Speichernutzung</translation></message>
     <message><source>of %@</source><translation>von %@</translation></message>
     <message><source>%@ free</source><translation>%@ frei</translation></message>
     <message><source>%@ free of %@</source><translation>%@ von %@ frei</translation></message>

@@ -55,6 +55,9 @@
     <message><source>Pressure: normal</source><translation>Presión: normal</translation></message>
     <message><source>Pressure: warning</source><translation>Presión: alta</translation></message>
     <message><source>Pressure: critical</source><translation>Presión: crítica</translation></message>
+    <message><source>Kernel</source><translation>Núcleo</translation></message>
+    <message><source>Programs by CPU use</source><translation>Programas por uso de CPU</translation></message>
+    <message><source>Programs by memory use</source><translation>Programas por uso de memoria</translation></message>
     <message><source>of %@</source><translation>de %@</translation></message>
     <message><source>%@ free</source><translation>%@ libres</translation></message>
     <message><source>%@ free of %@</source><translation>%@ libres de %@</translation></message>

@@ -52,6 +52,9 @@
     <message><source>Pressure: normal</source><translation>Pression : normale</translation></message>
     <message><source>Pressure: warning</source><translation>Pression : élevée</translation></message>
     <message><source>Pressure: critical</source><translation>Pression : critique</translation></message>
+    <message><source>Kernel</source><translation>Noyau</translation></message>
+    <message><source>Programs by CPU use</source><translation>Programmes par utilisation du processeur</translation></message>
+    <message><source>Programs by memory use</source><translation>Programmes par utilisation de la mémoire</translation></message>
     <message><source>of %@</source><translation>sur %@</translation></message>
     <message><source>%@ free</source><translation>%@ libres</translation></message>
     <message><source>%@ free of %@</source><translation>%@ libres sur %@</translation></message>

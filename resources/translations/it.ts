@@ -52,6 +52,9 @@
     <message><source>Pressure: normal</source><translation>Pressione: normale</translation></message>
     <message><source>Pressure: warning</source><translation>Pressione: elevata</translation></message>
     <message><source>Pressure: critical</source><translation>Pressione: critica</translation></message>
+    <message><source>Kernel</source><translation>Kernel</translation></message>
+    <message><source>Programs by CPU use</source><translation>Programmi per uso della CPU</translation></message>
+    <message><source>Programs by memory use</source><translation>Programmi per uso della memoria</translation></message>
     <message><source>of %@</source><translation>di %@</translation></message>
     <message><source>%@ free</source><translation>%@ liberi</translation></message>
     <message><source>%@ free of %@</source><translation>%@ liberi su %@</translation></message>

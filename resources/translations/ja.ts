@@ -52,6 +52,9 @@
     <message><source>Pressure: normal</source><translation>メモリプレッシャー: 正常</translation></message>
     <message><source>Pressure: warning</source><translation>メモリプレッシャー: 警告</translation></message>
     <message><source>Pressure: critical</source><translation>メモリプレッシャー: 深刻</translation></message>
+    <message><source>Kernel</source><translation>カーネル</translation></message>
+    <message><source>Programs by CPU use</source><translation>CPUの使用量が多いプログラム</translation></message>
+    <message><source>Programs by memory use</source><translation>メモリの使用量が多いプログラム</translation></message>
     <message><source>of %@</source><translation>/ %@</translation></message>
     <message><source>%@ free</source><translation>空き%@</translation></message>
     <message><source>%@ free of %@</source><translation>空き%@ / %@</translation></message>

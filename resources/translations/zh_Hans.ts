@@ -52,6 +52,9 @@
     <message><source>Pressure: normal</source><translation>压力：正常</translation></message>
     <message><source>Pressure: warning</source><translation>压力：偏高</translation></message>
     <message><source>Pressure: critical</source><translation>压力：严重</translation></message>
+    <message><source>Kernel</source><translation>内核</translation></message>
+    <message><source>Programs by CPU use</source><translation>按 CPU 占用排列的程序</translation></message>
+    <message><source>Programs by memory use</source><translation>按内存占用排列的程序</translation></message>
     <message><source>of %@</source><translation>/ %@</translation></message>
     <message><source>%@ free</source><translation>%@ 可用</translation></message>
     <message><source>%@ free of %@</source><translation>%@ 可用，共 %@</translation></message>

@@ -160,10 +160,12 @@ class Parser {
             const auto module = choiceNamed(menuBarModules, name);
             if (module)
                 modules.push_back(*module);
+            else if (name == "processes")
+                result_.listsPrograms = true;
             else
                 error_ = "--modules: there is no module " + name;
         }
-        if (error_.empty() && modules.empty())
+        if (error_.empty() && modules.empty() && !result_.listsPrograms)
             error_ = "--modules needs at least one module";
         result_.modules = std::move(modules);
         printOptions_.push_back(option);
@@ -191,6 +193,8 @@ class Parser {
     }
 
     void checkCombination() {
+        if (result_.listsPrograms && result_.format != PrintFormat::json)
+            error_ = "--modules processes goes with --print json";
         const bool isCapture = result_.action == Action::capture;
         for (const std::string& option : printOptions_)
             if (result_.action != Action::print && (!isCapture || option == "--modules"))
@@ -234,7 +238,7 @@ std::string helpText() {
            "  --interval SECONDS    with --print: time between passes, 0.5 to 3600\n"
            "  --count N             with --print: stop after N passes\n"
            "  --modules A,B         with --print: what to show, of cpu, memory, network,\n"
-           "                        disk, gpu, temperature, battery\n"
+           "                        disk, gpu, temperature, battery; in json processes, too\n"
            "  --doctor [json]       tell what every reading comes from and why one is\n"
            "                        missing; what a bug report starts with\n"
            "  --capture DIR         write what is read on this machine into the empty folder\n"

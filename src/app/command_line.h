@@ -32,6 +32,7 @@ struct CommandLine {
     std::optional<double> interval;         ///< seconds, 0.5 to 3600; absent: the stored preference
     std::optional<long> count;              ///< passes, at least 1; absent: until interrupted, or for `capture` 3
     std::optional<std::vector<MenuBarModule>> modules; ///< absent: those enabled in the settings
+    bool listsPrograms = false;                        ///< of `print` as JSON: "processes" was among the modules
     std::optional<SettingsTab> settingsTab;
     std::string exportFolder;  ///< of `exportScreenshots`
     std::string captureFolder; ///< of `capture`

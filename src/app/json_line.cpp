@@ -97,6 +97,24 @@ QJsonObject toJson(const AccessoryBattery& accessory) {
             {u"symbol"_s, json(accessory.symbol)}};
 }
 
+QJsonObject toJson(const ProgramShare& program) {
+    return {{u"name"_s, json(program.name)},
+            {u"processes"_s, program.processes},
+            {u"cpu"_s, program.cpu},
+            {u"memory"_s, json(program.memory)}};
+}
+
+QJsonArray arrayOf(const std::vector<ProgramShare>& programs) {
+    QJsonArray array;
+    for (const ProgramShare& program : programs)
+        array.append(toJson(program));
+    return array;
+}
+
+QJsonObject toJson(const ProcessSample& processes) {
+    return {{u"busiest"_s, arrayOf(processes.busiest)}, {u"largest"_s, arrayOf(processes.largest)}};
+}
+
 template<typename Record>
 QJsonValue unlessEmpty(const std::vector<Record>& records) {
     QJsonArray array;
@@ -158,7 +176,8 @@ std::vector<Field> fieldsOf(const Readings& readings) {
 
 } // namespace
 
-std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules) {
+std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules,
+                     bool listsPrograms) {
     QJsonObject object{{u"interval"_s, readings.interval}};
     const auto isWanted = [&modules](const std::optional<MenuBarModule>& module) {
         return !modules || (module && std::find(modules->begin(), modules->end(), *module) != modules->end());
@@ -166,6 +185,8 @@ std::string jsonLine(const Readings& readings, const std::optional<std::vector<M
     for (const auto& [module, key, value] : fieldsOf(readings))
         if (isWanted(module))
             object.insert(key, value);
+    if (listsPrograms)
+        object.insert(u"processes"_s, toJson(readings.processes));
     return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
 }
 

@@ -17,7 +17,8 @@ std::string textLine(const std::vector<MenuBarItem>& items);
 std::string waybarLine(const std::vector<MenuBarItem>& items);
 
 /// One JSON object with the current records of `modules`; of all modules, and of what belongs to none, when absent.
-/// What was not read is left out.
-std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules);
+/// What was not read is left out. The programs are in it only on demand: their names are private.
+std::string jsonLine(const Readings& readings, const std::optional<std::vector<MenuBarModule>>& modules,
+                     bool listsPrograms = false);
 
 } // namespace vantrix

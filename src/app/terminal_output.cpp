@@ -43,7 +43,7 @@ class LinePrinter {
     std::string nextLine() const {
         const Readings& readings = monitor_.readings();
         if (commandLine_.format == PrintFormat::json)
-            return jsonLine(readings, commandLine_.modules);
+            return jsonLine(readings, commandLine_.modules, commandLine_.listsPrograms);
         const auto items = menuBarItems(commandLine_.modules ? *commandLine_.modules : enabledMenuBarModules(defaults_),
                                         readings, defaults_);
         return commandLine_.format == PrintFormat::waybar ? waybarLine(items) : textLine(items);
@@ -133,6 +133,7 @@ int runInTerminal(const CommandLine& commandLine, int& argc, char** argv) {
                           std::make_unique<ThreadTaskRunner>(), bluetoothFor(commandLine));
     LinePrinter printer(commandLine, monitor, defaults);
     TerminationSignals signals([] { QCoreApplication::quit(); });
+    const std::shared_ptr<void> watch = commandLine.listsPrograms ? monitor.watchPrograms() : nullptr;
     monitor.sample();
     QTimer::singleShot(firstLook, &monitor, [&] {
         monitor.onUpdate = [&] {

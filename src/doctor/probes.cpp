@@ -79,6 +79,16 @@ std::vector<Finding> readMemory(Samplers& machine) {
     return {found(use.toStdString()), found(wordOf(sample->pressure))};
 }
 
+std::vector<Finding> readPrograms(Samplers& machine) {
+    const ProcessSample* sample = machine.processes ? machine.processes->sample() : nullptr;
+    if (sample == nullptr)
+        return {};
+    std::string text = std::to_string(machine.processes->count()) + " processes";
+    if (!sample->busiest.empty()) // whose it is, is private
+        appendToList(text, "busiest " + compactPercent(sample->busiest.front().cpu));
+    return {found(text)};
+}
+
 std::vector<Finding> readNetwork(Samplers& machine) {
     const auto sample = machine.network.sample();
     if (!sample)
@@ -130,6 +140,7 @@ const std::vector<Probe>& probes() {
     static const std::vector<Probe> all{
         {{name::processor}, readCPU},
         {{name::memory, name::pressure}, readMemory},
+        {{name::programs}, readPrograms},
         {{name::network}, readNetwork},
         {{name::connection, name::wifi}, readConnection},
         {{name::diskSpace, name::diskRates}, readDisk},

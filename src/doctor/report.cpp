@@ -38,8 +38,9 @@ const char* wordOf(SourceState state) {
 double passMicroseconds(const DoctorReport& report) {
     const auto& rows = report.readings;
     return std::accumulate(rows.begin(), rows.end(), 0.0, [](double sum, const DoctorRow& row) {
-        // Accessories are looked for every half minute, not on each pass.
-        const bool isOnPass = row.diagnosis.name != reading_name::accessories;
+        // Accessories are looked for every half minute, programs while somebody wants to know.
+        const bool isOnPass =
+            row.diagnosis.name != reading_name::accessories && row.diagnosis.name != reading_name::programs;
         return isOnPass ? sum + row.microseconds.value_or(0.0) : sum;
     });
 }

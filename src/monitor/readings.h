@@ -11,6 +11,7 @@
 #include "samplers/memory_sampler.h"
 #include "samplers/network_info.h"
 #include "samplers/network_sampler.h"
+#include "samplers/process_sampler.h"
 #include "sensors/sensors_sample.h"
 
 namespace vantrix {
@@ -37,6 +38,7 @@ struct Readings {
     std::optional<BatterySample> battery; ///< absent on machines without one
     std::vector<AccessoryBattery> accessories;
     std::string accessoriesDiagnostics; ///< how the last accessory scans went, for a bug report
+    ProcessSample processes;            ///< empty while nobody watches the programs
 
     History cpuHistory;            ///< load fraction
     History memoryHistory;         ///< used fraction
@@ -63,6 +65,7 @@ enum class Reading {
     battery,
     accessories,
     accessoriesDiagnostics,
+    processes,
     cpuHistory,
     memoryHistory,
     downloadHistory,

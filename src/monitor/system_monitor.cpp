@@ -1,6 +1,7 @@
 #include "monitor/system_monitor.h"
 
 #include <QPointer>
+#include <QTimer>
 
 #include "menubar/preferences.h"
 #include "support/user_defaults.h"
@@ -10,6 +11,7 @@ namespace {
 
 constexpr double timerTolerance = 0.1;           // of the period
 constexpr double accessoriesScanInterval = 30.0; // seconds
+constexpr int secondLook = 750;                  // milliseconds until there are shares of the processor
 
 } // namespace
 
@@ -83,6 +85,8 @@ void SystemMonitor::sample() {
     sampleGPU();
     sampleSensors();
     sampleBattery();
+    if (!watch_.expired())
+        sampleProcesses();
     sampleAccessories();
     if (onUpdate)
         onUpdate();
@@ -151,6 +155,46 @@ void SystemMonitor::sampleSensors() {
 void SystemMonitor::sampleBattery() {
     if (samplers_.battery)
         store(&Readings::battery, samplers_.battery->sample(), Reading::battery);
+}
+
+std::shared_ptr<void> SystemMonitor::watchPrograms() {
+    if (!samplers_.processes || isDemo_)
+        return nullptr;
+    if (auto watched = watch_.lock())
+        return watched;
+    const std::shared_ptr<void> watch(static_cast<void*>(this), [monitor = QPointer<SystemMonitor>(this)](void*) {
+        if (monitor)
+            monitor->forgetProcesses();
+    });
+    watch_ = watch;
+    sampleProcesses();
+    QTimer::singleShot(secondLook, this, [this, asked = watch_] {
+        if (!asked.expired() && readings_.processes.busiest.empty())
+            sampleProcesses();
+    });
+    return watch;
+}
+
+std::shared_ptr<ProcessSampler> SystemMonitor::makeProcessSampler() {
+    if (!samplers_.sources.processes)
+        return nullptr;
+    return {new ProcessSampler(*samplers_.sources.processes, *samplers_.sources.clock),
+            [monitor = QPointer<SystemMonitor>(this)](ProcessSampler* sampler) {
+                delete sampler;
+                if (monitor)
+                    monitor->samplers_.sources.processes->forget(); // what a watch needs of it is soon found again
+            }};
+}
+
+void SystemMonitor::sampleProcesses() {
+    if (const ProcessSample* sample = samplers_.processes->sample())
+        store(&Readings::processes, *sample, Reading::processes);
+}
+
+void SystemMonitor::forgetProcesses() {
+    samplers_.processes.emplace(*samplers_.sources.processes, *samplers_.sources.clock);
+    samplers_.sources.processes->forget();
+    store(&Readings::processes, {}, Reading::processes);
 }
 
 void SystemMonitor::sampleAccessories() {

@@ -42,6 +42,14 @@ class SystemMonitor : public QObject {
     /// One sampling pass.
     void sample();
 
+    /// Keeps `processes` up to date for as long as the result, or another one, lives: a look at once, one soon after,
+    /// as shares of the processor are differences, and then one on each pass. Without a watch nothing is looked at.
+    std::shared_ptr<void> watchPrograms();
+
+    /// For a look at the processes of the caller's own, apart from those that are watched. Null where the system tells
+    /// nothing of processes; to be used only while the monitor lives.
+    std::shared_ptr<ProcessSampler> makeProcessSampler();
+
     /// Replaces every reading by fixed values and turns live accessory updates off, for product images.
     void loadDemo();
 
@@ -65,6 +73,8 @@ class SystemMonitor : public QObject {
     void sampleGPU();
     void sampleSensors();
     void sampleBattery();
+    void sampleProcesses();
+    void forgetProcesses();
     void sampleAccessories();
     void finishAccessories(std::optional<AccessoriesSampler::Scan> scan);
     void mergeAccessories();
@@ -85,6 +95,7 @@ class SystemMonitor : public QObject {
     bool isScheduled_ = false;
     bool isDemo_ = false;
     bool isSamplingAccessories_ = false;
+    std::weak_ptr<void> watch_;                   // of the programs
     std::optional<double> lastAccessoriesSample_; // uptime; absent: the distant past
     std::vector<AccessoryReading> sampledAccessories_;
     std::string sampledDiagnostics_;

@@ -27,6 +27,7 @@ namespace reading_name {
 inline constexpr std::string_view processor = "Processor";
 inline constexpr std::string_view memory = "Memory";
 inline constexpr std::string_view pressure = "Pressure";
+inline constexpr std::string_view programs = "Programs";
 inline constexpr std::string_view network = "Network";
 inline constexpr std::string_view connection = "Connection";
 inline constexpr std::string_view wifi = "Wi-Fi";

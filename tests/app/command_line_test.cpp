@@ -46,6 +46,8 @@ TEST(CommandLine, ReadsThePrintOptions) {
     EXPECT_EQ(line.count, 3);
     EXPECT_EQ(line.modules, (std::vector{MenuBarModule::disk, MenuBarModule::cpu}));
     EXPECT_EQ(line.roots, (KernelRoots{"/host/proc", "/host/sys"}));
+    const auto programs = std::get<CommandLine>(parsed("--modules processes --print json"));
+    EXPECT_TRUE(programs.listsPrograms && programs.modules->empty() && !line.listsPrograms);
 }
 
 TEST(CommandLine, TheUsualRootsAreThisMachinesHoweverTheyAreWritten) {
@@ -65,6 +67,7 @@ TEST(CommandLine, SaysInOneLineWhatIsWrong) {
         "--print text --count 99999999999999999999",
         "--print text --modules cpu,CPU",
         "--print text --modules ",
+        "--print waybar --modules cpu,processes",
         "--print text --quit",
         "--doctor xml",
         "--doctor --count 2",

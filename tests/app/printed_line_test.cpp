@@ -65,5 +65,14 @@ TEST(JsonLine, LeavesOutWhatIsAbsent) {
     EXPECT_EQ(jsonLine(demoReadings(), std::vector{MenuBarModule::gpu}), R"({"gpu":0.21,"interval":2})");
 }
 
+TEST(JsonLine, NamesProgramsOnDemandAlone) {
+    Readings readings;
+    readings.processes = {{{"Web \"x\"", "web", 3, 0.5, 4096}}, {}};
+    EXPECT_EQ(jsonLine(readings, std::nullopt).find("processes"), std::string::npos);
+    EXPECT_EQ(jsonLine(readings, std::vector<MenuBarModule>(), true),
+              R"({"interval":2,"processes":{"busiest":[{"cpu":0.5,"memory":4096,"name":"Web \"x\"","processes":3}],)"
+              R"("largest":[]}})");
+}
+
 } // namespace
 } // namespace vantrix

@@ -28,11 +28,13 @@ TEST(Examination, TakesLoadsAndRatesBetweenItsPasses) {
     examination.beginPass();
     EXPECT_EQ(machine.accessories->scans, 0); // slow, and in need of no baseline
     machine.cpu->advance(30, 100);
+    machine.processes->processes[1].cpuTime = 2'000'000'000;
     machine.disks->disks = {{{4'000'000, 0}}};
     machine.network->links->front().counters = NetworkSampler::Counters{2'000'000, 1000};
     machine.clock->now += 2.0;
     auto findings = examination.finish();
     EXPECT_EQ(findings["Processor"].value, "30%");
+    EXPECT_EQ(findings["Programs"].value, "2 processes, busiest 25%"); // no names here either
     EXPECT_EQ(findings["Network"].value, "in 1.0M/s, out 0K/s");
     EXPECT_EQ(findings["Disk rates"].value, "read 2.0M/s, write 0K/s");
     EXPECT_EQ(findings["Accessories"].value, "64%, 5%"); // and no names

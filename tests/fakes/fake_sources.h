@@ -70,6 +70,22 @@ struct FakeAccessories : AccessoriesSampler {
     }
 };
 
+/// Of a machine with four processors.
+struct FakeProcesses : ProcessSampler::Source {
+    std::vector<ProcessSampler::Process> processes{{1, 1, 0, 10, 0}, {2, 1, 0, 20, 1}};
+    std::vector<ProcessSampler::Application> names{{"A", ""}, {"B", ""}, {"C", ""}, {"D", ""}, {"E", ""}, {"F", ""}};
+    int reads = 0;
+    int forgotten = 0;
+    bool read(std::vector<ProcessSampler::Process>& into) override {
+        ++reads;
+        into = processes;
+        return !processes.empty();
+    }
+    const std::vector<ProcessSampler::Application>& applications() const override { return names; }
+    int processors() const override { return 4; }
+    void forget() override { ++forgotten; }
+};
+
 /// A machine in the test's hands; the pointers stay valid as long as whatever took the sources.
 struct FakeMachine {
     FakeClock* clock = nullptr;
@@ -79,6 +95,7 @@ struct FakeMachine {
     FakeDisks* disks = nullptr;
     FakeVolume* volume = nullptr;
     FakeAccessories* accessories = nullptr;
+    FakeProcesses* processes = nullptr;
 
     SamplingSources makeSources() {
         SamplingSources sources;
@@ -90,6 +107,7 @@ struct FakeMachine {
         sources.disks.reset(disks = new FakeDisks);
         sources.volume.reset(volume = new FakeVolume);
         sources.accessories.reset(accessories = new FakeAccessories);
+        sources.processes.reset(processes = new FakeProcesses);
         return sources;
     }
 };

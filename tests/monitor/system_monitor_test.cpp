@@ -264,5 +264,28 @@ TEST_F(BluetoothMonitorTest, DemoReadingsStayFixedAndAMonitorThatGoesIsNotCalled
     EXPECT_EQ(mouse->delegate, nullptr);
 }
 
+TEST_F(SystemMonitorTest, LooksAtProcessesOnlyWhileSomebodyWatches) {
+    pass();
+    EXPECT_EQ(machine.processes->reads, 0);
+    auto watch = monitor->watchPrograms();
+    auto second = monitor->watchPrograms();
+    EXPECT_EQ(readings().processes.largest.at(0).name, "B"); // at once
+    machine.processes->processes[0].cpuTime = 4'000'000'000;
+    pass();
+    EXPECT_EQ(readings().processes.busiest.at(0).cpu, 0.5);
+    EXPECT_EQ(count(Reading::processes), 1);
+    watch.reset();
+    pass();
+    EXPECT_EQ(machine.processes->reads, 3);
+    second.reset();
+    EXPECT_EQ(readings().processes, ProcessSample());
+    EXPECT_EQ(machine.processes->forgotten, 1);
+    pass();
+    EXPECT_EQ(machine.processes->reads, 3);
+    watch = monitor->watchPrograms(); // and knows nothing of before
+    EXPECT_TRUE(readings().processes.busiest.empty());
+    monitor.reset();
+}
+
 } // namespace
 } // namespace vantrix

@@ -1,7 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "samplers/fake_clock.h"
-#include "samplers/process_sampler.h"
+#include "fakes/fake_sources.h"
 
 namespace vantrix {
 namespace {
@@ -12,18 +11,6 @@ using ::testing::Field;
 using ::testing::IsEmpty;
 
 constexpr std::uint64_t second = 1'000'000'000;
-
-struct FakeProcesses : ProcessSampler::Source {
-    std::vector<Process> processes;
-    std::vector<ProcessSampler::Application> names{{"A", ""}, {"B", ""}, {"C", ""}, {"D", ""}, {"E", ""}, {"F", ""}};
-    bool read(std::vector<Process>& into) override {
-        into = processes;
-        return !processes.empty();
-    }
-    const std::vector<ProcessSampler::Application>& applications() const override { return names; }
-    int processors() const override { return 4; }
-    void forget() override {}
-};
 
 auto share(const std::string& name, double cpu) {
     return AllOf(Field(&ProgramShare::name, name), Field(&ProgramShare::cpu, testing::DoubleNear(cpu, 1e-9)));
@@ -37,7 +24,7 @@ class ProcessSamplerTest : public testing::Test {
         return *sampler.sample();
     }
 
-    FakeProcesses source;
+    fakes::FakeProcesses source;
     FakeClock clock;
     ProcessSampler sampler{source, clock};
 };

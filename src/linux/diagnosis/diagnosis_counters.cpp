@@ -46,6 +46,22 @@ SourceDiagnosis pressure(const DiagnosisTools& tools) {
     return row;
 }
 
+/// A tree that hides others' processes denies or lacks the first one's.
+SourceDiagnosis programs(const DiagnosisTools& tools) {
+    SourceDiagnosis row{std::string(reading_name::programs), tools.roots.proc + "/PID/stat"};
+    row.reason = "Read while a list of programs is on screen and for an alert, and not otherwise. There is none by "
+                 "network or disk: what the kernel counts of those for each process is for root alone.";
+    const auto entries = entriesStartingWith(tools.roots.proc, "");
+    const auto isProcess = [](const std::string& entry) { return entry.front() >= '1' && entry.front() <= '9'; };
+    if (std::none_of(entries.begin(), entries.end(), isProcess)) {
+        row.state = SourceState::absent;
+        row.reason = "No processes are listed there: is it the kernel's tree?";
+    } else if (tools.reach(tools.roots.proc + "/1/stat") != Reach::readable) {
+        row.reason += " Only this user's own are listed: the tree is mounted with hidepid.";
+    }
+    return row;
+}
+
 SourceDiagnosis diskSpace(const DiagnosisTools& tools) {
     const auto folders = volumeFolders(tools.roots.proc);
     const auto chosen = writtenFolder(folders, tools.volume);
@@ -67,6 +83,7 @@ void diagnoseCounters(const DiagnosisTools& tools, SourceDiagnoses& rows) {
     rows.push_back(diagnosisOfFile(tools, reading_name::processor, tools.roots.proc + "/stat", noProc));
     rows.push_back(memory(tools));
     rows.push_back(pressure(tools));
+    rows.push_back(programs(tools));
 }
 
 void diagnoseDisks(const DiagnosisTools& tools, SourceDiagnoses& rows) {

@@ -44,6 +44,8 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
         {"ordinary-desktop", reading_name::diskSpace, "ok statvfs of /", ""},
         {"immutable-system", reading_name::diskSpace, "ok statvfs of /var: ", "at / is read-only"},
         {"no-psi", reading_name::pressure, "absent ", "does not measure stalls"},
+        {"programs-at-work", reading_name::programs, "ok PROC/PID/stat: Read while", "root alone."},
+        {"ordinary-desktop", reading_name::programs, "absent ", "No processes"},
         {"board-with-thermal-zones-alone", reading_name::temperatures, "ok SYS/class/thermal (5 zones)",
          "; CPU: cpu0-thermal, cpu1-thermal"},
         {"two-socket-server", reading_name::temperatures, "ok SYS/class/hwmon (2 chips)",
@@ -74,6 +76,8 @@ TEST(Diagnosis, SaysHowToGetAtWhatIsDenied) {
                 ElementsAre(HasSubstr("/class/powercap/intel-rapl:*/energy_uj 0440 root GROUP -")));
     EXPECT_THAT(told(tools, reading_name::systemPower), ElementsAre(HasSubstr("ok SYS/class/power_supply/BAT0")));
     EXPECT_THAT(told(tools, reading_name::processor), ElementsAre(HasSubstr("denied ")));
+    machine.write("proc/77/stat", "");
+    EXPECT_THAT(told(tools, reading_name::programs), ElementsAre(HasSubstr("hidepid")));
 }
 
 TEST(Diagnosis, SleepingGPUsAreLeftAsleep) {
