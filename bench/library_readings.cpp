@@ -13,6 +13,7 @@
 #include <glibtop/swap.h>
 #include <libproc2/diskstats.h>
 #include <libproc2/meminfo.h>
+#include <libproc2/pids.h>
 #include <libproc2/stat.h>
 
 namespace vantrix::bench {
@@ -54,6 +55,26 @@ void Proc2Reading::pass() {
             "processors");
     require(procps_meminfo_select(handles_->memory, memory, std::size(memory)) != nullptr, "memory");
     require(procps_diskstats_reap(handles_->disks, disks, std::size(disks)) != nullptr, "disks");
+}
+
+struct Proc2Processes::Handle {
+    pids_info* processes = nullptr;
+};
+
+Proc2Processes::Proc2Processes() : handle_(std::make_unique<Handle>()) {
+    pids_item items[] = {PIDS_ID_PID,   PIDS_CMD,        PIDS_ID_PPID, PIDS_ID_SESSION,
+                         PIDS_TICS_ALL, PIDS_TICS_BEGAN, PIDS_FLAGS,   PIDS_RSS};
+    require(procps_pids_new(&handle_->processes, items, std::size(items)) == 0, "processes");
+}
+
+Proc2Processes::~Proc2Processes() {
+    procps_pids_unref(&handle_->processes);
+}
+
+int Proc2Processes::pass() {
+    const pids_fetch* fetched = procps_pids_reap(handle_->processes, PIDS_FETCH_TASKS_ONLY);
+    require(fetched != nullptr, "processes");
+    return fetched->counts->total;
 }
 
 GTopReading::GTopReading() {

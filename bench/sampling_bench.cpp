@@ -3,6 +3,11 @@
 #include <ctime>
 #include <vector>
 
+#include <signal.h>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <benchmark/benchmark.h>
 
 #include "bare_reading.h"
@@ -138,6 +143,52 @@ void compareOnBusyLaptop() {
     printRatio("busy laptop", pass, floor);
 }
 
+/// Idle processes beside those of this machine, so that there are 500 in all.
+class Crowd {
+  public:
+    explicit Crowd(int count) {
+        for (; count > 0; --count) {
+            const pid_t process = fork();
+            if (process > 0) {
+                processes_.push_back(process);
+            } else if (process == 0) {
+                prctl(PR_SET_PDEATHSIG, SIGKILL);
+                pause();
+                _exit(0);
+            }
+        }
+    }
+    ~Crowd() {
+        for (const pid_t process : processes_) {
+            kill(process, SIGKILL);
+            waitpid(process, nullptr, 0);
+        }
+    }
+    Crowd(const Crowd&) = delete;
+    Crowd& operator=(const Crowd&) = delete;
+
+  private:
+    std::vector<pid_t> processes_;
+};
+
+/// The lists of programs, which cost nothing while nobody looks at them.
+void compareProcesses() {
+    bench::Proc2Processes library;
+    const Crowd crowd(500 - library.pass());
+    const auto sources = makeSamplingSources({});
+    ProcessSampler sampler(*sources.processes, *sources.clock);
+    std::vector<double> times;
+    std::vector<double> libraryTimes;
+    for (int i = 0; i < 40; ++i) {
+        times.push_back(microseconds([&] { sampler.sample(); }));
+        libraryTimes.push_back(microseconds([&] { library.pass(); }));
+    }
+    const double time = median(times);
+    const double libraryTime = median(libraryTimes);
+    std::printf("%zu processes: %.0f us, libproc2 %.0f us, ratio %.2f\n", sampler.count(), time, libraryTime,
+                time / libraryTime);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -147,4 +198,5 @@ int main(int argc, char** argv) {
     benchmark::RunSpecifiedBenchmarks();
     compareOnThisMachine();
     compareOnBusyLaptop();
+    compareProcesses();
 }
