@@ -17,7 +17,7 @@ export ZIG_GLOBAL_CACHE_DIR=$PWD/$tools/cache ZIG_LOCAL_CACHE_DIR=$PWD/$tools/ca
 flags=(-target aarch64-macos.13.0 -std=c++20 -Wall -Wextra -Wconversion -Wno-sign-conversion -Werror
        -Wno-missing-field-initializers -Isrc -isystem tests/macos/include/frameworks -c -o "$tools/object.o")
 failed=0
-for file in src/{support,samplers,sensors,accessories}/*.cpp src/macos/*.cpp src/macos/{kernel,processor,network,disks,sensors}/*.cpp \
+for file in src/{support,samplers,sensors,accessories}/*.cpp src/macos/*.cpp src/macos/{kernel,processor,network,disks,sensors,processes}/*.cpp \
             tests/macos/simulated/record_layouts.cpp; do
   case $file in
   src/support/user_defaults.cpp | src/support/size_text.cpp) continue ;; # not of the core: they use Qt

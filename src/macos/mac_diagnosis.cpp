@@ -12,6 +12,7 @@
 #include "macos/network/link_records.h"
 #include "macos/network/mac_network_info.h"
 #include "macos/power_sources.h"
+#include "macos/processes/process_records.h"
 #include "macos/processor/mach_processor_ticks.h"
 #include "macos/sensors/energy_channels.h"
 #include "macos/sensors/hid_temperatures.h"
@@ -50,6 +51,9 @@ void addCounters(Rows& rows) {
              SourceState::denied);
     rows.add(name::pressure, "kern.memorystatus_vm_pressure_level", memory && memory->pressureLevel,
              "This kernel does not tell; the level is always normal.");
+    std::vector<ProcessSampler::Process> processes;
+    rows.add(name::programs, "proc_listallpids, proc_pid_rusage", ProcessRecords().read(processes),
+             "The kernel tells of no process: look for a sandbox.", SourceState::denied);
 }
 
 void addNetwork(Rows& rows) {

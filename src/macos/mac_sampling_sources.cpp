@@ -10,6 +10,7 @@
 #include "macos/network/location_manager.h"
 #include "macos/network/mac_network_info.h"
 #include "macos/power_sources.h"
+#include "macos/processes/process_records.h"
 #include "macos/processor/mach_processor_ticks.h"
 #include "macos/processor/sysctl_information.h"
 #include "macos/sensors/energy_channels.h"
@@ -39,6 +40,7 @@ SamplingSources makeSamplingSources(const KernelRoots&) {
     sources.energy = makeEnergyChannels();
     sources.battery = std::make_unique<PowerSources>();
     sources.accessories = std::make_unique<MacAccessories>();
+    sources.processes = std::make_unique<ProcessRecords>();
     return sources;
 }
 

@@ -93,7 +93,36 @@ int sysctlbyname(const char* name, void* old, std::size_t* oldSize, void*, std::
     return room < value.size() ? -1 : 0;
 }
 
+int proc_listallpids(void* buffer, int size) {
+    if (fails())
+        return -1;
+    int count = 0;
+    for (const auto& process : mac().processes) {
+        if (buffer != nullptr && (count + 1) * static_cast<int>(sizeof(int)) > size)
+            break;
+        if (buffer != nullptr)
+            std::memcpy(static_cast<char*>(buffer) + static_cast<std::size_t>(count) * sizeof(int), &process.id,
+                        sizeof(int));
+        ++count;
+    }
+    return count;
+}
+
+int proc_pidpath(int pid, void* buffer, std::uint32_t size) {
+    const auto found = std::ranges::find(mac().processes, pid, &ProcessEntry::id);
+    if (found == mac().processes.end() || found->path.empty() || found->path.size() >= size || fails())
+        return 0;
+    std::memcpy(buffer, found->path.data(), found->path.size());
+    return static_cast<int>(found->path.size());
+}
+
 int proc_pidinfo(int pid, int flavor, std::uint64_t, void* buffer, int size) {
+    if (flavor == PROC_PIDTBSDINFO && size == sizeof(proc_bsdinfo) && !fails()) {
+        proc_bsdinfo record{};
+        std::memcpy(record.pbi_name, "odd\nname", 8);
+        std::memcpy(buffer, &record, sizeof record);
+        return sizeof record;
+    }
     if (pid != 42 || flavor != PROC_PIDTASKINFO || size != sizeof(proc_taskinfo) || fails())
         return 0;
     proc_taskinfo task{};
@@ -106,6 +135,15 @@ int proc_pidinfo(int pid, int flavor, std::uint64_t, void* buffer, int size) {
 }
 
 int proc_pid_rusage(int pid, int flavor, rusage_info_t* buffer) {
+    const auto found = std::ranges::find(mac().processes, pid, &ProcessEntry::id);
+    if (found != mac().processes.end() && found->isOwn && !fails()) {
+        rusage_info_v2 usage{};
+        usage.ri_user_time = found->userTime;
+        usage.ri_phys_footprint = found->footprint;
+        usage.ri_proc_start_abstime = found->start;
+        std::memcpy(buffer, &usage, sizeof usage);
+        return 0;
+    }
     if (pid != 42 || flavor != RUSAGE_INFO_V2 || fails())
         return -1;
     rusage_info_v2 usage{};

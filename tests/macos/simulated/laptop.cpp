@@ -17,6 +17,7 @@ SMCKey floatKey(float value) {
 
 void furnishKernel(Machine& machine) {
     machine.machTime = 24'000'000'000;
+    machine.processes = {{7, "/Applications/Web.app/Contents/MacOS/Web", 1000, 20'000}};
     machine.ticks = {{4'294'967'290, 50, 800, 0}, {200, 100, 1600, 10}};
     machine.pages = vm_statistics64{};
     machine.pages->wire_count = 1000;

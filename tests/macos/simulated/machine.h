@@ -33,6 +33,15 @@ struct SMCKey {
     std::vector<std::uint8_t> bytes;
 };
 
+struct ProcessEntry {
+    int id = 0;
+    std::string path;           ///< empty: it is not told
+    std::uint64_t userTime = 0; ///< 24 to the microsecond, like its start
+    std::uint64_t footprint = 0;
+    std::uint64_t start = 1;
+    bool isOwn = true;
+};
+
 /// A Mac as its interfaces tell of it; everything that a new one has is nothing at all. One at a time.
 struct Machine {
     Machine();
@@ -54,6 +63,7 @@ struct Machine {
     std::map<std::string, std::string> systemValues;
     std::uint64_t machTime = 0; ///< 24 to the microsecond
     std::vector<LinkEntry> links;
+    std::vector<ProcessEntry> processes;
     std::vector<std::pair<std::string, Dictionary>> services; ///< by class
     std::map<std::string, SMCKey> controllerKeys;
     std::optional<Dictionary> volume;

@@ -24,6 +24,8 @@ static_assert(offsetof(if_data, ifi_ibytes) == 40 && offsetof(if_data, ifi_obyte
 static_assert(offsetof(ifaddrs, ifa_addr) == 24 && offsetof(ifaddrs, ifa_data) == 48);
 static_assert(NI_NUMERICHOST == 2 && NI_MAXHOST == 1025);
 static_assert(PROC_PIDTASKINFO == 4 && sizeof(proc_taskinfo) == 96 && offsetof(proc_taskinfo, pti_threadnum) == 84);
+static_assert(PROC_PIDTBSDINFO == 3 && sizeof(proc_bsdinfo) == 136 && offsetof(proc_bsdinfo, pbi_name) == 64);
+static_assert(PROC_PIDPATHINFO_MAXSIZE == 4096 && offsetof(rusage_info_v2, ri_user_time) == 16);
 static_assert(RUSAGE_INFO_V2 == 2 && offsetof(rusage_info_v2, ri_interrupt_wkups) == 40);
 static_assert(offsetof(rusage_info_v2, ri_phys_footprint) == 72);
 static_assert(offsetof(rusage_info_v2, ri_proc_start_abstime) == 80 && sizeof(rusage_info_v2) == 160);

@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "macos/kernel/mach_clock.h"
 #include "macos/mac_accessories.h"
 #include "macos/mac_application_group.h"
 #include "macos/mac_signature.h"
+#include "macos/processes/process_records.h"
 #include "macos/processor/sysctl_information.h"
 #include "macos/simulated/machine.h"
 #include "platform/diagnosis.h"
@@ -76,6 +78,33 @@ TEST(MacAccessories, MergesTheReportWithTheRegistry) {
         }
     }
     EXPECT_EQ(machine.outstanding(), "");
+}
+
+TEST(ProcessRecords, NamesBundlesAndLeavesOutWhatMayNotBeAsked) {
+    Machine machine;
+    std::vector<ProcessSampler::Process> none;
+    EXPECT_FALSE(ProcessRecords().read(none));
+    machine.setSystemValue("hw.activecpu", 2);
+    machine.processes = {{70, "/Applications/Web.app/Contents/Web Helper.app/Contents/MacOS/Web Helper", 0, 1000},
+                         {12, "/Applications/Web.app/Contents/MacOS/Web", 0, 500},
+                         {30, "/usr/libexec/thing", 0, 400},
+                         {31, "", 0, 10},
+                         {90, "/sbin/other", 0, 9000, 1, false}};
+    ProcessRecords records;
+    const MachClock clock;
+    ProcessSampler sampler(records, clock);
+    sampler.sample();
+    machine.machTime += 24'000'000 * 2;
+    machine.processes[0].userTime = 24'000'000;
+    const ProcessSample sample = *sampler.sample();
+    EXPECT_EQ(sample.busiest, (std::vector<ProgramShare>{{"Web", "/Applications/Web.app", 2, 0.25, 1500}}));
+    ASSERT_EQ(sample.largest.size(), 3u);
+    EXPECT_EQ(sample.largest[1].name, "thing");
+    EXPECT_EQ(sample.largest[2].name, "odd name");
+    const auto asked = machine.calls["proc_pidpath"];
+    machine.machTime += 24'000'000;
+    sampler.sample();
+    EXPECT_EQ(machine.calls["proc_pidpath"], asked); // known by now
 }
 
 TEST(ProcessStatistics, AreInSecondsAndBytes) {
