@@ -42,7 +42,11 @@ AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
       popover_(parts.makePopover(
           theme_,
           [this] {
-              const CardContext context{theme_, defaults_, processor_, [this] { monitor_.requestLocationAccess(); }};
+              CardContext context{theme_, defaults_, processor_, [this] { monitor_.requestLocationAccess(); }};
+              context.watchPrograms = [this] { return monitor_.watchPrograms(); };
+              context.keepUnfolded = [this](PopoverCard card, bool isUnfolded) {
+                  setShowsPrograms(defaults_, card, isUnfolded);
+              };
               auto view = std::make_unique<PopoverView>(monitor_, context, [this] { return menuEntries(); });
               popoverView_ = view.get();
               return view;

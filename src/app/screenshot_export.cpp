@@ -138,8 +138,9 @@ class Export {
 
     void drawPopover(const Theme& theme, const QString& appearance) {
         log_.log(appearance + QStringLiteral(": popover"));
-        auto view = std::make_unique<PopoverView>(monitor_, CardContext{theme, defaults_, processor_},
-                                                  [] { return std::vector<StatusMenuEntry>(); });
+        CardContext context{theme, defaults_, processor_};
+        context.watchPrograms = [this] { return monitor_.watchPrograms(); };
+        auto view = std::make_unique<PopoverView>(monitor_, context, [] { return std::vector<StatusMenuEntry>(); });
         const auto image = OffscreenWindow(theme, std::move(view), popoverCanvas).picture();
         if (!image)
             return log_.lose(appearance + QStringLiteral(": popover NON disegnato"));

@@ -52,6 +52,7 @@ const std::vector<Preference>& allPreferences() {
         {key::warningThreshold, 0.75},
         {key::criticalThreshold, 0.9},
         {key::visibleCards, joined(popoverCards)},
+        {key::popoverProcesses, QString()},
         {key::alertsEnabled, false},
         {key::alertCPU, true},
         {key::alertMemory, true},
@@ -67,6 +68,7 @@ const std::vector<Preference>& allPreferences() {
         {key::temperatureModuleShows, text(temperatureModuleContents.front().rawValue)},
         {key::batteryAlertPercent, 15.0},
         {key::temperatureAlertCelsius, 95.0},
+        {key::alertNamesProcesses, true},
         {key::settingsTab, text(choiceOf(settingsTabs, SettingsTab::general).rawValue), false},
     };
     return table;
@@ -129,6 +131,16 @@ double updateInterval(const UserDefaults& defaults) {
 NameSet visibleCards(const UserDefaults& defaults) {
     const auto stored = defaults.string(preference_key::visibleCards);
     return namesIn(stored ? *stored : joined(popoverCards));
+}
+
+bool showsPrograms(const UserDefaults& defaults, PopoverCard card) {
+    const auto stored = defaults.string(preference_key::popoverProcesses);
+    return stored && contains(namesIn(*stored), choiceOf(popoverCards, card).rawValue);
+}
+
+void setShowsPrograms(UserDefaults& defaults, PopoverCard card, bool shows) {
+    const QString stored = defaults.string(preference_key::popoverProcesses).value_or(QString());
+    defaults.set(preference_key::popoverProcesses, withName(stored, choiceOf(popoverCards, card).rawValue, shows));
 }
 
 bool contains(const NameSet& names, std::string_view rawValue) {

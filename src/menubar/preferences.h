@@ -25,6 +25,7 @@ inline const QString menuBarColorize = QStringLiteral("menuBarColorize");
 inline const QString warningThreshold = QStringLiteral("warningThreshold");   ///< 0 to 1
 inline const QString criticalThreshold = QStringLiteral("criticalThreshold"); ///< 0 to 1
 inline const QString visibleCards = QStringLiteral("visibleCardsV2");
+inline const QString popoverProcesses = QStringLiteral("popoverProcesses");
 inline const QString alertsEnabled = QStringLiteral("alertsEnabled");
 inline const QString alertCPU = QStringLiteral("alertCPU");
 inline const QString alertMemory = QStringLiteral("alertMemory");
@@ -40,6 +41,7 @@ inline const QString diskModuleShows = QStringLiteral("diskModuleShows");
 inline const QString temperatureModuleShows = QStringLiteral("temperatureModuleShows");
 inline const QString batteryAlertPercent = QStringLiteral("batteryAlertPercent");         ///< 0 to 100
 inline const QString temperatureAlertCelsius = QStringLiteral("temperatureAlertCelsius"); ///< whatever is shown
+inline const QString alertNamesProcesses = QStringLiteral("alertNamesProcesses");
 inline const QString settingsTab = QStringLiteral("settingsTab");
 } // namespace preference_key
 
@@ -89,6 +91,11 @@ using NameSet = std::set<QString>;
 
 /// The names of the chosen cards as stored; a set of unknown names alone is not empty, but shows no card.
 NameSet visibleCards(const UserDefaults& defaults);
+
+/// Whether the card lists the programs behind its reading.
+bool showsPrograms(const UserDefaults& defaults, PopoverCard card);
+/// Keeps that.
+void setShowsPrograms(UserDefaults& defaults, PopoverCard card, bool shows);
 
 /// True when `names` has the card, module or other choice of that raw value.
 bool contains(const NameSet& names, std::string_view rawValue);

@@ -62,6 +62,20 @@ SensorsSample demoSensors() {
     return sensors;
 }
 
+ProcessSample demoProcesses() {
+    const auto mebibytes = [](std::uint64_t count) { return count * (gibibyte / 1024); };
+    return {{{"Firefox", "firefox", 14, 0.121, mebibytes(2970)},
+             {"cc1plus", "", 4, 0.104, mebibytes(806)},
+             {"GIMP", "gimp", 1, 0.038, mebibytes(1290)},
+             {localized("Kernel"), "", 212, 0.012, 0},
+             {"Thunderbird", "thunderbird", 3, 0.006, mebibytes(712)}},
+            {{"Firefox", "firefox", 14, 0.121, mebibytes(2970)},
+             {"GIMP", "gimp", 1, 0.038, mebibytes(1290)},
+             {"cc1plus", "", 4, 0.104, mebibytes(806)},
+             {"Thunderbird", "thunderbird", 3, 0.006, mebibytes(712)},
+             {"Xorg", "", 1, 0.004, mebibytes(318)}}};
+}
+
 } // namespace
 
 Readings demoReadings() {
@@ -87,6 +101,7 @@ Readings demoReadings() {
     readings.accessories = {{localized("Keyboard"), 90, false, "keyboard"},
                             {localized("Mouse"), 64, false, "computermouse"},
                             {localized("Headphones"), 80, false, "headphones"}};
+    readings.processes = demoProcesses();
     fillHistories(readings);
     return readings;
 }

@@ -46,4 +46,9 @@ QString percentText(double fraction) {
     return QString::fromStdString(compactPercent(fraction));
 }
 
+QString shareText(double fraction) {
+    constexpr double leastWhole = 0.0995; // what would be "10.0%"
+    return fraction < leastWhole ? QLocale().toString(fraction * 100.0, 'f', 1) + u'%' : percentText(fraction);
+}
+
 } // namespace vantrix

@@ -25,4 +25,7 @@ QString powerText(double watts);
 /// A share as "37%".
 QString percentText(double fraction);
 
+/// The share that one of many has: "37%", but "3.7%" where it is less than a tenth.
+QString shareText(double fraction);
+
 } // namespace vantrix

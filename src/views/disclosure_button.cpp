@@ -15,8 +15,9 @@ namespace vantrix {
 namespace {
 
 constexpr double textSize = 11.0;
-constexpr double symbolSide = 12.0;
+constexpr double symbolSize = 12.0;
 constexpr double cornerRadius = 4.0;
+constexpr int padding = 2; // around a chevron alone
 
 /// The toolkit takes every button that can be checked for a check box.
 class DisclosureInterface final : public QAccessibleWidget {
@@ -24,7 +25,9 @@ class DisclosureInterface final : public QAccessibleWidget {
     explicit DisclosureInterface(DisclosureButton* button) : QAccessibleWidget(button, QAccessible::Button) {}
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Name ? button().text() : QAccessibleWidget::text(kind);
+        if (kind != QAccessible::Name || button().text().isEmpty())
+            return QAccessibleWidget::text(kind);
+        return button().text();
     }
 
     QAccessible::State state() const override {
@@ -69,13 +72,29 @@ DisclosureButton::DisclosureButton(const Theme& theme) : Button(theme) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 
+DisclosureButton::DisclosureButton(const Theme& theme, const QString& name) : DisclosureButton(theme) {
+    isAlone_ = true;
+    setAccessibleName(name);
+    setToolTip(name);
+    setAttribute(Qt::WA_Hover);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+}
+
+int DisclosureButton::symbolSide() const {
+    return static_cast<int>(std::lround(theme().scaled(symbolSize)));
+}
+
 QSize DisclosureButton::sizeHint() const {
+    if (isAlone_)
+        return withRing({symbolSide() + 2 * padding, symbolSide() + 2 * padding});
     const QFontMetricsF metrics(theme().font(textSize));
-    const double width = metrics.horizontalAdvance(text()) + theme().scaled(symbolSide) + 2.0 * focusMargin;
+    const double width = metrics.horizontalAdvance(text()) + theme().scaled(symbolSize) + 2.0 * focusMargin;
     return QSizeF(std::ceil(width), std::ceil(metrics.height()) + 2.0 * focusMargin).toSize();
 }
 
 QSize DisclosureButton::minimumSizeHint() const {
+    if (isAlone_)
+        return sizeHint();
     return {static_cast<int>(theme().scaled(60.0)), sizeHint().height()};
 }
 
@@ -83,8 +102,13 @@ void DisclosureButton::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     ring().paint(painter, insideRing(*this), cornerRadius);
-    const int side = static_cast<int>(std::lround(theme().scaled(symbolSide)));
-    const QRect mark(width() - side, (height() - side) / 2, side, side);
+    const int side = symbolSide();
+    if (isAlone_ && (isDown() || underMouse())) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(isDown() ? theme().colors().control : theme().colors().card);
+        painter.drawRoundedRect(insideRing(*this), cornerRadius, cornerRadius);
+    }
+    const QRect mark(isAlone_ ? (width() - side) / 2 : width() - side, (height() - side) / 2, side, side);
     paintSymbol(painter, isChecked() ? "chevron.up" : "chevron.down",
                 QStyle::visualRect(layoutDirection(), rect(), mark), theme().colors().secondary);
     painter.setFont(theme().font(textSize));

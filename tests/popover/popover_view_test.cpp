@@ -25,6 +25,8 @@
 #include "popover/cards/memory_card.h"
 #include "popover/cards/network_card.h"
 #include "popover/cards/sensors_card.h"
+#include "popover/cards/steady_programs.h"
+#include "popover/charts/program_row.h"
 #include "samplers/processor_description.h"
 #include "views/drawn.h"
 #include "views/texts_of.h"
@@ -364,6 +366,71 @@ TEST_F(CardsTest, TheAccessoriesCardFollowsItsList) {
     card->showReadings(readings);
     EXPECT_THAT(textsOf(*card),
                 AllOf(Contains("Mouse: 20%, Battery low"), Contains("Pen: 21%"), Contains("Pad: 10%, Charging")));
+}
+
+QAbstractButton* disclosureOf(const PopoverView& view, const QString& name) {
+    for (auto* button : view.findChildren<QAbstractButton*>())
+        if (button->accessibleName() == name)
+            return button;
+    return nullptr;
+}
+
+TEST_F(PopoverViewTest, ListsProgramsOnDemandAndLooksAtThemOnlyThen) {
+    context.watchPrograms = [this] { return monitor.watchPrograms(); };
+    context.keepUnfolded = [this](PopoverCard card, bool shows) { setShowsPrograms(defaults, card, shows); };
+    machine.processes->names[1].name = "<b>" + std::string(60, 'w');
+    const auto view = makeView();
+    view->show();
+    settle();
+    EXPECT_EQ(machine.processes->reads, 0);
+    const int folded = view->sizeHint().height();
+    auto* const button = disclosureOf(*view, u"Programs by memory use"_s);
+    ASSERT_NE(button, nullptr);
+    button->click();
+    settle();
+    EXPECT_GT(view->sizeHint().height(), folded + 100);
+    EXPECT_EQ(defaults.string(preference_key::popoverProcesses), u"memory"_s);
+    EXPECT_THAT(textsOf(*view), AllOf(Contains("A: 10 bytes"), Contains(StartsWith("<b>www"))));
+    QAccessibleInterface* const told = QAccessible::queryAccessibleInterface(button);
+    EXPECT_TRUE(told->state().expanded && told->role() == QAccessible::Button);
+    EXPECT_EQ(told->text(QAccessible::Name), button->toolTip());
+    const auto rows = view->findChildren<ProgramRow*>();
+    EXPECT_TRUE(std::ranges::any_of(rows, [](auto* row) {
+        return row->toolTip().startsWith(u"&lt;b&gt;"_s) || row->toolTip().contains(u"&lt;b"_s);
+    }));
+    view->hide();
+    monitor.sample();
+    EXPECT_EQ(machine.processes->forgotten, 1);
+    const int reads = machine.processes->reads;
+    view->show(); // and remembers
+    settle();
+    EXPECT_EQ(machine.processes->reads, reads + 1);
+    EXPECT_THAT(textsOf(*view), Contains("A: 10 bytes"));
+    button->click();
+    settle();
+    EXPECT_EQ(view->sizeHint().height(), folded);
+    EXPECT_EQ(machine.processes->forgotten, 2);
+}
+
+TEST(SteadyPrograms, NothingJumpsUnderTheEye) {
+    SteadyPrograms programs([](const ProgramShare& program) { return program.cpu; });
+    const auto pass = [&](std::vector<std::pair<const char*, double>> latest) {
+        std::vector<ProgramShare> shares;
+        for (const auto& [name, cpu] : latest)
+            shares.push_back({name, {}, 1, cpu, 0});
+        std::string order;
+        for (const ProgramShare& program : programs.arranged(shares))
+            order += program.name;
+        return order;
+    };
+    EXPECT_EQ(pass({{"a", 0.5}, {"b", 0.4}, {"c", 0.3}}), "abc");
+    EXPECT_EQ(pass({{"b", 0.6}, {"a", 0.5}, {"c", 0.3}}), "abc"); // once is not enough
+    EXPECT_EQ(pass({{"a", 0.6}, {"b", 0.5}, {"c", 0.3}}), "abc");
+    EXPECT_EQ(pass({{"c", 0.9}, {"b", 0.6}, {"a", 0.5}}), "abc");
+    EXPECT_EQ(pass({{"c", 0.8}, {"b", 0.7}, {"a", 0.5}}), "cba");
+    EXPECT_EQ(pass({{"d", 0.9}, {"c", 0.8}, {"a", 0.5}}), "cda"); // in the place of the one that is gone
+    EXPECT_EQ(pass({{"c", 0.8}}), "c");
+    EXPECT_EQ(pass({}), "");
 }
 
 } // namespace

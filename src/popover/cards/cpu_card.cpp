@@ -3,11 +3,14 @@
 #include <QHBoxLayout>
 
 #include "monitor/readings.h"
+#include "popover/cards/program_list.h"
 #include "popover/cards/row_column.h"
 #include "popover/charts/core_bars.h"
 #include "popover/charts/ring_gauge.h"
 #include "popover/charts/stat_row.h"
+#include "popover/reading_text.h"
 #include "samplers/processor_description.h"
+#include "support/localization.h"
 #include "support/text_format.h"
 #include "views/text_label.h"
 
@@ -17,6 +20,10 @@ namespace {
 constexpr int ringSide = 76;
 constexpr double ringLine = 8.0;
 constexpr int ringGap = 16;
+
+const ProgramList::Kind programs{PopoverCard::cpu, localizedLater("Programs by CPU use"), &ProcessSample::busiest,
+                                 [](const ProgramShare& program) { return program.cpu; },
+                                 [](const ProgramShare& program) { return shareText(program.cpu); }};
 
 } // namespace
 
@@ -42,6 +49,8 @@ CPUCard::CPUCard(const CardContext& context)
     top->addLayout(rows, 1);
     content().addLayout(top);
     content().addWidget(cores_);
+    if (context.watchPrograms)
+        programs_ = new ProgramList(context, programs, *this);
 }
 
 void CPUCard::showReadings(const Readings& readings) {
@@ -53,6 +62,8 @@ void CPUCard::showReadings(const Readings& readings) {
     idle_->setValue(QString::fromStdString(parts.idle));
     cores_->setValues(cpu.perCore);
     cores_->setVisible(!cpu.perCore.empty());
+    if (programs_ != nullptr)
+        programs_->showPrograms(readings.processes, 1.0);
 }
 
 } // namespace vantrix

@@ -5,6 +5,7 @@
 namespace vantrix {
 
 class CoreBars;
+class ProgramList;
 class RingGauge;
 class StatRow;
 
@@ -20,6 +21,7 @@ class CPUCard : public Card {
     StatRow* system_;
     StatRow* idle_;
     CoreBars* cores_;
+    ProgramList* programs_ = nullptr;
 };
 
 } // namespace vantrix

@@ -4,12 +4,14 @@
 
 #include "menubar/preferences.h"
 #include "monitor/readings.h"
+#include "popover/cards/program_list.h"
 #include "popover/cards/row_column.h"
 #include "popover/charts/segmented_bar.h"
 #include "popover/charts/stat_row.h"
 #include "popover/headline.h"
 #include "popover/reading_text.h"
 #include "support/checked.h"
+#include "support/localization.h"
 #include "views/text_label.h"
 
 namespace vantrix {
@@ -33,6 +35,13 @@ ColorRole colorOf(MemorySample::Pressure pressure) {
     return pressure == MemorySample::Pressure::critical ? &ThemeColors::red : &ThemeColors::orange;
 }
 
+double bytesOf(const ProgramShare& program) {
+    return static_cast<double>(program.memory);
+}
+
+const ProgramList::Kind programs{PopoverCard::memory, localizedLater("Programs by memory use"), &ProcessSample::largest,
+                                 bytesOf, [](const ProgramShare& program) { return memoryText(program.memory); }};
+
 } // namespace
 
 MemoryCard::MemoryCard(const CardContext& context)
@@ -47,6 +56,8 @@ MemoryCard::MemoryCard(const CardContext& context)
     content().addWidget(shares_);
     content().addLayout(columnOf({app_, wired_, compressed_, swap_}));
     content().addWidget(pressure_);
+    if (context.watchPrograms)
+        programs_ = new ProgramList(context, programs, *this);
 }
 
 void MemoryCard::showReadings(const Readings& readings) {
@@ -62,6 +73,8 @@ void MemoryCard::showReadings(const Readings& readings) {
     compressed_->setValue(text(memory.compressed));
     swap_->setValue(text(memory.swapUsed));
     pressure_->setText(pressureLine(memory.pressure));
+    if (programs_ != nullptr)
+        programs_->showPrograms(readings.processes, static_cast<double>(memory.total));
 }
 
 } // namespace vantrix

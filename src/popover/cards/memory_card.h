@@ -5,6 +5,7 @@
 namespace vantrix {
 
 class Headline;
+class ProgramList;
 class SegmentedBar;
 class StatRow;
 class TextLabel;
@@ -24,6 +25,7 @@ class MemoryCard : public Card {
     StatRow* compressed_;
     StatRow* swap_;
     TextLabel* pressure_;
+    ProgramList* programs_ = nullptr;
 };
 
 } // namespace vantrix

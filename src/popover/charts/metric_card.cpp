@@ -5,6 +5,7 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
+#include "views/focus_ring.h"
 #include "views/shapes.h"
 #include "views/symbol_view.h"
 #include "views/text_label.h"
@@ -26,24 +27,41 @@ constexpr int cornerExtent = 17; // beyond it the edges are straight
 MetricCard::MetricCard(const Theme& theme, const QString& title, std::string_view symbol)
     : View(theme), symbol_(new SymbolView(theme, symbol, titleSize, &ThemeColors::secondary)),
       title_(new TextLabel(theme, {titleSize, QFont::DemiBold}, title)),
-      subtitle_(new TextLabel(theme, {11.0, QFont::Normal, &ThemeColors::secondary})), content_(new QVBoxLayout) {
-    auto* header = new QHBoxLayout;
-    header->setSpacing(headerSpacing);
-    header->addWidget(symbol_);
-    header->addWidget(title_);
-    header->addWidget(subtitle_);
-    header->addStretch(1);
+      subtitle_(new TextLabel(theme, {11.0, QFont::Normal, &ThemeColors::secondary})), header_(new QHBoxLayout),
+      content_(new QVBoxLayout) {
+    header_->setSpacing(headerSpacing);
+    header_->addWidget(symbol_);
+    header_->addWidget(title_);
+    header_->addWidget(subtitle_);
+    header_->addStretch(1);
     subtitle_->hide();
 
     content_->setContentsMargins(padding, padding, padding, padding);
     content_->setSpacing(spacing);
-    content_->addLayout(header);
+    content_->addLayout(header_);
     setLayout(content_);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
 void MetricCard::setSymbol(std::string_view symbol) {
     symbol_->setSymbol(symbol);
+}
+
+void MetricCard::addToHeader(QWidget& control) {
+    control.setParent(this);
+    control_ = &control;
+}
+
+bool MetricCard::event(QEvent* event) {
+    const bool isHandled = View::event(event);
+    const bool isLaidOut = event->type() == QEvent::Resize || event->type() == QEvent::LayoutRequest;
+    if (control_ != nullptr && isLaidOut) { // by the layout, which is told of it first
+        QRect place({}, control_->sizeHint());
+        place.moveCenter(header_->geometry().center());
+        place.moveRight(rect().right() - padding + focusMargin);
+        control_->setGeometry(mirrored(*this, place).toRect());
+    }
+    return isHandled;
 }
 
 void MetricCard::setSubtitle(const QString& subtitle) {

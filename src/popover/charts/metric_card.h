@@ -4,6 +4,7 @@
 
 #include "views/view.h"
 
+class QHBoxLayout;
 class QVBoxLayout;
 
 namespace vantrix {
@@ -20,18 +21,24 @@ class MetricCard : public View {
     /// Empty for none.
     void setSubtitle(const QString& subtitle);
 
+    /// A control at the end of the header, which may be taller than that.
+    void addToHeader(QWidget& control);
+
     /// Where the content goes, below the header.
     QVBoxLayout& content() { return *content_; }
 
     QString accessibleText() const override;
 
   protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
     SymbolView* symbol_;
     TextLabel* title_;
     TextLabel* subtitle_;
+    QHBoxLayout* header_;
+    QWidget* control_ = nullptr;
     QVBoxLayout* content_;
 };
 
