@@ -205,6 +205,7 @@
         <source>The CPU alert uses the critical threshold from General.</source>
         <translation>Die CPU-Warnung verwendet die kritische Schwelle aus „Allgemein“.</translation>
     </message>
+    <message><source>Name the programs responsible</source><translation>Verursachende Programme nennen</translation></message>
     <message><source>Notify me about</source><translation>Benachrichtigen bei</translation></message>
     <message><source>CPU above %@</source><translation>CPU über %@</translation></message>
     <message><source>Memory under pressure</source><translation>Speicher stark ausgelastet</translation></message>

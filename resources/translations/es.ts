@@ -208,6 +208,7 @@
         <source>The CPU alert uses the critical threshold from General.</source>
         <translation>El aviso de CPU usa el umbral crítico definido en General.</translation>
     </message>
+    <message><source>Name the programs responsible</source><translation>Nombrar los programas responsables</translation></message>
     <message><source>Notify me about</source><translation>Situaciones de aviso</translation></message>
     <message><source>CPU above %@</source><translation>CPU por encima del %@</translation></message>
     <message><source>Memory under pressure</source><translation>Memoria bajo presión</translation></message>

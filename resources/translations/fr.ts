@@ -205,6 +205,7 @@
         <source>The CPU alert uses the critical threshold from General.</source>
         <translation>L’alerte CPU utilise le seuil critique défini dans Général.</translation>
     </message>
+    <message><source>Name the programs responsible</source><translation>Nommer les programmes en cause</translation></message>
     <message><source>Notify me about</source><translation>Situations à signaler</translation></message>
     <message><source>CPU above %@</source><translation>CPU au-dessus de %@</translation></message>
     <message><source>Memory under pressure</source><translation>Mémoire sous pression</translation></message>

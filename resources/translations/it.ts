@@ -205,6 +205,7 @@
         <source>The CPU alert uses the critical threshold from General.</source>
         <translation>L’avviso per la CPU usa la soglia critica impostata in Generali.</translation>
     </message>
+    <message><source>Name the programs responsible</source><translation>Indica i programmi responsabili</translation></message>
     <message><source>Notify me about</source><translation>Avvisami in caso di</translation></message>
     <message><source>CPU above %@</source><translation>CPU oltre il %@</translation></message>
     <message><source>Memory under pressure</source><translation>Memoria sotto pressione</translation></message>

@@ -199,6 +199,7 @@
         <source>The CPU alert uses the critical threshold from General.</source>
         <translation>CPUの通知には、「一般」で設定した危険のしきい値が使われます。</translation>
     </message>
+    <message><source>Name the programs responsible</source><translation>原因となっているプログラムを表示</translation></message>
     <message><source>Notify me about</source><translation>通知する状態</translation></message>
     <message><source>CPU above %@</source><translation>CPU使用率が%@を超えたとき</translation></message>
     <message><source>Memory under pressure</source><translation>メモリが逼迫したとき</translation></message>

@@ -199,6 +199,7 @@
         <source>The CPU alert uses the critical threshold from General.</source>
         <translation>CPU 提醒使用“通用”中设置的严重阈值。</translation>
     </message>
+    <message><source>Name the programs responsible</source><translation>列出占用最多的程序</translation></message>
     <message><source>Notify me about</source><translation>出现以下情况时通知我</translation></message>
     <message><source>CPU above %@</source><translation>CPU 占用率高于 %@</translation></message>
     <message><source>Memory under pressure</source><translation>内存压力过大</translation></message>

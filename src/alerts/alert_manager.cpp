@@ -6,6 +6,7 @@
 #include <QPointer>
 
 #include "menubar/preferences.h"
+#include "support/checked.h"
 #include "support/localization.h"
 #include "support/size_text.h"
 #include "support/text_format.h"
@@ -15,6 +16,10 @@ namespace vantrix {
 namespace {
 
 using Kind = AlertManager::Kind;
+
+constexpr double measuredPasses = 2.0; // at the end of a condition's time, for what programs did in them
+constexpr double leastShare = 0.1;     // of a program that is named
+constexpr std::size_t mostNamed = 3;
 
 /// The kinds that are evaluated, in this order.
 constexpr std::array evaluatedKinds{Kind::cpu, Kind::memory, Kind::disk, Kind::battery, Kind::temperature};
@@ -36,20 +41,56 @@ AlertManager::AlertManager(NotificationCenter& center, const UserDefaults& defau
 
 void AlertManager::evaluate(const Readings& readings) {
     if (!defaults_.boolean(preference_key::alertsEnabled))
-        return;
-    const double duration = defaults_.number(preference_key::alertDuration);
+        return looks_.fill(nullptr);
     for (const Kind kind : evaluatedKinds) {
         double& sustained = sustained_[indexOf(kind)];
         if (!isWanted(kind) || !holds(kind, readings)) {
             sustained = 0.0;
+            looks_[indexOf(kind)].reset();
             continue;
         }
         sustained += readings.interval;
-        if (sustained < duration || !havePassed(cooldown, lastSent_[indexOf(kind)], clock_()))
-            continue;
-        const Message message = messageFor(kind, readings, units(defaults_));
-        send(kind, message.title, message.body);
+        if (isDue(kind, 0.0)) {
+            const Message message = messageFor(kind, readings, units(defaults_));
+            send(kind, message.title, message.body + programsBehind(kind, readings));
+        } else if (isDue(kind, measuredPasses * readings.interval)) {
+            beginLook(kind);
+        }
     }
+}
+
+/// Whether a condition that holds has lasted long enough, or will have in `ahead` seconds.
+bool AlertManager::isDue(Kind kind, double ahead) {
+    return sustained_[indexOf(kind)] + ahead >= defaults_.number(preference_key::alertDuration) &&
+           havePassed(cooldown - ahead, lastSent_[indexOf(kind)], clock_());
+}
+
+void AlertManager::beginLook(Kind kind) {
+    auto& look = looks_[indexOf(kind)];
+    const bool canBeNamed = kind == Kind::cpu || kind == Kind::memory;
+    if (look || !canBeNamed || !makeProcessSampler || !defaults_.boolean(preference_key::alertNamesProcesses))
+        return;
+    look = makeProcessSampler();
+    if (look)
+        look->sample();
+}
+
+/// A line below the message that says which programs it is about; empty where none has much of a part in it.
+QString AlertManager::programsBehind(Kind kind, const Readings& readings) {
+    if (kind == Kind::memory)
+        beginLook(kind); // one look is enough for that
+    const auto look = std::exchange(looks_[indexOf(kind)], nullptr);
+    const ProcessSample* sample = look ? look->sample() : nullptr;
+    if (sample == nullptr)
+        return {};
+    std::string names;
+    std::size_t named = 0;
+    for (const ProgramShare& program : kind == Kind::cpu ? sample->busiest : sample->largest) {
+        const double share = kind == Kind::cpu ? program.cpu : fractionOf(program.memory, readings.memory.total);
+        if (share >= leastShare && ++named <= mostNamed)
+            appendToList(names, program.name + ' ' + compactPercent(share));
+    }
+    return names.empty() ? QString() : u'\n' + QString::fromStdString(names);
 }
 
 bool AlertManager::isWanted(Kind kind) const {

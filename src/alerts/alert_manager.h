@@ -2,6 +2,7 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string_view>
 
@@ -37,6 +38,10 @@ class AlertManager : public QObject {
     /// not the time on the clock.
     void evaluate(const Readings& readings);
 
+    /// Makes a sampler for a look at the processes shortly before a notification and one at it; may be empty, and
+    /// answer null where the system tells nothing of them.
+    std::function<std::shared_ptr<ProcessSampler>()> makeProcessSampler;
+
     /// Posts a notification at once, replacing the one of the same kind before.
     void send(Kind kind, const QString& title, const QString& body);
 
@@ -52,6 +57,9 @@ class AlertManager : public QObject {
 
     bool holds(Kind kind, const Readings& readings) const;
     bool isWanted(Kind kind) const;
+    bool isDue(Kind kind, double ahead);
+    void beginLook(Kind kind);
+    QString programsBehind(Kind kind, const Readings& readings);
     static Message messageFor(Kind kind, const Readings& readings, const Units& units);
 
     NotificationCenter& center_;
@@ -59,6 +67,7 @@ class AlertManager : public QObject {
     WallClock clock_;
     std::array<double, kindNames.size()> sustained_{}; // seconds
     std::array<std::optional<double>, kindNames.size()> lastSent_;
+    std::array<std::shared_ptr<ProcessSampler>, kindNames.size()> looks_; // begun, of those about to be posted
 };
 
 } // namespace vantrix

@@ -59,6 +59,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     installAccessibleApplication();
     registerPreferences(defaults_);
     createStatusItem();
+    alerts_.makeProcessSampler = [this] { return monitor_.makeProcessSampler(); };
     monitor_.onUpdate = [delegate = QPointer<AppDelegate>(this)] {
         if (delegate)
             delegate->monitorDidUpdate();

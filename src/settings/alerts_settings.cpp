@@ -41,9 +41,10 @@ AlertsSettings::AlertsSettings(const Theme& theme, UserDefaults& defaults, SendT
     const QString send = localizedText("Send notifications");
     auto* control = new Switch(theme, send);
     bindSwitch(*control, defaults_, preference_key::alertsEnabled);
-    addSection({}, {localizedText("Each alert is sent at most once every 15 minutes."),
-                    localizedText("The CPU alert uses the critical threshold from General.")})
-        .addRow({.caption = send, .control = control});
+    FormSection& section = addSection({}, {localizedText("Each alert is sent at most once every 15 minutes."),
+                                           localizedText("The CPU alert uses the critical threshold from General.")});
+    section.addRow({.caption = send, .control = control});
+    addKind(section, localizedText("Name the programs responsible"), preference_key::alertNamesProcesses);
     addKinds();
     addConditions();
     addTest();

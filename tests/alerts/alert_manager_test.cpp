@@ -7,6 +7,7 @@
 
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_notification_center.h"
+#include "fakes/fake_sources.h"
 
 namespace vantrix {
 namespace {
@@ -135,6 +136,41 @@ TEST_F(AlertManagerTest, TellsOfWhatHasLastedAndAgainEvery15Minutes) {
         EXPECT_EQ(postsIn(step.passes - 1), 0u) << step.name;
         EXPECT_EQ(postsIn(1), step.posts) << step.name;
     }
+}
+
+/// Looked at twice for each notification, from two passes before it, and never otherwise.
+TEST_F(AlertManagerTest, NamesTheProgramsBehindALoad) {
+    fakes::FakeProcesses processes;
+    fakes::FakeClock clock;
+    manager->makeProcessSampler = [&] { return std::make_shared<ProcessSampler>(processes, clock); };
+    const auto bodyAfter = [&](int passes) {
+        for (int pass = 0; pass < passes; ++pass) {
+            clock.now += readings.interval;
+            processes.processes[0].cpuTime += 4'640'000'000; // 58% of four processors
+            processes.processes[1].cpuTime += 792'000'000;
+            postsIn(1);
+        }
+        return center.posts.empty() ? QString() : center.posts.back().body;
+    };
+    processes.processes[0].memory = 999;
+    EXPECT_EQ(bodyAfter(12), u""_s);
+    EXPECT_EQ(processes.reads, 0);
+    processes.names[0].name = "<b>";
+    processes.processes[0].cpuTime += 1'000'000'000'000; // what was before the last two passes counts for nothing
+    EXPECT_EQ(bodyAfter(3), u"The CPU has been at 93% or more for a while.\n<b> 58%"_s);
+    EXPECT_EQ(processes.reads, 2);
+    readings.cpu.total = 0.1;
+    readings.memory = {.total = 1000, .app = 1000, .pressure = Pressure::critical};
+    processes.processes[1].memory = 120;
+    EXPECT_TRUE(bodyAfter(15).endsWith(u"pressure.\n<b> 100%, B 12%"_s));
+    EXPECT_EQ(processes.reads, 4);
+    processes.processes[0].memory = processes.processes[1].memory = 99; // none has much of a part in it
+    EXPECT_TRUE(bodyAfter(450).endsWith(u"pressure."_s));
+    EXPECT_EQ(processes.reads, 6);
+    defaults.set(preference_key::alertNamesProcesses, false);
+    bodyAfter(450);
+    EXPECT_EQ(center.posts.size(), 4u);
+    EXPECT_EQ(processes.reads, 6);
 }
 
 TEST_F(AlertManagerTest, TheTestAsksFirst) {

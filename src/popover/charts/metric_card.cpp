@@ -5,7 +5,6 @@
 #include <QPainter>
 #include <QVBoxLayout>
 
-#include "views/focus_ring.h"
 #include "views/shapes.h"
 #include "views/symbol_view.h"
 #include "views/text_label.h"
@@ -20,6 +19,7 @@ constexpr int headerSpacing = 6;
 constexpr double cornerRadius = 12.0;
 constexpr double borderWidth = 0.5;
 constexpr double titleSize = 12.0;
+constexpr int controlRoom = 5;   // around a control's symbol, which lines up with the content's edge
 constexpr int cornerExtent = 17; // beyond it the edges are straight
 
 } // namespace
@@ -58,7 +58,7 @@ bool MetricCard::event(QEvent* event) {
     if (control_ != nullptr && isLaidOut) { // by the layout, which is told of it first
         QRect place({}, control_->sizeHint());
         place.moveCenter(header_->geometry().center());
-        place.moveRight(rect().right() - padding + focusMargin);
+        place.moveRight(rect().right() - padding + controlRoom);
         control_->setGeometry(mirrored(*this, place).toRect());
     }
     return isHandled;
