@@ -24,8 +24,15 @@ constexpr std::size_t mostNamed = 3;
 /// The kinds that are evaluated, in this order.
 constexpr std::array evaluatedKinds{Kind::cpu, Kind::memory, Kind::disk, Kind::battery, Kind::temperature};
 
+const QString identifierStart = QStringLiteral("vantrix.");
+
 constexpr std::size_t indexOf(Kind kind) {
     return static_cast<std::size_t>(kind);
+}
+
+QString identifierOf(Kind kind) {
+    const std::string_view name = AlertManager::kindNames[indexOf(kind)];
+    return identifierStart + QLatin1StringView(name.data(), qsizetype(name.size()));
 }
 
 QString localizedText(std::string_view english, std::initializer_list<std::string_view> values = {}) {
@@ -37,6 +44,11 @@ QString localizedText(std::string_view english, std::initializer_list<std::strin
 AlertManager::AlertManager(NotificationCenter& center, const UserDefaults& defaults, WallClock clock)
     : center_(center), defaults_(defaults), clock_(std::move(clock)) {
     center_.willPresent = [] { return NotificationCenter::Presentation{.banner = true, .sound = true}; };
+    center_.activated = [this](const QString& identifier) { // both are the owner's, and go together
+        for (std::size_t kind = 0; kind < kindNames.size(); ++kind)
+            if (opened && identifier == identifierOf(static_cast<Kind>(kind)))
+                opened(static_cast<Kind>(kind));
+    };
 }
 
 void AlertManager::evaluate(const Readings& readings) {
@@ -159,8 +171,7 @@ AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readin
 }
 
 void AlertManager::send(Kind kind, const QString& title, const QString& body) {
-    const std::string_view name = kindNames[indexOf(kind)];
-    center_.post(QStringLiteral("vantrix.") + QLatin1StringView(name.data(), qsizetype(name.size())), title, body);
+    center_.post(identifierOf(kind), title, body);
     lastSent_[indexOf(kind)] = clock_();
 }
 

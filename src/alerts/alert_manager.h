@@ -42,6 +42,9 @@ class AlertManager : public QObject {
     /// answer null where the system tells nothing of them.
     std::function<std::shared_ptr<ProcessSampler>()> makeProcessSampler;
 
+    /// Called when the user clicks on a notification.
+    std::function<void(Kind)> opened;
+
     /// Posts a notification at once, replacing the one of the same kind before.
     void send(Kind kind, const QString& title, const QString& body);
 

@@ -59,6 +59,7 @@ void AppDelegate::applicationDidFinishLaunching() {
     installAccessibleApplication();
     registerPreferences(defaults_);
     createStatusItem();
+    alerts_.opened = [this](AlertManager::Kind kind) { alertOpened(kind); };
     alerts_.makeProcessSampler = [this] { return monitor_.makeProcessSampler(); };
     monitor_.onUpdate = [delegate = QPointer<AppDelegate>(this)] {
         if (delegate)
@@ -152,6 +153,16 @@ void AppDelegate::togglePopover(std::optional<MenuBarModule> module) {
 void AppDelegate::showPopover() {
     if (statusItem_ && !popover_->isShown())
         popover_->show(*statusItem_);
+}
+
+/// Shows the card that the alert was about, with the programs behind it.
+void AppDelegate::alertOpened(AlertManager::Kind kind) {
+    const auto module = choiceNamed(menuBarModules, AlertManager::kindNames[static_cast<std::size_t>(kind)]);
+    if (kind == AlertManager::Kind::cpu || kind == AlertManager::Kind::memory)
+        setShowsPrograms(defaults_, kind == AlertManager::Kind::cpu ? PopoverCard::cpu : PopoverCard::memory, true);
+    showPopover();
+    if (module && popoverView_ && popover_->isShown())
+        popoverView_->showCardOf(*module);
 }
 
 void AppDelegate::openSettings() {

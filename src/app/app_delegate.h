@@ -70,6 +70,7 @@ class AppDelegate : public QObject {
     void refreshStatusItem();
     void showMenu();
     void togglePopover(std::optional<MenuBarModule> module);
+    void alertOpened(AlertManager::Kind kind);
     void showSettings(std::string_view tab);
     std::vector<StatusMenuEntry> menuEntries();
 

@@ -33,6 +33,10 @@ class NotificationCenter {
 
     /// Called by systems that leave this to the program. Set once, by the owner; without it nothing is shown then.
     std::function<Presentation()> willPresent;
+
+    /// Called when the user clicks on a notification, where the system tells of that. Set once, by the owner, before
+    /// anything is posted.
+    std::function<void(const QString& identifier)> activated;
 };
 
 /// The notification centre of this desktop. Made after the application object.

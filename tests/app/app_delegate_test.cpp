@@ -156,6 +156,17 @@ TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {
     EXPECT_EQ(settings()->currentTab(), SettingsTab::alerts);
 }
 
+TEST_F(AppDelegateTest, AClickOnAnAlertShowsItsCardUnfolded) {
+    notifications->activated(QStringLiteral("vantrix.nonsense"));
+    EXPECT_FALSE(popoverIsOpen());
+    EXPECT_EQ(machine.processes->reads, 0);
+    notifications->activated(QStringLiteral("vantrix.memory"));
+    EXPECT_TRUE(popoverIsOpen());
+    EXPECT_EQ(machine.processes->reads, 1);
+    delegate.handleRequest("show-settings"); // which closes it
+    EXPECT_EQ(machine.processes->forgotten, 1);
+}
+
 /// The first in a tree of what assistive programs read with that role and name; null when there is none, or no tree.
 QAccessibleInterface* find(QAccessibleInterface* tree, QAccessible::Role role, const char* name) {
     if (!tree || (tree->role() == role && tree->text(QAccessible::Name) == QLatin1StringView(name)))

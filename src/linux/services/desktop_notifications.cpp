@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "linux/services/notification_picture.h"
+#include "support/localization.h"
 
 namespace vantrix {
 namespace {
@@ -15,6 +16,10 @@ const QString serviceName = QStringLiteral("org.freedesktop.Notifications");
 const QString servicePath = QStringLiteral("/org/freedesktop/Notifications");
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+
+/// What a click on the notification itself is called. Where it is told of, services show its text nowhere, or as a
+/// button.
+const QString clickAction = QStringLiteral("default");
 
 /// Of the icon theme, and of the desktop entry.
 const QString programName = QStringLiteral("vantrix");
@@ -48,6 +53,8 @@ DesktopNotifications::DesktopNotifications(std::shared_ptr<BusLink> link) : link
     link_->whenConnected(this, [this](QDBusConnection& bus) {
         bus.connect(QString(), busPath, busName, QStringLiteral("NameOwnerChanged"), {serviceName}, QString(), this,
                     SLOT(serviceOwnerChanged(QString, QString, QString)));
+        bus.connect(QString(), servicePath, serviceName, QStringLiteral("ActionInvoked"), this,
+                    SLOT(actionInvoked(uint, QString)));
     });
     connect(link_.get(), &BusLink::disconnected, this, &DesktopNotifications::forgetNumbers);
 }
@@ -61,13 +68,26 @@ void DesktopNotifications::post(const QString& identifier, const QString& title,
 }
 
 void DesktopNotifications::notify(const QString& identifier, const Texts& texts) {
-    Posted& posted = posted_[identifier];
-    posted.isUnanswered = true;
+    posted_[identifier].isUnanswered = true;
+    if (!activated || tellsOfClicks_)
+        return send(identifier, texts);
+    // Some that cannot show actions make a dialogue of a notification that has any.
+    const auto question =
+        QDBusMessage::createMethodCall(serviceName, servicePath, serviceName, QStringLiteral("GetCapabilities"));
+    call(question, [this, identifier, texts](const QDBusMessage& reply) {
+        tellsOfClicks_ = answerOf<QStringList>(reply, u"as").value_or(QStringList()).contains(u"actions");
+        send(identifier, texts);
+    });
+}
+
+void DesktopNotifications::send(const QString& identifier, const Texts& texts) {
+    const Posted& posted = posted_[identifier];
+    const QStringList actions{clickAction, QString::fromStdString(localized("Open Vantrix"))};
     auto message = QDBusMessage::createMethodCall(serviceName, servicePath, serviceName, QStringLiteral("Notify"));
     constexpr int serviceDecidesHowLong = -1;
     message << QStringLiteral("Vantrix") << posted.id << programName << texts.title
             << texts.body.toHtmlEscaped() // the body, unlike the title, is markup
-            << QStringList() << hints() << serviceDecidesHowLong;
+            << (tellsOfClicks_.value_or(false) ? actions : QStringList()) << hints() << serviceDecidesHowLong;
     call(message, [this, identifier, asked = resignations_](const QDBusMessage& reply) {
         takeAnswer(identifier, reply, asked == resignations_);
     });
@@ -84,6 +104,12 @@ void DesktopNotifications::takeAnswer(const QString& identifier, const QDBusMess
         notify(identifier, *next);
 }
 
+void DesktopNotifications::actionInvoked(uint id, const QString& action) {
+    for (auto posted = posted_.cbegin(); posted != posted_.cend(); ++posted)
+        if (posted->id == id && id != 0 && action == clickAction && activated)
+            return activated(posted.key());
+}
+
 void DesktopNotifications::serviceOwnerChanged(const QString&, const QString& oldOwner, const QString&) {
     if (oldOwner.isEmpty())
         return; // the service has just started, perhaps for our call, which it will answer
@@ -92,6 +118,7 @@ void DesktopNotifications::serviceOwnerChanged(const QString&, const QString& ol
 
 void DesktopNotifications::forgetNumbers() {
     ++resignations_;
+    tellsOfClicks_.reset();
     for (Posted& posted : posted_)
         posted.id = 0;
 }

@@ -28,6 +28,7 @@ class DesktopNotifications : public QObject, public NotificationCenter {
     void requestAuthorization(std::function<void(bool granted)> answer) override;
 
   private Q_SLOTS:
+    void actionInvoked(uint id, const QString& action);
     void serviceOwnerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
 
   private:
@@ -45,6 +46,7 @@ class DesktopNotifications : public QObject, public NotificationCenter {
 
     void forgetNumbers();
     void notify(const QString& identifier, const Texts& texts);
+    void send(const QString& identifier, const Texts& texts);
     /// `isCurrent`: the service is still the one that was asked.
     void takeAnswer(const QString& identifier, const QDBusMessage& reply, bool isCurrent);
     void askBus(const QString& method, const QVariantList& arguments, std::function<void(const QDBusMessage&)> take);
@@ -53,6 +55,7 @@ class DesktopNotifications : public QObject, public NotificationCenter {
 
     std::shared_ptr<BusLink> link_;
     int resignations_ = 0; ///< counts the services that have gone; not every toolkit version says who sent a reply
+    std::optional<bool> tellsOfClicks_; ///< the service; absent until it was asked
     QHash<QString, Posted> posted_;
 };
 

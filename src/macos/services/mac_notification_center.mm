@@ -54,6 +54,18 @@ class MacNotificationCenter final : public NotificationCenter {
     });
 }
 
+- (void)userNotificationCenter:(UNUserNotificationCenter*)center
+    didReceiveNotificationResponse:(UNNotificationResponse*)response
+             withCompletionHandler:(void (^)(void))completionHandler {
+    NSString* identifier = response.notification.request.identifier;
+    const bool isClick = [response.actionIdentifier isEqualToString:UNNotificationDefaultActionIdentifier];
+    dispatch_async(dispatch_get_main_queue(), ^{
+      if (isClick && self.owner && self.owner->activated)
+          self.owner->activated(QString::fromNSString(identifier));
+      completionHandler();
+    });
+}
+
 @end
 
 namespace vantrix {

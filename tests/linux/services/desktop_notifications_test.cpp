@@ -16,12 +16,16 @@ struct FakeNotificationService : FakeService {
     explicit FakeNotificationService(const QString& busAddress, uint firstId = 1)
         : FakeService(busAddress, QStringLiteral("org.freedesktop.Notifications"),
                       QStringLiteral("/org/freedesktop/Notifications"),
-                      [nextId = firstId](const QDBusMessage& notify) mutable {
+                      [this, nextId = firstId](const QDBusMessage& notify) mutable {
+                          if (notify.member() == u"GetCapabilities")
+                              return notify.createReply(capabilities);
                           const uint replaced = notify.arguments().at(1).toUInt();
                           return notify.createReply(replaced != 0 ? replaced : nextId++);
                       }) {
         appear();
     }
+
+    QStringList capabilities;
 };
 
 uint replacedBy(const QDBusMessage& notify) {
@@ -66,6 +70,30 @@ TEST_F(DesktopNotificationsTest, SaysWhatDaemonsUnderstand) {
     EXPECT_EQ(hints.value(u"urgency"_s), QVariant::fromValue(uchar{1})); // daemons refuse another type than byte
     EXPECT_EQ(hints.value(u"desktop-entry"_s), u"vantrix"_s);
     EXPECT_FALSE(hints.value(u"sound-name"_s).toString().isEmpty());
+}
+
+TEST_F(DesktopNotificationsTest, TellsOfClicksWhereTheServiceDoes) {
+    FakeNotificationService service(bus.address());
+    QStringList clicked;
+    center.activated = [&](const QString& identifier) { clicked += identifier; };
+    post(u"vantrix.cpu"_s);
+    ASSERT_TRUE(gets(service, 2)); // a question and a notification
+    EXPECT_EQ(service.asked[1].arguments()[5].toStringList(), QStringList());
+    service.resign();
+    service.capabilities = {u"body"_s, u"actions"_s};
+    service.appear();
+    EXPECT_EQ(authorization(center), true); // by now it knows of that
+    post(u"vantrix.disk"_s);
+    ASSERT_TRUE(gets(service, 4));
+    post(u"vantrix.memory"_s);
+    ASSERT_TRUE(gets(service, 5)); // and no second question
+    EXPECT_EQ(service.asked[4].arguments()[5].toStringList().value(0), u"default"_s);
+    EXPECT_EQ(authorization(center), true);
+    for (const uint id : {0U, 77U, 3U})
+        service.emitSignal(u"/org/freedesktop/Notifications"_s, u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s,
+                           {id, u"default"_s});
+    EXPECT_TRUE(spinUntil([&] { return !clicked.isEmpty(); }));
+    EXPECT_EQ(clicked, QStringList(u"vantrix.memory"_s));
 }
 
 TEST_F(DesktopNotificationsTest, BringsItsIconWhereItIsNotInstalled) {

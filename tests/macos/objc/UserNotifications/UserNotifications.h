@@ -4,7 +4,7 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
-@class UNNotification, UNNotificationTrigger, UNUserNotificationCenter;
+@class UNNotificationTrigger, UNUserNotificationCenter;
 
 @interface UNNotificationSound : NSObject <NSCopying>
 @property(class, copy, readonly) UNNotificationSound* defaultSound;
@@ -25,6 +25,20 @@ NS_ASSUME_NONNULL_BEGIN
 + (instancetype)requestWithIdentifier:(NSString*)identifier
                               content:(UNNotificationContent*)content
                               trigger:(nullable UNNotificationTrigger*)trigger;
+@property(copy, readonly) NSString* identifier;
+@end
+
+@interface UNNotification : NSObject <NSCopying>
+- (instancetype)init NS_UNAVAILABLE;
+@property(copy, readonly) UNNotificationRequest* request;
+@end
+
+extern NSString* const UNNotificationDefaultActionIdentifier;
+
+@interface UNNotificationResponse : NSObject <NSCopying>
+- (instancetype)init NS_UNAVAILABLE;
+@property(copy, readonly) UNNotification* notification;
+@property(copy, readonly) NSString* actionIdentifier;
 @end
 
 typedef NS_OPTIONS(NSUInteger, UNAuthorizationOptions) {
@@ -54,6 +68,9 @@ typedef NS_ENUM(NSInteger, UNAuthorizationStatus) {
 - (void)userNotificationCenter:(UNUserNotificationCenter*)center
        willPresentNotification:(UNNotification*)notification
          withCompletionHandler:(void (^)(UNNotificationPresentationOptions options))completionHandler;
+- (void)userNotificationCenter:(UNUserNotificationCenter*)center
+    didReceiveNotificationResponse:(UNNotificationResponse*)response
+             withCompletionHandler:(void (^)(void))completionHandler;
 @end
 
 @interface UNUserNotificationCenter : NSObject
