@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick check-darwin mac-report check-debian hosts bench ground-truth format clean soak
+.PHONY: run build test test-asan check check-quick check-darwin mac-report check-debian hosts soak fuzz bench ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -59,6 +59,13 @@ SOAK_SEED ?= 1
 soak: build
 	scripts/setup.sh soak
 	tests/soak/soak.py $(SOAK_PROGRAM) $(SOAK_MINUTES) $(SOAK_SEED)
+
+# Looks for faults with libFuzzer, a minute for each target; FUZZ_SECONDS=600 for longer.
+fuzz:
+	scripts/setup.sh build fuzz
+	cmake --preset fuzz
+	cmake --build --preset fuzz -j $(JOBS)
+	scripts/fuzz.sh
 
 bench:
 	scripts/setup.sh build test bench

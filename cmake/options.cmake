@@ -23,10 +23,13 @@ if(NOT APPLE)
   target_link_options(vantrix_options INTERFACE "$<$<CONFIG:Release>:-pie;-Wl,-z,relro,-z,now>")
 endif()
 
-if(VANTRIX_SANITIZE)
+if(VANTRIX_SANITIZE OR VANTRIX_FUZZ)
   target_compile_options(vantrix_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                    -fno-omit-frame-pointer)
   target_link_options(vantrix_options INTERFACE -fsanitize=address,undefined)
+endif()
+if(VANTRIX_FUZZ)
+  target_compile_options(vantrix_options INTERFACE -fsanitize=fuzzer-no-link) # counts what an input reaches
 endif()
 
 # What most files that use Qt include; parsed once for all files of a target.

@@ -2,7 +2,9 @@
 
 #include <utility>
 
+#include "monitor/task_runner.h"
 #include "platform/bluetooth.h"
+#include "support/repeating_timer.h"
 
 namespace vantrix::fakes {
 
@@ -75,6 +77,14 @@ struct FakeTimer : RepeatingTimer {
     }
     std::function<void()> fire;
     int schedules = 0;
+};
+
+/// Needs no thread.
+struct ImmediateRunner : TaskRunner {
+    void run(std::function<void()> work, std::function<void()> done) override {
+        work();
+        done();
+    }
 };
 
 /// Bluetooth in the test's hands; the pointers stay valid as long as whatever took the bundle.

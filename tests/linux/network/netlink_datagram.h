@@ -41,19 +41,6 @@ inline std::string message(int type, const std::string& body, int flags = 0, std
     return padded(bytesOf(header) + body);
 }
 
-/// Calls with every cut of the bytes, and with every byte of them replaced by odd values.
-template<typename Try>
-void tryDamages(const std::string& whole, Try tryBytes) {
-    for (std::size_t place = 0; place < whole.size(); ++place) {
-        tryBytes(whole.substr(0, place));
-        for (const char value : {'\0', '\1', '\5', '\x7f', '\xff'}) {
-            std::string bytes = whole;
-            bytes[place] = value;
-            tryBytes(bytes);
-        }
-    }
-}
-
 /// A conversation with a kernel that tells what is in the queue.
 struct FakeNetlink : NetlinkChannel {
     struct Turn {

@@ -77,18 +77,6 @@ TEST(ParseJoinedNetwork, FindsTheNameOfTheNetworkJoined) {
         EXPECT_FALSE(parseJoinedNetwork(network(elements, NL80211_BSS_STATUS_ASSOCIATED))) << elements;
 }
 
-TEST(Nl80211Messages, NoDamageHarms) {
-    const std::string whole =
-        usualStation + survey(-92, true) + network({"\0\4Home", 6}, 1) + attribute(NL80211_ATTR_SSID, "Home");
-    tryDamages(whole, [](const std::string& text) {
-        EXPECT_LE(parseStation(text).value_or(WiFiStation{}).signal, 0);
-        EXPECT_LE(parseNoise(text).value_or(0), 0);
-        EXPECT_LE(parseInterfaceName(text).value_or("").size(), 32u);
-        EXPECT_LE(parseJoinedNetwork(text).value_or("").size(), 32u);
-        parseFamilyNumber(text);
-    });
-}
-
 /// A kernel that answers from a list of attributes for each command.
 struct FakeKernel : FakeNetlink {
     std::map<int, std::vector<std::string>> answers; // by NL80211_CMD_GET_…

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "linux/network/link_messages.h"
 #include "linux/network/netlink_datagram.h"
 #include "linux/network/rtnetlink_links.h"
 #include "linux/network/rtnetlink_routes.h"
@@ -76,23 +75,6 @@ std::string linkMessage(int type, int index, unsigned flags, const std::string& 
 std::string addressMessage(unsigned index, int messageFlags = 0, std::uint32_t sequence = 0) {
     const std::string addresses = numberAttribute(IFA_LOCAL, 0x0200000a) + numberAttribute(IFA_ADDRESS, 0x0100000a);
     return message(RTM_NEWADDR, bytesOf(ifaddrmsg{AF_INET, 32, 0, 0, index}) + addresses, messageFlags, sequence);
-}
-
-TEST(RtnetlinkMessages, EndAtEveryCutAndWrongLength) {
-    const std::string texts[] = {
-        linkMessage(RTM_NEWLINK, 7, 0x41, "eth0"), addressMessage(7),
-        message(RTM_NEWROUTE, bytesOf(defaultRoute()) + overLink(2) + attribute(RTA_MULTIPATH, hop(3, 1) + hop(4, 0)))};
-    for (const std::string& whole : texts)
-        tryDamages(whole, [&](std::string_view datagram) {
-            const bool isCut = datagram.size() < whole.size();
-            RouteList list;
-            while (const auto taken = takeNetlinkMessage(datagram)) {
-                EXPECT_FALSE(isCut);
-                EXPECT_LT(parseLinkMessage(*taken).value_or(LinkMessage()).name.size(), 16u);
-                list.add(parseRouteMessage(*taken).value_or(RouteMessage()));
-            }
-            EXPECT_GE(list.bestLink(AF_INET), 0);
-        });
 }
 
 /// A kernel with links and one default route over the loopback, which exists on any machine.

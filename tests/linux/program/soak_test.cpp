@@ -7,6 +7,7 @@
 
 #include <QImage>
 
+#include "fakes/fake_bluetooth.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
 #include "menubar/menu_bar_renderer.h"
@@ -24,23 +25,13 @@ std::size_t allocatedBytes() {
     return mallinfo2().uordblks;
 }
 
-struct NoTimer : RepeatingTimer {
-    void schedule(double, double, std::function<void()>) override {}
-};
-
-struct ImmediateRunner : TaskRunner {
-    void run(std::function<void()> work, std::function<void()> done) override {
-        work();
-        done();
-    }
-};
-
 struct Soak : testing::Test {
     void start(SamplingSources sources) {
         auto ownClock = std::make_unique<fakes::FakeClock>();
         clock = ownClock.get();
         sources.clock = std::move(ownClock);
-        monitor.emplace(std::move(sources), defaults, std::make_unique<NoTimer>(), std::make_unique<ImmediateRunner>());
+        monitor.emplace(std::move(sources), defaults, std::make_unique<fakes::FakeTimer>(),
+                        std::make_unique<fakes::ImmediateRunner>());
     }
 
     void pass() {

@@ -22,40 +22,6 @@ long capturedLines() {
     return std::count(text.begin(), text.end(), '\n');
 }
 
-TEST_F(FileDefaultsStoreTest, DamagedFileIsSetAsideBeforeItIsReplaced) {
-    const struct {
-        const char* name;
-        QByteArray bytes;
-        bool copied = true;
-    } damages[] = {
-        {"torn", "{\"key\": 1, \"oth"}, {"binary", QByteArray("\0\xff\xfe\x01{}", 6)},
-        {"trailing", "{\"key\":1}}"},   {"oversized", "{\"key\":1}" + QByteArray(1 << 20, ' ')},
-        {"empty", "", false},
-    };
-    for (const auto& damage : damages) {
-        SCOPED_TRACE(damage.name);
-        QFile::remove(at("settings.json.damaged-2"));
-        put(at("settings.json.damaged"), "an older copy");
-        write(damage.bytes);
-        testing::internal::CaptureStderr();
-        {
-            FileDefaultsStore store(path_);
-            EXPECT_FALSE(store.value(key).isValid());
-            EXPECT_EQ(read(path_), damage.bytes) << "reading leaves it as it is";
-            store.setValue(key, 1.0);
-            store.flush();
-            store.setValue(key, 2.0);
-        }
-        EXPECT_EQ(capturedLines(), 1);
-        EXPECT_EQ(object().value(key).toInt(), 2);
-        EXPECT_EQ(read(at("settings.json.damaged")), "an older copy");
-        EXPECT_EQ(names(folder_.path()).size(), damage.copied ? 3 : 2);
-        if (damage.copied) {
-            EXPECT_EQ(read(at("settings.json.damaged-2")), damage.bytes);
-        }
-    }
-}
-
 TEST_F(FileDefaultsStoreTest, DamageWhileRunningKeepsTheLastValues) {
     write("{\"key\":1,\"other\":1}");
     FileDefaultsStore store(path_);

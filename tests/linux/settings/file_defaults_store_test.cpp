@@ -163,19 +163,5 @@ TEST_F(FileDefaultsStoreTest, SeesDeletionAndAFolderMadeLater) {
     }
 }
 
-TEST_F(FileDefaultsStoreTest, LaysPendingValuesOverAnEdit) {
-    write("{\"key\":1,\"other\":1,\"gone\":1}");
-    FileDefaultsStore store(path_);
-    int outside = 0;
-    store.changedOutside = [&] { ++outside; };
-    store.setValue(key, 5.0);
-    store.setValue(text("gone"), {});
-    put(path_, "{\"key\":2,\"other\":2,\"gone\":2,\"added\":2}");
-    store.flush(); // before the edit was noticed
-    EXPECT_EQ(object(), parsed("{\"key\":5,\"other\":2,\"added\":2}"));
-    EXPECT_EQ(store.value(other), QVariant(2.0));
-    EXPECT_EQ(outside, 1);
-}
-
 } // namespace
 } // namespace vantrix

@@ -1,6 +1,5 @@
 #include "linux/status_area/status_item_on_bus.h"
 
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
 
 #include "linux/status_area/menu_types.h"
@@ -10,27 +9,8 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-/// A host's event as EventGroup takes it: (isvu).
-struct MenuEvent {
-    int id = 0;
-    QString kind;
-};
-
-QDBusArgument& operator<<(QDBusArgument& argument, const MenuEvent& event) {
-    argument.beginStructure();
-    argument << event.id << event.kind << QDBusVariant(0) << 0U;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, MenuEvent&) {
-    return argument;
-}
-
 struct DBusMenuTest : StatusItemOnBus {
     DBusMenuTest() {
-        qDBusRegisterMetaType<MenuEvent>();
-        qDBusRegisterMetaType<QList<MenuEvent>>();
         entries = {{u"Settings_1"_s, QKeySequence(Qt::CTRL | Qt::Key_Comma), [this] { ++settings; }},
                    {{}, {}, {}},
                    {u"Quit"_s, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Q), [this] { ++quits; }}};
@@ -134,39 +114,6 @@ TEST_F(DBusMenuTest, TellsThatItOpensAndReadsItsEntriesAnew) {
     EXPECT_EQ(menusOpened, 3);
     tell(0, u"opened"_s);
     EXPECT_EQ(menusOpened, 4);
-}
-
-TEST_F(DBusMenuTest, NonsenseGetsErrors) {
-    startMenu();
-    layoutNow();
-    QVariant deep = 1;
-    for (int i = 0; i < 60; ++i) // the bus itself lets no more than 64 through
-        deep = QVariant::fromValue(QDBusVariant(deep));
-    EXPECT_EQ(tell(1, u"noticed"_s, deep).type(), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(tell(1, QString(10000, u'x')).type(), QDBusMessage::ReplyMessage);
-    EXPECT_EQ(tell(44, u"clicked"_s).type(), QDBusMessage::ErrorMessage);
-    constexpr int most = std::numeric_limits<int>::max();
-    EXPECT_EQ(ask(u"GetLayout"_s, {0, most, QStringList()}).type(), QDBusMessage::ReplyMessage);
-    const struct {
-        const char* name;
-        QString member;
-        QVariantList arguments;
-    } cases[] = {
-        {"unknown method", u"Explode"_s, {}},
-        {"texts for numbers", u"GetLayout"_s, {u"0"_s, u"1"_s, QStringList()}},
-        {"negative entry", u"GetLayout"_s, {-most, -most, QStringList()}},
-        {"property that is not there", u"GetProperty"_s, {1, u"colour"_s}},
-        {"list of texts for ids", u"AboutToShowGroup"_s, {QStringList(u"0"_s)}},
-        {"event without its data", u"Event"_s, {1, u"clicked"_s}},
-        {"ids for events", u"EventGroup"_s, {QVariant::fromValue(QList<int>{1})}},
-    };
-    for (const auto& c : cases) {
-        const auto reply = ask(c.member, c.arguments);
-        EXPECT_EQ(reply.type(), QDBusMessage::ErrorMessage) << c.name;
-        EXPECT_NE(reply.errorName(), u"org.freedesktop.DBus.Error.NoReply"_s) << c.name;
-    }
-    EXPECT_EQ(settings + quits, 0);
-    EXPECT_EQ(layoutNow().children.size(), 3);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QDBusArgument>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusPendingCall>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
@@ -15,6 +16,23 @@
 #include "linux/services/session_bus.h"
 
 namespace vantrix {
+
+/// A host's event as EventGroup takes it: (isvu).
+struct MenuEvent {
+    int id = 0;
+    QString kind;
+};
+
+inline QDBusArgument& operator<<(QDBusArgument& argument, const MenuEvent& event) {
+    argument.beginStructure();
+    argument << event.id << event.kind << QDBusVariant(0) << 0U;
+    argument.endStructure();
+    return argument;
+}
+
+inline const QDBusArgument& operator>>(const QDBusArgument& argument, MenuEvent&) {
+    return argument;
+}
 
 /// A status area on a bus: a watcher that lists the items registered with it, and a host that reads them.
 class FakeStatusHost : public QDBusVirtualObject {
@@ -25,7 +43,11 @@ class FakeStatusHost : public QDBusVirtualObject {
         QString path;
     };
 
-    explicit FakeStatusHost(const QString& busAddress) : busAddress_(busAddress) { start(); }
+    explicit FakeStatusHost(const QString& busAddress) : busAddress_(busAddress) {
+        qDBusRegisterMetaType<MenuEvent>();
+        qDBusRegisterMetaType<QList<MenuEvent>>();
+        start();
+    }
 
     /// Takes the watcher's name on a connection of its own, as a freshly started panel does; behind
     /// another that has it.

@@ -34,15 +34,14 @@ class StatusItemOnBus : public ::testing::Test {
     using Item = FakeStatusHost::Item;
 
     void start() {
-        StatusItem::Handlers handlers{
-            .clicked =
-                [this](const StatusClick& click) {
-                    clicks.push_back(click.button);
-                    modules.push_back(click.module);
-                },
-            .menu = [this] { return entries; },
-            .details = [](auto module) { return module ? QString() : QStringLiteral("details"); },
-            .menuWillOpen = [this] { ++menusOpened; }};
+        StatusItem::Handlers handlers{.clicked =
+                                          [this](const StatusClick& click) {
+                                              clicks.push_back(click.button);
+                                              modules.push_back(click.module);
+                                          },
+                                      .menu = [this] { return entries; },
+                                      .details = [this](auto module) { return module ? QString() : details; },
+                                      .menuWillOpen = [this] { ++menusOpened; }};
         item = std::make_unique<LinuxStatusItem>(std::move(handlers), defaults, appearance, surroundings);
         item->show(rowOf(12));
     }
@@ -82,6 +81,7 @@ class StatusItemOnBus : public ::testing::Test {
                                     .stripDelay = std::chrono::milliseconds(30),
                                     .hostOfProcess = [this](uint) { return layout; }};
     std::vector<StatusMenuEntry> entries;
+    QString details = QStringLiteral("details"); ///< of the whole row
     std::vector<StatusClick::Button> clicks;
     std::vector<std::optional<MenuBarModule>> modules; ///< of the clicks
     int menusOpened = 0;

@@ -92,33 +92,6 @@ TEST_F(StatusNotifierTest, PicturesAreStraightArgbMostSignificantByteFirst) {
     EXPECT_EQ(toNotifierPixmap(image), (NotifierPixmap{2, 1, QByteArray::fromHex("ffff003366ffffff")}));
 }
 
-TEST_F(StatusNotifierTest, WrongCallsGetErrors) {
-    const Item at = startOn(quick("waybar")).front();
-    const QString properties = FakeStatusHost::propertiesInterface;
-    const QString ours = FakeStatusHost::itemInterface;
-    const QVariant one = QVariant::fromValue(QDBusVariant(1));
-    const struct {
-        const char* name;
-        QString interface, member;
-        QVariantList arguments;
-        const char* error;
-    } cases[] = {
-        {"no such property", properties, u"Get"_s, {ours, u"Nonsense"_s}, "UnknownProperty"},
-        {"arguments of another kind", properties, u"Get"_s, {1, 2}, "InvalidArgs"},
-        {"writing", properties, u"Set"_s, {ours, u"Title"_s, one}, "PropertyReadOnly"},
-        {"no such method", ours, u"Explode"_s, {}, "UnknownMethod"},
-        {"click at a text", ours, u"ContextMenu"_s, {u"1"_s, u"2"_s}, "InvalidArgs"},
-        {"no such interface", u"a.b"_s, u"Activate"_s, {1, 2}, "UnknownInterface"},
-    };
-    for (const auto& c : cases) {
-        const QDBusMessage reply = host.call(at, c.interface, c.member, c.arguments);
-        EXPECT_EQ(reply.type(), QDBusMessage::ErrorMessage) << c.name;
-        EXPECT_TRUE(reply.errorName().endsWith(QLatin1StringView(c.error))) << c.name;
-    }
-    EXPECT_TRUE(clicks.empty());
-    EXPECT_EQ(title(at), u"CPU 12%, RAM 50%"_s);
-}
-
 TEST_F(StatusNotifierTest, ClicksArriveWithTheirButtonAndPlace) {
     const Item at = startOn(quick("unheard-of"), 2).back();
     for (const auto& member : {u"Activate"_s, u"SecondaryActivate"_s, u"ContextMenu"_s})
