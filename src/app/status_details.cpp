@@ -13,9 +13,9 @@ QString line(const QString& label, const QString& value) {
 }
 
 /// Some hosts read tool tips as markup and some do not, so neither escaping nor leaving as it is suits all. A network's
-/// name may hold anything.
+/// name may hold anything, also the character at which a bus would end the text.
 QString withoutMarkup(QString text) {
-    return text.replace(u'<', u'\u2039').replace(u'>', u'\u203a').replace(u'&', u'\uff06').simplified();
+    return text.remove(QChar()).replace(u'<', u'\u2039').replace(u'>', u'\u203a').replace(u'&', u'\uff06').simplified();
 }
 
 QString memoryLine(const Readings& readings, const Units& units) {
