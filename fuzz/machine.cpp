@@ -12,6 +12,7 @@
 #include "fakes/fixture_machine.h"
 #include "fakes/plausible_pass.h"
 #include "fuzz/targets.h"
+#include "linux/read_in_place.h"
 #include "menubar/menu_bar_renderer.h"
 #include "monitor/system_monitor.h"
 #include "popover/popover_view.h"
@@ -50,7 +51,7 @@ void show(const Readings& readings, const UserDefaults& defaults) {
     for (const MenuBarItem& item : items)
         EXPECT_TRUE(fakes::isFraction(item.fraction) && !valueText(item).empty()) << itemText(item);
     expectForScripts(waybarLine(items));
-    const std::string text = textLine(items) + statusDetails(readings, {}).toStdString();
+    const std::string text = textLine(items) + statusDetails(readings, {}, {}).toStdString();
     EXPECT_EQ(repairedUTF8(text), text);
     QImage row;
     for (const auto style : {MenuBarStyle::inlined, MenuBarStyle::stacked, MenuBarStyle::graph})
@@ -62,6 +63,7 @@ void show(const Readings& readings, const UserDefaults& defaults) {
 
 /// A laptop whose files change: one byte says which, one before which of three passes, a text what is in it from there.
 void machine(std::string_view input) {
+    const ReadInPlace inPlace;
     const fakes::FixtureMachine laptop("laptop-with-two-packs");
     static const fakes::FakeDefaults defaults;
     static const fakes::FakeAppearance appearance;

@@ -39,7 +39,7 @@ struct Panel : StatusItemOnBus {
         host.signalsHeard.clear();
         Readings readings;
         readings.networkInfo.ssid = '_' + name.toStdString();
-        details = statusDetails(readings, {});
+        details = statusDetails(readings, {}, {});
         entries[0].title = QString(u'_' + name).remove(QChar());
         item->show(rowOf(++row % 100)); // else nothing is told anew
         host.call(at[1], host.menuInterface, u"AboutToShow"_s, {0});

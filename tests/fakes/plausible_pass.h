@@ -46,9 +46,10 @@ inline void plausiblePass(Samplers& samplers) {
     samplers.network.sample();
     samplers.networkInfo->sample(true, 3);
     samplers.disk.sample();
-    if (const ProcessSample* programs = samplers.processes->sample())
+    if (const ProcessSample* programs = samplers.processes->sample()) {
         for (const ProgramShare& program : programs->busiest)
             EXPECT_TRUE(isFraction(program.cpu)) << program.cpu;
+    }
     samplers.sources.information->text("machdep.cpu.brand_string");
     samplers.sources.information->integer("hw.perflevel0.logicalcpu");
     readings.gpu = samplers.gpu->sample();

@@ -39,14 +39,9 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
     const struct {
         const char* machine;
         std::size_t sensors;
-    } rows[] = {{"zram-in-use", 0},
-                {"laptop-hybrid-cores", 0},
-                {"zfs-host", 0},
-                {"programs-at-work", 0},
-                {"two-packs-and-accessories", 0},
-                {"gpu-asleep-beside-another", 0},
-                {"laptop-with-two-packs", 6},
-                {"laptop-with-everything", 35}};
+    } rows[] = {{"zram-in-use", 0},           {"laptop-hybrid-cores", 0},       {"zfs-host", 0},
+                {"programs-at-work", 0},      {"two-packs-and-accessories", 0}, {"gpu-asleep-beside-another", 0},
+                {"laptop-with-two-packs", 6}, {"laptop-with-everything", 35}};
     const std::regex digits("[0-9]+");
     constexpr int allIsFound = 605; // devices are looked for every 600 passes, whatever happens
     for (const auto& row : rows) {

@@ -395,7 +395,7 @@ TEST_F(PopoverViewTest, ListsProgramsOnDemandAndLooksAtThemOnlyThen) {
     EXPECT_TRUE(told->state().expanded && told->role() == QAccessible::Button);
     EXPECT_EQ(told->text(QAccessible::Name), button->toolTip());
     const auto rows = view->findChildren<ProgramRow*>();
-    EXPECT_TRUE(std::ranges::any_of(rows, [](auto* row) {
+    EXPECT_TRUE(std::any_of(rows.begin(), rows.end(), [](auto* row) {
         return row->toolTip().startsWith(u"&lt;b&gt;"_s) || row->toolTip().contains(u"&lt;b"_s);
     }));
     view->hide();

@@ -23,7 +23,7 @@ constexpr int ringGap = 16;
 
 const ProgramList::Kind programs{PopoverCard::cpu, localizedLater("Programs by CPU use"), &ProcessSample::busiest,
                                  [](const ProgramShare& program) { return program.cpu; },
-                                 [](const ProgramShare& program) { return shareText(program.cpu); }};
+                                 [](const ProgramShare& program, const Units&) { return shareText(program.cpu); }};
 
 } // namespace
 

@@ -39,8 +39,12 @@ double bytesOf(const ProgramShare& program) {
     return static_cast<double>(program.memory);
 }
 
+QString textOf(const ProgramShare& program, const Units& units) {
+    return memoryText(program.memory, units.memory);
+}
+
 const ProgramList::Kind programs{PopoverCard::memory, localizedLater("Programs by memory use"), &ProcessSample::largest,
-                                 bytesOf, [](const ProgramShare& program) { return memoryText(program.memory); }};
+                                 bytesOf, textOf};
 
 } // namespace
 

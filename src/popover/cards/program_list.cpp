@@ -39,12 +39,13 @@ void ProgramList::showPrograms(const ProcessSample& processes, double whole) {
     setVisible(isUnfolded);
     if (!isUnfolded)
         return;
+    const Units chosen = units(context_.defaults);
     const auto programs = programs_.arranged(processes.*kind_.list);
     for (std::size_t i = 0; i < rows_.size(); ++i) {
         if (i >= programs.size())
             rows_[i]->clear();
         else
-            rows_[i]->show(programs[i].name, programs[i].icon, kind_.text(programs[i]),
+            rows_[i]->show(programs[i].name, programs[i].icon, kind_.text(programs[i], chosen),
                            whole > 0.0 ? kind_.rank(programs[i]) / whole : 0.0);
     }
 }

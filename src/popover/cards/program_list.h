@@ -7,6 +7,7 @@
 #include "popover/cards/card.h"
 #include "popover/cards/steady_programs.h"
 #include "samplers/process_sampler.h"
+#include "support/units.h"
 
 namespace vantrix {
 
@@ -22,7 +23,7 @@ class ProgramList : public View {
         std::string_view name; ///< of the button, in English
         std::vector<ProgramShare> ProcessSample::*list;
         SteadyPrograms::Rank rank;
-        QString (*text)(const ProgramShare&);
+        QString (*text)(const ProgramShare&, const Units&);
     };
 
     /// Puts itself at the end of `card`.

@@ -152,7 +152,7 @@ TEST_F(ProgramTest, ExportsTheSamePicturesEachTime) {
     EXPECT_EQ(first.size(), 17u); // 2 popovers, 6 rows, 8 tabs and the log
     EXPECT_EQ(QImage::fromData(first.at(u"settings-general-dark.png"_s)).size(), QSize(1040, 1000));
     const QImage alerts = QImage::fromData(first.at(u"settings-alerts-dark.png"_s));
-    EXPECT_EQ(alerts.pixelColor(910, 370), QColor(64, 148, 255)) << "their switches are on";
+    EXPECT_EQ(alerts.pixelColor(910, 434), QColor(64, 148, 255)) << "their switches are on";
     const auto popover = QImage::fromData(first.at(u"popover-light.png"_s));
     EXPECT_EQ(popover.width(), 680);
     EXPECT_EQ(inkOf(popover, popover.pixelColor(1, popover.height() - 2)).bottom(), popover.height() - 25);

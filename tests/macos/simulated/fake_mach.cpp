@@ -108,8 +108,13 @@ int proc_listallpids(void* buffer, int size) {
     return count;
 }
 
+static auto processOf(int pid) {
+    const auto& processes = mac().processes;
+    return std::find_if(processes.begin(), processes.end(), [pid](const auto& entry) { return entry.id == pid; });
+}
+
 int proc_pidpath(int pid, void* buffer, std::uint32_t size) {
-    const auto found = std::ranges::find(mac().processes, pid, &ProcessEntry::id);
+    const auto found = processOf(pid);
     if (found == mac().processes.end() || found->path.empty() || found->path.size() >= size || fails())
         return 0;
     std::memcpy(buffer, found->path.data(), found->path.size());
@@ -135,7 +140,7 @@ int proc_pidinfo(int pid, int flavor, std::uint64_t, void* buffer, int size) {
 }
 
 int proc_pid_rusage(int pid, int flavor, rusage_info_t* buffer) {
-    const auto found = std::ranges::find(mac().processes, pid, &ProcessEntry::id);
+    const auto found = processOf(pid);
     if (found != mac().processes.end() && found->isOwn && !fails()) {
         rusage_info_v2 usage{};
         usage.ri_user_time = found->userTime;
