@@ -14,6 +14,8 @@ namespace {
 
 const QString serviceName = QStringLiteral("org.freedesktop.Notifications");
 const QString servicePath = QStringLiteral("/org/freedesktop/Notifications");
+/// Of a service that takes the body, unlike the title, for markup.
+const QString markup = QStringLiteral("body-markup");
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 
@@ -69,25 +71,26 @@ void DesktopNotifications::post(const QString& identifier, const QString& title,
 
 void DesktopNotifications::notify(const QString& identifier, const Texts& texts) {
     posted_[identifier].isUnanswered = true;
-    if (!activated || tellsOfClicks_)
+    if (capabilities_)
         return send(identifier, texts);
-    // Some that cannot show actions make a dialogue of a notification that has any.
     const auto question =
         QDBusMessage::createMethodCall(serviceName, servicePath, serviceName, QStringLiteral("GetCapabilities"));
     call(question, [this, identifier, texts](const QDBusMessage& reply) {
-        tellsOfClicks_ = answerOf<QStringList>(reply, u"as").value_or(QStringList()).contains(u"actions");
+        capabilities_ = answerOf<QStringList>(reply, u"as").value_or(QStringList(markup)); // the careful guess
         send(identifier, texts);
     });
 }
 
 void DesktopNotifications::send(const QString& identifier, const Texts& texts) {
     const Posted& posted = posted_[identifier];
+    // Some that cannot show actions make a dialogue of a notification that has any.
+    const bool tellsOfClicks = activated && capabilities_->contains(u"actions");
     const QStringList actions{clickAction, QString::fromStdString(localized("Open Vantrix"))};
     auto message = QDBusMessage::createMethodCall(serviceName, servicePath, serviceName, QStringLiteral("Notify"));
     constexpr int serviceDecidesHowLong = -1;
     message << QStringLiteral("Vantrix") << posted.id << programName << texts.title
-            << texts.body.toHtmlEscaped() // the body, unlike the title, is markup
-            << (tellsOfClicks_.value_or(false) ? actions : QStringList()) << hints() << serviceDecidesHowLong;
+            << (capabilities_->contains(markup) ? texts.body.toHtmlEscaped() : texts.body)
+            << (tellsOfClicks ? actions : QStringList()) << hints() << serviceDecidesHowLong;
     call(message, [this, identifier, asked = resignations_](const QDBusMessage& reply) {
         takeAnswer(identifier, reply, asked == resignations_);
     });
@@ -118,7 +121,7 @@ void DesktopNotifications::serviceOwnerChanged(const QString&, const QString& ol
 
 void DesktopNotifications::forgetNumbers() {
     ++resignations_;
-    tellsOfClicks_.reset();
+    capabilities_.reset();
     for (Posted& posted : posted_)
         posted.id = 0;
 }

@@ -55,7 +55,7 @@ class DesktopNotifications : public QObject, public NotificationCenter {
 
     std::shared_ptr<BusLink> link_;
     int resignations_ = 0; ///< counts the services that have gone; not every toolkit version says who sent a reply
-    std::optional<bool> tellsOfClicks_; ///< the service; absent until it was asked
+    std::optional<QStringList> capabilities_; ///< the service's; absent until it was asked
     QHash<QString, Posted> posted_;
 };
 
