@@ -1,6 +1,6 @@
 #include "app/command_line.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 #include "doctor/report.h"
 
-#include <QString>
+#include <QStringList>
 
 #include <gmock/gmock.h>
 
