@@ -17,11 +17,13 @@ namespace vantrix {
 namespace {
 
 constexpr int enoughLooks = 2;
+constexpr std::uint64_t unsettled = 10; // seconds from a process's start in which its control group may change
 constexpr std::size_t cutNameLength = 15; // of a name in /proc/PID/stat
 constexpr std::size_t mostStale = 64;     // names that are kept although nothing goes by them any more
 constexpr int mostAncestors = 64;
 
-const std::uint64_t nanosecondsPerTick = 1'000'000'000 / static_cast<std::uint64_t>(sysconf(_SC_CLK_TCK));
+const std::uint64_t ticksPerSecond = static_cast<std::uint64_t>(sysconf(_SC_CLK_TCK));
+const std::uint64_t nanosecondsPerTick = 1'000'000'000 / ticksPerSecond;
 const std::uint64_t pageSize = static_cast<std::uint64_t>(sysconf(_SC_PAGESIZE));
 
 /// How many numbers a list such as "0-3,8\n" names; 0 when it makes no sense.
@@ -123,7 +125,12 @@ void ProcessList::add(const char* entry) {
 /// All are listed by now, so that each finds its parent.
 void ProcessList::identify() {
     auto before = before_.begin();
+    std::uint64_t newest = 0;
+    for (const Known& process : known_)
+        newest = std::max(newest, process.start);
     for (Known& process : known_) {
+        if (process.start + unsettled * ticksPerSecond < newest)
+            process.looks = enoughLooks - 1;
         while (before != before_.end() && before->id < process.id)
             ++before;
         if (before != before_.end() && before->id == process.id)

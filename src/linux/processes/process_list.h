@@ -16,7 +16,7 @@
 namespace vantrix {
 
 /// All processes that /proc shows this user, one read of /proc/PID/stat each. What application a process belongs to is
-/// looked up when it is new, and once more a pass later, since a desktop moves what it starts into a control group of
+/// looked up when it is new, and once more if it has just begun, since a desktop moves what it starts into a group of
 /// its own a moment after the start:
 /// - the application of that control group;
 /// - else the ancestor that a log-in or a terminal runs, and all that this one started;
