@@ -117,9 +117,11 @@ bool LinuxCapture::endPass(const std::string& record) {
 }
 
 std::size_t LinuxCapture::fileCount() const {
+    std::size_t count = 0;
     std::error_code error;
-    return static_cast<std::size_t>(std::count_if(fs::recursive_directory_iterator(folder_, error), {},
-                                                  [](const auto& entry) { return !entry.is_directory(); }));
+    for (fs::recursive_directory_iterator entry(folder_, error), end; !error && entry != end; entry.increment(error))
+        count += fs::is_directory(entry->symlink_status(error)) ? 0 : 1;
+    return count;
 }
 
 bool LinuxCapture::writeReadme() const {

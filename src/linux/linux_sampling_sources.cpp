@@ -55,7 +55,7 @@ ApplicationEntries applicationEntries(const KernelRoots& roots) {
 
 SamplingSources makeSamplingSources(const KernelRoots& roots) {
     const auto news = std::make_shared<RtnetlinkSubscriber>(); // opens nothing until it is asked
-    return makeSamplingSources(roots, {.makeClock = std::make_unique<LinuxClock>,
+    return makeSamplingSources(roots, {.makeClock = [] { return std::make_unique<LinuxClock>(); },
                                        .information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys),
                                        .network = makeNetworkSource(roots, news),
                                        .networkInfo = makeNetworkInfoSource(roots, news),

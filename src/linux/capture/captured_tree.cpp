@@ -55,7 +55,10 @@ bool makeFolder(const std::string& path) {
 /// What a machine is laid into.
 class Ground {
   public:
-    explicit Ground(const std::string& folder) : folder_(fs::weakly_canonical(folder).string()) {}
+    explicit Ground(const std::string& folder) {
+        std::error_code error;
+        folder_ = fs::weakly_canonical(folder, error).string();
+    }
 
     bool remove(const std::string& entry) const {
         std::error_code error;
