@@ -36,8 +36,8 @@ struct KernelRoots {
 std::optional<std::string> unreadableRoot(const KernelRoots& roots);
 
 /// Everything the samplers read from. Null where the system offers no way to read it: `gpu`, the three sources of
-/// sensors, `battery`, `accessories`, `networkInfo` and `processes`; `location` where a network's name needs no permission.
-/// The others are never null.
+/// sensors, `battery`, `accessories`, `networkInfo` and `processes`; `location` where a network's name needs no
+/// permission. The others are never null.
 struct SamplingSources {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<SystemInformation> information;
