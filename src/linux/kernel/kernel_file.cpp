@@ -28,8 +28,7 @@ ssize_t readAt(int file, char* to, std::size_t room, std::size_t offset) {
 
 } // namespace
 
-KernelFile::KernelFile(std::string path, Kind kind)
-    : path_(std::move(path)), kind_(kind), buffer_(roomFor(kind)) {}
+KernelFile::KernelFile(std::string path, Kind kind) : path_(std::move(path)), kind_(kind), buffer_(roomFor(kind)) {}
 
 std::optional<std::string_view> KernelFile::read() {
     const auto text = readText();
