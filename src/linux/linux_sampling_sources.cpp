@@ -55,12 +55,14 @@ ApplicationEntries applicationEntries(const KernelRoots& roots) {
 
 SamplingSources makeSamplingSources(const KernelRoots& roots) {
     const auto news = std::make_shared<RtnetlinkSubscriber>(); // opens nothing until it is asked
-    return makeSamplingSources(roots, {.makeClock = [] { return std::make_unique<LinuxClock>(); },
-                                       .information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys),
-                                       .network = makeNetworkSource(roots, news),
-                                       .networkInfo = makeNetworkInfoSource(roots, news),
-                                       .volume = std::make_unique<VolumeStatistics>(volumeFolders(roots.proc)),
-                                       .nvidia = makeNvidiaLibrary()});
+    return makeSamplingSources(
+        roots, {.makeClock = [] { return std::make_unique<LinuxClock>(); },
+                .information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys),
+                .network = makeNetworkSource(roots, news),
+                .networkInfo = makeNetworkInfoSource(roots, news),
+                .volume = std::make_unique<VolumeStatistics>(volumeFolders(roots.proc)),
+                .nvidia = makeNvidiaLibrary(),
+                .processes = std::make_unique<ProcessList>(roots.proc, roots.sys, applicationEntries(roots))});
 }
 
 SamplingSources makeSamplingSources(const KernelRoots& roots, SamplingParts parts) {
@@ -83,7 +85,7 @@ SamplingSources makeSamplingSources(const KernelRoots& roots, SamplingParts part
     sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
     sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock, threads);
     sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
-    sources.processes = std::make_unique<ProcessList>(roots.proc, roots.sys, applicationEntries(roots));
+    sources.processes = std::move(parts.processes);
     return sources;
 }
 

@@ -3,6 +3,7 @@
 #include "linux/diagnosis/diagnosis_parts.h"
 #include "linux/disks/proc_diskstats.h"
 #include "linux/kernel/kernel_tree.h"
+#include "linux/kernel/reading_manner.h"
 #include "linux/memory/proc_meminfo.h"
 #include "linux/memory/proc_pressure.h"
 #include "linux/memory/zfs_cache.h"
@@ -51,7 +52,9 @@ SourceDiagnosis programs(const DiagnosisTools& tools) {
     SourceDiagnosis row{std::string(reading_name::programs), tools.roots.proc + "/PID/stat"};
     row.reason = "Read while a list of programs is on screen and for an alert, and not otherwise. There is none by "
                  "network or disk: what the kernel counts of those for each process is for root alone.";
-    const auto entries = entriesStartingWith(tools.roots.proc, "");
+    std::vector<std::string> entries;
+    if (readingManner.watch == nullptr) // what runs is not for a capture
+        entries = entriesStartingWith(tools.roots.proc, "");
     const auto isProcess = [](const std::string& entry) { return entry.front() >= '1' && entry.front() <= '9'; };
     if (std::none_of(entries.begin(), entries.end(), isProcess)) {
         row.state = SourceState::absent;
