@@ -198,7 +198,7 @@ class Parser {
         const bool isCapture = result_.action == Action::capture;
         for (const std::string& option : printOptions_)
             if (result_.action != Action::print && (!isCapture || option == "--modules"))
-                error_ = option + " goes with --print";
+                error_ = option + " goes with --print" + (option == "--modules" ? "" : " or --capture");
         if (!result_.replayFolder.empty())
             checkReplay();
     }
