@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <vector>
+
 #include "linux/capture/answers.h"
 #include "linux/capture/redaction.h"
 #include "linux/graphics/nvidia_library.h"

@@ -1,8 +1,6 @@
 #include "linux/capture/redaction.h"
 
 #include <algorithm>
-#include <array>
-#include <optional>
 
 #include "linux/kernel/text_scan.h"
 #include "support/ascii_case.h"

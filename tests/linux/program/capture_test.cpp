@@ -69,6 +69,20 @@ TEST(Capture, BearsNoNamesAndGivesTheSameNumbers) {
     EXPECT_EQ(replayed[u"accessories"][0][u"symbol"], u"computermouse"_s);
 }
 
+/// What is only looked for is laid down empty.
+TEST(Capture, OpensNothingOfADeviceThatSleeps) {
+    const fakes::FixtureMachine machine("gpu-asleep-beside-another");
+    const TemporaryFolder folder;
+    const auto [proc, sys] = machine.roots();
+    EXPECT_EQ(EndedProgram({"--capture", folder.path("a"), "--count", "1", "--interval", "0.5", "--proc-root", proc,
+                            "--sys-root", sys})
+                  .status,
+              0);
+    EXPECT_EQ(folder.read("a/sys/class/drm/card0/device/power/runtime_status"), "suspended\n");
+    EXPECT_EQ(folder.read("a/sys/class/drm/card0/device/gpu_busy_percent"), "");
+    EXPECT_EQ(folder.read("a/sys/class/drm/card2/device/gpu_busy_percent"), "15\n");
+}
+
 TEST(Capture, RefusesFoldersThatAreNoPlaceForIt) {
     const TemporaryFolder folder;
     folder.write("full/letter", "mine\n");
