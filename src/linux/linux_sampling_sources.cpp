@@ -82,7 +82,7 @@ SamplingSources makeSamplingSources(const KernelRoots& roots, SamplingParts part
     sources.temperatures =
         std::make_unique<LinuxTemperatures>(roots.sys, sensorClock, gpu->nvidiaTemperatures(), threads);
     sources.gpu = std::move(gpu);
-    sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock);
+    sources.energy = std::make_unique<PowercapEnergy>(roots.sys, sensorClock, threads);
     sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock, threads);
     sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
     sources.processes = std::move(parts.processes);

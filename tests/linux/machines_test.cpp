@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "fakes/fixture_machine.h"
+#include "linux/read_in_place.h"
 #include "monitor/samplers.h"
 #include "samplers/processor_description.h"
 
@@ -106,6 +107,7 @@ void expectDisks(const SamplingSources& sources, const Machine& expected) {
 }
 
 TEST(Machines, ReadAsTheyAre) {
+    const ReadInPlace inPlace;
     for (const Machine& expected : machines) {
         SCOPED_TRACE(expected.name);
         const fakes::FixtureMachine machine(expected.name);
@@ -118,6 +120,7 @@ TEST(Machines, ReadAsTheyAre) {
 }
 
 TEST(Machines, TellOfTheirBatteriesWhateverTheDriver) {
+    const ReadInPlace inPlace;
     const std::pair<const char*, BatterySample> rows[] = {
         // 20 Wh of 20, and 2 Ah of 5 at 11.1 V; 11.4 W flow.
         {"two-packs-and-accessories", {56, false, false, 222, 312, 83, 31.2, 11.4}},

@@ -73,7 +73,8 @@ void TimedSensor::readAside(double& now) {
         reading_->isDone.store(false, std::memory_order_relaxed);
         isUnderWay_ = background_->run(reading_);
     }
-    if (isUnderWay_ && !(now - finishedAt_.value_or(-oldAfter) < oldAfter)) {
+    const bool isOld = !finishedAt_ || (now - *finishedAt_ > oldAfter && duration_ < quickUntil);
+    if (isUnderWay_ && isOld) {
         background_->wait(std::chrono::milliseconds(std::lround(verySlowAfter * 1e3)));
         now = clock_->uptime();
     }
@@ -87,6 +88,7 @@ void TimedSensor::collect() {
     waitingSince_.reset();
     last_ = reading_->value;
     finishedAt_ = reading_->finishedAt;
+    duration_ = reading_->duration;
     takenAt_ = clock_->uptime(); // not when it was read: passes may be further apart than values may be old
     quickReads_ = reading_->duration > slowAfter ? 0 : quickReads_ + 1;
     isDirect_ = kind_ == Kind::registers && quickReads_ >= quickReadsToReturn;

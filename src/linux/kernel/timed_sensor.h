@@ -9,9 +9,10 @@
 namespace vantrix {
 
 /// A sensor that never delays a pass. Any device may hang, so it is read in the background, and a pass takes the value
-/// of the last read that has finished; only where that is old, or the first has not been, it is waited for briefly.
-/// Registers of the processor answer at once and are read directly; one that takes longer than 0.5 ms twice in a row,
-/// or 20 ms once, is treated as a device, until many reads in a row were quick: then the machine had been busy.
+/// of the last read that has finished. Only for a first one it is waited, and where the last is old but was quick.
+/// Registers of the processor answer at once, and are read directly when the first read has shown that they do; one
+/// that takes longer than 0.5 ms twice in a row, or 20 ms once, is treated as a device, until many reads in a row were
+/// quick: then the machine had been busy.
 class TimedSensor {
   public:
     class Probe {
@@ -25,7 +26,8 @@ class TimedSensor {
 
     static constexpr double slowAfter = 0.0005;    ///< seconds; who answers later talks to hardware over a slow bus
     static constexpr double verySlowAfter = 0.02;  ///< seconds
-    static constexpr double oldAfter = 20.0;       ///< seconds
+    static constexpr double quickUntil = 0.005;    ///< seconds; who takes no longer may be waited for
+    static constexpr double oldAfter = 3.0;        ///< seconds
     static constexpr double staleAfter = 10.0;     ///< seconds
     static constexpr int quickReadsToReturn = 100; ///< in a row
 
@@ -53,13 +55,14 @@ class TimedSensor {
     std::shared_ptr<Background> background_;
     std::shared_ptr<const Clock> clock_;
     Kind kind_;
-    bool isDirect_ = kind_ == Kind::registers;
+    bool isDirect_ = false;
     std::optional<double> last_;
     std::optional<double> finishedAt_; // the last read
+    double duration_ = 0.0;            // of it, in seconds
     double takenAt_ = 0.0;
     std::optional<double> waitingSince_;
-    int slowReads_ = 0;  // directly, in a row
-    int quickReads_ = 0; // in the background, in a row
+    int slowReads_ = 0;                       // directly, in a row
+    int quickReads_ = quickReadsToReturn - 1; // in the background, in a row
     bool isUnderWay_ = false;
 };
 

@@ -18,14 +18,6 @@ double intervalOf(std::string_view chip) {
     return std::any_of(std::begin(commanded), std::end(commanded), isPrefix) ? ofCommands : 0.0;
 }
 
-/// Of the drivers whose sensors are registers of the processor.
-TimedSensor::Kind kindOf(std::string_view chip) {
-    constexpr std::string_view processors[] = {"coretemp", "k8temp",      "k10temp",
-                                               "zenpower", "via_cputemp", "x86_pkg_temp"};
-    const bool isProcessor = std::find(std::begin(processors), std::end(processors), chip) != std::end(processors);
-    return isProcessor ? TimedSensor::Kind::registers : TimedSensor::Kind::device;
-}
-
 } // namespace
 
 LinuxTemperatures::LinuxTemperatures(std::string sys, std::shared_ptr<const Clock> clock,
@@ -85,8 +77,7 @@ void LinuxTemperatures::search() {
         const FoundTemperature& place = found.sensors[i];
         sensors.push_back(takeOrMake(sensors_, place.path, names[i], [&] {
             auto probe = std::make_unique<FileProbe>(place.path, millidegree, place.faultPath);
-            TimedSensor sensor(std::move(probe), backgrounds[place.device], clock_, kindOf(place.chip));
-            return Sensor{{place.path, names[i], std::move(sensor)}, 0};
+            return Sensor{{place.path, names[i], TimedSensor(std::move(probe), backgrounds[place.device], clock_)}, 0};
         }));
         sensors.back().chip = place.device;
     }

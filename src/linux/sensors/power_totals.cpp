@@ -86,7 +86,7 @@ void PowerTotals::search() {
 }
 
 void PowerTotals::findPlatform() {
-    auto zones = findEnergyZones(sys_, clock_);
+    auto zones = findEnergyZones(sys_, clock_, threads_);
     const auto found = std::find_if(zones.begin(), zones.end(), [](const auto& zone) { return zone.name() == "psys"; });
     if (found == zones.end())
         platform_.reset();

@@ -31,8 +31,10 @@ std::optional<std::uint64_t> PowercapEnergy::Counter::growth() const {
     return zone.growth(*now, *before);
 }
 
-PowercapEnergy::PowercapEnergy(std::string sys, std::shared_ptr<const Clock> clock)
-    : sys_(std::move(sys)), clock_(std::move(clock)), schedule_({sys_ + "/class/powercap"}) {}
+PowercapEnergy::PowercapEnergy(std::string sys, std::shared_ptr<const Clock> clock,
+                               std::shared_ptr<DeviceThreads> threads)
+    : sys_(std::move(sys)), clock_(std::move(clock)), threads_(std::move(threads)),
+      schedule_({sys_ + "/class/powercap"}) {}
 
 bool PowercapEnergy::takeSnapshot() {
     if (schedule_.isDue())
@@ -71,7 +73,7 @@ bool PowercapEnergy::readDifference(std::vector<IOReportSampler::Channel>& chann
 
 void PowercapEnergy::search() {
     std::vector<Counter> counters;
-    for (EnergyZone& zone : findEnergyZones(sys_, clock_)) {
+    for (EnergyZone& zone : findEnergyZones(sys_, clock_, threads_)) {
         if (!isComponent(zone.name()))
             continue; // each read wakes a processor of the package
         const auto known = std::find_if(counters_.begin(), counters_.end(), [&](const Counter& counter) {

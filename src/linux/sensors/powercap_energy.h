@@ -16,7 +16,8 @@ namespace vantrix {
 /// core for all.
 class PowercapEnergy : public IOReportSampler::Source {
   public:
-    PowercapEnergy(std::string sys, std::shared_ptr<const Clock> clock);
+    PowercapEnergy(std::string sys, std::shared_ptr<const Clock> clock,
+                   std::shared_ptr<DeviceThreads> threads = std::make_shared<DeviceThreads>());
 
     bool takeSnapshot() override;
     bool readDifference(std::vector<IOReportSampler::Channel>& channels) override;
@@ -36,6 +37,7 @@ class PowercapEnergy : public IOReportSampler::Source {
 
     std::string sys_;
     std::shared_ptr<const Clock> clock_;
+    std::shared_ptr<DeviceThreads> threads_;
     RescanSchedule schedule_;
     std::vector<Counter> counters_;
 };

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "linux/kernel/background_thread.h"
 #include "linux/kernel/kernel_tree.h"
 
 namespace vantrix {
@@ -26,9 +25,10 @@ std::optional<std::uint64_t> wrappedGrowth(std::uint64_t now, std::uint64_t befo
     return before <= range ? std::optional(range - before + now) : std::nullopt;
 }
 
-EnergyZone::EnergyZone(std::string folder, std::string name, std::shared_ptr<const Clock> clock)
+EnergyZone::EnergyZone(std::string folder, std::string name, std::shared_ptr<const Clock> clock,
+                       const std::shared_ptr<DeviceThreads>& threads)
     : folder_(std::move(folder)), id_(folder_.substr(folder_.rfind('/') + 1)), name_(std::move(name)),
-      counter_(std::make_unique<FileProbe>(folder_ + "/energy_uj", 1.0), std::make_shared<BackgroundThread>(),
+      counter_(std::make_unique<FileProbe>(folder_ + "/energy_uj", 1.0), std::make_shared<DeviceThread>(threads),
                std::move(clock), TimedSensor::Kind::registers) {
     KernelFile range(folder_ + "/max_energy_range_uj");
     range_ = energyOf(readNumber(range)).value_or(0);
@@ -38,7 +38,8 @@ std::optional<std::uint64_t> EnergyZone::read() {
     return energyOf(counter_.value());
 }
 
-std::vector<EnergyZone> findEnergyZones(const std::string& sys, const std::shared_ptr<const Clock>& clock) {
+std::vector<EnergyZone> findEnergyZones(const std::string& sys, const std::shared_ptr<const Clock>& clock,
+                                        const std::shared_ptr<DeviceThreads>& threads) {
     const std::string root = sys + "/class/powercap/";
     // With the colon: "intel-rapl" is no zone, and "intel-rapl-mmio:0" counts the package a second time.
     auto entries = entriesStartingWith(root, "intel-rapl:");
@@ -46,7 +47,7 @@ std::vector<EnergyZone> findEnergyZones(const std::string& sys, const std::share
     std::vector<EnergyZone> zones;
     for (const std::string& entry : entries) {
         const std::string folder = root + entry;
-        zones.emplace_back(folder, readName(folder + "/name"), clock);
+        zones.emplace_back(folder, readName(folder + "/name"), clock, threads);
     }
     return zones;
 }

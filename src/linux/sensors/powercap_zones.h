@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "linux/kernel/device_threads.h"
 #include "linux/sensors/sensor_files.h"
 
 namespace vantrix {
@@ -17,7 +18,8 @@ std::optional<std::uint64_t> wrappedGrowth(std::uint64_t now, std::uint64_t befo
 /// most systems let only the administrator read, and `max_energy_range_uj`.
 class EnergyZone {
   public:
-    EnergyZone(std::string folder, std::string name, std::shared_ptr<const Clock> clock);
+    EnergyZone(std::string folder, std::string name, std::shared_ptr<const Clock> clock,
+               const std::shared_ptr<DeviceThreads>& threads);
 
     /// "intel-rapl:0:1", of which "intel-rapl:0" is the parent.
     const std::string& id() const { return id_; }
@@ -40,6 +42,7 @@ class EnergyZone {
 };
 
 /// All zones that the processor counts, sorted by id.
-std::vector<EnergyZone> findEnergyZones(const std::string& sys, const std::shared_ptr<const Clock>& clock);
+std::vector<EnergyZone> findEnergyZones(const std::string& sys, const std::shared_ptr<const Clock>& clock,
+                                        const std::shared_ptr<DeviceThreads>& threads);
 
 } // namespace vantrix

@@ -1,12 +1,14 @@
 #include <gtest/gtest.h>
 
 #include "fakes/fixture_machine.h"
+#include "linux/read_in_place.h"
 #include "monitor/samplers.h"
 
 namespace vantrix {
 namespace {
 
 TEST(SensorMachines, ReadAsTheyAre) {
+    const ReadInPlace inPlace;
     const struct {
         const char* name;
         std::size_t sensors;
