@@ -70,6 +70,7 @@
     <message><source>Link speed</source><translation>Verbindungsrate</translation></message>
     <message><source>Interface</source><translation>Schnittstelle</translation></message>
     <message><source>IP address</source><translation>IP-Adresse</translation></message>
+    <message><source>%@ is not available</source><translation>%@ ist nicht verfügbar</translation></message>
     <message><source>Excellent</source><translation>Sehr gut</translation></message>
     <message><source>Good</source><translation>Gut</translation></message>
     <message><source>Fair</source><translation>Mittel</translation></message>
@@ -191,6 +192,14 @@
     <message><source>Read and write</source><translation>Lesen und Schreiben</translation></message>
     <message><source>Mean</source><translation>Mittel</translation></message>
     <message><source>Hottest</source><translation>Höchste</translation></message>
+    <message><source>Network interface</source><translation>Netzwerkschnittstelle</translation></message>
+    <message><source>All hardware ports</source><translation>Alle Hardware-Anschlüsse</translation></message>
+    <message><source>Disk volume</source><translation>Volume</translation></message>
+    <message><source>System volume</source><translation>Systemvolume</translation></message>
+    <message>
+        <source>Interface and volume count in the popover and for alerts as well.</source>
+        <translation>Schnittstelle und Volume gelten auch für die Übersicht und die Warnungen.</translation>
+    </message>
     <message><source>Cards</source><translation>Karten</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
@@ -238,6 +247,7 @@
         <source>Only %@ free on the startup disk.</source>
         <translation>Nur noch %@ auf dem Startvolume frei.</translation>
     </message>
+    <message><source>Only %@ free on %@.</source><translation>Nur noch %@ auf %@ frei.</translation></message>
     <message><source>Battery low</source><translation>Akku fast leer</translation></message>
     <message>
         <source>%@ left. Plug in the charger.</source>

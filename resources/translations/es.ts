@@ -73,6 +73,7 @@
     <message><source>Link speed</source><translation>Velocidad de enlace</translation></message>
     <message><source>Interface</source><translation>Interfaz</translation></message>
     <message><source>IP address</source><translation>Dirección IP</translation></message>
+    <message><source>%@ is not available</source><translation>%@ no está disponible</translation></message>
     <message><source>Excellent</source><translation>Excelente</translation></message>
     <message><source>Good</source><translation>Buena</translation></message>
     <message><source>Fair</source><translation>Aceptable</translation></message>
@@ -194,6 +195,14 @@
     <message><source>Read and write</source><translation>Lectura y escritura</translation></message>
     <message><source>Mean</source><translation>Media</translation></message>
     <message><source>Hottest</source><translation>Máxima</translation></message>
+    <message><source>Network interface</source><translation>Interfaz de red</translation></message>
+    <message><source>All hardware ports</source><translation>Todos los puertos físicos</translation></message>
+    <message><source>Disk volume</source><translation>Volumen</translation></message>
+    <message><source>System volume</source><translation>Volumen del sistema</translation></message>
+    <message>
+        <source>Interface and volume count in the popover and for alerts as well.</source>
+        <translation>La interfaz y el volumen valen también para el resumen y los avisos.</translation>
+    </message>
     <message><source>Cards</source><translation>Tarjetas</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
@@ -232,7 +241,7 @@
     <message><source>Battery low alert at</source><translation>Aviso de batería baja al</translation></message>
     <message>
         <source>CPU temperature alert at</source>
-        <translation>Aviso de temperatura de la CPU a</translation>
+        <translation>Aviso de temperatura a</translation>
     </message>
     <message><source>Send test notification</source><translation>Enviar notificación de prueba</translation></message>
     <!-- Notifications -->
@@ -250,6 +259,7 @@
         <source>Only %@ free on the startup disk.</source>
         <translation>Solo quedan %@ libres en el disco de arranque.</translation>
     </message>
+    <message><source>Only %@ free on %@.</source><translation>Solo quedan %@ libres en %@.</translation></message>
     <message><source>Battery low</source><translation>Batería baja</translation></message>
     <message>
         <source>%@ left. Plug in the charger.</source>

@@ -70,6 +70,7 @@
     <message><source>Link speed</source><translation>Débit de liaison</translation></message>
     <message><source>Interface</source><translation>Interface</translation></message>
     <message><source>IP address</source><translation>Adresse IP</translation></message>
+    <message><source>%@ is not available</source><translation>%@ n’est pas disponible</translation></message>
     <message><source>Excellent</source><translation>Excellent</translation></message>
     <message><source>Good</source><translation>Bon</translation></message>
     <message><source>Fair</source><translation>Moyen</translation></message>
@@ -191,6 +192,14 @@
     <message><source>Read and write</source><translation>Lecture et écriture</translation></message>
     <message><source>Mean</source><translation>Moyenne</translation></message>
     <message><source>Hottest</source><translation>Maximale</translation></message>
+    <message><source>Network interface</source><translation>Interface réseau</translation></message>
+    <message><source>All hardware ports</source><translation>Tous les ports matériels</translation></message>
+    <message><source>Disk volume</source><translation>Volume</translation></message>
+    <message><source>System volume</source><translation>Volume système</translation></message>
+    <message>
+        <source>Interface and volume count in the popover and for alerts as well.</source>
+        <translation>L’interface et le volume valent aussi pour la vue d’ensemble et les alertes.</translation>
+    </message>
     <message><source>Cards</source><translation>Cartes</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
@@ -250,6 +259,7 @@
         <source>Only %@ free on the startup disk.</source>
         <translation>Plus que %@ libres sur le disque de démarrage.</translation>
     </message>
+    <message><source>Only %@ free on %@.</source><translation>Plus que %@ libres sur %@.</translation></message>
     <message><source>Battery low</source><translation>Batterie faible</translation></message>
     <message>
         <source>%@ left. Plug in the charger.</source>

@@ -73,6 +73,7 @@
     <message><source>Link speed</source><translation>Velocità di connessione</translation></message>
     <message><source>Interface</source><translation>Interfaccia</translation></message>
     <message><source>IP address</source><translation>Indirizzo IP</translation></message>
+    <message><source>%@ is not available</source><translation>%@ non è disponibile</translation></message>
     <message><source>Excellent</source><translation>Eccellente</translation></message>
     <message><source>Good</source><translation>Buono</translation></message>
     <message><source>Fair</source><translation>Discreto</translation></message>
@@ -191,6 +192,14 @@
     <message><source>Read and write</source><translation>Lettura e scrittura</translation></message>
     <message><source>Mean</source><translation>Media</translation></message>
     <message><source>Hottest</source><translation>Massima</translation></message>
+    <message><source>Network interface</source><translation>Interfaccia di rete</translation></message>
+    <message><source>All hardware ports</source><translation>Tutte le porte hardware</translation></message>
+    <message><source>Disk volume</source><translation>Volume</translation></message>
+    <message><source>System volume</source><translation>Volume di sistema</translation></message>
+    <message>
+        <source>Interface and volume count in the popover and for alerts as well.</source>
+        <translation>Interfaccia e volume valgono anche per la panoramica e gli avvisi.</translation>
+    </message>
     <message><source>Cards</source><translation>Schede</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
@@ -241,6 +250,7 @@
         <source>Only %@ free on the startup disk.</source>
         <translation>Solo %@ liberi sul disco di avvio.</translation>
     </message>
+    <message><source>Only %@ free on %@.</source><translation>Solo %@ liberi su %@.</translation></message>
     <message><source>Battery low</source><translation>Batteria quasi scarica</translation></message>
     <message>
         <source>%@ left. Plug in the charger.</source>

@@ -70,6 +70,7 @@
     <message><source>Link speed</source><translation>リンク速度</translation></message>
     <message><source>Interface</source><translation>インターフェイス</translation></message>
     <message><source>IP address</source><translation>IPアドレス</translation></message>
+    <message><source>%@ is not available</source><translation>%@は利用できません</translation></message>
     <message><source>Excellent</source><translation>非常に良好</translation></message>
     <message><source>Good</source><translation>良好</translation></message>
     <message><source>Fair</source><translation>普通</translation></message>
@@ -185,6 +186,14 @@
     <message><source>Read and write</source><translation>読み書き速度</translation></message>
     <message><source>Mean</source><translation>平均</translation></message>
     <message><source>Hottest</source><translation>最高</translation></message>
+    <message><source>Network interface</source><translation>ネットワークインターフェイス</translation></message>
+    <message><source>All hardware ports</source><translation>すべてのハードウェアポート</translation></message>
+    <message><source>Disk volume</source><translation>ボリューム</translation></message>
+    <message><source>System volume</source><translation>システムボリューム</translation></message>
+    <message>
+        <source>Interface and volume count in the popover and for alerts as well.</source>
+        <translation>インターフェイスとボリュームの選択は、ポップアップと通知にも使われます。</translation>
+    </message>
     <message><source>Cards</source><translation>カード</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
@@ -229,6 +238,7 @@
         <translation>%2$@中%1$@が使用中で、メモリが逼迫しています。</translation>
     </message>
     <message><source>Only %@ free on the startup disk.</source><translation>起動ディスクの空き容量は残り%@です。</translation></message>
+    <message><source>Only %@ free on %@.</source><translation>%2$@の空き容量は残り%1$@です。</translation></message>
     <message><source>Battery low</source><translation>バッテリー残量が少なくなっています</translation></message>
     <message><source>%@ left. Plug in the charger.</source><translation>残り%@です。充電器を接続してください。</translation></message>
     <message><source>CPU is running hot</source><translation>CPUが高温になっています</translation></message>

@@ -70,6 +70,7 @@
     <message><source>Link speed</source><translation>连接速率</translation></message>
     <message><source>Interface</source><translation>接口</translation></message>
     <message><source>IP address</source><translation>IP 地址</translation></message>
+    <message><source>%@ is not available</source><translation>%@ 不可用</translation></message>
     <message><source>Excellent</source><translation>极佳</translation></message>
     <message><source>Good</source><translation>良好</translation></message>
     <message><source>Fair</source><translation>一般</translation></message>
@@ -185,6 +186,14 @@
     <message><source>Read and write</source><translation>读写速度</translation></message>
     <message><source>Mean</source><translation>平均</translation></message>
     <message><source>Hottest</source><translation>最高</translation></message>
+    <message><source>Network interface</source><translation>网络接口</translation></message>
+    <message><source>All hardware ports</source><translation>所有硬件端口</translation></message>
+    <message><source>Disk volume</source><translation>宗卷</translation></message>
+    <message><source>System volume</source><translation>系统宗卷</translation></message>
+    <message>
+        <source>Interface and volume count in the popover and for alerts as well.</source>
+        <translation>接口和宗卷的选择也用于概览和提醒。</translation>
+    </message>
     <message><source>Cards</source><translation>卡片</translation></message>
     <message>
         <source>GPU, Sensors and Battery only appear on Macs that report them.</source>
@@ -226,6 +235,7 @@
         <translation>已使用 %@（共 %@），系统内存压力过大。</translation>
     </message>
     <message><source>Only %@ free on the startup disk.</source><translation>启动磁盘仅剩 %@ 可用空间。</translation></message>
+    <message><source>Only %@ free on %@.</source><translation>%2$@ 仅剩 %1$@ 可用空间。</translation></message>
     <message><source>Battery low</source><translation>电池电量低</translation></message>
     <message><source>%@ left. Plug in the charger.</source><translation>剩余 %@。请接上充电器。</translation></message>
     <message><source>CPU is running hot</source><translation>CPU 温度过高</translation></message>

@@ -63,7 +63,7 @@ void AlertManager::evaluate(const Readings& readings) {
         }
         sustained += readings.interval;
         if (isDue(kind, 0.0)) {
-            const Message message = messageFor(kind, readings, units(defaults_));
+            const Message message = messageFor(kind, readings);
             send(kind, message.title, message.body + programsBehind(kind, readings));
         } else if (isDue(kind, measuredPasses * readings.interval)) {
             beginLook(kind);
@@ -145,7 +145,14 @@ bool AlertManager::holds(Kind kind, const Readings& readings) const {
     return false;
 }
 
-AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readings, const Units& units) {
+QString AlertManager::freeSpaceText(const std::string& free) const {
+    const std::string mountPoint = storedText(defaults_, preference_key::diskVolume);
+    return mountPoint.empty() ? localizedText("Only %@ free on the startup disk.", {free})
+                              : localizedText("Only %@ free on %@.", {free, mountPoint});
+}
+
+AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readings) const {
+    const Units units = vantrix::units(defaults_);
     switch (kind) {
     case Kind::cpu:
         return {localizedText("High CPU usage"),
@@ -156,8 +163,7 @@ AlertManager::Message AlertManager::messageFor(Kind kind, const Readings& readin
                               {memoryText(usedMemory(readings.memory), units.memory).toStdString(),
                                memoryText(readings.memory.total, units.memory).toStdString()})};
     case Kind::disk:
-        return {localizedText("Disk almost full"),
-                localizedText("Only %@ free on the startup disk.", {byteText(readings.disk.available).toStdString()})};
+        return {localizedText("Disk almost full"), freeSpaceText(byteText(readings.disk.available).toStdString())};
     case Kind::battery:
         return {localizedText("Battery low"),
                 localizedText("%@ left. Plug in the charger.", {std::to_string(readings.battery->percent) + '%'})};
@@ -185,7 +191,7 @@ void AlertManager::sendTest(std::function<void(const QString&)> done) {
         if (!granted)
             return done(localizedText(
                 "Notifications are turned off for Vantrix. Enable them in System Settings → Notifications."));
-        const Message message = messageFor(Kind::test, {}, {});
+        const Message message = manager->messageFor(Kind::test, {});
         manager->send(Kind::test, message.title, message.body);
         done(localizedText("Test notification sent."));
     });

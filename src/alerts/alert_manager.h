@@ -11,7 +11,6 @@
 
 #include "monitor/readings.h"
 #include "platform/notification_center.h"
-#include "support/units.h"
 #include "support/wall_clock.h"
 
 namespace vantrix {
@@ -63,7 +62,8 @@ class AlertManager : public QObject {
     bool isDue(Kind kind, double ahead);
     void beginLook(Kind kind);
     QString programsBehind(Kind kind, const Readings& readings);
-    static Message messageFor(Kind kind, const Readings& readings, const Units& units);
+    Message messageFor(Kind kind, const Readings& readings) const;
+    QString freeSpaceText(const std::string& free) const;
 
     NotificationCenter& center_;
     const UserDefaults& defaults_;

@@ -19,8 +19,10 @@
 #include "app/standard_output.h"
 #include "doctor/examination.h"
 #include "doctor/system_facts.h"
+#include "menubar/preferences.h"
 #include "platform/desktop_services.h"
 #include "support/finishes_within.h"
+#include "support/user_defaults.h"
 
 namespace vantrix {
 namespace {
@@ -149,6 +151,9 @@ DoctorReport Doctor::examine() {
     const auto information = std::move(sources.information);
     report.instance = findInstance(); // first, so that this run does not count in its figures
     Examination examination(std::move(sources), readPatience);
+    UserDefaults defaults(makeStandardDefaultsStore());
+    examination.choose(storedText(defaults, preference_key::networkInterface),
+                       storedText(defaults, preference_key::diskVolume));
     QElapsedTimer start;
     start.start();
     examination.beginPass();

@@ -163,7 +163,8 @@ std::vector<Field> fieldsOf(const Readings& readings) {
     };
     return {{Module::cpu, u"cpu"_s, ifRead(readings.cpuHistory, readings.cpu)},
             {Module::memory, u"memory"_s, ifRead(readings.memoryHistory, readings.memory)},
-            {Module::network, u"network"_s, ifRead(readings.downloadHistory, readings.network)},
+            {Module::network, u"network"_s,
+             readings.network.isThere ? ifRead(readings.downloadHistory, readings.network) : absent},
             {Module::network, u"networkInfo"_s, toJson(readings.networkInfo)},
             {Module::disk, u"disk"_s, toJson(readings.disk)},
             {Module::gpu, u"gpu"_s, json(readings.gpu)},

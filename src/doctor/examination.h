@@ -3,6 +3,7 @@
 #include <chrono>
 #include <map>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "doctor/probes.h"
@@ -18,6 +19,9 @@ using Findings = std::map<std::string_view, Finding>;
 class Examination {
   public:
     Examination(SamplingSources sources, std::chrono::milliseconds patience);
+
+    /// Examines one port and one volume alone: see `Samplers::choose`.
+    void choose(const std::string& port, const std::string& mountPoint) { samplers_->choose(port, mountPoint); }
 
     /// Takes the baseline of loads and rates.
     void beginPass();

@@ -93,8 +93,12 @@ std::vector<Finding> readNetwork(Samplers& machine) {
     const auto sample = machine.network.sample();
     if (!sample)
         return {};
+    const std::string& port = machine.network.chosen();
+    if (!sample->isThere)
+        return {found("", "The port " + port + ", which the settings choose, is not there or not up.")};
     return {found("in " + compactRate(sample->download, NetworkUnit::bytes) + "/s, out " +
-                  compactRate(sample->upload, NetworkUnit::bytes) + "/s")};
+                      compactRate(sample->upload, NetworkUnit::bytes) + "/s",
+                  port.empty() ? "" : "Of the port " + port + " alone, as the settings choose.")};
 }
 
 std::vector<Finding> readConnection(Samplers& machine) {
@@ -105,9 +109,16 @@ std::vector<Finding> readConnection(Samplers& machine) {
     return {found(wordOf(info.kind)), found(signalText(info), isOverWiFi ? "" : "The connection does not go over it.")};
 }
 
+std::string volumeNote(const DiskSample& sample, const std::string& mountPoint) {
+    if (mountPoint.empty())
+        return {};
+    return sample.total == 0 ? "No volume that answers is mounted at " + mountPoint + ", which the settings choose."
+                             : "Of the volume at " + mountPoint + ", as the settings choose.";
+}
+
 std::vector<Finding> readDisk(Samplers& machine) {
     const DiskSample sample = machine.disk.sample();
-    return {found(diskSpaceText(sample)), found(diskRatesText(sample))};
+    return {found(diskSpaceText(sample), volumeNote(sample, machine.mountPoint)), found(diskRatesText(sample))};
 }
 
 std::vector<Finding> readGPU(Samplers& machine) {

@@ -60,7 +60,7 @@ SamplingSources makeSamplingSources(const KernelRoots& roots) {
                 .information = std::make_unique<LinuxSystemInformation>(roots.proc, roots.sys),
                 .network = makeNetworkSource(roots, news),
                 .networkInfo = makeNetworkInfoSource(roots, news),
-                .volume = std::make_unique<VolumeStatistics>(volumeFolders(roots.proc)),
+                .volume = std::make_unique<VolumeStatistics>(volumeFolders(roots.proc), askVolume, roots.proc),
                 .nvidia = makeNvidiaLibrary(),
                 .processes = std::make_unique<ProcessList>(roots.proc, roots.sys, applicationEntries(roots))});
 }

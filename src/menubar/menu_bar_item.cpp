@@ -60,6 +60,8 @@ std::optional<MenuBarItem> memoryItem(const Readings& readings, const UserDefaul
 }
 
 std::optional<MenuBarItem> networkItem(const Readings& readings, const UserDefaults& defaults) {
+    if (!readings.network.isThere)
+        return std::nullopt;
     const NetworkUnit unit = units(defaults).network;
     return ratesItem(
         "NET", {"↓" + compactRate(readings.network.download, unit), "↑" + compactRate(readings.network.upload, unit)},

@@ -69,6 +69,8 @@ const std::vector<Preference>& allPreferences() {
         {key::batteryAlertPercent, 15.0},
         {key::temperatureAlertCelsius, 95.0},
         {key::alertNamesProcesses, true},
+        {key::networkInterface, QString()},
+        {key::diskVolume, QString()},
         {key::settingsTab, text(choiceOf(settingsTabs, SettingsTab::general).rawValue), false},
     };
     return table;

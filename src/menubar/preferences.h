@@ -42,6 +42,9 @@ inline const QString temperatureModuleShows = QStringLiteral("temperatureModuleS
 inline const QString batteryAlertPercent = QStringLiteral("batteryAlertPercent");         ///< 0 to 100
 inline const QString temperatureAlertCelsius = QStringLiteral("temperatureAlertCelsius"); ///< whatever is shown
 inline const QString alertNamesProcesses = QStringLiteral("alertNamesProcesses");
+inline const QString networkInterface =
+    QStringLiteral("networkInterface");                         ///< a port's name; empty: all hardware ports
+inline const QString diskVolume = QStringLiteral("diskVolume"); ///< a mount point; empty: the system's volume
 inline const QString settingsTab = QStringLiteral("settingsTab");
 } // namespace preference_key
 

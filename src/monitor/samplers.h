@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "platform/sampling_sources.h"
@@ -19,6 +20,14 @@ struct Samplers {
         return source ? std::optional<Sampler>(*source) : std::nullopt;
     }
 
+    /// Reads one port and one volume alone from now on: its name, its mount point. Empty: all ports, the system's
+    /// volume.
+    void choose(const std::string& port, const std::string& volume) {
+        network.choose(port);
+        sources.volume->choose(volume);
+        mountPoint = volume;
+    }
+
     SamplingSources sources;
     CPUSampler cpu{*sources.cpu};
     MemorySampler memory{*sources.memory};
@@ -30,6 +39,7 @@ struct Samplers {
     std::optional<ProcessSampler> processes =
         sources.processes ? std::optional<ProcessSampler>(std::in_place, *sources.processes, *sources.clock)
                           : std::nullopt;
+    std::string mountPoint; ///< of the chosen volume
     std::optional<BatterySampler> battery = ifPresent<BatterySampler>(sources.battery);
 };
 

@@ -33,6 +33,22 @@ SystemMonitor::SystemMonitor(SamplingSources sources, const UserDefaults& defaul
         samplers_.networkInfo->renewWiFiClient();
         sampleNetworkInfo();
     };
+    connect(&defaults, &UserDefaults::changed, this, &SystemMonitor::takeChoices);
+    takeChoices();
+}
+
+/// What was read of another port must not stand in the histories of this one.
+void SystemMonitor::takeChoices() {
+    std::string port = storedText(defaults_, preference_key::networkInterface);
+    std::string mountPoint = storedText(defaults_, preference_key::diskVolume);
+    if (isDemo_ || (port == port_ && mountPoint == mountPoint_))
+        return;
+    samplers_.choose(port, mountPoint);
+    if (port != port_)
+        for (History Readings::*history : {&Readings::downloadHistory, &Readings::uploadHistory})
+            (readings_.*history).clear();
+    port_ = std::move(port);
+    mountPoint_ = std::move(mountPoint);
 }
 
 void SystemMonitor::start() {

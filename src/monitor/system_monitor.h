@@ -56,6 +56,11 @@ class SystemMonitor : public QObject {
     /// Asks for what the system demands before it tells the name of a Wi-Fi network.
     void requestLocationAccess() { location_.requestLocationAccess(); }
 
+    /// The hardware ports to choose among, by name, as of the last pass.
+    std::vector<std::string> networkPorts() const { return samplers_.network.ports(); }
+    /// The mount points of volumes to choose among, looked up now.
+    std::vector<std::string> volumes() const { return samplers_.sources.volume->mounted(); }
+
     /// Called once at the end of every pass.
     std::function<void()> onUpdate;
 
@@ -65,6 +70,7 @@ class SystemMonitor : public QObject {
     void changed(Reading reading);
 
   private:
+    void takeChoices();
     void sampleCPU();
     void sampleMemory();
     void sampleNetwork();
@@ -85,6 +91,8 @@ class SystemMonitor : public QObject {
 
     const UserDefaults& defaults_;
     Samplers samplers_;
+    std::string port_;                                       // the chosen one
+    std::string mountPoint_;                                 // likewise
     std::shared_ptr<AccessoriesSampler> accessoriesSampler_; // shared with a scan under way
     LocationAccess location_;
 

@@ -38,8 +38,8 @@ RateColumn::RateColumn(const Theme& theme, const Style& style)
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
 }
 
-void RateColumn::setRate(double rate, std::span<const double> history, double interval, RateText text) {
-    rate_->setText(text(rate));
+void RateColumn::setRate(std::optional<double> rate, std::span<const double> history, double interval, RateText text) {
+    rate_->setText(rate ? text(*rate) : QStringLiteral("–"));
     history_->setText(text);
     history_->setValues(history, interval);
 }

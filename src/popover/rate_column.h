@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -27,8 +28,9 @@ class RateColumn : public View {
 
     RateColumn(const Theme& theme, const Style& style);
 
-    /// Bytes per second, written by `text`; the history's are `interval` seconds apart.
-    void setRate(double rate, std::span<const double> history, double interval, RateText text = rateText);
+    /// Bytes per second, written by `text`; the history's are `interval` seconds apart. An absent rate is a dash.
+    void setRate(std::optional<double> rate, std::span<const double> history, double interval,
+                 RateText text = rateText);
 
     QString accessibleText() const override;
 

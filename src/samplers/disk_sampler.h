@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "support/clock.h"
@@ -9,7 +10,7 @@
 namespace vantrix {
 
 struct DiskSample {
-    std::uint64_t total = 0;         ///< bytes of the system's volume; 0 when it cannot be asked
+    std::uint64_t total = 0;         ///< bytes of the volume; 0 when it cannot be asked, or is gone
     std::uint64_t available = 0;     ///< bytes a user may still write there
     std::optional<double> readRate;  ///< bytes per second over all disks; absent until two readings exist
     std::optional<double> writeRate; ///< absent together with `readRate`
@@ -32,6 +33,8 @@ class DiskSampler {
     struct Volume {
         std::optional<std::int64_t> total;
         std::optional<std::int64_t> available;
+
+        bool operator==(const Volume&) const = default;
     };
 
     class CounterSource {
@@ -46,6 +49,10 @@ class DiskSampler {
       public:
         virtual ~VolumeSource() = default;
         virtual std::optional<Volume> read() = 0;
+        /// Reads what is mounted at `mountPoint` from now on, and nothing once it is gone; empty: the system's volume.
+        virtual void choose(const std::string& /*mountPoint*/) {}
+        /// The mount points of the volumes to choose among: those of real devices, sorted.
+        virtual std::vector<std::string> mounted() const { return {}; }
     };
 
     /// The sources and `clock` outlive the sampler.

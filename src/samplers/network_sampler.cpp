@@ -1,6 +1,7 @@
 #include "samplers/network_sampler.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "support/checked.h"
@@ -8,9 +9,19 @@
 namespace vantrix {
 namespace {
 
+constexpr std::string_view hardware = "en"; // how the names of ports begin
+
+bool isPort(const NetworkSampler::Link& link) {
+    return link.counters && link.name.starts_with(hardware);
+}
+
 bool isActivePort(const NetworkSampler::Link& link) {
     constexpr auto active = NetworkSampler::linkUp | NetworkSampler::linkRunning;
-    return link.counters && link.name.starts_with("en") && (link.flags & active) == active;
+    return isPort(link) && (link.flags & active) == active;
+}
+
+std::string_view ownName(const NetworkSampler::Link& link) {
+    return std::string_view(link.name).substr(link.isNamedAnew ? hardware.size() : 0);
 }
 
 template<typename Ports>
@@ -35,6 +46,7 @@ void NetworkSampler::collectPorts() {
         if (count == current_.size())
             current_.emplace_back();
         current_[count].name = link.name;
+        current_[count].isChosen = chosen_.empty() || ownName(link) == chosen_;
         current_[count].index = link.index;
         current_[count].counters = *link.counters;
         ++count;
@@ -53,6 +65,8 @@ NetworkSample NetworkSampler::rates(double elapsed) const {
     double received = 0.0;
     double sent = 0.0;
     for (const Port& port : current_) {
+        if (!port.isChosen)
+            continue;
         const auto before = findPort(previous_, previous_.size(), port.name);
         if (before == previous_.end() || before->index != port.index)
             continue; // new since the last call: counted from the next one
@@ -72,9 +86,20 @@ std::optional<NetworkSample> NetworkSampler::sample() {
     collectPorts();
     const double now = clock_.uptime();
     const auto before = std::exchange(previousTime_, now);
-    const NetworkSample sample = before && *before < now ? rates(now - *before) : NetworkSample();
+    NetworkSample sample = before && *before < now ? rates(now - *before) : NetworkSample();
+    sample.isThere = chosen_.empty() || std::any_of(current_.begin(), current_.end(), std::mem_fn(&Port::isChosen));
     previous_.swap(current_);
     return sample;
+}
+
+std::vector<std::string> NetworkSampler::ports() const {
+    std::vector<std::string> names;
+    for (const Link& link : links_)
+        if (isPort(link))
+            names.emplace_back(ownName(link));
+    std::sort(names.begin(), names.end());
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    return names;
 }
 
 } // namespace vantrix

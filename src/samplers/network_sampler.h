@@ -3,16 +3,18 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/clock.h"
 
 namespace vantrix {
 
-/// Throughput summed over the active hardware ports, in bytes per second.
+/// Throughput summed over the active hardware ports, or of the one that was chosen, in bytes per second.
 struct NetworkSample {
     double download = 0.0;
     double upload = 0.0;
+    bool isThere = true; ///< false: the chosen port is gone, or down
 
     bool operator==(const NetworkSample&) const = default;
 };
@@ -42,6 +44,7 @@ class NetworkSampler {
         std::uint32_t flags = 0;
         std::optional<Counters> counters; ///< only on link-level entries that carry statistics
         int index = 0; ///< tells a link from another that had its name before; 0 where the system gives no number
+        bool isNamedAnew = false; ///< the "en" in front is not in the system's own name
     };
 
     class Source {
@@ -59,9 +62,17 @@ class NetworkSampler {
     /// interface list cannot be read or is empty; the baseline then stays. One caller at a time.
     std::optional<NetworkSample> sample();
 
+    /// Counts the port of that name alone from now on; empty: all of them.
+    void choose(std::string port) { chosen_ = std::move(port); }
+    const std::string& chosen() const { return chosen_; }
+
+    /// The system's names of the hardware ports that the last call found, sorted, whether or not they are active.
+    std::vector<std::string> ports() const;
+
   private:
     struct Port {
         std::string name;
+        bool isChosen = true;
         int index = 0;
         Counters counters;
     };
@@ -72,6 +83,7 @@ class NetworkSampler {
 
     Source& source_;
     const Clock& clock_;
+    std::string chosen_;
     std::vector<Link> links_;
     std::vector<Port> current_; // flat, not a map: a handful of ports, and its strings are reused on every pass
     std::vector<Port> previous_;

@@ -113,32 +113,27 @@ void AlertsSettings::addConditions() {
 
     auto* full = new Slider(theme(), localizedText("Disk full threshold"), {.least = 80, .most = 99, .step = 1});
     bindSlider(*full, defaults_, preference_key::diskAlertThreshold);
-    FormRow& row = section.addRow({.caption = localizedText("Disk full alert at"),
-                                   .control = withPercent(theme(), full, defaults_, preference_key::diskAlertThreshold,
-                                                          &ThemeColors::secondary)});
-    enableWhile(row, {preference_key::alertsEnabled, preference_key::alertDisk});
+    const auto fullText = [this] { return thresholdText(defaults_.number(preference_key::diskAlertThreshold)); };
+    addLimit(section, localizedText("Disk full alert at"), full, preference_key::alertDisk, fullText);
 
-    const Slider::Range percents{.least = 5, .most = 50, .step = 1};
-    addLimit(
-        section, new Slider(theme(), localizedText("Battery low alert at"), percents),
-        preference_key::batteryAlertPercent, preference_key::alertBattery, [this] { return batteryLimit(); },
-        QStringLiteral("100%"));
-    const Slider::Range degrees{.least = 60, .most = 105, .step = 1};
-    const auto widest = QString::fromStdString(degreesText(usualLimit, TemperatureUnit::fahrenheit));
-    addLimit(
-        section, new Slider(theme(), localizedText("CPU temperature alert at"), degrees),
-        preference_key::temperatureAlertCelsius, preference_key::alertTemperature,
-        [this] { return temperatureLimit(); }, widest);
+    const QString low = localizedText("Battery low alert at");
+    auto* charge = new Slider(theme(), low, {.least = 5, .most = 50, .step = 1});
+    bindWholeSlider(*charge, defaults_, preference_key::batteryAlertPercent);
+    addLimit(section, low, charge, preference_key::alertBattery, [this] { return batteryLimit(); });
+
+    const QString hot = localizedText("CPU temperature alert at");
+    auto* degrees = new Slider(theme(), hot, {.least = 60, .most = 105, .step = 1});
+    bindWholeSlider(*degrees, defaults_, preference_key::temperatureAlertCelsius);
+    addLimit(section, hot, degrees, preference_key::alertTemperature, [this] { return temperatureLimit(); });
 }
 
-/// A row for the limit of a kind, named after its slider.
-void AlertsSettings::addLimit(FormSection& section, Slider* slider, const QString& key, const QString& kind,
-                              const std::function<QString()>& text, const QString& widest) {
-    bindWholeSlider(*slider, defaults_, key);
+/// A row for the limit of the kind that the setting `kind` switches on.
+void AlertsSettings::addLimit(FormSection& section, const QString& caption, Slider* slider, const QString& kind,
+                              const std::function<QString()>& text) {
     slider->valueText = text;
-    FormRow& row =
-        section.addRow({.caption = slider->accessibleName(),
-                        .control = withValue(theme(), slider, defaults_, text, widest, &ThemeColors::secondary)});
+    const auto widest = QString::fromStdString(degreesText(usualLimit, TemperatureUnit::fahrenheit)); // of all limits
+    FormRow& row = section.addRow(
+        {.caption = caption, .control = withValue(theme(), slider, defaults_, text, widest, &ThemeColors::secondary)});
     enableWhile(row, {preference_key::alertsEnabled, kind});
 }
 

@@ -22,8 +22,8 @@ class AlertsSettings : public Form {
   private:
     FormRow& addKind(FormSection& section, const QString& caption, const QString& key);
     void addKind(FormSection& section, const std::function<QString()>& caption, const QString& key);
-    void addLimit(FormSection& section, Slider* slider, const QString& key, const QString& kind,
-                  const std::function<QString()>& text, const QString& widest);
+    void addLimit(FormSection& section, const QString& caption, Slider* slider, const QString& kind,
+                  const std::function<QString()>& text);
     QString batteryLimit() const;
     QString temperatureLimit() const;
     void enableWhile(FormRow& row, const QStringList& keys);

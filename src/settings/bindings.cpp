@@ -71,6 +71,32 @@ void bindSeconds(Picker& picker, UserDefaults& defaults, const QString& key, con
     });
 }
 
+void bindName(Picker& picker, UserDefaults& defaults, const QString& key, const QString& none,
+              const std::function<std::vector<std::string>()>& names) {
+    const auto offer = [&picker, &defaults, key, none, names] {
+        QStringList entries{QString()};
+        for (const std::string& name : names())
+            entries += QString::fromStdString(name);
+        const QString present = defaults.string(key).value_or(QString());
+        if (!entries.contains(present))
+            entries += present;
+        QStringList offered;
+        for (int i = 0; i < picker.count(); ++i)
+            offered += picker.itemData(i).toString();
+        if (entries != offered) {
+            picker.clear();
+            for (const QString& entry : entries)
+                picker.addItem(entry.isEmpty() ? none : entry, entry);
+            picker.updateGeometry();
+        }
+        picker.setCurrentIndex(picker.findData(present));
+    };
+    picker.willOpen = offer;
+    follow(picker, defaults, offer);
+    QObject::connect(&picker, &QComboBox::activated, &picker,
+                     [&picker, &defaults, key](int index) { defaults.set(key, picker.itemData(index).toString()); });
+}
+
 void bindMember(QAbstractButton& button, UserDefaults& defaults, const QString& key, std::string_view rawValue) {
     const auto stored = [&defaults, key] { return defaults.string(key).value_or(QString()); };
     follow(button, defaults, [&button, stored, rawValue] {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <vector>
 
 #include <QString>
@@ -28,6 +29,11 @@ void bindWholeSlider(Slider& slider, UserDefaults& defaults, const QString& key)
 /// The picker offers `choices` seconds and the present value, even if it is none of them; `present` reads it.
 void bindSeconds(Picker& picker, UserDefaults& defaults, const QString& key, const std::vector<double>& choices,
                  const std::function<double()>& present);
+
+/// The picker offers what `names` lists, looked up anew whenever it opens, below `none`, which stands for the empty
+/// text; also the present name, where that is not among them.
+void bindName(Picker& picker, UserDefaults& defaults, const QString& key, const QString& none,
+              const std::function<std::vector<std::string>()>& names);
 
 /// Ties the switch to one name of the set stored under `key`.
 void bindMember(QAbstractButton& button, UserDefaults& defaults, const QString& key, std::string_view rawValue);

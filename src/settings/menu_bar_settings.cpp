@@ -4,9 +4,11 @@
 #include <QVBoxLayout>
 
 #include "menubar/preferences.h"
+#include "monitor/system_monitor.h"
 #include "settings/bindings.h"
 #include "settings/choice_control.h"
 #include "settings/controls/drawing.h"
+#include "settings/controls/picker.h"
 #include "settings/controls/switch.h"
 #include "settings/menu_bar_preview.h"
 #include "settings/module_list.h"
@@ -36,7 +38,7 @@ MenuBarSettings::MenuBarSettings(const Theme& theme, UserDefaults& defaults, con
                {localizedText("Only the checked modules appear in the menu bar, in this order. With none selected, "
                               "Vantrix shows just its icon.")})
         .addRow(new ModuleList(theme, defaults_));
-    addContents();
+    addContents(monitor);
 }
 
 void MenuBarSettings::addPreview(const SystemMonitor& monitor) {
@@ -51,8 +53,19 @@ void MenuBarSettings::addPreview(const SystemMonitor& monitor) {
     follow(*holder, defaults_, [this, pages] { pages->setCurrentIndex(enabledMenuBarModules(defaults_).empty()); });
 }
 
-void MenuBarSettings::addContents() {
-    FormSection& section = addSection(localizedText("What modules show"));
+void MenuBarSettings::addContents(const SystemMonitor& monitor) {
+    FormSection& section =
+        addSection(localizedText("What modules show"),
+                   {localizedText("Interface and volume count in the popover and for alerts as well.")});
+    const auto addPicker = [&](const QString& caption, const QString& key, const QString& none, const auto& names) {
+        auto* picker = new Picker(theme(), caption);
+        bindName(*picker, defaults_, key, none, names);
+        section.addRow({.caption = caption, .control = picker});
+    };
+    addPicker(localizedText("Network interface"), preference_key::networkInterface, localizedText("All hardware ports"),
+              [&monitor] { return monitor.networkPorts(); });
+    addPicker(localizedText("Disk volume"), preference_key::diskVolume, localizedText("System volume"),
+              [&monitor] { return monitor.volumes(); });
     const QString disk = localizedText("Disk");
     section.addRow(
         {.caption = disk,

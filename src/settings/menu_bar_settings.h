@@ -17,7 +17,7 @@ class MenuBarSettings : public Form {
   private:
     void addPreview(const SystemMonitor& monitor);
     void addStyle();
-    void addContents();
+    void addContents(const SystemMonitor& monitor);
 
     UserDefaults& defaults_;
 };

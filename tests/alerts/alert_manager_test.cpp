@@ -69,11 +69,12 @@ TEST_F(AlertManagerTest, KnowsTheConditionsAndTheirTexts) {
         // from here on in other units and with other limits
         {celsius(80.0), "The CPU temperature is 176°F."},
         {celsius(79.9), ""},
+        {disk(80'000), "Only 80 KB free on /home."},
         {battery({.percent = 30}), "30% left. Plug in the charger."},
         {battery({.percent = 31}), ""},
         {memory(Pressure::warning, 15, 16), "15 GiB of 16 GiB in use and the system is under memory pressure."},
     };
-    constexpr std::size_t inOtherUnits = std::size(table) - 5;
+    constexpr std::size_t inOtherUnits = std::size(table) - 6;
     defaults.set(preference_key::criticalThreshold, 0.85);
     defaults.set(preference_key::diskAlertThreshold, 0.92);
     defaults.set(preference_key::alertDuration, 0.0);
@@ -84,6 +85,7 @@ TEST_F(AlertManagerTest, KnowsTheConditionsAndTheirTexts) {
             defaults.set(preference_key::memoryUnit, u"gib"_s);
             defaults.set(preference_key::temperatureAlertCelsius, 80.0);
             defaults.set(preference_key::batteryAlertPercent, 30.0);
+            defaults.set(preference_key::diskVolume, u"/home"_s);
         }
         AlertManager(center, defaults, [] { return 0.0; }).evaluate(table[row].readings);
         EXPECT_EQ(center.posts.empty() ? QString() : center.posts[0].body, QString::fromUtf8(table[row].text)) << row;

@@ -39,6 +39,16 @@ TEST(Examination, TakesLoadsAndRatesBetweenItsPasses) {
     EXPECT_EQ(findings["Disk rates"].value, "read 2.0M/s, write 0K/s");
     EXPECT_EQ(findings["Accessories"].value, "64%, 5%"); // and no names
     EXPECT_EQ(machine.accessories->scans, 1);
+    examination.choose("en0", "/home");
+    findings = examination.finish();
+    EXPECT_EQ(findings["Network"].note, "Of the port en0 alone, as the settings choose.");
+    EXPECT_EQ(findings["Disk space"].note, "Of the volume at /home, as the settings choose.");
+    examination.choose("en5", "/gone");
+    machine.volume->volume.reset();
+    findings = examination.finish();
+    EXPECT_EQ(findings["Network"].value + findings["Disk space"].value, "");
+    EXPECT_THAT(findings["Network"].note, HasSubstr("port en5"));
+    EXPECT_THAT(findings["Disk space"].note, HasSubstr("mounted at /gone"));
     EXPECT_GE(findings["Memory"].microseconds.value_or(-1.0), 0.0);
     EXPECT_EQ(findings["Pressure"].microseconds, std::nullopt); // the same read as the memory's
 }

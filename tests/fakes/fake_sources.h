@@ -58,7 +58,10 @@ struct FakeDisks : DiskSampler::CounterSource {
 
 struct FakeVolume : DiskSampler::VolumeSource {
     std::optional<DiskSampler::Volume> volume = DiskSampler::Volume{1000, 400};
+    std::string mountPoint;
     std::optional<DiskSampler::Volume> read() override { return volume; }
+    void choose(const std::string& chosen) override { mountPoint = chosen; }
+    std::vector<std::string> mounted() const override { return {"/", "/home"}; }
 };
 
 struct FakeAccessories : AccessoriesSampler {

@@ -133,6 +133,8 @@ TEST_F(MenuBarItemTest, ModulesWithoutDataLeaveNoGap) {
                                              MenuBarModule::disk,        MenuBarModule::battery,
                                              MenuBarModule::temperature, MenuBarModule::network};
     EXPECT_EQ(accessibilityLabel(menuBarItems(modules, readings, defaults)), "CPU 13%, NET ↓0K ↑0K");
+    readings.network.isThere = false;
+    EXPECT_EQ(accessibilityLabel(menuBarItems(modules, readings, defaults)), "CPU 13%") << "a chosen port that is gone";
     readings.gpu = 0.9;
     const auto items = menuBarItems(modules, readings, defaults);
     EXPECT_EQ(items[0].severity, critical);

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include "app/printed_line.h"
 #include "fakes/fake_bluetooth.h"
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_sources.h"
@@ -123,6 +124,20 @@ TEST_F(SystemMonitorTest, FailedReadsKeepWhatWasKnown) {
     EXPECT_EQ(readings().downloadHistory, before.downloadHistory);
     EXPECT_EQ(readings().disk.readRate, std::nullopt);
     EXPECT_THAT(readings().diskReadHistory, ElementsAre(0.0, 0.0, 0.0)); // a missing rate counts as none
+}
+
+TEST_F(SystemMonitorTest, FollowsTheChosenPortAndVolume) {
+    monitor->start();
+    EXPECT_THAT(monitor->networkPorts(), ElementsAre("en0"));
+    EXPECT_THAT(monitor->volumes(), ElementsAre("/", "/home"));
+    defaults.set(preference_key::diskVolume, QStringLiteral("/home"));
+    EXPECT_EQ(machine.volume->mountPoint, "/home");
+    EXPECT_THAT(readings().downloadHistory, ElementsAre(0.0));
+    defaults.set(preference_key::networkInterface, QStringLiteral("en5"));
+    EXPECT_THAT(readings().downloadHistory, IsEmpty()) << "another port's";
+    pass();
+    EXPECT_FALSE(readings().network.isThere);
+    EXPECT_FALSE(QString::fromStdString(jsonLine(readings(), std::nullopt)).contains(QStringLiteral("network\"")));
 }
 
 TEST_F(SystemMonitorTest, TellsOfEachReadingOnceAPassAndThenOfItsEnd) {

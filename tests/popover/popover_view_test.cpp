@@ -239,6 +239,20 @@ TEST_F(CardsTest, TheNetworkCardLeavesOutWhatIsNotKnown) {
     EXPECT_THAT(details({}), ElementsAre());
 }
 
+TEST_F(CardsTest, AChosenPortOrVolumeThatIsGoneShowsNoFigures) {
+    defaults.set(preference_key::networkInterface, u"en0"_s);
+    defaults.set(preference_key::diskVolume, u"/home"_s);
+    EXPECT_THAT(textsOf(*shown<NetworkCard>()),
+                AllOf(Contains("en0"), Contains("2.4 MB/s"), Contains("Network: Home")));
+    EXPECT_THAT(textsOf(*shown<DiskCard>()), AllOf(Contains("/home"), Contains("186 GB free of 500 GB")));
+    defaults.set(preference_key::networkInterface, u"en5"_s);
+    readings.network.isThere = false;
+    readings.disk.total = 0;
+    EXPECT_THAT(textsOf(*shown<NetworkCard>()), AllOf(Contains("en5 is not available"), Contains("–"),
+                                                      Not(Contains("2.4 MB/s")), Not(Contains("Network: Home"))));
+    EXPECT_THAT(textsOf(*shown<DiskCard>()), AllOf(Contains("/home is not available"), Contains("–")));
+}
+
 TEST_F(CardsTest, AWithheldNetworkNameIsAskedFor) {
     int asked = 0;
     context.requestLocationAccess = [&] { ++asked; };

@@ -69,5 +69,32 @@ TEST(NetworkSampler, CountersOf64BitsAreTakenInFullAndNeverWrap) {
     expectSteps(NetworkSampler::CounterWidth::bits64, steps);
 }
 
+TEST(NetworkSampler, APortThatIsChosenCountsAloneAndIsAbsentWhenItIsGone) {
+    fakes::FakeNetwork source;
+    FakeClock clock;
+    NetworkSampler sampler(source, clock);
+    const auto sampled = [&](std::uint64_t en0, std::optional<std::uint64_t> eth0) {
+        source.links = {port("en0", en0, 0), {"lo", 0x41, NetworkSampler::Counters{}}};
+        if (eth0) {
+            source.links->push_back(port("eneth0", *eth0, 0));
+            source.links->back().isNamedAnew = true;
+        }
+        clock.now += 2.0;
+        return *sampler.sample();
+    };
+    sampled(0, 0);
+    EXPECT_EQ(sampler.ports(), (std::vector<std::string>{"en0", "eth0"})) << "as the system calls them";
+    EXPECT_EQ(sampled(200, 20), (NetworkSample{110.0, 0.0}));
+    sampler.choose("eth0");
+    EXPECT_EQ(sampled(400, 40), (NetworkSample{10.0, 0.0})) << "at once";
+    EXPECT_EQ(sampled(600, std::nullopt), (NetworkSample{0.0, 0.0, false}));
+    EXPECT_EQ(sampled(800, 60), silence);
+    EXPECT_EQ(sampled(1000, 80), (NetworkSample{10.0, 0.0}));
+    sampler.choose("eneth0");
+    EXPECT_FALSE(sampled(1200, 100).isThere) << "no name of the system's";
+    sampler.choose("");
+    EXPECT_EQ(sampled(1400, 120), (NetworkSample{110.0, 0.0}));
+}
+
 } // namespace
 } // namespace vantrix

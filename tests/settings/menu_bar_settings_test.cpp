@@ -1,6 +1,7 @@
 #include "settings/settings_window.h"
 
 #include "settings/controls/check_box.h"
+#include "settings/controls/picker.h"
 #include "settings/menu_bar_preview.h"
 #include "settings/module_row.h"
 #include "views/symbol_button.h"
@@ -74,6 +75,28 @@ TEST_F(MenuBarSettingsTest, ChecksAreStoredAsASortedSetAndThePreviewFollows) {
     store(preference_key::menuBarEnabled, QString());
     EXPECT_FALSE(preview->isVisible());
     EXPECT_TRUE(shows("Select at least one module"));
+}
+
+TEST_F(MenuBarSettingsTest, PickersOfferWhatIsThereNowAndWhatIsChosen) {
+    auto& volume = control<Picker>("Disk volume");
+    const auto entries = [&volume] {
+        QStringList texts;
+        for (int i = 0; i < volume.count(); ++i)
+            texts += volume.itemText(i);
+        return texts.join(u'|');
+    };
+    EXPECT_EQ(entries(), u"System volume|/|/home");
+    store(preference_key::diskVolume, QStringLiteral("/gone"));
+    EXPECT_EQ(entries(), u"System volume|/|/home|/gone");
+    EXPECT_EQ(volume.currentText(), u"/gone");
+    volume.pick(2);
+    EXPECT_EQ(stored(preference_key::diskVolume), u"/home");
+    auto& port = control<Picker>("Network interface");
+    EXPECT_EQ(port.count(), 1) << "before the first pass";
+    monitor.sample();
+    port.showPopup();
+    port.pick(1);
+    EXPECT_EQ(stored(preference_key::networkInterface), u"en0");
 }
 
 TEST_F(MenuBarSettingsTest, ThePreviewDrawsTheReadingsAndKeepsARowOfAllModulesInside) {

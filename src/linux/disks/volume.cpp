@@ -14,6 +14,11 @@ std::optional<std::int64_t> bytesOf(std::uint64_t blocks, std::uint64_t blockSiz
     return bytes;
 }
 
+/// The root of the machine whose /proc is mounted at `proc`, for another than this one.
+std::string rootFolder(const std::string& proc) {
+    return proc + "/1/root";
+}
+
 } // namespace
 
 bool askVolume(const std::string& folder, struct statvfs& answer) {
@@ -24,9 +29,16 @@ bool askVolume(const std::string& folder, struct statvfs& answer) {
     return result == 0;
 }
 
+DiskSampler::Volume capacityOf(const struct statvfs& statistics) {
+    auto total = bytesOf(statistics.f_blocks, statistics.f_frsize);
+    if (total.value_or(0) < 0)
+        total.reset();
+    return {total, bytesOf(statistics.f_bavail, statistics.f_frsize)};
+}
+
 std::vector<std::string> volumeFolders(const std::string& proc) {
     struct statvfs answer {};
-    const std::string root = proc + "/1/root";
+    const std::string root = rootFolder(proc);
     if (proc != "/proc" && askVolume(root, answer))
         return {root, root + "/var", root + "/home"};
     const char* home = std::getenv("HOME");
@@ -41,7 +53,15 @@ std::size_t writtenFolder(const std::vector<std::string>& folders, const AskVolu
     return 0;
 }
 
+void VolumeStatistics::choose(const std::string& mountPoint) {
+    mountPoint_.reset();
+    if (!mountPoint.empty())
+        mountPoint_.emplace(proc_ == "/proc" ? mountPoint : rootFolder(proc_) + mountPoint);
+}
+
 std::optional<DiskSampler::Volume> VolumeStatistics::read() {
+    if (mountPoint_)
+        return mountPoint_->read();
     if (choices_.isDue())
         chosen_ = writtenFolder(folders_, ask_);
     struct statvfs statistics {};
@@ -49,10 +69,7 @@ std::optional<DiskSampler::Volume> VolumeStatistics::read() {
         choices_.noteFailure();
         return std::nullopt;
     }
-    auto total = bytesOf(statistics.f_blocks, statistics.f_frsize);
-    if (total.value_or(0) < 0)
-        total.reset();
-    return DiskSampler::Volume{total, bytesOf(statistics.f_bavail, statistics.f_frsize)};
+    return capacityOf(statistics);
 }
 
 } // namespace vantrix

@@ -65,6 +65,7 @@ bool NetDevSource::read(std::vector<NetworkSampler::Link>& links) {
     for (std::size_t i = 0; i < lines_.size(); ++i) {
         const bool isCounted = roleOf(linkStates_[i], linkStates_) == PortRole::counted;
         nameLink(lines_[i].name, isCounted, links[i].name);
+        links[i].isNamedAnew = links[i].name.size() != lines_[i].name.size();
         links[i].flags = linkStates_[i].flags;
         links[i].counters = lines_[i].counters;
         links[i].index = linkStates_[i].index;

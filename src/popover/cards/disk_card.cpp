@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 
+#include "menubar/preferences.h"
 #include "monitor/readings.h"
 #include "popover/charts/segmented_bar.h"
 #include "popover/headline.h"
@@ -14,6 +15,13 @@ namespace {
 
 constexpr double leastScale = 1'000'000.0; // bytes per second: less than this is an idle disk
 
+/// "/home", or "Stick" of "/media/ann/Stick"; short enough to leave room for the title.
+QString volumeName(const QString& mountPoint) {
+    constexpr int most = 24;
+    const QString name = mountPoint.count(u'/') > 1 ? mountPoint.section(u'/', -1) : mountPoint;
+    return name.size() > most ? name.left(most - 1) + u'…' : name;
+}
+
 /// With a mark in the place of the free space.
 QString freeSpacePattern(const DiskSample& disk) {
     if (disk.total == 0)
@@ -25,8 +33,8 @@ QString freeSpacePattern(const DiskSample& disk) {
 } // namespace
 
 DiskCard::DiskCard(const CardContext& context)
-    : Card(context.theme, localizedText("Disk"), "internaldrive"), free_(new Headline(context.theme)),
-      used_(new SegmentedBar(context.theme, localizedText("Disk space in use"))),
+    : Card(context.theme, localizedText("Disk"), "internaldrive"), defaults_(context.defaults),
+      free_(new Headline(context.theme)), used_(new SegmentedBar(context.theme, localizedText("Disk space in use"))),
       read_(new RateColumn(
           context.theme, {localizedText("Read"), localizedText("Read history"), {}, &ThemeColors::accent, leastScale})),
       write_(new RateColumn(
@@ -39,7 +47,13 @@ DiskCard::DiskCard(const CardContext& context)
 
 void DiskCard::showReadings(const Readings& readings) {
     const DiskSample& disk = readings.disk;
-    free_->setText(byteText(disk.available), freeSpacePattern(disk));
+    const QString name = volumeName(QString::fromStdString(storedText(defaults_, preference_key::diskVolume)));
+    const bool isGone = disk.total == 0 && !name.isEmpty();
+    setSubtitle(isGone ? localizedText("%@ is not available", name) : name);
+    if (isGone)
+        free_->setText(QStringLiteral("–"));
+    else
+        free_->setText(byteText(disk.available), freeSpacePattern(disk));
     used_->setSegments({{0, usedFraction(disk), &ThemeColors::accent}});
     read_->setRate(disk.readRate.value_or(0.0), readings.diskReadHistory, readings.interval);
     write_->setRate(disk.writeRate.value_or(0.0), readings.diskWriteHistory, readings.interval);

@@ -15,6 +15,7 @@ class DiskCard : public Card {
     void showReadings(const Readings& readings) override;
 
   private:
+    const UserDefaults& defaults_;
     Headline* free_;
     SegmentedBar* used_;
     RateColumn* read_;

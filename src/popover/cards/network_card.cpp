@@ -94,11 +94,18 @@ NetworkCard::NetworkCard(const CardContext& context)
 }
 
 void NetworkCard::showReadings(const Readings& readings) {
-    setSymbol(symbolOf(readings.networkInfo.kind));
+    const std::string port = storedText(defaults_, preference_key::networkInterface);
+    const NetworkSample& network = readings.network;
+    const auto known = [&network](double rate) { return network.isThere ? std::optional(rate) : std::nullopt; };
     const RateText text = rateTextIn(units(defaults_).network);
-    download_->setRate(readings.network.download, readings.downloadHistory, readings.interval, text);
-    upload_->setRate(readings.network.upload, readings.uploadHistory, readings.interval, text);
-    showConnection(readings.networkInfo);
+    download_->setRate(known(network.download), readings.downloadHistory, readings.interval, text);
+    upload_->setRate(known(network.upload), readings.uploadHistory, readings.interval, text);
+    const QString name = QString::fromStdString(port);
+    setSubtitle(network.isThere ? name : localizedText("%@ is not available", name));
+    // What goes over another port says nothing about the chosen one.
+    const bool isOfPort = port.empty() || readings.networkInfo.interface == port;
+    setSymbol(isOfPort ? symbolOf(readings.networkInfo.kind) : "network");
+    showConnection(isOfPort ? readings.networkInfo : NetworkInfo());
 }
 
 void NetworkCard::showConnection(const NetworkInfo& info) {

@@ -23,6 +23,7 @@ namespace {
 constexpr double fieldHeight = 24.0;
 constexpr double sidePadding = 10.0;
 constexpr double chevron = 12.0;
+constexpr int leastWidth = 160;
 constexpr double markRoom = 26.0;
 constexpr double entryHeight = 26.0;
 
@@ -87,6 +88,10 @@ QSize Picker::sizeHint() const {
     return withRing(QSizeF(std::ceil(width), theme_.scaled(fieldHeight)).toSize());
 }
 
+QSize Picker::minimumSizeHint() const {
+    return {std::min(sizeHint().width(), leastWidth), sizeHint().height()};
+}
+
 void Picker::pick(int index) {
     if (index < 0 || index >= count() || index == currentIndex())
         return;
@@ -95,6 +100,8 @@ void Picker::pick(int index) {
 }
 
 void Picker::showPopup() {
+    if (willOpen)
+        willOpen();
     for (QWidget* widget : {static_cast<QWidget*>(view()), view()->parentWidget()})
         widget->setPalette(theme_.palette());
     view()->setFrameShape(QFrame::NoFrame);

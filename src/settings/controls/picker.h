@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include <QComboBox>
 
 namespace vantrix {
@@ -16,8 +18,12 @@ class Picker : public QComboBox {
     /// As if the user had picked that entry; does nothing where there is none.
     void pick(int index);
 
+    /// Called before the list opens; may change the entries.
+    std::function<void()> willOpen;
+
     QSize sizeHint() const override;
-    QSize minimumSizeHint() const override { return sizeHint(); }
+    /// In less room than it wants its text is set smaller.
+    QSize minimumSizeHint() const override;
     void showPopup() override;
 
   protected:

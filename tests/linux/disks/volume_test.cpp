@@ -27,6 +27,9 @@ TEST(VolumeStatistics, AreChosenNowAndThen) {
     auto answers = fakes::volumesOf("/ rw 10 1 /var rw 20 2");
     VolumeStatistics volume({"/", "/var"}, [&](const auto& folder, auto& answer) { return answers(folder, answer); });
     EXPECT_EQ(volume.read()->available, 4096);
+    volume.choose("/no such volume");
+    EXPECT_EQ(volume.read(), std::nullopt) << "and not what is at /";
+    volume.choose("");
     answers = fakes::volumesOf("/ ro 10 0 /var rw 20 2");
     for (int pass = 1; pass < 60; ++pass)
         EXPECT_EQ(volume.read()->available, 0);

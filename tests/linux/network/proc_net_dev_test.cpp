@@ -53,6 +53,7 @@ TEST(NetDevSource, TurnsToTheOtherWayOfKnowingLinksForGood) {
         ASSERT_TRUE(source.read(links));
         EXPECT_EQ(links[0].flags, 2u);
         EXPECT_EQ(links[0].name, "eneth0");
+        EXPECT_TRUE(links[0].isNamedAnew);
         EXPECT_EQ(links[0].index, 7) << "tells it from another that takes its name";
     }
 }

@@ -162,7 +162,7 @@ CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const UInt8* bu
 
 CFDictionaryRef CFURLCopyResourcePropertiesForKeys(CFURLRef url, CFArrayRef keys, CFErrorRef*) {
     leaveToPool();
-    if (text(url) != "/" || !mac().volume || fails())
+    if (text(url) != mac().volumePoint || !mac().volume || fails())
         return nullptr;
     Dictionary asked;
     for (const Ref& key : object(keys, Kind::list).list) {

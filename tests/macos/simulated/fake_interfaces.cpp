@@ -3,6 +3,7 @@
 
 #include <net/if.h>
 #include <netdb.h>
+#include <sys/mount.h>
 
 #include "macos/simulated/machine.h"
 #include "support/checked.h"
@@ -57,4 +58,20 @@ int getnameinfo(const sockaddr* address, socklen_t size, char* host, socklen_t h
     const auto* const bytes = reinterpret_cast<const unsigned char*>(address->sa_data + 2);
     std::snprintf(host, hostSize, "%d.%d.%d.%d", bytes[0], bytes[1], bytes[2], bytes[3]);
     return 0;
+}
+
+/// Of the machine's mounts, those that fit.
+int getfsstat(struct statfs* list, int bytes, int flags) {
+    if (flags != MNT_NOWAIT || fails())
+        return -1;
+    const auto& mounts = mac().mounts;
+    if (!list)
+        return static_cast<int>(mounts.size());
+    const auto count = std::min(mounts.size(), static_cast<std::size_t>(bytes) / sizeof(struct statfs));
+    for (std::size_t i = 0; i < count; ++i) {
+        list[i].f_flags = mounts[i].flags;
+        std::snprintf(list[i].f_mntonname, sizeof list[i].f_mntonname, "%s", mounts[i].point.c_str());
+        std::snprintf(list[i].f_mntfromname, sizeof list[i].f_mntfromname, "%s", mounts[i].source.c_str());
+    }
+    return static_cast<int>(count);
 }

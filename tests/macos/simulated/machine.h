@@ -28,6 +28,12 @@ struct LinkEntry {
     std::string address = {}; ///< four bytes
 };
 
+struct Mount {
+    std::string point;
+    std::string source;
+    unsigned flags = 0;
+};
+
 struct SMCKey {
     std::string type;
     std::vector<std::uint8_t> bytes;
@@ -67,6 +73,8 @@ struct Machine {
     std::vector<std::pair<std::string, Dictionary>> services; ///< by class
     std::map<std::string, SMCKey> controllerKeys;
     std::optional<Dictionary> volume;
+    std::string volumePoint = "/"; ///< where it is mounted
+    std::vector<Mount> mounts;
     std::optional<List> powerSources;
     Dictionary store;
     std::vector<Dictionary> interfaces;

@@ -2,8 +2,10 @@
 
 #include <gmock/gmock.h>
 #include <malloc.h>
+#include <sys/mount.h>
 #include <unistd.h>
 
+#include "macos/disks/volume_capacity.h"
 #include "macos/simulated/instruments.h"
 #include "macos/simulated/machine.h"
 
@@ -85,6 +87,25 @@ TEST(SimulatedMac, TakesNothingMoreFromPassToPass) {
         pass();
     EXPECT_EQ(machine.calls["SCNetworkInterfaceCopyAll"], 17); // in one of thirty passes: it is slow
     EXPECT_LT(mallinfo2().uordblks, memory + 8192);            // a text more in each pass would be twice that
+}
+
+TEST(SimulatedMac, KnowsItsVolumesAndReadsTheChosenOneWhileItIsMounted) {
+    Machine machine;
+    furnish(machine);
+    machine.mounts = {{"/", "/dev/disk3s1", MNT_LOCAL},
+                      {"/System/Volumes/VM", "/dev/disk3s6", MNT_LOCAL | MNT_DONTBROWSE},
+                      {"/Volumes/Stick", "/dev/disk4s1", MNT_LOCAL},
+                      {"/dev", "devfs", MNT_LOCAL},
+                      {"/Volumes/Share", "//ann@server/share", 0}};
+    machine.volumePoint = "/Volumes/Stick";
+    VolumeCapacity volume;
+    EXPECT_THAT(volume.mounted(), ::testing::ElementsAre("/", "/Volumes/Stick"));
+    EXPECT_EQ(volume.read(), std::nullopt) << "the simulated one is not at the root";
+    volume.choose("/Volumes/Stick");
+    EXPECT_EQ(volume.read()->total, 500'000'000'000);
+    machine.mounts.clear();
+    EXPECT_EQ(volume.read(), std::nullopt);
+    EXPECT_EQ(machine.outstanding(), "");
 }
 
 TEST(SimulatedMac, FollowsTheConnectionInUse) {
