@@ -1,5 +1,6 @@
 #include "app/app_delegate.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QMenu>
@@ -97,11 +98,15 @@ void AppDelegate::monitorDidUpdate() {
     widgetBridge_.update(monitor_.readings());
 }
 
+std::vector<MenuBarItem> AppDelegate::shownItems() const {
+    return menuBarItems(enabledMenuBarModules(defaults_), monitor_.readings(), defaults_);
+}
+
 void AppDelegate::refreshStatusItem() {
     if (!statusItem_)
         return;
     StatusContent content;
-    content.items = menuBarItems(enabledMenuBarModules(defaults_), monitor_.readings(), defaults_);
+    content.items = shownItems();
     content.style = menuBarStyle(defaults_);
     content.colorize = defaults_.boolean(preference_key::menuBarColorize);
     content.accessibilityLabel = content.items.empty() ? "Vantrix" : accessibilityLabel(content.items);
@@ -109,10 +114,17 @@ void AppDelegate::refreshStatusItem() {
 }
 
 void AppDelegate::statusItemClicked(const StatusClick& click) {
-    if (click.button == StatusClick::Button::right || click.control)
+    if (click.button == StatusClick::Button::middle)
+        copyRow();
+    else if (click.button == StatusClick::Button::right || click.control)
         showMenu();
     else
         togglePopover(click.module);
+}
+
+void AppDelegate::copyRow() const {
+    if (const auto items = shownItems(); !items.empty())
+        QGuiApplication::clipboard()->setText(QString::fromStdString(accessibilityLabel(items)));
 }
 
 std::vector<StatusMenuEntry> AppDelegate::menuEntries() {

@@ -73,6 +73,8 @@ class AppDelegate : public QObject {
     void alertOpened(AlertManager::Kind kind);
     void showSettings(std::string_view tab);
     std::vector<StatusMenuEntry> menuEntries();
+    std::vector<MenuBarItem> shownItems() const;
+    void copyRow() const;
 
     UserDefaults& defaults_;
     std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem_;

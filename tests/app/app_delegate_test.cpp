@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QClipboard>
 #include <QDeadlineTimer>
 #include <QMenu>
 
@@ -90,7 +91,10 @@ TEST_F(AppDelegateTest, ClicksOpenWhatTheyShould) {
     click(Button::left);
     EXPECT_TRUE(popoverIsOpen());
     click(Button::left);
+    click(Button::middle);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), item->shown.back().accessibilityLabel);
+    EXPECT_TRUE(QApplication::clipboard()->text().startsWith(u"CPU ")) << "the row";
     for (const auto& [button, control] : {std::pair(Button::right, false), {Button::left, true}}) {
         delegate.showPopover();
         click(button, control);

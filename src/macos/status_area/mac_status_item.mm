@@ -8,19 +8,22 @@
 
 NS_ASSUME_NONNULL_BEGIN
 
+/// A click, and how far from the left of the button; without a place where an assistive program pressed it.
+using ClickedAt = std::function<void(vantrix::StatusClick, std::optional<CGFloat>)>;
+
 /// Receives the clicks on the status item's button.
 @interface VantrixClickTarget : NSObject
-- (instancetype)initWithClicked:(std::function<void(const vantrix::StatusClick&)>)clicked;
+- (instancetype)initWithClicked:(ClickedAt)clicked;
 - (void)statusItemClicked:(NSView*)button;
 @end
 
 NS_ASSUME_NONNULL_END
 
 @implementation VantrixClickTarget {
-    std::function<void(const vantrix::StatusClick&)> _clicked;
+    ClickedAt _clicked;
 }
 
-- (instancetype)initWithClicked:(std::function<void(const vantrix::StatusClick&)>)clicked {
+- (instancetype)initWithClicked:(ClickedAt)clicked {
     self = [super init];
     if (self)
         _clicked = std::move(clicked);
@@ -35,7 +38,9 @@ NS_ASSUME_NONNULL_END
     const bool right = event && event.type == NSEventTypeRightMouseUp;
     const bool left = event && event.type == NSEventTypeLeftMouseUp;
     const bool control = (left || right) && (event.modifierFlags & NSEventModifierFlagControl) != 0;
-    _clicked({.button = right ? Button::right : Button::left, .control = control});
+    const bool isPlaced = (left || right) && event.window == button.window;
+    _clicked({.button = right ? Button::right : Button::left, .control = control},
+             isPlaced ? std::optional([button convertPoint:event.locationInWindow fromView:nil].x) : std::nullopt);
 }
 
 @end
@@ -56,6 +61,14 @@ QRect fromScreen(NSRect rect) {
         .toAlignedRect();
 }
 
+/// What is shown at `x` of the button, which has the row in its middle.
+std::optional<MenuBarModule> moduleAt(CGFloat x, const StatusContent& content, NSView* button) {
+    if (content.items.empty())
+        return std::nullopt;
+    const CGFloat margin = (button.bounds.size.width - MenuBarRenderer::size(content.items, content.style).width()) / 2;
+    return content.items[MenuBarRenderer::itemAt(content.items, content.style, x - margin)].module;
+}
+
 /// The program's item in the menu bar (NSStatusItem).
 class MacStatusItem final : public StatusItem {
   public:
@@ -63,15 +76,33 @@ class MacStatusItem final : public StatusItem {
         // No Dock icon and no menu bar of its own.
         [NSApp setActivationPolicy:NSApplicationActivationPolicyAccessory];
         item_ = [NSStatusBar.systemStatusBar statusItemWithLength:NSVariableStatusItemLength];
-        target_ = [[VantrixClickTarget alloc] initWithClicked:std::move(handlers.clicked)];
+        const auto clicked = [this, tell = std::move(handlers.clicked)](StatusClick click, std::optional<CGFloat> x) {
+            if (x && shown_)
+                click.module = moduleAt(*x, *shown_, item_.button);
+            tell(click);
+        };
+        target_ = [[VantrixClickTarget alloc] initWithClicked:clicked];
         NSStatusBarButton* button = item_.button;
         button.target = target_;
         button.action = @selector(statusItemClicked:);
         [button sendActionOn:NSEventMaskLeftMouseUp | NSEventMaskRightMouseUp];
         button.imagePosition = NSImageOnly;
+        // A button sends no action for the middle one.
+        __weak NSView* weakButton = button;
+        middleClicks_ =
+            [NSEvent addLocalMonitorForEventsMatchingMask:NSEventMaskOtherMouseUp
+                                                  handler:^NSEvent* _Nullable(NSEvent* event) {
+                                                    if (event.buttonNumber == 2 && weakButton &&
+                                                        event.window == weakButton.window)
+                                                        clicked({.button = StatusClick::Button::middle}, std::nullopt);
+                                                    return event;
+                                                  }];
     }
 
-    ~MacStatusItem() override { [NSStatusBar.systemStatusBar removeStatusItem:item_]; }
+    ~MacStatusItem() override {
+        [NSEvent removeMonitor:middleClicks_];
+        [NSStatusBar.systemStatusBar removeStatusItem:item_];
+    }
 
     void show(const StatusContent& content) override {
         @autoreleasepool {
@@ -110,6 +141,7 @@ class MacStatusItem final : public StatusItem {
     std::function<QString(std::optional<MenuBarModule>)> details_;
     NSStatusItem* item_;
     VantrixClickTarget* target_;
+    id middleClicks_;
     NSMenu* menu_ = nil; ///< the last one shown: its chosen action may run after it has closed
     std::optional<StatusContent> shown_;
 };

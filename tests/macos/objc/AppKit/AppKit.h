@@ -94,10 +94,12 @@ typedef NS_ENUM(NSUInteger, NSEventType) {
     NSEventTypeLeftMouseDown = 1,
     NSEventTypeLeftMouseUp = 2,
     NSEventTypeRightMouseUp = 4,
+    NSEventTypeOtherMouseUp = 26,
 };
 typedef NS_OPTIONS(unsigned long long, NSEventMask) {
     NSEventMaskLeftMouseUp = 1ULL << NSEventTypeLeftMouseUp,
     NSEventMaskRightMouseUp = 1ULL << NSEventTypeRightMouseUp,
+    NSEventMaskOtherMouseUp = 1ULL << NSEventTypeOtherMouseUp,
 };
 typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagControl = 1 << 18 };
 
@@ -105,6 +107,11 @@ typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagContro
 @property(readonly) NSEventType type;
 @property(readonly) NSEventModifierFlags modifierFlags;
 @property(readonly) NSInteger eventNumber; // of mouse events alone
+@property(readonly) NSInteger buttonNumber;
+@property(readonly) NSPoint locationInWindow;
++ (nullable id)addLocalMonitorForEventsMatchingMask:(NSEventMask)mask
+                                            handler:(NSEvent* _Nullable (^)(NSEvent* event))block;
++ (void)removeMonitor:(id)eventMonitor;
 @end
 
 @interface NSResponder : NSObject
@@ -144,6 +151,7 @@ typedef NS_OPTIONS(NSUInteger, NSAutoresizingMaskOptions) {
 - (void)setFrameSize:(NSSize)newSize;
 - (void)addSubview:(NSView*)view;
 - (NSRect)convertRect:(NSRect)rect toView:(nullable NSView*)view;
+- (NSPoint)convertPoint:(NSPoint)point fromView:(nullable NSView*)view;
 @end
 
 @interface NSControl : NSView

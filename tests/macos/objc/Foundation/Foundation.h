@@ -28,6 +28,7 @@ typedef unsigned long NSUInteger;
 
 typedef CGPoint NSPoint;
 typedef CGSize NSSize;
+typedef CGPoint NSPoint;
 typedef CGRect NSRect;
 
 typedef NS_ENUM(NSUInteger, NSRectEdge) { NSRectEdgeMinY = CGRectMinYEdge };
