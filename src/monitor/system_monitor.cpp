@@ -12,6 +12,7 @@ namespace {
 constexpr double timerTolerance = 0.1;           // of the period
 constexpr double accessoriesScanInterval = 30.0; // seconds
 constexpr int secondLook = 750;                  // milliseconds until there are shares of the processor
+constexpr double restPerLook = 30.0;             // times as long as a look at the processes took, where that is much
 
 } // namespace
 
@@ -101,7 +102,7 @@ void SystemMonitor::sample() {
     sampleGPU();
     sampleSensors();
     sampleBattery();
-    if (!watch_.expired())
+    if (!watch_.expired() && samplers_.sources.clock->uptime() >= nextProcessLook_)
         sampleProcesses();
     sampleAccessories();
     if (onUpdate)
@@ -203,7 +204,11 @@ std::shared_ptr<ProcessSampler> SystemMonitor::makeProcessSampler() {
 }
 
 void SystemMonitor::sampleProcesses() {
-    if (const ProcessSample* sample = samplers_.processes->sample())
+    const double start = samplers_.sources.clock->uptime();
+    const ProcessSample* sample = samplers_.processes->sample();
+    const double end = samplers_.sources.clock->uptime();
+    nextProcessLook_ = end + restPerLook * (end - start); // there may be tens of thousands
+    if (sample != nullptr)
         store(&Readings::processes, *sample, Reading::processes);
 }
 

@@ -103,6 +103,7 @@ class SystemMonitor : public QObject {
     bool isScheduled_ = false;
     bool isDemo_ = false;
     bool isSamplingAccessories_ = false;
+    double nextProcessLook_ = 0.0;                // uptime
     std::weak_ptr<void> watch_;                   // of the programs
     std::optional<double> lastAccessoriesSample_; // uptime; absent: the distant past
     std::vector<AccessoryReading> sampledAccessories_;

@@ -36,7 +36,7 @@ void ProcessSampler::sumUp() {
             ++before;
         if (before != previous_.end() && before->id == process.id && before->start == process.start)
             use.cpuTime += process.cpuTime - std::min(before->cpuTime, process.cpuTime);
-        else if (previousTime_ && process.start >= newestStart_)
+        else if (process.start >= newestStart_)
             use.cpuTime += process.cpuTime; // it began since; one that began before was only out of sight
         newest = std::max(newest, process.start);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -79,8 +80,10 @@ struct FakeProcesses : ProcessSampler::Source {
     std::vector<ProcessSampler::Application> names{{"A", ""}, {"B", ""}, {"C", ""}, {"D", ""}, {"E", ""}, {"F", ""}};
     int reads = 0;
     int forgotten = 0;
+    std::function<void()> onRead = [] {};
     bool read(std::vector<ProcessSampler::Process>& into) override {
         ++reads;
+        onRead();
         into = processes;
         return !processes.empty();
     }

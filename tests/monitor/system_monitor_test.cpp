@@ -297,8 +297,13 @@ TEST_F(SystemMonitorTest, LooksAtProcessesOnlyWhileSomebodyWatches) {
     EXPECT_EQ(machine.processes->forgotten, 1);
     pass();
     EXPECT_EQ(machine.processes->reads, 3);
-    watch = monitor->watchPrograms(); // and knows nothing of before
+    machine.processes->onRead = [this] { machine.clock->now += 0.1; }; // so many that they are looked at more rarely
+    watch = monitor->watchPrograms();                                  // and knows nothing of before
     EXPECT_TRUE(readings().processes.busiest.empty());
+    pass();
+    EXPECT_EQ(machine.processes->reads, 4);
+    pass();
+    EXPECT_EQ(machine.processes->reads, 5);
     monitor.reset();
 }
 

@@ -56,12 +56,12 @@ TEST_F(ProcessSamplerTest, AProcessThatBeganAgainIsAnother) {
 }
 
 TEST_F(ProcessSamplerTest, AVanishedProcessTakesNothingWithIt) {
-    lookAfter(1, {{1, 1, 50 * second, 10, 0}, {2, 1, 0, 10, 0}});
-    EXPECT_THAT(lookAfter(2, {{2, 1, 2 * second, 10, 0}}).busiest, ElementsAre(share("A", 0.25)));
+    lookAfter(1, {{1, 1, 50 * second, 10, 0}, {2, 1, 3 * second, 10, 0}});
+    EXPECT_THAT(lookAfter(2, {{2, 1, 5 * second, 10, 0}}).busiest, ElementsAre(share("A", 0.25)));
     source.processes.clear();
     clock.now += 2;
     EXPECT_EQ(sampler.sample(), nullptr);
-    EXPECT_THAT(lookAfter(2, {{2, 1, 4 * second, 10, 0}}).busiest, ElementsAre(share("A", 0.125))); // of 4 s
+    EXPECT_THAT(lookAfter(2, {{2, 1, 7 * second, 10, 0}}).busiest, ElementsAre(share("A", 0.125))); // of 4 s
 }
 
 TEST_F(ProcessSamplerTest, ListsFiveAtMost) {
