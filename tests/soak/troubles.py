@@ -102,7 +102,8 @@ def hangs(world, name=None):
 
 def asked_for(world):
     what = world.random.choice([["--show-popover"], ["--show-settings", "alerts"], ["--show-settings"]])
-    subprocess.run([world.binary, *what], env=world.desktop.environment, timeout=PATIENCE, check=True)
+    if world.process not in world.stopped:
+        subprocess.run([world.binary, *what], env=world.desktop.environment, timeout=PATIENCE, check=True)
 
 
 def clicked(world):
@@ -147,4 +148,4 @@ def accessory_changes(world):
 MACHINE = (load, machine_changes, machine_changes, device_comes)
 KINDS = ((settings_change,), (partial(gone, name="trayer"),),
          (gone, gone, hangs, *[called] * 3, *[accessory_changes] * 3),
-         (asked_for, *[clicked] * 4, keyed, partial(hangs, name="vantrix")))
+         *[(asked_for, *[clicked] * 4, keyed)] * 3, (*[keyed] * 15, partial(hangs, name="vantrix")))

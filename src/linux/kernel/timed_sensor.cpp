@@ -42,6 +42,7 @@ std::optional<double> TimedSensor::value() {
 }
 
 std::optional<double> TimedSensor::value(double& now) {
+    collect();
     if (isDirect_)
         readDirectly(now);
     else
@@ -66,7 +67,6 @@ void TimedSensor::readDirectly(double& now) {
 }
 
 void TimedSensor::readAside(double& now) {
-    collect();
     if (!waitingSince_)
         waitingSince_ = now;
     if (!isUnderWay_) {
