@@ -1,7 +1,7 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan check check-quick check-darwin mac-report check-debian hosts soak fuzz bench ground-truth format clean
+.PHONY: run build test test-asan test-tsan check check-quick check-darwin mac-report check-debian hosts soak fuzz bench ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -22,6 +22,13 @@ test-asan:
 	cmake --preset asan
 	cmake --build --preset asan -j $(JOBS)
 	ctest --preset asan -j $(JOBS)
+
+# The sanitizer knows few layouts of memory, and the toolkit not at all.
+test-tsan:
+	scripts/setup.sh build test
+	cmake --preset tsan
+	cmake --build --preset tsan -j $(JOBS)
+	setarch -R build/tsan/tests/core_tests --gtest_brief=1
 
 check: check-quick
 	scripts/setup.sh test

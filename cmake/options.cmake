@@ -23,10 +23,10 @@ if(NOT APPLE)
   target_link_options(vantrix_options INTERFACE "$<$<CONFIG:Release>:-pie;-Wl,-z,relro,-z,now>")
 endif()
 
-if(VANTRIX_SANITIZE OR VANTRIX_FUZZ)
-  target_compile_options(vantrix_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+if(VANTRIX_SANITIZE)
+  target_compile_options(vantrix_options INTERFACE -fsanitize=${VANTRIX_SANITIZE} -fno-sanitize-recover=all
                                                    -fno-omit-frame-pointer)
-  target_link_options(vantrix_options INTERFACE -fsanitize=address,undefined)
+  target_link_options(vantrix_options INTERFACE -fsanitize=${VANTRIX_SANITIZE})
 endif()
 if(VANTRIX_FUZZ)
   target_compile_options(vantrix_options INTERFACE -fsanitize=fuzzer-no-link) # counts what an input reaches
