@@ -45,7 +45,7 @@ TEST(Diagnosis, SaysWhatEachMachineLacks) {
         {"immutable-system", reading_name::diskSpace, "ok statvfs of /var: ", "at / is read-only"},
         {"no-psi", reading_name::pressure, "absent ", "does not measure stalls"},
         {"programs-at-work", reading_name::programs, "ok PROC/PID/stat: Read while", "root alone."},
-        {"ordinary-desktop", reading_name::programs, "absent ", "No processes"},
+        {"no-psi", reading_name::programs, "absent ", "No processes"},
         {"board-with-thermal-zones-alone", reading_name::temperatures, "ok SYS/class/thermal (5 zones)",
          "; CPU: cpu0-thermal, cpu1-thermal"},
         {"two-socket-server", reading_name::temperatures, "ok SYS/class/hwmon (2 chips)",

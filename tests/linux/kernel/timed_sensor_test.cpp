@@ -120,7 +120,7 @@ TEST_F(TimedSensorTest, RegistersAreReadDirectlyAgainOnceItWasTheMachineThatWasS
     background->hangs = true;
     valueAfter(quick, 0.0);
     EXPECT_EQ(probe->reads, 2);
-    for (int i = 0; i <= TimedSensor::quickReadsToReturn; ++i) {
+    for (int i = 0; i < TimedSensor::quickReadsToReturn; ++i) {
         background->performAll();
         valueAfter(quick, 0.0);
     }
