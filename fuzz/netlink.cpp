@@ -52,36 +52,24 @@ struct Script : FakeNetlink {
     std::uint32_t sequence = 0;
 };
 
-void followLinksAndRoutes(std::string_view input) {
-    auto* script = new Script(input);
-    const auto subscriber = std::make_shared<RtnetlinkSubscriber>(std::unique_ptr<NetlinkChannel>(script));
+} // namespace
+
+void netlink(std::string_view input) {
+    const auto subscriber = std::make_shared<RtnetlinkSubscriber>(std::make_unique<Script>(input));
     RtnetlinkLinks links(subscriber, "/nowhere");
     RtnetlinkRoutes routes(subscriber);
-    for (int pass = 0; pass < 8 && !script->rest.isEmpty(); ++pass) {
+    Nl80211Reader reader(std::make_unique<Script>(input));
+    WiFiReading wifi;
+    for (int pass = 0; pass < 8; ++pass) {
         links.refresh();
         routes.refresh();
         links.state("eth0", 1);
         const DefaultRoute* route = routes.primary(DefaultRoutes::Family::ipv4);
         EXPECT_TRUE(!route || !route->interface.empty());
+        reader.read(3, wifi);
+        EXPECT_TRUE(wifi.signal <= 0 && wifi.noise <= 0 && wifi.bitRate >= 0.0);
+        EXPECT_EQ(repairedUTF8(wifi.ssid), wifi.ssid);
     }
-}
-
-void readWiFi(std::string_view input) {
-    auto* script = new Script(input);
-    Nl80211Reader reader{std::unique_ptr<NetlinkChannel>(script)};
-    WiFiReading reading;
-    for (int pass = 0; pass < 8 && !script->rest.isEmpty(); ++pass) {
-        reader.read(3, reading);
-        EXPECT_TRUE(reading.signal <= 0 && reading.noise <= 0 && reading.bitRate >= 0.0);
-        EXPECT_EQ(repairedUTF8(reading.ssid), reading.ssid);
-    }
-}
-
-} // namespace
-
-void netlink(std::string_view input) {
-    followLinksAndRoutes(input);
-    readWiFi(input);
 }
 
 } // namespace vantrix::fuzz

@@ -35,7 +35,7 @@ struct Settings : FileDefaultsStoreTest {
             store.flush();
             entries.insert(name, value.isValid() ? QJsonValue::fromVariant(value) : QJsonValue::Undefined);
             EXPECT_EQ(normalized(object()), normalized(entries));
-            EXPECT_EQ(store.value(name), value);
+            EXPECT_EQ(FileDefaultsStore(path_).value(name), value);
             if (!damaged.isEmpty())
                 setAside << std::exchange(damaged, {});
             EXPECT_EQ(names(folder_.path()).size(), setAside.size() + 1);

@@ -25,7 +25,9 @@ inline void expectPlausible(const Readings& readings) {
     EXPECT_TRUE(battery.percent >= 0 && battery.percent <= 100) << battery.percent;
     EXPECT_LT(battery.watts.value_or(0.0), 400.0);
     EXPECT_LE(battery.temperature.value_or(0.0), 150.0);
-    const auto isFan = [](const FanReading& fan) { return fan.rpm >= 0.0 && fan.rpm < 20000.0; };
+    const auto isFan = [](const FanReading& fan) {
+        return fan.rpm >= 0.0 && std::max({fan.rpm, fan.minRPM.value_or(0.0), fan.maxRPM.value_or(0.0)}) < 20000.0;
+    };
     const SensorsSample& sensors = readings.sensors;
     EXPECT_TRUE(isTemperature(sensors.cpu.value_or(1.0)) && isTemperature(sensors.cpuHottest.value_or(1.0)));
     for (const TemperatureReading& sensor : sensors.all)

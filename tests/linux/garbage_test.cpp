@@ -60,16 +60,15 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
         for (const std::string& file : machine.files()) {
             SCOPED_TRACE(row.machine + ('/' + file));
             const std::string text = machine.read(file);
-            const auto numbered = [&](const char* number) { return std::regex_replace(text, digits, number); };
-            for (const std::string& odd :
-                 {std::string(), text.substr(0, text.size() / 2), text.substr(0, text.size() - 1), text + text,
-                  "\xff\xfe" + text, numbered("-1"), numbered("nan"), numbered("36028797018963967"),
-                  numbered("18446744073709551615"), numbered("99999999999999999999999")}) {
-                machine.write(file, odd);
+            std::vector<std::string> damages{"", text.substr(0, text.size() / 2), "\xff\xfe" + text + text};
+            for (const char* number : {"nan", "-1", "18446744073709551615", "36028797018963967"})
+                damages.push_back(std::regex_replace(text, digits, number));
+            for (const std::string& damaged : damages) {
+                machine.write(file, damaged);
                 fakes::plausiblePass(samplers);
-                Samplers fresh(makeSamplingSources(machine.roots()));
-                fakes::plausiblePass(fresh);
             }
+            Samplers fresh(makeSamplingSources(machine.roots()));
+            fakes::plausiblePass(fresh);
             machine.write(file, text);
         }
         for (int round = 0; round < 10; ++round)
