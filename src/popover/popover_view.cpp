@@ -84,6 +84,11 @@ PopoverView::PopoverView(const SystemMonitor& monitor, const CardContext& contex
     addScrollKeys(*scrolling_->verticalScrollBar());
 }
 
+/// Cards that go while they are on the screen change what the monitor tells.
+PopoverView::~PopoverView() {
+    monitor_.disconnect(this);
+}
+
 QWidget* PopoverView::makeColumn() {
     auto* column = new QWidget;
     column->installEventFilter(this);

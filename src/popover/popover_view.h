@@ -23,6 +23,7 @@ class PopoverView : public View {
 
     /// `monitor` and what `context` names outlive the view.
     PopoverView(const SystemMonitor& monitor, const CardContext& context, HeaderView::MenuEntries menuEntries);
+    ~PopoverView() override;
 
     /// The cards in the column, from the top.
     std::vector<PopoverCard> shownCards() const;

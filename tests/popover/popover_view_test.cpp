@@ -424,6 +424,7 @@ TEST_F(PopoverViewTest, ListsProgramsOnDemandAndLooksAtThemOnlyThen) {
     settle();
     EXPECT_EQ(view->sizeHint().height(), folded);
     EXPECT_EQ(machine.processes->forgotten, 2);
+    button->click(); // and goes while it is unfolded
 }
 
 TEST(SteadyPrograms, NothingJumpsUnderTheEye) {
