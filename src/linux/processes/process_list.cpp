@@ -19,7 +19,7 @@ namespace {
 constexpr int enoughLooks = 2;
 constexpr std::uint64_t unsettled = 10;   // seconds from a process's start in which its control group may change
 constexpr std::size_t cutNameLength = 15; // of a name in /proc/PID/stat
-constexpr std::size_t mostStale = 64;     // names that are kept although nothing goes by them any more
+constexpr std::size_t mostStale = 32;     // names that are kept although nothing goes by them any more
 constexpr int mostAncestors = 64;
 
 const std::uint64_t ticksPerSecond = static_cast<std::uint64_t>(sysconf(_SC_CLK_TCK));
