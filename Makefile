@@ -38,6 +38,7 @@ check-quick:
 	scripts/setup.sh build check
 	scripts/check_format.sh
 	scripts/check_layering.sh
+	scripts/check_linux_files.sh
 	scripts/check_test_share.sh
 	scripts/check_macos_types.sh
 

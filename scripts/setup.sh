@@ -6,7 +6,7 @@ set -euo pipefail
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev qt6-l10n-tools libxcb1-dev libnl-genl-3-dev"
   [test]="libgtest-dev libgmock-dev dbus xvfb xauth fonts-dejavu-core"
-  [check]="clang clang-format clang-tidy git"
+  [check]="clang clang-format clang-tidy git desktop-file-utils appstream mandoc zsh fish"
   [fuzz]="clang libclang-rt-dev libgtest-dev"
   [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb xauth"
   [truth]="stress-ng iproute2 python3"

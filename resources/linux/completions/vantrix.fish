@@ -1,0 +1,20 @@
+# Completion of vantrix for fish.
+complete -c vantrix -f
+complete -c vantrix -l print -x -a 'text json waybar' -d 'Write one line per pass to standard output'
+complete -c vantrix -l interval -x -d 'Seconds between passes, 0.5 to 3600'
+complete -c vantrix -l count -x -d 'Stop after so many passes'
+complete -c vantrix -l modules -x -d 'What to print' \
+    -a '(__fish_append , cpu memory network disk gpu temperature battery processes)'
+complete -c vantrix -l doctor -d 'Tell what every reading comes from'
+complete -c vantrix -n '__fish_prev_arg_in --doctor' -a 'text json'
+complete -c vantrix -l capture -x -a '(__fish_complete_directories)' -d 'Write what is read on this machine'
+complete -c vantrix -l replay -x -a '(__fish_complete_directories)' -d 'Show a capture instead of this machine'
+complete -c vantrix -l show-popover -d 'Open the popover of the running program'
+complete -c vantrix -l show-settings -d 'Open its settings'
+complete -c vantrix -n '__fish_prev_arg_in --show-settings' -a 'general menuBar popover alerts'
+complete -c vantrix -l quit -d 'End the running program'
+complete -c vantrix -o exportScreenshots -x -a '(__fish_complete_directories)' -d 'Draw everything into PNG files'
+complete -c vantrix -l proc-root -x -a '(__fish_complete_directories)' -d 'Read the process tree from a folder'
+complete -c vantrix -l sys-root -x -a '(__fish_complete_directories)' -d 'Read the device tree from a folder'
+complete -c vantrix -l version -d 'Print the version'
+complete -c vantrix -l help -s h -d 'Print a summary of the options'

@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# What an installed program brings a Linux desktop: well-formed, in every language of the program, and of one version.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+files=resources/linux
+
+fail() {
+  echo "check-linux-files: $*" >&2
+  exit 1
+}
+
+desktop-file-validate $files/vantrix.desktop
+appstreamcli validate --no-net $files/app.vantrix.Vantrix.metainfo.xml
+mandoc -T lint $files/vantrix.1
+for shell in bash zsh fish; do
+  "$shell" -n $files/completions/vantrix.$shell
+done
+
+for table in resources/translations/??.ts resources/translations/zh_*.ts; do
+  language=$(basename "$table" .ts)
+  [ "$language" != en ] || continue
+  settings=$(sed -n 's|.*<source>Settings…</source><translation>\(.*\)</translation>.*|\1|p' "$table")
+  language=${language/zh_Hans/zh_CN}
+  for line in "GenericName[$language]=" "Comment[$language]=" "Keywords[$language]=" "Name[$language]=$settings"; do
+    grep -qF "$line" $files/vantrix.desktop || fail "the menu entry lacks $line"
+  done
+  comment=$(grep -F "Comment[$language]=" $files/vantrix.desktop)
+  grep -qF "<summary xml:lang=\"$language\">${comment#*=}</summary>" $files/*.metainfo.xml ||
+    fail "the summary differs from $comment"
+done
+
+while read -r picture; do
+  [ -s "$picture" ] || fail "there is no picture $picture"
+done < <(sed -n 's|.*<image>https://[^/]*/\(.*\)</image>.*|\1|p' $files/*.metainfo.xml)
+
+version=$(sed -n 's/^project(vantrix VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+grep -qF "<release version=\"$version\"" $files/*.metainfo.xml || fail "the metainfo knows no version $version"
