@@ -253,7 +253,7 @@ std::string helpText() {
            "                        PNG files in DIR, from demo readings, and end\n"
            "  --proc-root DIR       read the kernel's process tree from DIR, not /proc\n"
            "  --sys-root DIR        read the kernel's device tree from DIR, not /sys\n"
-           "  --version, --help\n";
+           "  --version, --help, -h\n";
 }
 
 } // namespace vantrix

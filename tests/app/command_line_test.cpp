@@ -1,5 +1,7 @@
 #include "app/command_line.h"
 
+#include <QFile>
+#include <QRegularExpression>
 #include <QStringList>
 
 #include <gmock/gmock.h>
@@ -8,6 +10,7 @@ namespace vantrix {
 namespace {
 
 using Action = CommandLine::Action;
+using namespace Qt::StringLiterals;
 
 /// Arguments with one blank between them; two blanks make an empty one.
 auto parsed(const char* line) {
@@ -87,6 +90,50 @@ TEST(CommandLine, SaysInOneLineWhatIsWrong) {
         ASSERT_TRUE(std::holds_alternative<std::string>(result)) << line;
         EXPECT_FALSE(std::get<std::string>(result).empty());
         EXPECT_EQ(std::get<std::string>(result).find('\n'), std::string::npos);
+    }
+}
+
+/// "--print", "-h" and the like, once each.
+QStringList optionsIn(const QString& text) {
+    static const QRegularExpression option(QStringLiteral("(?<![-\\w])(--?\\w[-\\w]+|-h\\b)"));
+    QStringList found;
+    for (const auto& match : option.globalMatch(text))
+        found.append(match.captured());
+    found.removeDuplicates();
+    found.sort();
+    return found;
+}
+
+TEST(CommandLine, IsToldAlikeByHelpManualAndCompletions) {
+    const QStringList told = optionsIn(QString::fromStdString(helpText()));
+    EXPECT_GE(told.size(), 15);
+    for (const QString& option : told) {
+        const auto result = parseCommandLine({option.toStdString()});
+        const auto* error = std::get_if<std::string>(&result);
+        EXPECT_FALSE(error != nullptr && error->starts_with("unknown")) << *error;
+    }
+    // How each writes an option, in pairs of what stands there and what is meant.
+    const std::pair<const char*, QStringList> files[] = {
+        // The list alone counts, not where options are spoken of.
+        {"vantrix.1", {u"--"_s, u""_s, u".It Fl "_s, u"@"_s, u", Fl h"_s, u"@h"_s, u" -"_s, u""_s, u"@"_s, u"-"_s}},
+        {"completions/vantrix.bash", {}},
+        {"completions/vantrix.zsh", {}},
+        {"completions/vantrix.fish", {u" -l "_s, u" --"_s, u" -o "_s, u" -"_s, u" -s "_s, u" -"_s}},
+    };
+    for (const auto& [name, spelling] : files) {
+        QFile file(QStringLiteral(SOURCE_TREE "/resources/linux/") + QLatin1StringView(name));
+        ASSERT_TRUE(file.open(QFile::ReadOnly)) << name;
+        QString text = QString::fromUtf8(file.readAll());
+        for (int i = 0; i < spelling.size(); i += 2)
+            text.replace(spelling[i], spelling[i + 1]);
+        EXPECT_EQ(optionsIn(text), told) << name << ": " << optionsIn(text).join(u' ').toStdString();
+        const auto knows = [&](std::string_view word) {
+            return text.contains(QRegularExpression(QStringLiteral("\\b%1\\b").arg(QLatin1StringView(word))));
+        };
+        for (const auto& module : menuBarModules)
+            EXPECT_TRUE(knows(module.rawValue)) << name << ": " << module.rawValue;
+        for (const auto& tab : settingsTabs)
+            EXPECT_TRUE(knows(tab.rawValue)) << name << ": " << tab.rawValue;
     }
 }
 
