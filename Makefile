@@ -1,7 +1,8 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build test test-asan test-tsan check check-quick check-darwin mac-report check-debian hosts soak fuzz bench ground-truth format clean
+.PHONY: run build package test test-asan test-tsan check check-quick check-darwin mac-report \
+	check-debian hosts soak fuzz bench ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -10,6 +11,11 @@ build:
 	scripts/setup.sh build
 	cmake --preset release
 	cmake --build --preset release -j $(JOBS)
+
+# Debian's package and its debug symbols, into build/packages.
+package:
+	scripts/setup.sh build package
+	scripts/package.sh
 
 test:
 	scripts/setup.sh build test

@@ -20,7 +20,7 @@ if(NOT APPLE)
   set(hardening -fPIE -fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3
                 $<$<BOOL:${VANTRIX_HAS_FLOW_PROTECTION}>:-fcf-protection>)
   target_compile_options(vantrix_options INTERFACE "$<$<CONFIG:Release>:${hardening}>")
-  target_link_options(vantrix_options INTERFACE "$<$<CONFIG:Release>:-pie;-Wl,-z,relro,-z,now>")
+  target_link_options(vantrix_options INTERFACE "$<$<CONFIG:Release>:-fPIE;-pie;-Wl,-z,relro,-z,now>")
 endif()
 
 if(VANTRIX_SANITIZE)

@@ -34,4 +34,5 @@ while read -r picture; do
 done < <(sed -n 's|.*<image>https://[^/]*/\(.*\)</image>.*|\1|p' $files/*.metainfo.xml)
 
 version=$(sed -n 's/^project(vantrix VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
+head -n 1 debian/changelog | grep -qF "vantrix ($version)" || fail "debian/changelog is not of version $version"
 grep -qF "<release version=\"$version\"" $files/*.metainfo.xml || fail "the metainfo knows no version $version"
