@@ -1,7 +1,10 @@
 # Everything a person or a machine does with this tree. Each target installs what it lacks first.
 JOBS ?= $(shell nproc)
 
-.PHONY: run build package test test-asan test-tsan check check-quick check-darwin mac-report \
+# Where `make install` puts it.
+PREFIX ?= $(if $(filter 0,$(shell id -u)),/usr/local,$(HOME)/.local)
+
+.PHONY: run build install uninstall package test test-asan test-tsan check check-quick check-darwin mac-report \
 	check-debian hosts soak fuzz bench ground-truth format clean
 
 run: build
@@ -11,6 +14,13 @@ build:
 	scripts/setup.sh build
 	cmake --preset release
 	cmake --build --preset release -j $(JOBS)
+
+install: build
+	cmake --install build/release --prefix "$(PREFIX)" --strip
+
+# What the last `make install` of this tree put in place.
+uninstall:
+	scripts/uninstall.sh build/release
 
 # Debian's package and its debug symbols, into build/packages.
 package:
