@@ -4,8 +4,8 @@ JOBS ?= $(shell nproc)
 # Where `make install` puts it.
 PREFIX ?= $(if $(filter 0,$(shell id -u)),/usr/local,$(HOME)/.local)
 
-.PHONY: run build install uninstall package test test-asan test-tsan check check-quick check-darwin mac-report \
-	check-debian hosts soak fuzz bench ground-truth format clean
+.PHONY: run build install uninstall package test test-asan test-tsan check check-quick check-package check-darwin \
+	mac-report check-debian hosts soak fuzz bench ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -26,6 +26,11 @@ uninstall:
 package:
 	scripts/setup.sh build package
 	scripts/package.sh
+
+# Installs, upgrades and removes that package in fresh systems of Debian 12 and 13; as root.
+check-package:
+	scripts/setup.sh debian
+	scripts/check_package.sh
 
 test:
 	scripts/setup.sh build test

@@ -5,9 +5,6 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-[ "$(id -u)" -eq 0 ] || { echo "check-debian: has to be run by root" >&2; exit 1; }
-command -v debootstrap >/dev/null || { echo "check-debian: install debootstrap first" >&2; exit 1; }
-
 if [ $# -ne 1 ]; then
   failed=0
   [ $# -gt 0 ] || set -- bookworm trixie
@@ -23,19 +20,9 @@ if [ $# -ne 1 ]; then
 fi
 
 release=$1
-root=$PWD/build/debian/$release
+root=$(scripts/debian_root.sh "$release")
 tree=$root/root/vantrix
 
-# make is all that the two commands of the README take for granted.
-if [ ! -e "$root/prepared" ]; then
-  rm -rf "$root"
-  mkdir -p "$root"
-  debootstrap --variant=minbase --include=make "$release" "$root" >"$root.log" 2>&1 ||
-    { echo "check-debian: $release could not be set up, see $root.log" >&2; exit 1; }
-  touch "$root/prepared"
-fi
-
-cp /etc/resolv.conf "$root/etc/resolv.conf"
 rm -rf "$tree"
 mkdir "$tree"
 git ls-files -z | tar --create --null --files-from=- | tar --extract --directory="$tree"
