@@ -1,4 +1,4 @@
-#include <regex>
+#include <cctype>
 
 #include <QJsonDocument>
 
@@ -37,10 +37,18 @@ void change(const TemporaryFolder& machine, std::string_view input, int pass) {
     }
 }
 
+/// A number becomes null that is not finite.
+bool hasNullField(const std::string& json) {
+    constexpr std::string_view null = "\":null";
+    for (auto at = json.find(null); at != json.npos; at = json.find(null, at + 1))
+        if (at > 0 && std::isalpha(static_cast<unsigned char>(json[at - 1])) != 0)
+            return true; // no text that happens to hold it, whose quotation mark is escaped
+    return false;
+}
+
 void expectForScripts(const std::string& json) {
     EXPECT_TRUE(QJsonDocument::fromJson(QByteArray::fromStdString(json)).isObject()) << json;
-    static const std::regex nullField("[a-zA-Z]\":null"); // what a number becomes that is not finite
-    EXPECT_FALSE(std::regex_search(json, nullField)) << json;
+    EXPECT_FALSE(hasNullField(json)) << json;
 }
 
 /// The row, drawn and as text.

@@ -1,4 +1,4 @@
-#include <regex>
+#include <cctype>
 
 #include <malloc.h>
 
@@ -28,6 +28,21 @@ void unplugAndPlug(const fakes::FixtureMachine& machine, Samplers& samplers) {
     }
 }
 
+/// The text with `number` in the place of each of its own.
+std::string numbered(const std::string& text, const char* number) {
+    std::string other;
+    bool wasDigit = false;
+    for (const char letter : text) {
+        const bool isDigit = std::isdigit(static_cast<unsigned char>(letter)) != 0;
+        if (!isDigit)
+            other += letter;
+        else if (!wasDigit)
+            other += number;
+        wasDigit = isDigit;
+    }
+    return other;
+}
+
 std::ptrdiff_t openFiles() {
     return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
 }
@@ -42,7 +57,6 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
     } rows[] = {{"zram-in-use", 0},           {"laptop-hybrid-cores", 0},       {"zfs-host", 0},
                 {"programs-at-work", 0},      {"two-packs-and-accessories", 0}, {"gpu-asleep-beside-another", 0},
                 {"laptop-with-two-packs", 6}, {"laptop-with-everything", 35}};
-    const std::regex digits("[0-9]+");
     constexpr int allIsFound = 605; // devices are looked for every 600 passes, whatever happens
     for (const auto& row : rows) {
         const fakes::FixtureMachine machine(row.machine);
@@ -62,7 +76,7 @@ TEST(Garbage, NoFileMakesAReadingImplausible) {
             const std::string text = machine.read(file);
             std::vector<std::string> damages{"", text.substr(0, text.size() / 2), "\xff\xfe" + text + text};
             for (const char* number : {"nan", "-1", "18446744073709551615", "36028797018963967"})
-                damages.push_back(std::regex_replace(text, digits, number));
+                damages.push_back(numbered(text, number));
             for (const std::string& damaged : damages) {
                 machine.write(file, damaged);
                 fakes::plausiblePass(samplers);
