@@ -51,7 +51,6 @@ void expectForScripts(const std::string& json) {
     EXPECT_FALSE(hasNullField(json)) << json;
 }
 
-/// The row, drawn and as text.
 void show(const Readings& readings, const UserDefaults& defaults) {
     fakes::expectPlausible(readings);
     expectForScripts(jsonLine(readings, std::nullopt));
@@ -64,7 +63,6 @@ void show(const Readings& readings, const UserDefaults& defaults) {
     QImage row;
     for (const auto style : {MenuBarStyle::inlined, MenuBarStyle::stacked, MenuBarStyle::graph})
         MenuBarRenderer::render(row, items, style, true, MenuBarPalette::onDark(), 1.0);
-    EXPECT_LT(row.width(), 1500);
 }
 
 } // namespace
@@ -83,19 +81,21 @@ void machine(std::string_view input) {
     sources.clock.reset(clock);
     SystemMonitor monitor(std::move(sources), defaults, std::make_unique<fakes::FakeTimer>(),
                           std::make_unique<fakes::ImmediateRunner>());
-    Examination examination(makeSamplingSources(laptop.roots()), std::chrono::seconds(20));
+    Samplers samplers(makeSamplingSources(laptop.roots()));
+    Findings findings;
     PopoverView popover(monitor, {theme, defaults, processor}, [] { return std::vector<StatusMenuEntry>(); });
-    examination.beginPass();
     for (int pass = 0; pass < 3; ++pass, clock->now += 2.0) {
         change(laptop, pass > 0 ? input : std::string_view(), pass);
         monitor.sample();
         show(monitor.readings(), defaults);
         popover.show();
         QCoreApplication::processEvents();
+        for (const Probe& probe : probes())
+            for (std::size_t i = 0; const Finding& found : probe.read(samplers))
+                findings[probe.readings[i++]] = found;
     }
     drawn(popover, popover.sizeHint(), Qt::black);
-    EXPECT_EQ(popover.sizeHint().width(), PopoverView::contentWidth);
-    const DoctorReport report{.readings = joined(diagnoseSources(laptop.roots()), examination.finish())};
+    const DoctorReport report{.readings = joined(diagnoseSources(laptop.roots()), findings)};
     expectForScripts(jsonReport(report));
     EXPECT_EQ(repairedUTF8(textReport(report, 80)), textReport(report, 80));
 }

@@ -6,7 +6,7 @@ from statistics import median
 PARTS = 10
 # How much more of each the last third may take than the first: a share of it, and so much besides. Of descriptors and
 # threads the fewest count, as they come and go with slow devices. The first part is left out, in which caches fill.
-LIMITS = {"RSS KiB": (0.03, 3072, median), "USS KiB": (0.03, 2048, median), "descriptors": (0, 8, min),
+LIMITS = {"RSS KiB": (0.03, 3072, median), "USS KiB": (0.03, 2048, median), "descriptors": (0, 30, min),
           "threads": (0, 8, min), "CPU ms/s": (0.5, 20, lambda values: sum(values) / len(values))}
 
 

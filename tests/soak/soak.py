@@ -35,7 +35,11 @@ class Soak:
         try:
             for kind in self.kinds:
                 self._go_on(kind, number)
-            self._check(number)
+            if (status := self.world.process.poll()) is not None:
+                self.faults.append(f"ended with status {status}")
+            elif self.world.process not in self.world.stopped:
+                self.world.ask()
+                self.measure.take(time.monotonic())
         except (OSError, subprocess.SubprocessError) as silence:
             self.faults.append(f"no answer: {silence!r}")
         return not self.faults
@@ -51,25 +55,15 @@ class Soak:
                 next(going)
                 self.going[kind] = (number + self.world.random.randrange(1, LONGEST), going)
 
-    def _check(self, number):
-        if (status := self.world.process.poll()) is not None:
-            self.faults.append(f"ended with status {status}")
-        elif self.world.process not in self.world.stopped:
-            self.world.ask()
-            if number % 4 == 0:
-                self.measure.take(time.monotonic())
-
     def finish(self):
         for _, going in self.going.values():
             next(going, None)
         if not self.faults:
             self.faults += self.measure.growth()
             self.world.process.terminate()
-            try:
-                if status := self.world.process.wait(60):  # where leaks are looked for, that takes its time
-                    self.faults.append(f"ended with status {status} when asked to end")
-            except subprocess.TimeoutExpired:
-                self.faults.append("did not end")
+            soon(lambda: self.world.process.poll() is not None, 60)  # where leaks are looked for, that takes its time
+            if self.world.process.returncode != 0:
+                self.faults.append(f"ended with status {self.world.process.returncode} when asked to")
         told = self.world.log.read_text(errors="replace")
         self.faults += [line for line in told.splitlines() if any(word in line for word in WORDS)]
         print(f"== {self.world.log.parent.name}: {'; '.join(self.faults) or 'ok'}\n{self.measure.table()}")
@@ -97,6 +91,6 @@ if __name__ == "__main__":
         sys.exit(subprocess.call(OWN + sys.argv[1:]))
     from measure import Measure
     from troubles import KINDS, MACHINE
-    from world import THIS_MACHINE, Tree, World
+    from world import THIS_MACHINE, Tree, World, soon
 
     sys.exit(main())

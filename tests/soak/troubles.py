@@ -2,16 +2,16 @@
 
 import fcntl
 import os
+import shutil
 import signal
 import subprocess
-from contextlib import suppress
 from functools import partial
 
 import dbus
 
 from world import PATIENCE, SERVICES, SESSION, SYSTEM, copy, remove
 
-ITEM, MENU = "org.kde.StatusNotifierItem", "com.canonical.dbusmenu"
+ITEM, MENU, OBJECTS = "org.kde.StatusNotifierItem", "com.canonical.dbusmenu", "org.freedesktop.DBus.ObjectManager"
 
 
 def damaged(world, text):
@@ -64,10 +64,7 @@ def load(world):
 
 
 def fill_disk(_, path):
-    with open(path.parent.parent / "filler", "wb", buffering=0) as file:
-        with suppress(OSError):
-            while file.write(bytes(4096)):
-                pass
+    (path.parent.parent / "filler").write_bytes(bytes(shutil.disk_usage(path).free))
 
 
 def settings_change(world):
@@ -140,9 +137,9 @@ def accessory_changes(world):
     level = world.random.choice([dbus.Byte(world.random.randrange(256), variant_level=1), "full", dbus.Int64(-1)])
     device = {"org.bluez.Device1": dbus.Dictionary({"Address": path[-17:].replace("_", ":"), "Connected": True}, "sv"),
               "org.bluez.Battery1": dbus.Dictionary({"Percentage": level}, "sv")}
-    told = world.random.choice([("Added", "oa{sa{sv}}", [path, device]), ("Removed", "oas", [path, list(device)])])
-    world.call(SYSTEM, "org.bluez", "/", "org.freedesktop.DBus.Mock", "EmitSignal", "sssav",
-               "org.freedesktop.DBus.ObjectManager", "Interfaces" + told[0], *told[1:])
+    world.call(SYSTEM, "org.bluez", "/", "org.freedesktop.DBus.Mock", "EmitSignal", "sssav", OBJECTS,
+               *world.random.choice([("InterfacesAdded", "oa{sa{sv}}", [path, device]),
+                                     ("InterfacesRemoved", "oas", [path, list(device)])]))
 
 
 MACHINE = (load, machine_changes, machine_changes, device_comes)

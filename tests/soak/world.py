@@ -13,7 +13,7 @@ from types import SimpleNamespace
 import dbus
 
 sys.path.append(str(Path(__file__).parent.parent / "hosts"))
-from desktop import Desktop  # noqa: E402
+from desktop import Desktop, soon  # noqa: E402, F401
 from machine import lay  # noqa: E402
 from program import Program  # noqa: E402
 
@@ -87,12 +87,12 @@ class World(Program):
             return []
 
     def ask(self):
-        """Where the program says its item is."""
+        """Whether the program answers: where is its item?"""
         with socket.socket(socket.AF_UNIX, socket.SOCK_SEQPACKET) as channel:
             channel.settimeout(PATIENCE)
             channel.connect(str(next((self.desktop.folder / "run").glob("vantrix-*.socket"))))
             channel.send(b"tell-status-item")
-            return channel.recv(256).decode()
+            channel.recv(256)
 
 
 def copy(source, path):
