@@ -19,6 +19,7 @@ const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Propert
 const QString propertiesSignal = QStringLiteral("PropertiesChanged");
 const QString busName = QStringLiteral("org.freedesktop.DBus");
 const QString busPath = QStringLiteral("/org/freedesktop/DBus");
+const QString rootPath = QStringLiteral("/");
 
 constexpr int usualTimeout = -1;
 // Nobody would ask again, so the objects of a slow service may come at any time.
@@ -66,25 +67,25 @@ void BluezWatch::follow(const QString& owner) {
         return settle(Phase::absent);
     QDBusConnection& bus = *link_->bus();
     phase_ = Phase::loading;
-    // With the unique name as the sender, nobody else's signals arrive.
-    bus.connect(owner_, QString(), managerInterface, QStringLiteral("InterfacesAdded"), this,
+    // The sender is left out, or the toolkit would wait for the bus; the root keeps most others' signals away.
+    bus.connect(QString(), rootPath, managerInterface, QStringLiteral("InterfacesAdded"), this,
                 SLOT(interfacesAdded(QDBusMessage)));
-    bus.connect(owner_, QString(), managerInterface, QStringLiteral("InterfacesRemoved"), this,
+    bus.connect(QString(), rootPath, managerInterface, QStringLiteral("InterfacesRemoved"), this,
                 SLOT(interfacesRemoved(QDBusMessage)));
     for (const QString& interface : followedInterfaces())
-        bus.connect(owner_, QString(), propertiesInterface, propertiesSignal, {interface}, QString(), this,
+        bus.connect(QString(), QString(), propertiesInterface, propertiesSignal, {interface}, QString(), this,
                     SLOT(propertiesChanged(QDBusMessage)));
     load();
 }
 
 void BluezWatch::forgetOwner() {
     if (QDBusConnection* bus = link_->bus()) {
-        bus->disconnect(owner_, QString(), managerInterface, QStringLiteral("InterfacesAdded"), this,
+        bus->disconnect(QString(), rootPath, managerInterface, QStringLiteral("InterfacesAdded"), this,
                         SLOT(interfacesAdded(QDBusMessage)));
-        bus->disconnect(owner_, QString(), managerInterface, QStringLiteral("InterfacesRemoved"), this,
+        bus->disconnect(QString(), rootPath, managerInterface, QStringLiteral("InterfacesRemoved"), this,
                         SLOT(interfacesRemoved(QDBusMessage)));
         for (const QString& interface : followedInterfaces())
-            bus->disconnect(owner_, QString(), propertiesInterface, propertiesSignal, {interface}, QString(), this,
+            bus->disconnect(QString(), QString(), propertiesInterface, propertiesSignal, {interface}, QString(), this,
                             SLOT(propertiesChanged(QDBusMessage)));
     }
     for (const QString& path : QSet(followed_))
@@ -94,8 +95,8 @@ void BluezWatch::forgetOwner() {
 }
 
 void BluezWatch::load() {
-    const auto message = QDBusMessage::createMethodCall(owner_, QStringLiteral("/"), managerInterface,
-                                                        QStringLiteral("GetManagedObjects"));
+    const auto message =
+        QDBusMessage::createMethodCall(owner_, rootPath, managerInterface, QStringLiteral("GetManagedObjects"));
     call(message, noTimeout, [this, owner = owner_](const QDBusMessage& reply) {
         if (owner == owner_)
             takeObjects(reply);
@@ -154,9 +155,13 @@ void BluezWatch::announceState() {
         Q_EMIT stateChanged();
 }
 
+/// Others may send the same signals; and before the objects are loaded, the reply that brings them includes the change.
+bool BluezWatch::mayTell(const QDBusMessage& signal) const {
+    return phase_ == Phase::loaded && signal.service() == owner_;
+}
+
 void BluezWatch::interfacesAdded(const QDBusMessage& signal) {
-    // Before the objects are loaded, the reply that brings them includes this change.
-    if (phase_ != Phase::loaded || signal.signature() != u"oa{sa{sv}}")
+    if (!mayTell(signal) || signal.signature() != u"oa{sa{sv}}")
         return;
     const QString path = signal.arguments().constFirst().value<QDBusObjectPath>().path();
     if (!objects_.add(path, qdbus_cast<BluezObjects::Interfaces>(signal.arguments().constLast())))
@@ -166,7 +171,7 @@ void BluezWatch::interfacesAdded(const QDBusMessage& signal) {
 }
 
 void BluezWatch::interfacesRemoved(const QDBusMessage& signal) {
-    if (phase_ != Phase::loaded || signal.signature() != u"oas")
+    if (!mayTell(signal) || signal.signature() != u"oas")
         return;
     const QString path = signal.arguments().constFirst().value<QDBusObjectPath>().path();
     const QStringList interfaces = signal.arguments().constLast().toStringList();
@@ -179,7 +184,7 @@ void BluezWatch::interfacesRemoved(const QDBusMessage& signal) {
 }
 
 void BluezWatch::propertiesChanged(const QDBusMessage& signal) {
-    if (phase_ != Phase::loaded || signal.signature() != u"sa{sv}as")
+    if (!mayTell(signal) || signal.signature() != u"sa{sv}as")
         return;
     const QVariantList arguments = signal.arguments();
     if (!objects_.change(signal.path(), arguments[0].toString(), qdbus_cast<QVariantMap>(arguments[1]),
@@ -204,8 +209,8 @@ void BluezWatch::followCharacteristic(const QString& path) {
     if (owner_.isEmpty() || followed_.contains(path))
         return;
     followed_.insert(path);
-    link_->bus()->connect(owner_, path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic}, QString(),
-                          this, SLOT(propertiesChanged(QDBusMessage)));
+    link_->bus()->connect(QString(), path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic},
+                          QString(), this, SLOT(propertiesChanged(QDBusMessage)));
     const auto message =
         QDBusMessage::createMethodCall(owner_, path, bluez::gattCharacteristic, QStringLiteral("StartNotify"));
     call(message, usualTimeout, [this, path, owner = owner_](const QDBusMessage& reply) {
@@ -217,7 +222,7 @@ void BluezWatch::followCharacteristic(const QString& path) {
 void BluezWatch::unfollowCharacteristic(const QString& path) {
     QDBusConnection* bus = link_->bus();
     if (followed_.remove(path) && bus != nullptr)
-        bus->disconnect(owner_, path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic}, QString(),
+        bus->disconnect(QString(), path, propertiesInterface, propertiesSignal, {bluez::gattCharacteristic}, QString(),
                         this, SLOT(propertiesChanged(QDBusMessage)));
 }
 

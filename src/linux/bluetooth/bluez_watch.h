@@ -54,6 +54,7 @@ class BluezWatch : public QObject {
     void load();
     void takeObjects(const QDBusMessage& reply);
     void tryAgainLater();
+    bool mayTell(const QDBusMessage& signal) const;
     void settle(Phase phase);
     void announceState();
     void unfollowCharacteristic(const QString& path);

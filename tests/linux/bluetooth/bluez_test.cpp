@@ -153,6 +153,16 @@ TEST_F(BluezTest, SaysWhyThereIsNothing) {
     ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
 }
 
+TEST_F(BluezTest, ABusThatHangsHoldsNothingUp) {
+    read();
+    ASSERT_TRUE(saysSoon("unavailable, 0 with battery service | classic: "));
+    ASSERT_TRUE(bluez.appear()); // the bus has told everybody by now
+    bus.freeze();
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_FALSE(spinUntil([] { return false; }, std::chrono::milliseconds(100)));
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(5));
+}
+
 TEST_F(BluezTest, FollowsTheServiceThroughRestarts) {
     addAdapterAndMouse();
     read();
