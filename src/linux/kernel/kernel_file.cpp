@@ -4,6 +4,7 @@
 
 #include <fcntl.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include "linux/kernel/kernel_tree.h"
 #include "linux/kernel/reading_manner.h"
@@ -45,10 +46,13 @@ std::optional<std::string_view> KernelFile::readText() {
 }
 
 bool KernelFile::open() {
-    // Not blocking: a foreign root may hold anything, even a pipe that nobody writes to.
+    // Not blocking: a foreign root may hold anything, even a pipe that nobody writes to, or a device without an end.
     file_ = FileDescriptor(::open(placeOf(path_).c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK));
-    if (!file_)
+    struct stat status {};
+    if (!file_ || ::fstat(file_.get(), &status) != 0 || !S_ISREG(status.st_mode)) {
+        file_.close();
         return false;
+    }
     // The number is the lowest that was free, so it tells how many are open.
     rlimit limit{};
     mayStayOpen_ = ::getrlimit(RLIMIT_NOFILE, &limit) == 0 && static_cast<rlim_t>(file_.get()) < limit.rlim_cur / 2;

@@ -83,6 +83,7 @@ TEST(KernelFile, RefusesWhatIsNoKernelFile) {
     ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0600), 0);
     EXPECT_EQ(KernelFile(folder.path("pipe")).read(), std::nullopt);
     EXPECT_EQ(KernelFile(folder.path("")).read(), std::nullopt);
+    EXPECT_EQ(KernelFile("/dev/null").read(), std::nullopt);
     folder.write("endless", std::string(5 << 20, '\n'));
     KernelFile endless(folder.path("endless"));
     const auto memory = [] { return mallinfo2().uordblks + mallinfo2().hblkhd; }; // sanitizers do not tell
