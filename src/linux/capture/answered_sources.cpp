@@ -14,8 +14,8 @@ std::optional<DiskSampler::Volume> AnsweredVolume::read() {
                                answers_->integer<std::int64_t>("volume.available")};
 }
 
-AnsweredInformation::AnsweredInformation(std::shared_ptr<Answers> answers, std::unique_ptr<SystemInformation> files,
-                                         bool isLive)
+AnsweredInformation::AnsweredInformation(const std::shared_ptr<Answers>& answers,
+                                         std::unique_ptr<SystemInformation> files, bool isLive)
     : files_(std::move(files)) {
     if (isLive)
         answers->set("processors", std::to_string(files_->processorCount()));

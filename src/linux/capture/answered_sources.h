@@ -30,7 +30,7 @@ class AnsweredVolume : public DiskSampler::VolumeSource {
 class AnsweredInformation : public SystemInformation {
   public:
     /// What is read from files is asked of `files`, always.
-    AnsweredInformation(std::shared_ptr<Answers> answers, std::unique_ptr<SystemInformation> files, bool isLive);
+    AnsweredInformation(const std::shared_ptr<Answers>& answers, std::unique_ptr<SystemInformation> files, bool isLive);
     std::optional<std::int64_t> integer(std::string_view name) const override { return files_->integer(name); }
     std::optional<std::string> text(std::string_view name) const override { return files_->text(name); }
     int processorCount() const override { return count_; }

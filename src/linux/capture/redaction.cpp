@@ -137,7 +137,7 @@ Redaction::Redaction(const std::vector<std::string>& words) {
 std::string Redaction::network(const std::string& name) {
     if (name.empty())
         return name;
-    const std::string replacement = "network-" + std::to_string(numberOf(name));
+    std::string replacement = "network-" + std::to_string(numberOf(name));
     const std::string lowered = loweredASCII(name);
     const bool isKnown =
         std::any_of(words_.begin(), words_.end(), [&](const auto& word) { return word.first == lowered; });

@@ -73,6 +73,7 @@ std::vector<std::string> volumesIn(std::string_view mountinfo) {
             shortest = std::move(point);
     }
     std::vector<std::string> points;
+    points.reserve(pointOf.size());
     for (auto& [device, point] : pointOf)
         points.push_back(std::move(point));
     std::sort(points.begin(), points.end());

@@ -58,6 +58,9 @@ bool HostPanel::canLook() {
 }
 
 bool HostPanel::addReader(uint process) {
+    constexpr std::size_t mostProcesses = 64; // of which one has the panel
+    if (processes_.size() >= mostProcesses)
+        processes_.clear();
     if (process == 0 || !canLook() || !processes_.insert(process).second)
         return false;
     searches_ = 0;

@@ -175,12 +175,16 @@ void StatusNotifier::makeItems(QDBusConnection& bus) {
 
 /// Whoever reads the items may be the one that shows them.
 void StatusNotifier::noteReader(const QString& name) {
-    if (!HostPanel::canLook() || !readers_.insert(name).second)
+    constexpr std::size_t mostReaders = 64; // of whom one shows the items
+    if (readers_.size() >= mostReaders)
+        readers_.clear();
+    QDBusConnection* bus = link_->bus(); // none when it went after the question had come
+    if (!HostPanel::canLook() || bus == nullptr || !readers_.insert(name).second)
         return;
     auto question = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetConnectionUnixProcessID"));
-    auto* watcher = new QDBusPendingCallWatcher(link_->bus()->asyncCall(question << name), this);
+    auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(question << name), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
         done->deleteLater();
         const QDBusPendingReply<uint> process = *done;
