@@ -179,7 +179,7 @@ std::shared_ptr<void> SystemMonitor::watchPrograms() {
         return nullptr;
     if (auto watched = watch_.lock())
         return watched;
-    const std::shared_ptr<void> watch(static_cast<void*>(this), [monitor = QPointer<SystemMonitor>(this)](void*) {
+    std::shared_ptr<void> watch(static_cast<void*>(this), [monitor = QPointer<SystemMonitor>(this)](void*) {
         if (monitor)
             monitor->forgetProcesses();
     });
