@@ -11,6 +11,7 @@ namespace vantrix {
 /// One program: its icon, its name, what it takes of something, in words and as a thin bar. Empty until it is told of
 /// one, but as tall.
 class ProgramRow : public View {
+    Q_OBJECT
   public:
     explicit ProgramRow(const Theme& theme);
 
