@@ -106,6 +106,7 @@ typedef NS_OPTIONS(NSUInteger, NSEventModifierFlags) { NSEventModifierFlagContro
 @interface NSEvent : NSObject <NSCopying>
 @property(readonly) NSEventType type;
 @property(readonly) NSEventModifierFlags modifierFlags;
+@property(nullable, readonly, weak) NSWindow* window;
 @property(readonly) NSInteger eventNumber; // of mouse events alone
 @property(readonly) NSInteger buttonNumber;
 @property(readonly) NSPoint locationInWindow;
