@@ -18,15 +18,15 @@ dpkg-deb --root-owner-group --build "$work/older" "$work/old.deb" >/dev/null
 cat >"$work/try.sh" <<'TRY'
 set -euo pipefail
 export DEBIAN_FRONTEND=noninteractive
-list() { find / -xdev \( -path /work -o -path /proc -o -path /sys -o -path /dev -o -path /tmp -o -path /run \
+list() { find / -xdev \( -path /packages -o -path /proc -o -path /sys -o -path /dev -o -path /tmp -o -path /run \
   -o -path /var/log -o -path /var/cache -o -path /var/lib/apt -o -path '/var/lib/dpkg/*-old' \) -prune -o -print | sort; }
 apt-get update -qq
 # What the package depends on comes first: it is to stay.
-dpkg-deb --field /work/new.deb Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//' | xargs apt-get install -qq --no-install-recommends xvfb xauth >/dev/null
+dpkg-deb --field /packages/new.deb Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//' | xargs apt-get install -qq --no-install-recommends xvfb xauth >/dev/null
 list >/tmp/before
-dpkg --install /work/old.deb
-dpkg --install /work/new.deb
-[ "$(dpkg-query --show --showformat '${Version}' vantrix)" = "$(dpkg-deb --field /work/new.deb Version)" ]
+dpkg --install /packages/old.deb
+dpkg --install /packages/new.deb
+[ "$(dpkg-query --show --showformat '${Version}' vantrix)" = "$(dpkg-deb --field /packages/new.deb Version)" ]
 vantrix --print text --count 1
 # As the menu starts it, with a user's folders of its own.
 export XDG_CONFIG_HOME=/tmp/config XDG_STATE_HOME=/tmp/state XDG_RUNTIME_DIR=/tmp/runtime HOME=/tmp
@@ -50,14 +50,14 @@ for release; do
     mkdir /mnt/upper /mnt/work /mnt/root
     mount -t overlay -o "lowerdir=$1,upperdir=/mnt/upper,workdir=/mnt/work" overlay /mnt/root
     root=/mnt/root
-    mkdir -p "$root/work"
-    mount --bind "$2" "$root/work"
+    mkdir -p "$root/packages"
+    mount --bind "$2" "$root/packages"
     mount -t proc proc "$root/proc"
     mount --rbind /sys "$root/sys"
     mount --rbind /dev "$root/dev"
     mount -t tmpfs tmpfs "$root/tmp"
     mount -t tmpfs tmpfs "$root/run"
-    exec env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin chroot "$root" bash /work/try.sh </dev/null
+    exec env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin chroot "$root" bash /packages/try.sh </dev/null
   ' bash "$root" "$work" || { echo "check-package: $release FAILS" >&2; exit 1; }
   echo "check-package: $release passes"
 done

@@ -58,7 +58,7 @@ class ProcessSampler {
         virtual const std::vector<Application>& applications() const = 0;
         /// How many processors there were at the last `read`; at least 1.
         virtual int processors() const = 0;
-        /// Gives back what it remembers of processes, as nobody wants to know for now.
+        /// Gives back what it remembers of processes, as nobody wants to know any more.
         virtual void forget() = 0;
     };
 
