@@ -4,8 +4,6 @@
 #include <QFileInfo>
 
 #include "linux/settings/base_folders.h"
-#include "linux/settings/file_writing.h"
-#include "linux/settings/group_file.h"
 
 namespace vantrix {
 
@@ -17,12 +15,10 @@ QString widgetStorePath() {
 }
 
 LinuxWidgetCenter::LinuxWidgetCenter(const QString& path, std::shared_ptr<BusLink> link)
-    : path_(QFile::encodeName(path).toStdString()), link_(std::move(link)) {
-    removeStrays(path_);
-}
+    : file_(QFile::encodeName(path).toStdString()), link_(std::move(link)) {}
 
 void LinuxWidgetCenter::store(std::string_view key, std::string_view json) {
-    writeGroupFile(path_, key, json);
+    file_.write(key, json);
 }
 
 void LinuxWidgetCenter::reloadAllTimelines() {
@@ -31,7 +27,7 @@ void LinuxWidgetCenter::reloadAllTimelines() {
         return;
     auto signal = QDBusMessage::createSignal(QStringLiteral("/vantrix/WidgetCenter"),
                                              QStringLiteral("vantrix.WidgetCenter"), QStringLiteral("Reload"));
-    signal << QFile::decodeName(path_.c_str());
+    signal << QFile::decodeName(file_.path().c_str());
     bus->send(signal);
 }
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <memory>
-#include <string>
 
 #include "linux/services/bus_link.h"
+#include "linux/settings/group_file.h"
 #include "platform/widget_center.h"
 
 namespace vantrix {
@@ -21,7 +21,7 @@ class LinuxWidgetCenter final : public WidgetCenter {
     void reloadAllTimelines() override;
 
   private:
-    std::string path_;
+    GroupFile file_;
     std::shared_ptr<BusLink> link_;
 };
 

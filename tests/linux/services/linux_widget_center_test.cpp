@@ -32,16 +32,44 @@ struct LinuxWidgetCenterTest : settings_folder::FileDefaultsStoreTest {
 };
 
 TEST_F(LinuxWidgetCenterTest, ReplacesAPrivateFile) {
-    for (const char* json : {"{\"a\":1}", "2"}) {
-        center.store("sharedStats", json);
-        EXPECT_EQ(read(file), "{\"sharedStats\":" + QByteArray(json) + "}\n");
-        EXPECT_EQ(modeOf(file), 0600u);
-    }
+    const auto isRead = [&](const QByteArray& json) {
+        center.store("sharedStats", json.toStdString());
+        return modeOf(file) == 0600u && read(file).trimmed() == "{\"sharedStats\":" + json + "}";
+    };
+    for (const char* json : {"{\"a\":1}", "2", "[3]", "4"})
+        EXPECT_TRUE(isRead(json)) << json;
+    for (const int length : {1, 10'000, 1, 1})
+        EXPECT_TRUE(isRead('"' + QByteArray(length, 'a') + '"')) << length;
     EXPECT_EQ(modeOf(at("run/vantrix")), 0700u);
     QDir(at("run")).removeRecursively(); // as at the end of a session
-    center.store("sharedStats", "3");
-    EXPECT_EQ(read(file), "{\"sharedStats\":3}\n");
+    EXPECT_TRUE(isRead("5"));
     EXPECT_EQ(names(at("run/vantrix")), QStringList{u"defaults.json"_s});
+    EXPECT_TRUE(isRead("6"));
+    for (const QString& name : names(at("run/vantrix")))
+        if (name != u"defaults.json")
+            QFile::remove(at("run/vantrix/") + name);
+    EXPECT_TRUE(isRead("7"));
+}
+
+TEST_F(LinuxWidgetCenterTest, WritesTwoFilesInTurnButNoneThatIsStillRead) {
+    const auto shown = [&] {
+        struct stat status {};
+        return ::stat(QFile::encodeName(file).constData(), &status) == 0 ? status.st_ino : 0;
+    };
+    std::vector<ino_t> files;
+    for (const char* json : {"1", "2", "3", "4", "5"}) {
+        center.store("k", json);
+        files.push_back(shown());
+    }
+    EXPECT_EQ(files[2], files[0]);
+    EXPECT_EQ(files[3], files[1]);
+    EXPECT_EQ(files[4], files[0]);
+    QFile slow(file);
+    ASSERT_TRUE(slow.open(QFile::ReadOnly));
+    for (const char* json : {"6", "7", "8"})
+        center.store("k", json);
+    EXPECT_EQ(slow.readAll().trimmed(), "{\"k\":5}");
+    EXPECT_EQ(names(at("run/vantrix")).size(), 2);
 }
 
 TEST_F(LinuxWidgetCenterTest, ReadersNeverSeeAMixture) {
@@ -55,8 +83,8 @@ TEST_F(LinuxWidgetCenterTest, ReadersNeverSeeAMixture) {
     });
     int torn = 0;
     while (!done) {
-        const std::string seen = read(file).toStdString();
-        torn += seen != "{\"k\":" + values[0] + "}\n" && seen != "{\"k\":" + values[1] + "}\n";
+        const std::string seen = read(file).trimmed().toStdString();
+        torn += seen != "{\"k\":" + values[0] + "}" && seen != "{\"k\":" + values[1] + "}";
     }
     writer.join();
     EXPECT_EQ(torn, 0);
