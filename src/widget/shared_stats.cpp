@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QString>
 
+#include "support/json_text.h"
+
 namespace vantrix {
 namespace {
 
@@ -40,40 +42,45 @@ void visitFields(Accessory& accessory, Visit&& visit) {
     visit("symbol", accessory.symbol);
 }
 
-/// Turns records into JSON.
+/// Turns records into JSON. A field without a value is left out.
 class Writer {
   public:
     template<typename Record>
-    QJsonObject object(const Record& record) {
-        QJsonObject object;
-        visitFields(record, [&](const char* key, const auto& field) {
-            object.insert(QLatin1StringView(key), value(field)); // leaves an undefined value out
-        });
-        return object;
+    void object(const Record& record) {
+        json_.beginObject();
+        visitFields(record, [&](const char* key, const auto& field) { this->field(key, field); });
+        json_.endObject();
     }
 
+    const std::string& text() const { return json_.text(); }
     /// False once a number was none that JSON can express.
     bool wasFinite() const { return wasFinite_; }
 
   private:
-    QJsonValue value(bool field) { return field; }
-    QJsonValue value(int field) { return field; }
-    QJsonValue value(double field) {
-        wasFinite_ = wasFinite_ && std::isfinite(field);
-        return field;
-    }
-    QJsonValue value(const std::string& field) { return QString::fromStdString(field); }
     template<typename T>
-    QJsonValue value(const std::optional<T>& field) {
-        return field ? value(*field) : QJsonValue(QJsonValue::Undefined);
+    void field(const char* key, const T& value) {
+        json_.key(key);
+        json_.value(value);
     }
-    QJsonValue value(const std::vector<AccessoryBattery>& field) {
-        QJsonArray array;
-        for (const AccessoryBattery& accessory : field)
-            array.append(object(accessory));
-        return array;
+    void field(const char* key, double value) {
+        wasFinite_ = wasFinite_ && std::isfinite(value);
+        json_.key(key);
+        json_.value(value);
+    }
+    template<typename T>
+    void field(const char* key, const std::optional<T>& value) {
+        if (value)
+            field(key, *value);
+    }
+    void field(const char* key, const std::vector<AccessoryBattery>& accessories) {
+        json_.key(key);
+        json_.beginArray();
+        for (const AccessoryBattery& accessory : accessories)
+            object(accessory);
+        json_.endArray();
     }
 
+    JsonText json_;
     bool wasFinite_ = true;
 };
 
@@ -121,10 +128,8 @@ struct Reader {
 
 std::optional<std::string> encode(const SharedStats& stats) {
     Writer writer;
-    const QJsonObject object = writer.object(stats);
-    if (!writer.wasFinite())
-        return std::nullopt;
-    return QJsonDocument(object).toJson(QJsonDocument::Compact).toStdString();
+    writer.object(stats);
+    return writer.wasFinite() ? std::optional(writer.text()) : std::nullopt;
 }
 
 std::optional<SharedStats> decodeSharedStats(std::string_view json) {
