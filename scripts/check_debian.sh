@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Does what a person does who has just cloned this tree, on a Debian 12 and a Debian 13 with nothing on them: builds and
-# runs the program, then its tests. Needs root and debootstrap. The systems stay in build/debian with the packages and
-# the compiler cache that the first run brought; the tree goes in anew each time. Usage: check_debian.sh [RELEASE…]
+# runs the program, then its tests, then makes the package, which comes back into build/packages-RELEASE. Needs root and
+# debootstrap. The systems stay in build/debian with the packages and the compiler cache that the first run brought; the
+# tree goes in anew each time. Usage: check_debian.sh [RELEASE…]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -36,5 +37,8 @@ unshare --mount --pid --fork --kill-child -- bash -euc '
   mount -t tmpfs tmpfs "$1/tmp"
   mount -t tmpfs tmpfs "$1/run"
   exec env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin chroot "$1" \
-    bash -euc "cd /root/vantrix; make run ARGS=\"--print text --count 1\"; make test" </dev/null
+    bash -euc "cd /root/vantrix; make run ARGS=\"--print text --count 1\"; make test
+      scripts/setup.sh package; git init --quiet; git add --all; make package" </dev/null
 ' bash "$root"
+rm -rf "build/packages-$release"
+cp -r "$tree/build/packages" "build/packages-$release"

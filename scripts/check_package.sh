@@ -1,20 +1,27 @@
 #!/usr/bin/env bash
-# Installs, upgrades, starts and removes the package of build/packages in fresh systems of Debian, and tells what it
-# leaves behind. Needs root and debootstrap. The systems stay in build/debian; what happens in them does not.
+# Installs, upgrades, starts and removes the package of build/packages, or the release's own of build/packages-RELEASE,
+# in fresh systems of Debian, and tells what it leaves behind. Needs root and debootstrap. The systems stay in
+# build/debian; what happens in them does not.
 # Usage: check_package.sh [RELEASE…]
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-package=$(ls build/packages/vantrix_*.deb)
 [ $# -gt 0 ] || set -- bookworm trixie
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
-cp "$package" "$work/new.deb"
-# The same as an older version, so that there is something to upgrade.
-dpkg-deb --raw-extract "$package" "$work/older"
-sed -i 's/^Version: .*/&~older/' "$work/older/DEBIAN/control"
-dpkg-deb --root-owner-group --build "$work/older" "$work/old.deb" >/dev/null
+
+take_package() {
+  local folder=build/packages-$1
+  [ -d "$folder" ] || folder=build/packages
+  cp "$folder"/vantrix_*.deb "$work/new.deb"
+  # The same as an older version, so that there is something to upgrade.
+  rm -rf "$work/older"
+  dpkg-deb --raw-extract "$work/new.deb" "$work/older"
+  sed -i 's/^Version: .*/&~older/' "$work/older/DEBIAN/control"
+  dpkg-deb --root-owner-group --build "$work/older" "$work/old.deb" >/dev/null
+}
+
 cat >"$work/try.sh" <<'TRY'
 set -euo pipefail
 export DEBIAN_FRONTEND=noninteractive
@@ -43,6 +50,7 @@ TRY
 
 for release; do
   root=$(scripts/debian_root.sh "$release")
+  take_package "$release"
   # Mounts and processes of its own; what is written goes into memory.
   # shellcheck disable=SC2016 # expands in the shell that it is handed to
   unshare --mount --pid --fork --kill-child -- bash -euc '
