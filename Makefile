@@ -4,8 +4,8 @@ JOBS ?= $(shell nproc)
 # Where `make install` puts it.
 PREFIX ?= $(if $(filter 0,$(shell id -u)),/usr/local,$(HOME)/.local)
 
-.PHONY: run build install uninstall package test test-asan test-tsan check check-quick check-package check-darwin \
-	mac-report check-debian hosts soak fuzz bench ground-truth format clean
+.PHONY: run build install uninstall package test test-asan test-tsan check check-quick check-budgets check-package \
+	check-darwin mac-report check-debian hosts soak fuzz bench bench-peers ground-truth format clean
 
 run: build
 	./build/release/vantrix $(ARGS)
@@ -51,7 +51,7 @@ test-tsan:
 	cmake --build --preset tsan -j $(JOBS)
 	setarch -R build/tsan/tests/core_tests --gtest_brief=1
 
-check: check-quick
+check: check-quick check-budgets
 	scripts/setup.sh test
 	scripts/static_analysis.sh
 
@@ -62,6 +62,13 @@ check-quick:
 	scripts/check_linux_files.sh
 	scripts/check_test_share.sh
 	scripts/check_macos_types.sh
+
+# Counts what the program's work costs, which a busy machine does not change.
+check-budgets:
+	scripts/setup.sh build bench budgets
+	cmake --preset bench
+	cmake --build --preset bench -j $(JOBS) --target vantrix budget_work idle_bench
+	scripts/check_budgets.py build/bench
 
 # Optional: fetches a cross compiler.
 check-darwin:
@@ -101,6 +108,13 @@ bench:
 	cmake --preset bench
 	cmake --build --preset bench -j $(JOBS)
 	bench/run.sh build/bench
+
+# Programs of its kind in the same minute. Optional: brings them; wants a quiet machine.
+bench-peers:
+	scripts/setup.sh build test bench peers
+	cmake --preset bench
+	cmake --build --preset bench -j $(JOBS)
+	bench/peers.py build/bench
 
 # Wants a quiet machine, and for the network root.
 ground-truth: build

@@ -1,15 +1,17 @@
 #!/usr/bin/env bash
 # Installs the packages that the named groups of work need and this machine lacks.
-# Groups: build test check package fuzz bench truth debian soak hosts.
+# Groups: build test check package fuzz bench budgets peers truth debian soak hosts.
 set -euo pipefail
 
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache pkg-config qt6-base-dev qt6-svg-dev qt6-l10n-tools libxcb1-dev libnl-genl-3-dev"
   [test]="libgtest-dev libgmock-dev dbus xvfb xauth fonts-dejavu-core"
   [check]="clang clang-format clang-tidy git desktop-file-utils appstream mandoc zsh fish"
-  [package]="debhelper dpkg-dev fakeroot git lintian blhc"
+  [package]="build-essential debhelper dpkg-dev fakeroot git lintian blhc"
   [fuzz]="clang libclang-rt-dev libgtest-dev"
   [bench]="libbenchmark-dev libgtop2-dev libproc2-dev dbus xvfb xauth"
+  [budgets]="valgrind strace python3 dbus xvfb xauth fonts-dejavu-core"
+  [peers]="conky-std gkrellm btop sway waybar trayer python3"
   [truth]="stress-ng iproute2 python3"
   [debian]="debootstrap git"
   [soak]="xvfb dbus trayer python3-xlib python3-pil python3-dbus python3-dbusmock fonts-dejavu-core"
