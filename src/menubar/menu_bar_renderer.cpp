@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <utility>
 
+#include <QGuiApplication>
 #include <QPainter>
 
 #include "menubar/history_graph.h"
@@ -32,9 +35,12 @@ struct Fonts {
     MonospacedFont label{labelSize, QFont::DemiBold};
 };
 
+/// Of the desktop's font, which may change. Stays valid until it does.
 const Fonts& fonts() {
-    static const Fonts shared;
-    return shared;
+    static std::pair<QFont, std::unique_ptr<const Fonts>> shared;
+    if (const QFont font = QGuiApplication::font(); !shared.second || shared.first != font)
+        shared = {font, std::make_unique<const Fonts>()};
+    return *shared.second;
 }
 
 const std::string& lineOf(const MenuBarItem& item, std::size_t index) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include <QFontDatabase>
+#include <QGuiApplication>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
@@ -34,7 +34,7 @@ void append(MonospacedFont::Line& line, const MonospacedFont::Line& part, double
 } // namespace
 
 MonospacedFont::MonospacedFont(double size, QFont::Weight weight)
-    : MonospacedFont(QFontDatabase::systemFont(QFontDatabase::GeneralFont), size, weight) {}
+    : MonospacedFont(QGuiApplication::font(), size, weight) {}
 
 MonospacedFont::MonospacedFont(const QFont& base, double size, QFont::Weight weight) : font_(base) {
     font_.setPixelSize(static_cast<int>(std::lround(size * magnification)));

@@ -1,12 +1,13 @@
 #include "linux/services/desktop_appearance.h"
 
+#include <QApplication>
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QEvent>
-#include <QGuiApplication>
+#include <QIcon>
 #include <QPalette>
 
 namespace vantrix {
@@ -15,14 +16,15 @@ namespace {
 
 const QString portalName = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString kdeGroups = QStringLiteral("org.kde.kdeglobals.");
 const QString settingsInterface = QStringLiteral("org.freedesktop.portal.Settings");
 
-Appearance appearanceAfter(const DesktopWishes& wishes) {
-    const QColor window = QGuiApplication::palette().color(QPalette::Window);
+Appearance appearanceAfter(const DesktopWishes& wishes, const DesktopSettings& settings) {
+    const QColor window = settings.window.value_or(QGuiApplication::palette().color(QPalette::Window));
     // Only a highlight colour that a theme has set: the toolkit's default says nothing about the user.
     const QPalette palette = QGuiApplication::palette();
     const bool themed = palette.isBrushSet(QPalette::Active, QPalette::Highlight);
-    const auto highlight = themed ? std::optional(palette.color(QPalette::Highlight)) : std::nullopt;
+    const auto highlight = themed ? std::optional(palette.color(QPalette::Highlight)) : settings.highlight;
     return {.dark = wishes.dark().value_or(window.lightness() < 128),
             .accent = wishes.accent() ? wishes.accent() : highlight,
             .reducesMotion = wishes.reducesMotion(),
@@ -32,8 +34,12 @@ Appearance appearanceAfter(const DesktopWishes& wishes) {
 } // namespace
 
 DesktopAppearance::DesktopAppearance(std::shared_ptr<BusLink> link)
-    : link_(std::move(link)), appearance_(appearanceAfter(wishes_)) {
+    : link_(std::move(link)), appearance_(appearanceAfter(wishes_, settings_)) {
     qGuiApp->installEventFilter(this);
+    connect(&files_, &QFileSystemWatcher::fileChanged, this, &DesktopAppearance::readFiles);
+    if (!settings_.files.isEmpty())
+        files_.addPaths(settings_.files);
+    equipToolkit();
     link_->whenConnected(this, [this](QDBusConnection& bus) { takeBus(bus); });
 }
 
@@ -64,7 +70,11 @@ void DesktopAppearance::settingChanged(const QDBusMessage& signal) {
     if (signal.signature() != u"ssv")
         return;
     const QVariantList arguments = signal.arguments();
-    wishes_.take(arguments[0].toString(), arguments[1].toString(), arguments[2]);
+    const QString group = arguments[0].toString();
+    wishes_.take(group, arguments[1].toString(), arguments[2]);
+    if (group.startsWith(kdeGroups)) // of a file that may not have been there before
+        return readFiles();
+    equipToolkit();
     announce();
 }
 
@@ -91,11 +101,36 @@ void DesktopAppearance::takeSettings(const QDBusMessage& reply) {
     for (auto group = groups.begin(); group != groups.end(); ++group)
         for (auto setting = group->begin(); setting != group->end(); ++setting)
             wishes_.take(group.key(), setting.key(), setting.value());
+    equipToolkit();
     announce();
 }
 
+/// A file that was replaced is watched no more until it is added again.
+void DesktopAppearance::readFiles() {
+    settings_ = DesktopSettings::read();
+    if (!settings_.files.isEmpty())
+        files_.addPaths(settings_.files);
+    equipToolkit();
+    announce();
+}
+
+void DesktopAppearance::equipToolkit() {
+    const bool gnome = followsGnomeSettings();
+    const bool onWayland = QGuiApplication::platformName().startsWith(u"wayland");
+    const auto font = gnome ? wishes_.gnomeFont(onWayland) : settings_.font;
+    if (font && QGuiApplication::font() != *font) {
+        QApplication::setFont(*font);
+        Q_EMIT changed(); // for what is drawn in it elsewhere than in windows
+    }
+    const QString icons = gnome ? wishes_.gnomeIcons() : settings_.iconTheme;
+    if (!icons.isEmpty() && QIcon::themeName() != icons)
+        QIcon::setThemeName(icons);
+    if (settings_.dragDistance)
+        QApplication::setStartDragDistance(*settings_.dragDistance);
+}
+
 void DesktopAppearance::announce() {
-    const Appearance now = appearanceAfter(wishes_);
+    const Appearance now = appearanceAfter(wishes_, settings_);
     if (now == appearance_)
         return;
     appearance_ = now;

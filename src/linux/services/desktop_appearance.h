@@ -3,15 +3,18 @@
 #include <memory>
 
 #include <QDBusMessage>
+#include <QFileSystemWatcher>
 
 #include "linux/services/bus_link.h"
+#include "linux/services/desktop_settings.h"
 #include "linux/services/desktop_wishes.h"
 #include "platform/appearance.h"
 
 namespace vantrix {
 
 /// The appearance that org.freedesktop.portal.Settings reports; while nobody answers there, or there is no preference,
-/// that of the application's palette. Never waits, and never starts the portal.
+/// that of the desktop's files, else of the application's palette. Never waits, and never starts the portal. Gives the
+/// toolkit the desktop's font and icons, as the toolkit's own plug-ins for desktops stay out.
 class DesktopAppearance : public AppearanceSource {
     Q_OBJECT
   public:
@@ -30,10 +33,14 @@ class DesktopAppearance : public AppearanceSource {
     void takeBus(QDBusConnection& bus);
     void readSettings();
     void takeSettings(const QDBusMessage& reply);
+    void readFiles();
+    void equipToolkit();
     void announce();
 
     std::shared_ptr<BusLink> link_;
     DesktopWishes wishes_;
+    DesktopSettings settings_ = DesktopSettings::read();
+    QFileSystemWatcher files_;
     Appearance appearance_;
 };
 

@@ -6,6 +6,8 @@
 #include <QDBusArgument>
 #include <QDBusVariant>
 
+#include "linux/services/desktop_settings.h"
+
 namespace vantrix {
 namespace {
 
@@ -80,8 +82,21 @@ void DesktopWishes::take(const QString& group, const QString& key, const QVarian
         gnomeContrast_ = exactly<bool>(value);
     else if (group == gnomeGroup && key == u"enable-animations")
         gnomeAnimations_ = exactly<bool>(value);
+    else if (group == gnomeGroup && key == u"font-name")
+        gnomeFont_ = vantrix::gnomeFont(exactly<QString>(value).value_or(QString()));
+    else if (group == gnomeGroup && key == u"text-scaling-factor")
+        gnomeTextScale_ = factorOf(value);
+    else if (group == gnomeGroup && key == u"icon-theme")
+        gnomeIcons_ = exactly<QString>(value).value_or(QString());
     else if (group == kdeGroup && key == u"AnimationDurationFactor")
         kdeDurationFactor_ = factorOf(value);
+}
+
+std::optional<QFont> DesktopWishes::gnomeFont(bool onWayland) const {
+    std::optional<QFont> font = gnomeFont_;
+    if (font && onWayland)
+        font->setPointSizeF(font->pointSizeF() * std::clamp(gnomeTextScale_.value_or(1.0), 0.5, 3.0));
+    return font;
 }
 
 bool DesktopWishes::reducesMotion() const {

@@ -3,6 +3,7 @@
 #include <optional>
 
 #include <QColor>
+#include <QFont>
 #include <QStringList>
 #include <QVariant>
 
@@ -24,6 +25,10 @@ class DesktopWishes {
     std::optional<QColor> accent() const { return accent_; }
     /// From the setting that all desktops share, else from GNOME's, else from KDE's.
     bool reducesMotion() const;
+    /// GNOME's font-name, on Wayland enlarged by text-scaling-factor; the X server's resolution has that in it.
+    std::optional<QFont> gnomeFont(bool onWayland) const;
+    /// GNOME's icon-theme; empty where it is not told.
+    QString gnomeIcons() const { return gnomeIcons_; }
     /// contrast, else GNOME's older setting.
     bool highContrast() const { return contrast_.value_or(gnomeContrast_.value_or(false)); }
 
@@ -34,6 +39,9 @@ class DesktopWishes {
     std::optional<bool> contrast_;
     std::optional<bool> gnomeContrast_;
     std::optional<bool> gnomeAnimations_;
+    std::optional<QFont> gnomeFont_;
+    std::optional<double> gnomeTextScale_;
+    QString gnomeIcons_;
     std::optional<double> kdeDurationFactor_;
 };
 

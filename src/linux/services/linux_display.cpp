@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <string_view>
 
+#include <QGuiApplication>
 #include <QLibraryInfo>
 
 #include "linux/layer_shell/layer_shell.h"
@@ -64,9 +65,20 @@ bool waylandIsUsable() {
     return false;
 }
 
+/// All that is seen is painted by the program itself: neither a desktop's plug-ins, which bring a hundred libraries,
+/// nor a GL context are of use. Some of it is read when first needed, so it stays; this program starts no other.
+void keepDesktopFromToolkit() {
+    QGuiApplication::setDesktopSettingsAware(false); // no platform theme by the desktop's name
+    qunsetenv("QT_QPA_PLATFORMTHEME");
+    qunsetenv("QT_STYLE_OVERRIDE");
+    qputenv("QT_XCB_GL_INTEGRATION", "none");
+    qputenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
+}
+
 } // namespace
 
 std::shared_ptr<void> prepareDisplay(int argc, char** argv) {
+    keepDesktopFromToolkit();
     keepSilentBusFromToolkit(patienceWithBus);
     const auto nothingToKeep = std::make_shared<bool>(true);
     if (userChosePlatform(argc, argv))

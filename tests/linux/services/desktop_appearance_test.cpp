@@ -2,10 +2,11 @@
 
 #include <limits>
 
+#include <QApplication>
 #include <QDBusConnectionInterface>
-#include <QGuiApplication>
 #include <QPalette>
 
+#include "linux/desktop_folders.h"
 #include "linux/services/desktop_wishes.h"
 #include "linux/services/fake_portal.h"
 #include "linux/services/private_bus.h"
@@ -48,6 +49,7 @@ struct DesktopAppearanceTest : testing::Test {
         ASSERT_TRUE(spinUntil([&] { return source->appearance().reducesMotion != reduces; }));
     }
 
+    DesktopFolders nothing; // of the desktop that the test runs on
     PrivateBus bus;
     std::unique_ptr<DesktopAppearance> source;
     int changes = 0;
@@ -114,6 +116,78 @@ TEST_F(DesktopAppearanceTest, TakesAccentsThatAreColours) {
         portal.change(common, u"accent-color"_s, accent);
         EXPECT_TRUE(becomes({.dark = true}));
     }
+}
+
+TEST(DesktopSettings, AreThoseOfTheDesktopThatRuns) {
+    const QFont serif(u"DejaVu Serif"_s, 12);
+    const QFont plasmas(u"Noto Sans"_s, 10);
+    const QColor breeze(61, 174, 233);
+    const std::string dark =
+        "[Colors:Window]\nBackgroundNormal=42,46,50\n[Colors:Selection]\nBackgroundNormal=200,60,30\n";
+    const std::string font = "font=DejaVu Serif,12,-1,5,50,0,0,0,0,0\n";
+    const struct {
+        const char* name;
+        QByteArray desktop;
+        std::map<std::string, std::string> files;
+        DesktopSettings expected;
+    } cases[] = {
+        {"a fresh Plasma", "KDE", {}, {.font = plasmas, .highlight = breeze, .iconTheme = u"breeze"_s}},
+        {"a Plasma of somebody's own",
+         "KDE",
+         {{"own/kdeglobals", "[General]\n" + font + "[Icons]\nTheme=papirus\n[KDE]\nStartDragDist=9\n" + dark}},
+         {serif, QColor(42, 46, 50), QColor(200, 60, 30), u"papirus"_s, 9}},
+        {"colours by name only, in what the session takes by default",
+         "KDE",
+         {{"session/kdeglobals", "[General]\nColorScheme=Twilight\n"}, {"data/color-schemes/Twilight.colors", dark}},
+         {plasmas, QColor(42, 46, 50), QColor(200, 60, 30), u"breeze"_s}},
+        {"LXQt",
+         "X:LXQt",
+         {{"own/lxqt/lxqt.conf", "[General]\nicon_theme=papirus\n[Qt]\n" + font + "[Palette]\nwindow_color=#202020\n"}},
+         {.font = serif, .window = QColor(32, 32, 32), .iconTheme = u"papirus"_s}},
+        {"another desktop", "XFCE", {{"own/kdeglobals", dark}}, {}},
+    };
+    for (const auto& c : cases) {
+        const DesktopFolders folders(c.desktop);
+        for (const auto& [file, text] : c.files)
+            folders.write(file, text);
+        DesktopSettings settings = DesktopSettings::read();
+        settings.files.clear();
+        EXPECT_EQ(settings, c.expected) << c.name;
+    }
+}
+
+TEST(DesktopWishes, TakeGnomesFont) {
+    DesktopWishes wishes;
+    for (const auto& [told, family] :
+         {std::pair(u"Cantarell 11"_s, u"Cantarell"_s), {u"Noto Sans Semi-Bold Italic 11"_s, u"Noto Sans"_s}}) {
+        wishes.take(gnome, u"font-name"_s, told);
+        EXPECT_EQ(wishes.gnomeFont(false), QFont(family, 11));
+    }
+    wishes.take(gnome, u"text-scaling-factor"_s, 2.0);
+    EXPECT_EQ(wishes.gnomeFont(false)->pointSizeF(), 11.0) << "X11 has it in its resolution";
+    EXPECT_EQ(wishes.gnomeFont(true)->pointSizeF(), 22.0);
+    for (const QString& nonsense : {u""_s, u"11"_s, u"Bold 11"_s, u"Cantarell"_s}) {
+        wishes.take(gnome, u"font-name"_s, nonsense);
+        EXPECT_FALSE(wishes.gnomeFont(true)) << qPrintable(nonsense);
+    }
+}
+
+TEST_F(DesktopAppearanceTest, GivesTheToolkitTheDesktopsFontAndFollowsItsFile) {
+    const QFont usual = QGuiApplication::font();
+    const DesktopFolders folders("KDE");
+    const auto put = [&](const std::string& points) { // the way a desktop replaces its file
+        folders.write("own/new", "[General]\nfont=DejaVu Serif," + points + ",-1,5,50,0,0,0,0,0\n");
+        std::filesystem::rename(folders.path("own/new"), folders.path("own/kdeglobals"));
+    };
+    put("12");
+    start();
+    for (const int points : {13, 14}) {
+        EXPECT_EQ(QGuiApplication::font(), QFont(u"DejaVu Serif"_s, points - 1));
+        EXPECT_EQ(source->appearance().accent, QColor(61, 174, 233));
+        put(std::to_string(points));
+        EXPECT_TRUE(spinUntil([&] { return QGuiApplication::font().pointSize() == points; }));
+    }
+    QApplication::setFont(usual);
 }
 
 TEST_F(DesktopAppearanceTest, FollowsAPortalThatComesAndGoes) {

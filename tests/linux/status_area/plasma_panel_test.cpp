@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "linux/temporary_folder.h"
+#include "linux/desktop_folders.h"
 
 namespace vantrix {
 namespace {
@@ -29,21 +29,12 @@ TEST(PlasmaPanel, HasTheColourOfItsThemeOrElseOfTheScheme) {
          lightGround},
         {"no colour", {{"own/kdeglobals", "[Colors:Window]\nBackgroundNormal=dark\n"}}, std::nullopt},
     };
-    constexpr const char* variables[] = {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_HOME"};
     for (const auto& c : cases) {
-        const TemporaryFolder folder;
+        const DesktopFolders folder;
         folder.write("data/plasma/desktoptheme/breeze-dark/colors", dark);
         for (const auto& [file, text] : c.files)
             folder.write(file, text);
-        std::vector<QByteArray> usual;
-        for (const auto& [variable, place] :
-             {std::pair(variables[0], "own"), {variables[1], "session"}, {variables[2], "data"}}) {
-            usual.push_back(qgetenv(variable));
-            qputenv(variable, QByteArray::fromStdString(folder.path(place)));
-        }
         EXPECT_EQ(plasmaPanelColor(), c.expected) << c.name;
-        for (std::size_t i = 0; i < usual.size(); ++i)
-            usual[i].isNull() ? qunsetenv(variables[i]) : qputenv(variables[i], usual[i]);
     }
 }
 
