@@ -1,5 +1,7 @@
 #include "app/app_delegate.h"
 
+#include <utility>
+
 #include <QClipboard>
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -35,10 +37,10 @@ QPoint menuPlace(const QSize& size, const QRect& anchor) {
 AppDelegate::AppDelegate(Parts parts, UserDefaults& defaults)
     : defaults_(defaults), makeStatusItem_(std::move(parts.makeStatusItem)), loginItem_(std::move(parts.loginItem)),
       notifications_(std::move(parts.notifications)), widgets_(std::move(parts.widgets)),
-      alerts_(*notifications_, defaults), widgetBridge_(widgets_.get(), defaults),
-      information_(std::move(parts.sources.information)), processor_(*information_),
-      monitor_(std::move(parts.sources), defaults, std::move(parts.timer), std::make_unique<ThreadTaskRunner>(),
-               std::move(parts.bluetooth)),
+      onlookers_(std::move(parts.onlookers)), alerts_(*notifications_, defaults),
+      widgetBridge_(widgets_.get(), defaults), information_(std::move(parts.sources.information)),
+      processor_(*information_), monitor_(std::move(parts.sources), defaults, std::move(parts.timer),
+                                          std::make_unique<ThreadTaskRunner>(), std::move(parts.bluetooth)),
       theme_(parts.appearance),
       popover_(parts.makePopover(
           theme_,
@@ -71,6 +73,10 @@ void AppDelegate::applicationDidFinishLaunching() {
     connect(&theme_, &Theme::changed, this, [this] { QToolTip::setPalette(theme_.palette()); });
     monitor_.start();
     refreshStatusItem();
+    if (!onlookers_)
+        return;
+    connect(onlookers_.get(), &Onlookers::changed, this, &AppDelegate::onlookersDidChange);
+    onlookersDidChange();
 }
 
 void AppDelegate::createStatusItem() {
@@ -95,6 +101,24 @@ void AppDelegate::observeDefaults() {
 void AppDelegate::monitorDidUpdate() {
     refreshStatusItem();
     alerts_.evaluate(monitor_.readings());
+    if (somebodyLooks_)
+        widgetBridge_.update(monitor_.readings());
+}
+
+void AppDelegate::onlookersDidChange() {
+    if (onlookers_->somebodyLooks())
+        return meetOnlooker();
+    popover_->close();
+    somebodyLooks_ = false;
+    settings_.setDrawn(false);
+}
+
+/// Shows the last pass, which may be news. Somebody who clicks looks, whatever the system says.
+void AppDelegate::meetOnlooker() {
+    if (std::exchange(somebodyLooks_, true))
+        return;
+    settings_.setDrawn(true);
+    refreshStatusItem();
     widgetBridge_.update(monitor_.readings());
 }
 
@@ -103,7 +127,7 @@ std::vector<MenuBarItem> AppDelegate::shownItems() const {
 }
 
 void AppDelegate::refreshStatusItem() {
-    if (!statusItem_)
+    if (!statusItem_ || !somebodyLooks_)
         return;
     StatusContent content;
     content.items = shownItems();
@@ -114,6 +138,7 @@ void AppDelegate::refreshStatusItem() {
 }
 
 void AppDelegate::statusItemClicked(const StatusClick& click) {
+    meetOnlooker();
     if (click.button == StatusClick::Button::middle)
         copyRow();
     else if (click.button == StatusClick::Button::right || click.control)
@@ -163,6 +188,7 @@ void AppDelegate::togglePopover(std::optional<MenuBarModule> module) {
 }
 
 void AppDelegate::showPopover() {
+    meetOnlooker();
     if (statusItem_ && !popover_->isShown())
         popover_->show(*statusItem_);
 }
@@ -187,6 +213,7 @@ void AppDelegate::showSettings(std::string_view tab) {
     if (!named && !tab.empty())
         return;
     popover_->close();
+    meetOnlooker();
     activateProgram();
     if (named)
         settings_.show(*named);

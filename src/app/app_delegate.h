@@ -11,6 +11,7 @@
 #include "monitor/system_monitor.h"
 #include "platform/login_item.h"
 #include "platform/notification_center.h"
+#include "platform/onlookers.h"
 #include "platform/popover_window.h"
 #include "platform/status_item.h"
 #include "platform/widget_center.h"
@@ -27,7 +28,7 @@ namespace vantrix {
 class UserDefaults;
 
 /// The program while it lives in the status area: starts the monitor, hands each pass to the status item, the alerts
-/// and the widgets, and answers clicks.
+/// and the widgets, and answers clicks. While nobody looks, the alerts alone hear of a pass.
 class AppDelegate : public QObject {
     Q_OBJECT
   public:
@@ -37,8 +38,9 @@ class AppDelegate : public QObject {
         std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem;
         std::unique_ptr<LoginItem> loginItem;
         std::unique_ptr<NotificationCenter> notifications;
-        std::unique_ptr<WidgetCenter> widgets; ///< may be null
-        Bluetooth bluetooth = {};              ///< may be empty
+        std::unique_ptr<WidgetCenter> widgets;     ///< may be null
+        std::unique_ptr<Onlookers> onlookers = {}; ///< null: somebody always looks
+        Bluetooth bluetooth = {};                  ///< may be empty
         std::unique_ptr<RepeatingTimer> timer = std::make_unique<QtRepeatingTimer>();
         std::function<std::unique_ptr<PopoverWindow>(const Theme&, PopoverWindow::MakeView)> makePopover =
             makePopoverWindow;
@@ -67,6 +69,8 @@ class AppDelegate : public QObject {
     void createStatusItem();
     void observeDefaults();
     void monitorDidUpdate();
+    void onlookersDidChange();
+    void meetOnlooker();
     void refreshStatusItem();
     void showMenu();
     void togglePopover(std::optional<MenuBarModule> module);
@@ -81,6 +85,8 @@ class AppDelegate : public QObject {
     std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<NotificationCenter> notifications_;
     std::unique_ptr<WidgetCenter> widgets_;
+    std::unique_ptr<Onlookers> onlookers_;
+    bool somebodyLooks_ = true;
     AlertManager alerts_;
     WidgetBridge widgetBridge_;
     std::unique_ptr<SystemInformation> information_;

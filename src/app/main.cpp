@@ -16,6 +16,7 @@
 #include "platform/desktop_services.h"
 #include "platform/login_item.h"
 #include "platform/notification_center.h"
+#include "platform/onlookers.h"
 #include "platform/widget_center.h"
 #include "support/user_defaults.h"
 
@@ -97,6 +98,7 @@ int runInStatusArea(const CommandLine& commandLine, Replay* replay, int& argc, c
             .loginItem = makeLoginItem(),
             .notifications = makeNotificationCenter(),
             .widgets = makeWidgetCenter(),
+            .onlookers = makeOnlookers(),
             .bluetooth = commandLine.watchesThisMachine() ? makeBluetooth() : Bluetooth(),
             .timer = makeTimer(replay),
         },

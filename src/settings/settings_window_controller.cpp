@@ -32,6 +32,11 @@ void SettingsWindowController::show() {
     window_->activateWindow();
 }
 
+void SettingsWindowController::setDrawn(bool isDrawn) {
+    if (window_)
+        window_->setUpdatesEnabled(isDrawn);
+}
+
 void SettingsWindowController::createWindow() {
     window_ = std::make_unique<SettingsView>(parts_);
     const QString title = localizedText("Vantrix Settings");

@@ -17,6 +17,9 @@ class SettingsWindowController {
     /// Brings the window to the front with the tab that was shown last.
     void show();
 
+    /// Whether the window, if there is one, is painted while it is open.
+    void setDrawn(bool isDrawn);
+
     /// Null until the window was shown for the first time.
     SettingsView* window() const { return window_.get(); }
 

@@ -5,7 +5,6 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
-#include <QDeadlineTimer>
 #include <QMenu>
 
 #include <gmock/gmock.h>
@@ -14,9 +13,11 @@
 #include "fakes/fake_defaults.h"
 #include "fakes/fake_login_item.h"
 #include "fakes/fake_notification_center.h"
+#include "fakes/fake_onlookers.h"
 #include "fakes/fake_sources.h"
 #include "fakes/fake_widget_center.h"
 #include "popover/popover_host.h"
+#include "posix/spin_until.h"
 #include "settings/settings_view.h"
 
 namespace vantrix {
@@ -55,6 +56,7 @@ struct AppDelegateTest : ::testing::Test {
                     .loginItem = std::make_unique<fakes::FakeLoginItem>(),
                     .notifications = std::unique_ptr<NotificationCenter>(notifications),
                     .widgets = std::unique_ptr<WidgetCenter>(widgets),
+                    .onlookers = std::unique_ptr<Onlookers>(onlookers),
                     .makePopover =
                         [](const Theme& theme, PopoverWindow::MakeView makeView) {
                             return std::make_unique<PopoverHost>(theme, std::move(makeView));
@@ -76,11 +78,25 @@ struct AppDelegateTest : ::testing::Test {
         return nullptr;
     }
 
+    /// From now on, who hears of a pass; each is bad enough for an alert.
+    std::shared_ptr<std::vector<std::string>> noteOrder() {
+        machine.volume->volume = DiskSampler::Volume{1000, 1};
+        defaults.set(preference_key::alertDuration, 0.0);
+        defaults.set(preference_key::alertsEnabled, true);
+        defaults.set(preference_key::updateInterval, 0.5); // starts the timer anew
+        auto order = std::make_shared<std::vector<std::string>>();
+        item->onShow = [order] { order->push_back("status item"); };
+        notifications->onPost = [order] { order->push_back("alert"); };
+        widgets->onStore = [order] { order->push_back("widget"); };
+        return order;
+    }
+
     fakes::FakeMachine machine;
     fakes::FakeAppearance appearance;
     fakes::FakeDefaults defaults;
     fakes::FakeNotificationCenter* notifications = new fakes::FakeNotificationCenter; // the delegate's
     fakes::FakeWidgetCenter* widgets = new fakes::FakeWidgetCenter;                   // the delegate's
+    fakes::FakeOnlookers* onlookers = new fakes::FakeOnlookers;                       // the delegate's
     FakeStatusItem* item = nullptr;
     AppDelegate delegate;
 };
@@ -129,19 +145,37 @@ TEST_F(AppDelegateTest, TheRowShowsFromLaunchAndFollowsTheSettingsAtOnce) {
 
 TEST_F(AppDelegateTest, EachPassGoesToTheStatusItemThenTheAlertsThenTheWidgets) {
     EXPECT_EQ(widgets->reloads, 1) << "the first pass tells the widgets at once";
-    machine.volume->volume = DiskSampler::Volume{1000, 1};
-    defaults.set(preference_key::alertDuration, 0.0);
-    defaults.set(preference_key::alertsEnabled, true);
-    std::vector<std::string> order;
-    item->onShow = [&] { order.push_back("status item"); };
-    notifications->onPost = [&] { order.push_back("alert"); };
-    widgets->onStore = [&] { order.push_back("widget"); };
-    defaults.set(preference_key::updateInterval, 0.5); // starts the timer anew
-    order.clear();
-    QDeadlineTimer deadline(20'000);
-    while (order.size() < 3 && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
-    EXPECT_EQ(order, (std::vector<std::string>{"status item", "alert", "widget"}));
+    const auto order = noteOrder();
+    EXPECT_TRUE(spinUntil([&] { return order->size() >= 3; }));
+    EXPECT_EQ(*order, (std::vector<std::string>{"status item", "alert", "widget"}));
+}
+
+TEST_F(AppDelegateTest, PassesReachTheAlertsAloneWhileNobodyLooks) {
+    delegate.showPopover();
+    const auto order = noteOrder();
+    onlookers->set(false);
+    EXPECT_FALSE(popoverIsOpen());
+    EXPECT_TRUE(spinUntil([&] { return !order->empty(); }));
+    defaults.set(preference_key::menuBarEnabled, QStringLiteral("disk"));
+    EXPECT_EQ(*order, std::vector<std::string>{"alert"});
+    onlookers->set(true);
+    EXPECT_EQ(*order, (std::vector<std::string>{"alert", "status item", "widget"})) << "at once";
+    EXPECT_EQ(item->shown.back().accessibilityLabel, "DISK 100%");
+}
+
+TEST_F(AppDelegateTest, WhoeverClicksLooks) {
+    delegate.handleRequest("show-settings general");
+    for (const char* request : {"show-popover", "show-settings"}) {
+        onlookers->set(false);
+        EXPECT_FALSE(settings()->updatesEnabled());
+        item->shown.clear();
+        delegate.handleRequest(request);
+        EXPECT_EQ(item->shown.size(), 1u) << request;
+        EXPECT_TRUE(settings()->updatesEnabled());
+    }
+    onlookers->set(false);
+    click(Button::left);
+    EXPECT_EQ(item->shown.size(), 2u);
 }
 
 TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {

@@ -82,10 +82,10 @@ std::vector<ClassicBluetoothDevices::Device> BluezClassicDevices::paired() {
 }
 
 Bluetooth makeBluetooth() {
-    const auto address = systemBusAddress();
-    if (!address)
+    const auto bus = sharedSystemBus();
+    if (!bus->address())
         return {};
-    const auto watch = std::make_shared<BluezWatch>(std::make_shared<BusLink>(address));
+    const auto watch = std::make_shared<BluezWatch>(bus);
     return {std::make_unique<BluezCentral>(watch), std::make_unique<BluezClassicDevices>(watch),
             std::make_unique<QtRepeatingTimer>()};
 }

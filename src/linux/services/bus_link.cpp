@@ -20,6 +20,13 @@ QString ofAnyDaemon(QString address) {
     return address.remove(identifier);
 }
 
+std::shared_ptr<BusLink> sharedLink(std::weak_ptr<BusLink>& shared, std::optional<QString> (*address)()) {
+    auto link = shared.lock();
+    if (!link)
+        shared = link = std::make_shared<BusLink>(address());
+    return link;
+}
+
 } // namespace
 
 BusLink::BusLink(const std::optional<QString>& address, std::chrono::milliseconds pause)
@@ -77,10 +84,12 @@ void BusLink::tryAgain() {
 
 std::shared_ptr<BusLink> sharedSessionBus() {
     static std::weak_ptr<BusLink> shared;
-    auto link = shared.lock();
-    if (!link)
-        shared = link = std::make_shared<BusLink>(sessionBusAddress());
-    return link;
+    return sharedLink(shared, sessionBusAddress);
+}
+
+std::shared_ptr<BusLink> sharedSystemBus() {
+    static std::weak_ptr<BusLink> shared;
+    return sharedLink(shared, systemBusAddress);
 }
 
 } // namespace vantrix

@@ -55,7 +55,8 @@ class BusLink : public QObject {
     ThreadTaskRunner runner_; // last: it uses what stands above
 };
 
-/// The user's session bus. All who hold it share one connection.
+/// The user's session bus, and the machine's bus. All who hold one share its connection.
 std::shared_ptr<BusLink> sharedSessionBus();
+std::shared_ptr<BusLink> sharedSystemBus();
 
 } // namespace vantrix

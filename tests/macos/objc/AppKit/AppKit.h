@@ -53,6 +53,10 @@ extern "C" NSNotificationName const NSSystemColorsDidChangeNotification;
 @end
 
 extern "C" NSNotificationName const NSWorkspaceAccessibilityDisplayOptionsDidChangeNotification;
+extern "C" NSNotificationName const NSWorkspaceScreensDidSleepNotification;
+extern "C" NSNotificationName const NSWorkspaceScreensDidWakeNotification;
+extern "C" NSNotificationName const NSWorkspaceSessionDidBecomeActiveNotification;
+extern "C" NSNotificationName const NSWorkspaceSessionDidResignActiveNotification;
 
 // Pictures.
 

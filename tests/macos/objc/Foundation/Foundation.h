@@ -158,6 +158,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4 };
 typedef NSString* NSNotificationName NS_TYPED_EXTENSIBLE_ENUM;
 
 @interface NSNotification : NSObject <NSCopying>
+@property(readonly, copy) NSNotificationName name;
 - (instancetype)init NS_UNAVAILABLE;
 @end
 
@@ -168,6 +169,10 @@ typedef NSString* NSNotificationName NS_TYPED_EXTENSIBLE_ENUM;
                name:(nullable NSNotificationName)aName
              object:(nullable id)anObject;
 - (void)removeObserver:(id)observer;
+@end
+
+@interface NSDistributedNotificationCenter : NSNotificationCenter
++ (NSDistributedNotificationCenter*)defaultCenter;
 @end
 
 typedef NS_OPTIONS(NSUInteger, NSKeyValueObservingOptions) { NSKeyValueObservingOptionNew = 0x01 };
