@@ -88,6 +88,11 @@ void AppDelegate::createStatusItem() {
                 return statusDetails(monitor_.readings(), units(defaults_), module);
             },
         .menuWillOpen = [this] { popover_->close(); },
+        .appeared =
+            [this] {
+                if (std::exchange(popoverAwaitsItem_, false))
+                    showPopover();
+            },
     });
 }
 
@@ -189,7 +194,8 @@ void AppDelegate::togglePopover(std::optional<MenuBarModule> module) {
 
 void AppDelegate::showPopover() {
     meetOnlooker();
-    if (statusItem_ && !popover_->isShown())
+    popoverAwaitsItem_ = statusItem_ && !statusItem_->isShown();
+    if (statusItem_ && !popoverAwaitsItem_ && !popover_->isShown())
         popover_->show(*statusItem_);
 }
 
@@ -212,6 +218,7 @@ void AppDelegate::showSettings(std::string_view tab) {
     const auto named = tab.starts_with(' ') ? choiceNamed(settingsTabs, tab.substr(1)) : std::nullopt;
     if (!named && !tab.empty())
         return;
+    popoverAwaitsItem_ = false;
     popover_->close();
     meetOnlooker();
     activateProgram();

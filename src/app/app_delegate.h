@@ -54,6 +54,7 @@ class AppDelegate : public QObject {
     void applicationDidFinishLaunching();
 
     void statusItemClicked(const StatusClick& click);
+    /// As soon as the status item is on the screen.
     void showPopover();
     /// On the tab that was shown last.
     void openSettings();
@@ -97,8 +98,9 @@ class AppDelegate : public QObject {
     std::unique_ptr<PopoverWindow> popover_;
     SettingsWindowController settings_;
     std::unique_ptr<StatusItem> statusItem_; // none until launch has finished
-    std::unique_ptr<QMenu> menu_;            // the one that was shown last
-    std::shared_ptr<void> menuInput_;        // while it is open
+    bool popoverAwaitsItem_ = false;
+    std::unique_ptr<QMenu> menu_;     // the one that was shown last
+    std::shared_ptr<void> menuInput_; // while it is open
 };
 
 } // namespace vantrix

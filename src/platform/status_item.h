@@ -54,12 +54,17 @@ class StatusItem {
         std::function<QString(std::optional<MenuBarModule>)> details;
         /// Called before a menu that the system itself draws opens.
         std::function<void()> menuWillOpen;
+        /// Called each time it has found a place on the screen.
+        std::function<void()> appeared = {};
     };
 
     virtual ~StatusItem() = default;
 
     /// Draws and announces the content only where the picture or the text differs from what is shown.
     virtual void show(const StatusContent& content) = 0;
+
+    /// False while its place is being looked for.
+    virtual bool isShown() const { return true; }
 
     /// The item's rectangle on the screen, or the best guess at it, in device-independent pixels: the popover and the
     /// menu open beside it. Never null once something was shown.

@@ -30,6 +30,7 @@ struct FakeStatusItem : StatusItem {
         if (onShow)
             onShow();
     }
+    bool isShown() const override { return isThere; }
     QRect anchor() const override { return {100, 0, 60, 22}; }
     bool popUpMenu(const std::vector<StatusMenuEntry>&) override {
         menus += drawsMenus;
@@ -37,6 +38,7 @@ struct FakeStatusItem : StatusItem {
     }
 
     Handlers handlers;
+    bool isThere = true;
     bool drawsMenus = false;
     int menus = 0;
     std::vector<StatusContent> shown;
@@ -192,6 +194,12 @@ TEST_F(AppDelegateTest, AnswersRequestsOfOtherProcesses) {
     for (const char* request : {"", "nonsense", "show-settings nonsense", "show-settingsgeneral"})
         delegate.handleRequest(request);
     EXPECT_EQ(settings()->currentTab(), SettingsTab::alerts);
+    item->isThere = false; // just started
+    delegate.handleRequest("show-popover");
+    EXPECT_FALSE(popoverIsOpen()) << "in some corner";
+    item->isThere = true;
+    item->handlers.appeared();
+    EXPECT_TRUE(popoverIsOpen());
 }
 
 TEST_F(AppDelegateTest, AClickOnAnAlertShowsItsCardUnfolded) {

@@ -115,6 +115,8 @@ void LinuxStatusItem::use(Kind kind, std::unique_ptr<StatusBackend> backend) {
     backend_->show(*row_);
     if (kind_ != Kind::strip)
         tellWhere();
+    if (handlers_.appeared)
+        handlers_.appeared();
 }
 
 void LinuxStatusItem::tellWhere() {

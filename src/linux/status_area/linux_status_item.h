@@ -46,6 +46,7 @@ class LinuxStatusItem : public QObject, public StatusItem {
     ~LinuxStatusItem() override;
 
     void show(const StatusContent& content) override;
+    bool isShown() const override { return kind_ != Kind::none; }
     QRect anchor() const override;
     bool placeIsKnown() const override;
     void popoverShown(bool shown) const override;

@@ -22,7 +22,9 @@ struct LinuxStatusItemTest : StatusItemOnBus {
     }
 
     void expectStrip() {
+        EXPECT_FALSE(item->isShown());
         EXPECT_TRUE(awaitKind(Kind::strip));
+        EXPECT_TRUE(wasThere);
         EXPECT_EQ(strips(), 1);
         EXPECT_TRUE(item->anchor().isValid());
         for (QWidget* widget : QApplication::topLevelWidgets())

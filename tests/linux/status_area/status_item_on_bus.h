@@ -41,7 +41,8 @@ class StatusItemOnBus : public ::testing::Test {
                                           },
                                       .menu = [this] { return entries; },
                                       .details = [this](auto module) { return module ? QString() : details; },
-                                      .menuWillOpen = [this] { ++menusOpened; }};
+                                      .menuWillOpen = [this] { ++menusOpened; },
+                                      .appeared = [this] { wasThere = item->isShown(); }};
         item = std::make_unique<LinuxStatusItem>(std::move(handlers), defaults, appearance, surroundings);
         item->show(rowOf(12));
     }
@@ -85,6 +86,7 @@ class StatusItemOnBus : public ::testing::Test {
     std::vector<StatusClick::Button> clicks;
     std::vector<std::optional<MenuBarModule>> modules; ///< of the clicks
     int menusOpened = 0;
+    bool wasThere = false; ///< when it said so
     std::unique_ptr<LinuxStatusItem> item;
 };
 
