@@ -2,16 +2,21 @@
 set(VANTRIX_ZSH_COMPLETIONS share/zsh/site-functions CACHE STRING "Where zsh looks for completions, under the prefix")
 set(VANTRIX_LINUX_RESOURCES ${PROJECT_SOURCE_DIR}/resources/linux)
 
-install(FILES ${VANTRIX_LINUX_RESOURCES}/vantrix.desktop DESTINATION share/applications)
-# A desktop's search path need not know the prefix, so the entry names the program in full.
+install(FILES ${VANTRIX_LINUX_RESOURCES}/app.vantrix.Vantrix.desktop DESTINATION share/applications)
+install(FILES ${VANTRIX_LINUX_RESOURCES}/app.vantrix.Vantrix.service DESTINATION share/dbus-1/services)
+# A bus starts programs by their full names alone, and a desktop's search path need not know the prefix.
 install(CODE [[
-  set(entry "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/share/applications/vantrix.desktop")
   get_filename_component(prefix "${CMAKE_INSTALL_PREFIX}" ABSOLUTE)
+  set(entries share/dbus-1/services/app.vantrix.Vantrix.service)
   if(NOT prefix MATCHES "^/usr(/local)?$")
+    list(APPEND entries share/applications/app.vantrix.Vantrix.desktop)
+  endif()
+  foreach(entry IN LISTS entries)
+    set(entry "$ENV{DESTDIR}${prefix}/${entry}")
     file(READ "${entry}" text)
     string(REPLACE "Exec=vantrix" "Exec=\"${prefix}/bin/vantrix\"" text "${text}")
     file(WRITE "${entry}" "${text}")
-  endif()
+  endforeach()
 ]])
 install(FILES ${VANTRIX_LINUX_RESOURCES}/app.vantrix.Vantrix.metainfo.xml DESTINATION share/metainfo)
 install(FILES ${PROJECT_SOURCE_DIR}/resources/vantrix.svg DESTINATION share/icons/hicolor/scalable/apps)

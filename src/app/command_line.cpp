@@ -68,6 +68,8 @@ class Parser {
             parseShowSettings(option);
         else if (option == "--doctor")
             parseDoctor(option);
+        else if (option == "--started-by-bus")
+            result_.isStartedByBus = true; // the session bus says so itself; no option for people
         else if (option == "-platform" || option == "--platform")
             value(option); // the windowing toolkit reads it itself
         else if (option == "-reverse" || option == exportFlag)

@@ -34,10 +34,11 @@ struct CommandLine {
     std::optional<std::vector<MenuBarModule>> modules; ///< absent: those enabled in the settings
     bool listsPrograms = false;                        ///< of `print` as JSON: "processes" was among the modules
     std::optional<SettingsTab> settingsTab;
-    std::string exportFolder;  ///< of `exportScreenshots`
-    std::string captureFolder; ///< of `capture`
-    std::string replayFolder;  ///< of `run`, `print` and `doctor`: read a capture, not this machine; may be empty
-    KernelRoots roots;         ///< without trailing slashes
+    std::string exportFolder;    ///< of `exportScreenshots`
+    std::string captureFolder;   ///< of `capture`
+    std::string replayFolder;    ///< of `run`, `print` and `doctor`: read a capture, not this machine; may be empty
+    KernelRoots roots;           ///< without trailing slashes
+    bool isStartedByBus = false; ///< of `run`: the session bus has a request, and waits for the program to take it
 
     /// False when the roots are those of a host watched from inside a container, and in a replay: the services here say
     /// nothing about that machine.

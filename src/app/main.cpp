@@ -1,7 +1,12 @@
+#include <algorithm>
+#include <chrono>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
 
 #include "app/app_delegate.h"
 #include "app/command_line.h"
@@ -11,6 +16,7 @@
 #include "app/translations.h"
 #include "menubar/preferences.h"
 #include "platform/appearance.h"
+#include "platform/application_service.h"
 #include "platform/bluetooth.h"
 #include "platform/capture.h"
 #include "platform/desktop_services.h"
@@ -24,6 +30,7 @@ namespace vantrix {
 namespace {
 
 constexpr int usageError = 2;
+constexpr std::chrono::seconds patienceWithBus{2};
 
 int fail(const std::string& message, int status) {
     std::fprintf(stderr, "vantrix: %s\n", message.c_str());
@@ -31,7 +38,8 @@ int fail(const std::string& message, int status) {
 }
 
 int request(const std::string& message) {
-    return sendToRunningInstance(message) ? 0 : fail("no running Vantrix answers in this session", 1);
+    const bool isTaken = askApplicationService(message) || sendToRunningInstance(message);
+    return isTaken ? 0 : fail("no running Vantrix answers in this session", 1);
 }
 
 std::string settingsRequest(const CommandLine& commandLine) {
@@ -67,8 +75,32 @@ int runInTerminal(const CommandLine& commandLine, Replay* replay, int& argc, cha
     return replay != nullptr ? printReplay(commandLine, *replay, argc, argv) : runInTerminal(commandLine, argc, argv);
 }
 
+/// What the session bus has started the program for; nothing when it does not tell soon.
+std::vector<std::string> firstRequests(ApplicationService& service) {
+    std::vector<std::string> requests;
+    QEventLoop loop;
+    service.received = [&](const std::string& message) {
+        requests.push_back(message);
+        loop.quit();
+    };
+    QTimer::singleShot(patienceWithBus, &loop, &QEventLoop::quit);
+    loop.exec();
+    service.received = {};
+    return requests;
+}
+
+/// To the instance that runs without the bus having known.
+int passOn(const std::vector<std::string>& requests) {
+    for (const std::string& message : requests)
+        if (!sendToRunningInstance(message))
+            return fail("the running Vantrix does not answer", 1);
+    return 0;
+}
+
 int runInStatusArea(const CommandLine& commandLine, Replay* replay, int& argc, char** argv) {
     auto display = prepareDisplay(argc, argv);
+    if (!display && commandLine.isStartedByBus)
+        return fail("there is no display to draw on", 1);
     if (!display) {
         std::fprintf(stderr, "vantrix: there is no display to draw on; printing the readings here instead\n");
         return runInTerminal(commandLine, replay, argc, argv);
@@ -79,12 +111,18 @@ int runInStatusArea(const CommandLine& commandLine, Replay* replay, int& argc, c
     display.reset();
     installTranslations();
     QApplication::setApplicationName(QStringLiteral("vantrix"));
-    QApplication::setDesktopFileName(QStringLiteral("vantrix"));
+    QApplication::setDesktopFileName(QString::fromLatin1(applicationId));
     const auto channel = claimInstance();
     if (!channel && replay != nullptr)
         return fail("--replay: Vantrix runs in this session; --quit ends it", 1);
-    if (!channel)
+    if (!channel && !commandLine.isStartedByBus)
         return request("show-popover"); // started twice: the user wants to see the one that runs
+    const auto service = makeApplicationService();
+    const auto wanted = commandLine.isStartedByBus ? firstRequests(*service) : std::vector<std::string>();
+    if (!channel)
+        return passOn(wanted);
+    if (std::find(wanted.begin(), wanted.end(), "quit") != wanted.end())
+        return 0; // without a trace on the screen
     UserDefaults defaults(makeStandardDefaultsStore());
     const auto appearance = makeAppearanceSource();
     AppDelegate delegate(
@@ -105,8 +143,11 @@ int runInStatusArea(const CommandLine& commandLine, Replay* replay, int& argc, c
         defaults);
     channel->answer = [&](const std::string& message) { return delegate.answerTo(message); };
     channel->received = [&](const std::string& message) { delegate.handleRequest(message); };
+    service->received = channel->received;
     TerminationSignals signals([] { QApplication::quit(); });
     delegate.applicationDidFinishLaunching();
+    for (const std::string& message : wanted)
+        delegate.handleRequest(message);
     return QApplication::exec();
 }
 

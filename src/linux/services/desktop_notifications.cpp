@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include "linux/services/notification_picture.h"
+#include "platform/application_service.h"
 #include "support/localization.h"
 
 namespace vantrix {
@@ -23,7 +24,7 @@ const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 /// button.
 const QString clickAction = QStringLiteral("default");
 
-/// Of the icon theme, and of the desktop entry.
+/// The icon theme's name for it.
 const QString programName = QStringLiteral("vantrix");
 
 QVariantMap hints() {
@@ -31,7 +32,7 @@ QVariantMap hints() {
     QVariantMap hints{
         {QStringLiteral("urgency"), QVariant::fromValue(normalUrgency)},
         {QStringLiteral("sound-name"), QStringLiteral("message-new-instant")},
-        {QStringLiteral("desktop-entry"), programName},
+        {QStringLiteral("desktop-entry"), QString::fromLatin1(applicationId)},
     };
     // A program that is not installed has no icon that a service could find. Elsewhere it is not sent, because some
     // services show it beside the icon of that name.

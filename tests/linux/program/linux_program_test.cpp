@@ -4,6 +4,7 @@
 #include <csignal>
 #include <map>
 
+#include <QDBusMessage>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QImage>
@@ -16,6 +17,8 @@
 #include <gmock/gmock.h>
 
 #include "fakes/fixture_machine.h"
+#include "linux/services/private_bus.h"
+#include "platform/application_service.h"
 #include "views/drawn.h"
 
 namespace vantrix {
@@ -58,6 +61,22 @@ struct ProgramTest : ::testing::Test {
         while (run(u"--show-popover"_s) != 0 && !deadline.hasExpired()) {
         }
         EXPECT_EQ(instance.state(), QProcess::Running);
+    }
+
+    /// As a desktop asks, which need not be in the program's session.
+    static bool activate(const PrivateBus& bus, const QString& action, const QVariantList& parameters = {}) {
+        auto call = QDBusMessage::createMethodCall(QString::fromLatin1(applicationId), u"/app/vantrix/Vantrix"_s,
+                                                   u"org.freedesktop.Application"_s, u"ActivateAction"_s);
+        call << action << parameters << QVariantMap();
+        return BusConnection(bus.address()).bus().call(call, QDBus::Block, patience).type() ==
+               QDBusMessage::ReplyMessage;
+    }
+
+    bool settingsShow(const QByteArray& tab) const {
+        return spinUntil([&] {
+            QFile file(folder.filePath(u"vantrix/settings.json"_s));
+            return file.open(QFile::ReadOnly) && file.readAll().contains(tab);
+        });
     }
 
     QTemporaryDir folder;
@@ -199,6 +218,37 @@ TEST_F(ProgramTest, ARunningInstanceIsTalkedTo) {
     EXPECT_EQ(run(u"--quit"_s), 0);
     ASSERT_TRUE(instance.waitForFinished(patience));
     EXPECT_EQ(instance.exitCode(), 0);
+}
+
+TEST_F(ProgramTest, TheBusStartsItWhereItIsInstalled) {
+    const QString prefix = folder.filePath(u"a prefix"_s);
+    EXPECT_EQ(QProcess::execute(u"cmake"_s, {u"--install"_s, QFileInfo(QStringLiteral(VANTRIX_PROGRAM)).path(),
+                                             u"--prefix"_s, prefix}),
+              0);
+    QProcess instance;
+    startInstance(instance); // the bus does not know
+    const PrivateBus bus(prefix + u"/share/dbus-1/services"_s, environment);
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
+    EXPECT_TRUE(activate(bus, u"settings"_s, {u"alerts"_s}));
+    EXPECT_TRUE(settingsShow("alerts")) << "by the one that runs";
+    EXPECT_EQ(run(u"--quit"_s), 0);
+    ASSERT_TRUE(instance.waitForFinished(patience));
+
+    EXPECT_EQ(run(u"--quit"_s), 1) << "starts nothing";
+    ASSERT_TRUE(QDir(folder.filePath(u"vantrix"_s)).removeRecursively());
+    EXPECT_TRUE(activate(bus, u"quit"_s));
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"vantrix"_s))) << "comes and goes without a pass";
+
+    EXPECT_TRUE(spinUntil([&] { return activate(bus, u"settings"_s, {u"popover"_s}); })) << "once that has gone";
+    EXPECT_TRUE(settingsShow("popover"));
+    const QString socket = folder.filePath(u"vantrix-console.socket"_s);
+    ASSERT_TRUE(QFile::rename(socket, socket + u'~'));
+    EXPECT_EQ(run({}), 0) << "shows the one that runs, by the bus";
+    ASSERT_TRUE(QFile::rename(socket + u'~', socket));
+    PrivateBus frozen;
+    frozen.freeze();
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, frozen.address());
+    EXPECT_EQ(run(u"--quit"_s), 0) << "by the socket";
 }
 
 TEST_F(ProgramTest, AKilledInstanceDoesNotKeepTheNextOneFromStarting) {

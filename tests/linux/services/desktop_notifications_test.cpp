@@ -75,7 +75,7 @@ TEST_F(DesktopNotificationsTest, SaysWhatDaemonsUnderstand) {
     EXPECT_EQ(arguments[7], QVariant(-1));
     const auto hints = qdbus_cast<QVariantMap>(arguments[6]);
     EXPECT_EQ(hints.value(u"urgency"_s), QVariant::fromValue(uchar{1})); // daemons refuse another type than byte
-    EXPECT_EQ(hints.value(u"desktop-entry"_s), u"vantrix"_s);
+    EXPECT_EQ(hints.value(u"desktop-entry"_s), u"app.vantrix.Vantrix"_s);
     EXPECT_FALSE(hints.value(u"sound-name"_s).toString().isEmpty());
 }
 

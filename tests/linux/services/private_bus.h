@@ -19,18 +19,15 @@ namespace vantrix {
 class PrivateBus {
   public:
     explicit PrivateBus(const QByteArray& startable = {}) {
-        const QByteArray folder = QFile::encodeName(folder_.path());
         put("startable.service", "[D-BUS Service]\nName=" + startable + "\nExec=/bin/sleep 20\n");
-        put("bus.conf", "<busconfig><type>session</type><listen>" + address().toLocal8Bit() +
-                            "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
-                            "<allow eavesdrop=\"true\"/></policy>" +
-                            (startable.isEmpty() ? "" : "<servicedir>" + folder + "</servicedir>") + "</busconfig>\n");
-        // Not left behind by a test that crashes.
-        daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        daemon_.setStandardErrorFile(QProcess::nullDevice());
-        start();
+        configure(startable.isEmpty() ? QString() : folder_.path());
     }
 
+    /// One that starts what the files in the folder `services` say, with that environment.
+    PrivateBus(const QString& services, const QProcessEnvironment& environment) {
+        daemon_.setProcessEnvironment(environment);
+        configure(services);
+    }
     ~PrivateBus() { kill(); }
 
     QString address() const { return QStringLiteral("unix:path=") + folder_.filePath(QStringLiteral("bus")); }
@@ -61,6 +58,19 @@ class PrivateBus {
     }
 
   private:
+    void configure(const QString& services) {
+        put("bus.conf",
+            "<busconfig><type>session</type><listen>" + address().toLocal8Bit() +
+                "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
+                "<allow eavesdrop=\"true\"/></policy>" +
+                (services.isEmpty() ? QByteArray() : "<servicedir>" + QFile::encodeName(services) + "</servicedir>") +
+                "</busconfig>\n");
+        // Not left behind by a test that crashes.
+        daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        daemon_.setStandardErrorFile(QProcess::nullDevice());
+        start();
+    }
+
     void put(const char* name, const QByteArray& contents) const {
         QFile file(folder_.filePath(QString::fromLatin1(name)));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
