@@ -49,12 +49,8 @@ SourceDiagnosis widgetData() {
 }
 
 SourceDiagnosis loginItem() {
-    const auto places = AutostartEntry::Places::standard();
-    return {"Login item",
-            places.userFolder.toStdString() + "/vantrix.desktop",
-            SourceState::ok,
-            AutostartEntry(places).isEnabled() ? "on" : "off",
-            {}};
+    const AutostartEntry entry(AutostartEntry::Places::standard());
+    return {"Login item", entry.userFile().toStdString(), SourceState::ok, entry.isEnabled() ? "on" : "off", {}};
 }
 
 } // namespace

@@ -24,11 +24,13 @@ class AutostartEntry : public LoginItem {
     bool isEnabled() const override;
     void setEnabled(bool enabled) override;
 
-  private:
+    /// The user's entry that starts the program, or would.
     QString userFile() const;
-    /// The first one there is; empty without any.
-    QString systemFile() const;
-    bool write(const QByteArray& contents) const;
+
+  private:
+    QString systemFile(const QString& name) const;
+    void disable(const QString& name) const;
+    bool write(const QString& name, const QByteArray& more) const;
 
     Places places_;
 };

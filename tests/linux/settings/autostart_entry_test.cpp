@@ -27,8 +27,8 @@ struct AutostartEntryTest : ::testing::Test {
     QString program = folder.filePath(QStringLiteral("the program/100% \"van\\trix\" $HOME `x`"));
     QString user = folder.filePath(QStringLiteral("config/autostart"));
     QString system = folder.filePath(QStringLiteral("xdg/autostart"));
-    QString userFile = user + QStringLiteral("/vantrix.desktop");
-    QString systemFile = system + QStringLiteral("/vantrix.desktop");
+    QString userFile = user + QStringLiteral("/app.vantrix.Vantrix.desktop");
+    QString systemFile = system + QStringLiteral("/app.vantrix.Vantrix.desktop");
 };
 
 TEST_F(AutostartEntryTest, IsOnWhenAnEffectiveEntryStartsAProgramThatExists) {
@@ -66,13 +66,17 @@ TEST_F(AutostartEntryTest, IsOnWhenAnEffectiveEntryStartsAProgramThatExists) {
 }
 
 TEST_F(AutostartEntryTest, TurnsOnAndOff) {
-    AutostartEntry entry = item();
-    entry.setEnabled(true);
-    EXPECT_TRUE(entry.isEnabled()) << "whatever characters the path has";
-    EXPECT_EQ(names(user), QStringList{QStringLiteral("vantrix.desktop")});
-    entry.setEnabled(false);
-    EXPECT_FALSE(entry.isEnabled());
-    EXPECT_FALSE(QFile::exists(userFile)) << "leaves nothing behind";
+    const QString plain = user + QStringLiteral("/vantrix.desktop");
+    AutostartEntry autostart = item();
+    put(plain, entry());
+    EXPECT_TRUE(autostart.isEnabled());
+    autostart.setEnabled(true);
+    EXPECT_TRUE(autostart.isEnabled()) << "whatever characters the path has";
+    EXPECT_EQ(names(user), QStringList{QStringLiteral("app.vantrix.Vantrix.desktop")}) << "or it would start twice";
+    put(plain, entry());
+    autostart.setEnabled(false);
+    EXPECT_FALSE(autostart.isEnabled());
+    EXPECT_EQ(names(user), QStringList()) << "leaves nothing behind";
 }
 
 TEST_F(AutostartEntryTest, HidesTheSystemsEntryRatherThanFailing) {
