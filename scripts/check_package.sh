@@ -29,7 +29,8 @@ list() { find / -xdev \( -path /packages -o -path /proc -o -path /sys -o -path /
   -o -path /var/log -o -path /var/cache -o -path /var/lib/apt -o -path '/var/lib/dpkg/*-old' \) -prune -o -print | sort; }
 apt-get update -qq
 # What the package depends on comes first: it is to stay.
-dpkg-deb --field /packages/new.deb Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//' | xargs apt-get install -qq --no-install-recommends xvfb xauth >/dev/null
+dpkg-deb --field /packages/new.deb Depends | tr ',' '\n' | sed 's/^ *//; s/ .*//' | xargs \
+  apt-get install -qq --no-install-recommends xvfb xauth x11-utils dbus-daemon libglib2.0-bin >/dev/null
 list >/tmp/before
 dpkg --install /packages/old.deb
 dpkg --install /packages/new.deb
@@ -38,11 +39,17 @@ vantrix --print text --count 1
 # As the menu starts it, with a user's folders of its own.
 export XDG_CONFIG_HOME=/tmp/config XDG_STATE_HOME=/tmp/state XDG_RUNTIME_DIR=/tmp/runtime HOME=/tmp
 mkdir -m 700 /tmp/runtime
-entry=$(sed -n 's/^Exec=//p' /usr/share/applications/vantrix.desktop | head -n 1)
+entry=$(sed -n 's/^Exec=//p' /usr/share/applications/app.vantrix.Vantrix.desktop | head -n 1)
 xvfb-run -a bash -euc "$entry & program=\$!
   for turn in {1..100}; do vantrix --quit 2>/dev/null && break; sleep 0.1; done
   wait \$program"
 echo "started from the menu entry, and ended"
+# As a desktop does: the bus starts it, and the popover opens, 340 pixels wide.
+xvfb-run -a dbus-run-session -- bash -euc 'gapplication launch app.vantrix.Vantrix
+  for turn in {1..100}; do xwininfo -root -tree | grep -q "\"vantrix\") *340x" && break; sleep 0.1; done
+  xwininfo -root -tree | grep "\"vantrix\") *340x"
+  vantrix --quit'
+echo "opened its popover by activation, and ended"
 dpkg --purge vantrix
 list >/tmp/after
 diff /tmp/before /tmp/after
