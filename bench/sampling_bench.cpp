@@ -23,6 +23,7 @@ struct Pass : Samplers {
     explicit Pass(const KernelRoots& roots = {}) : Samplers(makeSamplingSources(roots)) {}
 
     void run() {
+        const PassScope pass = beginPass();
         benchmark::DoNotOptimize(cpu.sample());
         benchmark::DoNotOptimize(memory.sample());
         benchmark::DoNotOptimize(network.sample());

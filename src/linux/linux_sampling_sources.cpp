@@ -86,6 +86,7 @@ SamplingSources makeSamplingSources(const KernelRoots& roots, SamplingParts part
     sources.battery = std::make_unique<LinuxBatterySource>(roots.sys, sensorClock, threads);
     sources.accessories = std::make_unique<PowerSupplyAccessories>(roots.sys);
     sources.processes = std::move(parts.processes);
+    sources.bracket = threads;
     return sources;
 }
 

@@ -28,6 +28,9 @@ struct Samplers {
         mountPoint = volume;
     }
 
+    /// To be kept while a pass goes through the samplers.
+    [[nodiscard]] PassScope beginPass() const { return PassScope(sources.bracket); }
+
     SamplingSources sources;
     CPUSampler cpu{*sources.cpu};
     MemorySampler memory{*sources.memory};

@@ -94,6 +94,16 @@ void SystemMonitor::appendTo(History Readings::*history, double value, Reading r
 }
 
 void SystemMonitor::sample() {
+    samplePass();
+    if (!watch_.expired() && samplers_.sources.clock->uptime() >= nextProcessLook_)
+        sampleProcesses();
+    sampleAccessories();
+    if (onUpdate)
+        onUpdate();
+}
+
+void SystemMonitor::samplePass() {
+    const PassScope pass = samplers_.beginPass();
     sampleCPU();
     sampleMemory();
     sampleNetwork();
@@ -102,11 +112,6 @@ void SystemMonitor::sample() {
     sampleGPU();
     sampleSensors();
     sampleBattery();
-    if (!watch_.expired() && samplers_.sources.clock->uptime() >= nextProcessLook_)
-        sampleProcesses();
-    sampleAccessories();
-    if (onUpdate)
-        onUpdate();
 }
 
 void SystemMonitor::sampleCPU() {

@@ -71,6 +71,7 @@ class SystemMonitor : public QObject {
 
   private:
     void takeChoices();
+    void samplePass();
     void sampleCPU();
     void sampleMemory();
     void sampleNetwork();

@@ -13,6 +13,7 @@
 #include "samplers/memory_sampler.h"
 #include "samplers/network_info_sampler.h"
 #include "samplers/network_sampler.h"
+#include "samplers/pass_bracket.h"
 #include "samplers/process_sampler.h"
 #include "sensors/hid_temperature_sampler.h"
 #include "sensors/io_report_sampler.h"
@@ -37,7 +38,7 @@ std::optional<std::string> unreadableRoot(const KernelRoots& roots);
 
 /// Everything the samplers read from. Null where the system offers no way to read it: `gpu`, the three sources of
 /// sensors, `battery`, `accessories`, `networkInfo` and `processes`; `location` where a network's name needs no
-/// permission. The others are never null.
+/// permission; `bracket` where it makes no difference. The others are never null.
 struct SamplingSources {
     std::unique_ptr<Clock> clock;
     std::unique_ptr<SystemInformation> information;
@@ -55,6 +56,7 @@ struct SamplingSources {
     std::unique_ptr<BatterySampler::Source> battery;
     std::unique_ptr<AccessoriesSampler> accessories;
     std::unique_ptr<ProcessSampler::Source> processes;
+    std::shared_ptr<PassBracket> bracket;
 };
 
 SamplingSources makeSamplingSources(const KernelRoots& roots);

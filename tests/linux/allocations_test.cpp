@@ -65,6 +65,7 @@ int allocationsAfterSecondPass(const KernelRoots& roots) {
     Samplers samplers(makeSamplingSources(roots));
     const auto passes = [&](int count) {
         for (; count > 0; --count) {
+            const PassScope pass = samplers.beginPass();
             samplers.networkInfo->sample(true, 3);
             samplers.cpu.sample();
             samplers.memory.sample();

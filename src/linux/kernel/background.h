@@ -13,7 +13,7 @@ class Background {
         virtual ~Job() = default;
         virtual void perform() = 0;
 
-        const void* owner = nullptr; ///< for whom it is performed; tells apart those who share a thread
+        Background* owner = nullptr; ///< by whom it was asked for; tells apart those who share a thread
     };
 
     virtual ~Background() = default;

@@ -1,11 +1,14 @@
 #include "linux/kernel/background_thread.h"
 
 #include <algorithm>
+#include <atomic>
 #include <condition_variable>
 #include <mutex>
 #include <system_error>
 #include <thread>
 #include <vector>
+
+#include <time.h>
 
 #include "linux/kernel/reading_manner.h"
 
@@ -17,40 +20,76 @@ using namespace std::chrono_literals;
 constexpr auto longestIdle = 30s; // a device that is read on every pass keeps its thread
 constexpr auto longestStart = 1s; // of a thread on a busy machine
 
+/// The steady clock's time at its last tick, a few milliseconds ago: asked for each job, and much cheaper.
+std::chrono::steady_clock::time_point lastTick() {
+    timespec time{};
+    clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
+    return std::chrono::steady_clock::time_point(std::chrono::seconds(time.tv_sec) +
+                                                 std::chrono::nanoseconds(time.tv_nsec));
+}
+
 } // namespace
 
 struct BackgroundThread::Queue {
-    std::mutex mutex;
+    using Jobs = std::vector<std::shared_ptr<Job>>;
+
+    std::mutex mutex; // of all but what is atomic
     std::condition_variable hasNews;
     std::condition_variable hasProgress;
-    std::vector<std::shared_ptr<Job>> jobs;
-    std::chrono::steady_clock::time_point begun; ///< the job at work
-    const void* owner = nullptr;                 ///< of that job
+    Jobs waiting;
+    Jobs round; ///< those at work, which change hands with `begun` alone
+    std::atomic<std::size_t> begun = 0;
+    std::atomic<std::chrono::steady_clock::time_point> lastBegin; ///< of the job at work
+    std::atomic<const Background*> owner = nullptr;               ///< of that job
     bool isWorking = false;
+    bool isAwaited = false;
     bool isRunning = false; ///< the thread
     bool isClosed = false;
 
-    /// Waits for the next job; null when the thread is to end.
-    std::shared_ptr<Job> take() {
+    /// Waits for jobs, and begins with all that there are; false when the thread is to end.
+    bool takeRound() {
         std::unique_lock lock(mutex);
+        round.clear();
         isWorking = false;
-        hasProgress.notify_all();
-        const bool hasJob = hasNews.wait_for(lock, longestIdle, [this] { return isClosed || !jobs.empty(); });
-        isRunning = hasJob && !isClosed;
+        tellProgress();
+        const bool hasJobs = hasNews.wait_for(lock, longestIdle, [this] { return isClosed || !waiting.empty(); });
+        isRunning = hasJobs && !isClosed;
         if (!isRunning)
-            return nullptr;
-        auto job = std::move(jobs.front());
-        jobs.erase(jobs.begin());
+            return false;
+        round.swap(waiting);
+        begun = 0;
+        lastBegin = lastTick();
+        owner = round.front()->owner;
         isWorking = true;
-        owner = job->owner;
-        begun = std::chrono::steady_clock::now();
-        hasProgress.notify_all();
-        return job;
+        tellProgress();
+        return true;
+    }
+
+    void tellProgress() {
+        if (isAwaited)
+            hasProgress.notify_all();
     }
 
     void work() {
-        while (const auto job = take())
-            job->perform();
+        while (takeRound()) {
+            const std::size_t count = round.size();
+            for (std::size_t i = 0; (i = begun++) < count;) {
+                owner = round[i]->owner;
+                lastBegin = lastTick();
+                round[i]->perform();
+            }
+        }
+    }
+
+    /// Takes all jobs that have not begun. The lock is held.
+    Jobs takeRest() {
+        Jobs rest;
+        if (isWorking)
+            for (std::size_t i = begun.exchange(round.size()); i < round.size(); ++i)
+                rest.push_back(round[i]);
+        rest.insert(rest.end(), waiting.begin(), waiting.end());
+        waiting.clear();
+        return rest;
     }
 };
 
@@ -59,18 +98,19 @@ BackgroundThread::~BackgroundThread() {
         return;
     const std::lock_guard lock(queue_->mutex);
     queue_->isClosed = true;
-    queue_->jobs.clear();
+    queue_->takeRest();
     queue_->hasNews.notify_one();
 }
 
-bool BackgroundThread::run(const std::shared_ptr<Job>& job) {
+bool BackgroundThread::run(std::span<const std::shared_ptr<Job>> jobs) {
     if (readingManner.isRepeatable) {
-        job->perform();
+        for (const auto& job : jobs)
+            job->perform();
         return true;
     }
     if (!queue_)
         queue_ = std::make_shared<Queue>();
-    const std::lock_guard lock(queue_->mutex);
+    std::unique_lock lock(queue_->mutex);
     if (!queue_->isRunning) {
         try {
             std::thread([queue = queue_] { queue->work(); }).detach();
@@ -79,8 +119,11 @@ bool BackgroundThread::run(const std::shared_ptr<Job>& job) {
         }
         queue_->isRunning = true;
     }
-    queue_->jobs.push_back(job);
-    queue_->hasNews.notify_one();
+    queue_->waiting.insert(queue_->waiting.end(), jobs.begin(), jobs.end());
+    const bool isIdle = !queue_->isWorking;
+    lock.unlock(); // or the thread would wake up just to wait for it
+    if (isIdle)
+        queue_->hasNews.notify_one();
     return true;
 }
 
@@ -89,37 +132,38 @@ void BackgroundThread::wait(std::chrono::milliseconds patience) {
         return;
     Queue& queue = *queue_;
     std::unique_lock lock(queue.mutex);
-    const auto isDone = [&queue] { return queue.jobs.empty() && !queue.isWorking; };
-    while (!isDone()) {
-        const auto end = queue.isWorking ? queue.begun + patience : std::chrono::steady_clock::now() + longestStart;
-        if (queue.hasProgress.wait_until(lock, end) == std::cv_status::timeout)
-            return;
+    queue.isAwaited = true;
+    while (queue.isWorking || !queue.waiting.empty()) {
+        const auto now = std::chrono::steady_clock::now();
+        const auto end = queue.isWorking ? queue.lastBegin.load() + patience : now + longestStart;
+        if (now >= end || (queue.hasProgress.wait_until(lock, end) == std::cv_status::timeout && !queue.isWorking))
+            break;
     }
+    queue.isAwaited = false;
 }
 
-const void* BackgroundThread::heldUpBy(std::chrono::milliseconds patience) const {
+const Background* BackgroundThread::heldUpBy(std::chrono::milliseconds patience) const {
     if (!queue_)
         return nullptr;
     const std::lock_guard lock(queue_->mutex);
-    const bool isHeldUp = queue_->isWorking && std::chrono::steady_clock::now() - queue_->begun > patience;
-    return isHeldUp ? queue_->owner : nullptr;
+    const bool isHeldUp = queue_->isWorking && std::chrono::steady_clock::now() - queue_->lastBegin.load() > patience;
+    return isHeldUp ? queue_->owner.load() : nullptr;
 }
 
-void BackgroundThread::handOverTo(BackgroundThread& other, const void* owner) {
+void BackgroundThread::handOverTo(BackgroundThread& other, const Background* owner) {
     if (!queue_)
         return;
-    std::vector<std::shared_ptr<Job>> handedOver;
+    Queue::Jobs handedOver;
     {
         const std::lock_guard lock(queue_->mutex);
-        auto& jobs = queue_->jobs;
-        const auto others =
-            std::stable_partition(jobs.begin(), jobs.end(), [owner](const auto& job) { return job->owner == owner; });
-        handedOver.assign(others, jobs.end());
-        jobs.erase(others, jobs.end());
+        handedOver = queue_->takeRest();
+        const auto kept = std::stable_partition(handedOver.begin(), handedOver.end(),
+                                                [owner](const auto& job) { return job->owner != owner; });
+        queue_->waiting.assign(kept, handedOver.end());
+        handedOver.erase(kept, handedOver.end());
     }
-    for (const auto& job : handedOver)
-        if (!other.run(job))
-            run(job); // late rather than never
+    if (!handedOver.empty() && !other.run(handedOver))
+        run(handedOver); // late rather than never
 }
 
 } // namespace vantrix

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <span>
+
 #include "linux/kernel/background.h"
 
 namespace vantrix {
@@ -12,13 +14,15 @@ class BackgroundThread : public Background {
     /// dropped.
     ~BackgroundThread() override;
 
-    bool run(const std::shared_ptr<Job>& job) override;
+    bool run(const std::shared_ptr<Job>& job) override { return run(std::span(&job, 1)); }
+    /// Queues all of them, and wakes the thread once.
+    bool run(std::span<const std::shared_ptr<Job>> jobs);
     void wait(std::chrono::milliseconds patience) override;
 
     /// The owner of the job that has been at work for longer than `patience`; null when there is none.
-    const void* heldUpBy(std::chrono::milliseconds patience) const;
+    const Background* heldUpBy(std::chrono::milliseconds patience) const;
     /// Hands the waiting jobs over, but for those of `owner`.
-    void handOverTo(BackgroundThread& other, const void* owner);
+    void handOverTo(BackgroundThread& other, const Background* owner);
 
   private:
     struct Queue;

@@ -42,7 +42,7 @@ std::optional<double> TimedSensor::value() {
 }
 
 std::optional<double> TimedSensor::value(double& now) {
-    collect();
+    collect(now);
     if (isDirect_)
         readDirectly(now);
     else
@@ -50,9 +50,17 @@ std::optional<double> TimedSensor::value(double& now) {
     return now - waitingSince_.value_or(now) > staleAfter ? std::nullopt : last_;
 }
 
-std::optional<double> TimedSensor::lastValue(double age) {
-    collect();
-    return clock_->uptime() - takenAt_ > age ? std::nullopt : last_;
+void TimedSensor::ask(double now) {
+    collect(now);
+    if (isDirect_)
+        return;
+    askAside(now);
+    isAsked_ = true;
+}
+
+std::optional<double> TimedSensor::lastValue(double now, double age) {
+    collect(now);
+    return now - takenAt_ > age ? std::nullopt : last_;
 }
 
 void TimedSensor::readDirectly(double& now) {
@@ -66,22 +74,27 @@ void TimedSensor::readDirectly(double& now) {
     quickReads_ = 0;
 }
 
-void TimedSensor::readAside(double& now) {
+void TimedSensor::askAside(double now) {
     if (!waitingSince_)
         waitingSince_ = now;
-    if (!isUnderWay_) {
-        reading_->isDone.store(false, std::memory_order_relaxed);
-        isUnderWay_ = background_->run(reading_);
-    }
+    if (isUnderWay_)
+        return;
+    reading_->isDone.store(false, std::memory_order_relaxed);
+    isUnderWay_ = background_->run(reading_);
+}
+
+void TimedSensor::readAside(double& now) {
+    if (!std::exchange(isAsked_, false))
+        askAside(now);
     const bool isOld = !finishedAt_ || (now - *finishedAt_ > oldAfter && duration_ < quickUntil);
     if (isUnderWay_ && isOld) {
         background_->wait(std::chrono::milliseconds(std::lround(verySlowAfter * 1e3)));
         now = clock_->uptime();
     }
-    collect();
+    collect(now);
 }
 
-void TimedSensor::collect() {
+void TimedSensor::collect(double now) {
     if (!isUnderWay_ || !reading_->isDone.load(std::memory_order_acquire))
         return;
     isUnderWay_ = false;
@@ -89,7 +102,7 @@ void TimedSensor::collect() {
     last_ = reading_->value;
     finishedAt_ = reading_->finishedAt;
     duration_ = reading_->duration;
-    takenAt_ = clock_->uptime(); // not when it was read: passes may be further apart than values may be old
+    takenAt_ = now; // not when it was read: passes may be further apart than values may be old
     quickReads_ = reading_->duration > slowAfter ? 0 : quickReads_ + 1;
     isDirect_ = kind_ == Kind::registers && quickReads_ >= quickReadsToReturn;
     slowReads_ = 0;

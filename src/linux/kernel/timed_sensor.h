@@ -41,15 +41,20 @@ class TimedSensor {
     /// The same, at less cost when many sensors are read in turn: `now` is the clock's time, which each read moves on.
     std::optional<double> value(double& now);
 
-    /// The last value without asking the sensor; absent when it is more than `age` seconds old.
-    std::optional<double> lastValue(double age);
+    /// To be called for each of many sensors before the value of the first, so that those that have to be waited for
+    /// are waited for together.
+    void ask(double now);
+
+    /// The last value without asking the sensor; absent when it is more than `age` seconds old at `now`.
+    std::optional<double> lastValue(double now, double age);
 
   private:
     struct Reading;
 
     void readDirectly(double& now);
     void readAside(double& now);
-    void collect();
+    void askAside(double now);
+    void collect(double now);
 
     std::shared_ptr<Reading> reading_;
     std::shared_ptr<Background> background_;
@@ -64,6 +69,7 @@ class TimedSensor {
     int slowReads_ = 0;                       // directly, in a row
     int quickReads_ = quickReadsToReturn - 1; // in the background, in a row
     bool isUnderWay_ = false;
+    bool isAsked_ = false; // for the next value
 };
 
 } // namespace vantrix

@@ -54,10 +54,10 @@ std::optional<double> HwmonFans::speed(int fan) {
         sensor.didAnswer = false;
         return std::nullopt;
     }
-    if (state == DeviceRest::State::idle)
-        return sensor.sensor.lastValue(DeviceRest::longestBridge);
-    bool failed = false;
     double now = clock_->uptime();
+    if (state == DeviceRest::State::idle)
+        return sensor.sensor.lastValue(now, DeviceRest::longestBridge);
+    bool failed = false;
     const auto value = sensor.read(now, failed);
     if (failed)
         schedule_.noteFailure();

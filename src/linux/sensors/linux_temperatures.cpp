@@ -31,6 +31,9 @@ bool LinuxTemperatures::read(std::vector<HIDTemperatureSampler::Service>& servic
     double now = clock_->uptime();
     for (Chip& chip : chips_)
         chip.state = chip.rest.look(now);
+    for (Sensor& sensor : sensors_)
+        if (chips_[sensor.chip].state == DeviceRest::State::awake)
+            sensor.sensor.ask(now);
     bool failed = false;
     services.resize(sensors_.size() + (nvidia_ ? nvidia_->size() : 0));
     for (std::size_t i = 0; i < sensors_.size(); ++i) {
@@ -50,7 +53,7 @@ std::optional<double> LinuxTemperatures::readSensor(Sensor& sensor, double& now,
         sensor.didAnswer = false;
         return std::nullopt;
     case DeviceRest::State::idle:
-        return sensor.sensor.lastValue(DeviceRest::longestBridge);
+        return sensor.sensor.lastValue(now, DeviceRest::longestBridge);
     case DeviceRest::State::awake:
         break;
     }

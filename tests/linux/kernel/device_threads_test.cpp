@@ -59,6 +59,31 @@ TEST_F(DeviceThreadsTest, ADeviceThatHangsKeepsItsThreadToItself) {
     EXPECT_EQ(next->performed, 0) << "it would hang, too";
 }
 
+/// So that the thread is woken once.
+TEST_F(DeviceThreadsTest, WhatAPassAsksForIsHandedOverAtItsEnd) {
+    const auto bracket = std::make_shared<DeviceThreads>();
+    DeviceThread first(bracket);
+    auto second = std::make_unique<DeviceThread>(bracket);
+    const auto dropped = std::make_shared<CountingJob>();
+    {
+        const PassScope pass(bracket);
+        first.run(job);
+        second->run(dropped);
+        const auto ofOthers = std::make_shared<CountingJob>();
+        quick.run(ofOthers);
+        EXPECT_TRUE(isPerformed(*ofOthers)) << "which takes a while";
+        EXPECT_EQ(job->performed, 0);
+        second.reset();
+    }
+    first.wait(std::chrono::seconds(10));
+    EXPECT_EQ(job->performed, 1);
+    EXPECT_EQ(dropped->performed, 0) << "its device is gone";
+    const PassScope pass(bracket);
+    first.run(job);
+    first.wait(std::chrono::seconds(10));
+    EXPECT_EQ(job->performed, 2) << "or when it is waited for";
+}
+
 TEST_F(DeviceThreadsTest, APassWaitsForThemAllTogether) {
     using namespace std::chrono_literals;
     const auto begin = std::chrono::steady_clock::now();
