@@ -18,9 +18,11 @@ echo "== the popover at scale 2"
 for host in waybar plasmashell; do
   echo
   echo "== the program idling for $seconds s under X11, host: $host (played)"
-  # A settings folder of its own: the registered defaults are what is measured.
+  # A settings folder of its own: the registered defaults are what is measured. Another one for what the session keeps:
+  # the program watches its settings, and nobody's folder for them has files that change with every pass.
   settings=$(mktemp -d)
-  XDG_CONFIG_HOME=$settings XDG_RUNTIME_DIR=$settings \
+  mkdir -m 700 "$settings/runtime"
+  XDG_CONFIG_HOME=$settings XDG_RUNTIME_DIR=$settings/runtime \
     xvfb-run -a dbus-run-session -- "$build/bench/idle_bench" "$build/vantrix" "$seconds" "$host"
   rm -rf "$settings"
 done
