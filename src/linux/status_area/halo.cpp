@@ -1,6 +1,7 @@
 #include "linux/status_area/halo.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <numeric>
 #include <vector>
@@ -52,12 +53,22 @@ Cover spread(const Cover& cover, int length) {
 Cover coverOf(const QImage& image) {
     Cover cover{image.width(), image.height(), {}};
     cover.values.reserve(placeOf(image.height(), 0, image.width()));
-    for (int y = 0; y < image.height(); ++y) {
+    for (int y = 0; y < cover.height; ++y) {
         const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-        for (int x = 0; x < image.width(); ++x)
+        for (int x = 0; x < cover.width; ++x)
             cover.values.push_back(qAlpha(line[x]));
     }
     return cover;
+}
+
+/// The halo's colour at each nearness from 0 to 255, premultiplied.
+std::array<QRgb, 256> shadesOf(const QColor& color) {
+    std::array<QRgb, 256> shades{};
+    const QRgb opaque = color.rgb();
+    for (std::size_t near = 0; near < shades.size(); ++near)
+        shades[near] =
+            qPremultiply(qRgba(qRed(opaque), qGreen(opaque), qBlue(opaque), static_cast<int>(near) * density / 255));
+    return shades;
 }
 
 } // namespace
@@ -67,13 +78,13 @@ QImage withHalo(const QImage& glyphs, const QColor& color, int pixels) {
     const int whole = length * length * length * length; // the sum of all weights
     const Cover cover =
         spread(spread(coverOf(glyphs.convertToFormat(QImage::Format_ARGB32_Premultiplied)), length), length);
+    const auto shades = shadesOf(color);
     QImage image(glyphs.size(), QImage::Format_ARGB32_Premultiplied);
-    for (int y = 0; y < image.height(); ++y) {
+    const int* value = cover.values.data();
+    for (int y = 0; y < cover.height; ++y) {
         auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const int near = std::min(gain * cover.values[placeOf(y, x, image.width())] / whole, 255);
-            line[x] = qPremultiply(qRgba(color.red(), color.green(), color.blue(), near * density / 255));
-        }
+        for (int x = 0; x < cover.width; ++x, ++value)
+            line[x] = *value == 0 ? 0 : shades[static_cast<std::size_t>(std::min(gain * *value / whole, 255))];
     }
     QPainter painter(&image);
     painter.drawImage(image.rect(), glyphs, glyphs.rect()); // whatever their scale
