@@ -9,13 +9,13 @@ PacedUpdate::PacedUpdate(std::chrono::milliseconds pace, std::function<void()> u
 }
 
 void PacedUpdate::request() {
-    if (timer_.isActive())
-        return;
-    // A tenth of leeway, so that a pass that comes a moment early does not cost a wake-up of its own.
+    // A tenth of leeway, because a pass may come a moment early.
     const auto least = pace_ - pace_ / 10;
     if (!sinceLast_.isValid() || sinceLast_.elapsed() >= least.count())
         return runNow();
-    timer_.start(pace_ - std::chrono::milliseconds(sinceLast_.elapsed()));
+    // Later than a request of the pass that is due, so that there is a wake-up of its own only without one.
+    if (!timer_.isActive())
+        timer_.start(pace_ + pace_ / 8 - std::chrono::milliseconds(sinceLast_.elapsed()));
 }
 
 void PacedUpdate::runNow() {

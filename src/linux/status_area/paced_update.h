@@ -8,8 +8,8 @@
 
 namespace vantrix {
 
-/// Runs an update at once, or, where the last one was less than `pace` ago, when that time is over; requests made
-/// meanwhile are merged into one.
+/// Runs an update at once, or, where the last one was less than `pace` ago, with the first request after that time; one
+/// that no other follows runs by itself a little later.
 class PacedUpdate {
   public:
     PacedUpdate(std::chrono::milliseconds pace, std::function<void()> update);
