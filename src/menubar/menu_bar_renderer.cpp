@@ -92,6 +92,14 @@ class RowPainter {
     RowPainter(QPainter& painter, bool colorize, const MenuBarPalette& palette)
         : painter_(painter), colorize_(colorize), palette_(palette), transform_(painter.deviceTransform()) {}
 
+    void draw(const MenuBarItem& item, MenuBarStyle style, const MenuBarRenderer::Layout& layout, double x) {
+        if (style == MenuBarStyle::inlined)
+            return drawInline(item, layout, x);
+        if (style == MenuBarStyle::graph)
+            drawGraph(item, x);
+        drawStacked(item, layout.columnWidth, style == MenuBarStyle::graph ? x + graphAdvance : x);
+    }
+
     void drawInline(const MenuBarItem& item, const MenuBarRenderer::Layout& layout, double x) {
         const double base = (MenuBarRenderer::height - fonts().value.capHeight()) / 2.0;
         text(fonts().label, x, base, item.label, captionColor());
@@ -260,25 +268,31 @@ std::size_t MenuBarRenderer::itemAt(const std::vector<MenuBarItem>& items, MenuB
     return items.size() - 1;
 }
 
-void MenuBarRenderer::paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
-                            const MenuBarPalette& palette) {
+std::vector<QRectF> MenuBarRenderer::boxes(const std::vector<MenuBarItem>& items, MenuBarStyle style) {
+    std::vector<QRectF> boxes;
+    boxes.reserve(items.size());
+    double left = -spacing(style) / 2.0;
+    for (const MenuBarItem& item : items) {
+        boxes.emplace_back(left, 0.0, layout(item, style).total + spacing(style), height);
+        left = boxes.back().right();
+    }
+    return boxes;
+}
+
+void MenuBarRenderer::paintItem(QPainter& painter, const MenuBarItem& item, const QRectF& box, MenuBarStyle style,
+                                bool colorize, const MenuBarPalette& palette) {
     painter.save();
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    RowPainter row(painter, colorize, palette);
-    double x = 0.0;
-    for (const MenuBarItem& item : items) {
-        const Layout measured = layout(item, style);
-        if (style == MenuBarStyle::inlined) {
-            row.drawInline(item, measured, x);
-        } else {
-            const double column = style == MenuBarStyle::graph ? x + graphAdvance : x;
-            if (style == MenuBarStyle::graph)
-                row.drawGraph(item, x);
-            row.drawStacked(item, measured.columnWidth, column);
-        }
-        x += measured.total + spacing(style);
-    }
+    RowPainter(painter, colorize, palette).draw(item, style, layout(item, style), box.left() + spacing(style) / 2.0);
     painter.restore();
+}
+
+void MenuBarRenderer::paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
+                            const MenuBarPalette& palette, const QRectF& within) {
+    const auto places = boxes(items, style);
+    for (std::size_t i = 0; i < items.size(); ++i)
+        if (within.isNull() || places[i].intersects(within))
+            paintItem(painter, items[i], places[i], style, colorize, palette);
 }
 
 void MenuBarRenderer::render(QImage& image, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
@@ -304,13 +318,15 @@ QImage MenuBarRenderer::tile(const MenuBarItem& item, bool colorize, const MenuB
     return image;
 }
 
+bool looksSame(const MenuBarItem& a, const MenuBarItem& b, MenuBarStyle style) {
+    if (style == MenuBarStyle::graph)
+        return a == b;
+    return a.label == b.label && a.lines == b.lines && a.severity == b.severity && a.reference == b.reference;
+}
+
 bool samePicture(const std::vector<MenuBarItem>& a, const std::vector<MenuBarItem>& b, MenuBarStyle style) {
-    const auto same = [style](const MenuBarItem& x, const MenuBarItem& y) {
-        if (style == MenuBarStyle::graph)
-            return x == y;
-        return x.label == y.label && x.lines == y.lines && x.severity == y.severity && x.reference == y.reference;
-    };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), same);
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [style](const MenuBarItem& x, const MenuBarItem& y) { return looksSame(x, y, style); });
 }
 
 } // namespace vantrix

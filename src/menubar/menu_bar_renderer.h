@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QImage>
+#include <QRectF>
 #include <QSizeF>
 
 #include "menubar/menu_bar_item.h"
@@ -53,9 +54,17 @@ class MenuBarRenderer {
     /// Index of the item at `x` points from the row's left edge, or the nearest. `items` is not empty.
     static std::size_t itemAt(const std::vector<MenuBarItem>& items, MenuBarStyle style, double x);
 
-    /// Draws the row with its top left corner at the painter's origin, sharp at whatever scale the painter has.
+    /// The part of the row that each item draws in, in points: from the middle of a gap to the middle of the next.
+    static std::vector<QRectF> boxes(const std::vector<MenuBarItem>& items, MenuBarStyle style);
+
+    /// Draws the item that has `box`, sharp at whatever scale the painter has. The painter stands in the row's points.
+    static void paintItem(QPainter& painter, const MenuBarItem& item, const QRectF& box, MenuBarStyle style,
+                          bool colorize, const MenuBarPalette& palette);
+
+    /// Draws the row with its top left corner at the painter's origin; items whose boxes do not reach into `within` (in
+    /// points; null is the whole row) are left out.
     static void paint(QPainter& painter, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
-                      const MenuBarPalette& palette);
+                      const MenuBarPalette& palette, const QRectF& within = {});
 
     /// The row on a transparent background; `scale` is pixels per point. Reuses `image` if it has the right size.
     static void render(QImage& image, const std::vector<MenuBarItem>& items, MenuBarStyle style, bool colorize,
@@ -65,7 +74,10 @@ class MenuBarRenderer {
     static QImage tile(const MenuBarItem& item, bool colorize, const MenuBarPalette& palette, int side);
 };
 
-/// True when two rows look the same in `style`: the histories count only where they are drawn.
+/// True when two items look the same in `style`: the history counts only where it is drawn.
+bool looksSame(const MenuBarItem& a, const MenuBarItem& b, MenuBarStyle style);
+
+/// True when two rows do.
 bool samePicture(const std::vector<MenuBarItem>& a, const std::vector<MenuBarItem>& b, MenuBarStyle style);
 
 } // namespace vantrix

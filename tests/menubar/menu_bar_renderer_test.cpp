@@ -1,6 +1,7 @@
 #include "menubar/menu_bar_renderer.h"
 
 #include <cmath>
+#include <functional>
 
 #include <QFontDatabase>
 #include <QPainter>
@@ -8,6 +9,7 @@
 #include <gmock/gmock.h>
 
 #include "menubar/monospaced_font.h"
+#include "menubar/row_picture.h"
 #include "views/drawn.h"
 
 namespace vantrix {
@@ -122,6 +124,45 @@ TEST(MenuBarRenderer, TheGraphShowsTheNewestValuesWithinItsBounds) {
     EXPECT_EQ(graph({0.0, 2.0, -1.0}), graph({0.0, 1.0, 0.0}));
     EXPECT_EQ(graph({1.0}), graph({})) << "too few for a line: a bar of the fraction";
     EXPECT_NE(graph({1.0, 1.0}), graph({}));
+}
+
+TEST(RowPicture, WhatIsKeptEqualsWhatIsDrawnAfresh) {
+    std::vector<MenuBarItem> row{percentItem("CPU", "12%"), networkItem(), percentItem("RAM", "48%")};
+    const std::pair<std::size_t, std::function<void()>> changes[] = {
+        {3, [] {}},
+        {1, [&] { row[0].lines = {"7%"}; }},
+        {1, [&] { row[2].severity = MenuBarSeverity::critical; }},
+        {2,
+         [&] {
+             row[0].lines = {"100%"}, row[1].lines = {"↓2.5M", "↑3K"};
+         }},
+        {0, [] {}},
+        {3,
+         [&] {
+             row[1].lines = {"↓1000.5M", "↑1000.5M"};
+         }},
+        {2, [&] { row.pop_back(); }},
+        {1,
+         [&] {
+             row[0].history = {0.1, 0.9}, row[0].severity = MenuBarSeverity::warning;
+         }},
+    };
+    for (const MenuBarStyle style : styles)
+        for (const double scale : {1.0, 1.25, 2.0}) {
+            SCOPED_TRACE(testing::Message() << choiceOf(menuBarStyles, style).rawValue << " at " << scale);
+            RowPicture kept;
+            for (const auto& [parts, change] : changes) {
+                change();
+                const QImage fresh = rendered(row, style, true, scale);
+                const auto drawn = kept.draw(row, {.style = style,
+                                                   .palette = palette,
+                                                   .size = fresh.size(),
+                                                   .toPixel = QTransform::fromScale(scale, scale)});
+                EXPECT_EQ(drawn.size(), parts);
+                EXPECT_EQ(kept.image(), fresh.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+            }
+            row = {percentItem("CPU", "12%"), networkItem(), percentItem("RAM", "48%")};
+        }
 }
 
 TEST(SamePicture, HistoriesCountOnlyWhereTheyAreDrawn) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include <QApplication>
 #include <QMouseEvent>
@@ -94,17 +95,19 @@ void FloatingStrip::watchScreens() {
 }
 
 void FloatingStrip::show(const StatusRow& row) {
-    const QSize before = row_.size();
-    row_ = row;
+    const StatusRow before = std::exchange(row_, row);
     tell(row_.text());
-    if (!isVisible() || before != row_.size())
+    if (!isVisible() || before.size() != row_.size())
         place();
     if (!isVisible()) {
         if (xcbConnection() != nullptr)
             xcbMakeDock(xcbConnection(), static_cast<xcb_window_t>(winId()));
         QWidget::show();
     }
-    update();
+    for (const QRectF& change : row_.changes(before))
+        update(change.translated(rowCorner()).toAlignedRect());
+    if (std::exchange(isDark_, appearance_.appearance().dark) != isDark_)
+        update();
 }
 
 void FloatingStrip::place() {
@@ -145,7 +148,7 @@ QPoint FloatingStrip::rowCorner() const {
     return {spare.width(), spare.height()};
 }
 
-void FloatingStrip::paintEvent(QPaintEvent*) {
+void FloatingStrip::paintEvent(QPaintEvent* event) {
     const bool dark = appearance_.appearance().dark;
     QPainter painter(this);
     // There is a mask where nothing blends windows; without a solid ground what is translucent would look black there.
@@ -156,7 +159,7 @@ void FloatingStrip::paintEvent(QPaintEvent*) {
     painter.setBrush(dark ? QColor(32, 33, 36, 235) : QColor(250, 250, 250, 240));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
     painter.translate(rowCorner());
-    row_.paint(painter, paletteForPanel(dark));
+    row_.paint(painter, paletteForPanel(dark), QRectF(event->rect()).translated(-rowCorner()));
 }
 
 void FloatingStrip::mousePressEvent(QMouseEvent* event) {

@@ -43,6 +43,7 @@ class FloatingStrip : public RowWindow, public StatusBackend {
     std::optional<QPoint> grabbed_; ///< within the strip, while the left button is down
     PressedButtons clicks_;
     bool dragging_ = false;
+    bool isDark_ = false;        ///< as last shown
     std::optional<QRect> layer_; ///< its place, where a Wayland compositor was told of it
 };
 

@@ -9,7 +9,8 @@ namespace vantrix {
 namespace {
 
 constexpr int mostSearches = 10; // not every host has a panel that can be known
-constexpr int thinnest = 8;      // pixels; panels that hide leave less of themselves
+constexpr int mostDoublings = 2;
+constexpr int thinnest = 8; // pixels; panels that hide leave less of themselves
 
 /// A line through what is shown at the end of the panel, where status areas are.
 QRect sampleOf(QRect area) {
@@ -64,14 +65,26 @@ bool HostPanel::addReader(uint process) {
     if (process == 0 || !canLook() || !processes_.insert(process).second)
         return false;
     searches_ = 0;
-    sinceLook_.invalidate();
+    lookSoon();
     return look();
 }
 
+void HostPanel::lookSoon() {
+    sinceLook_.invalidate();
+    sameLooks_ = 0;
+}
+
 bool HostPanel::look() {
-    if (processes_.empty() || (sinceLook_.isValid() && !sinceLook_.hasExpired(lookInterval_.count())))
+    const auto interval = lookInterval_ * (1 << std::min(sameLooks_, mostDoublings));
+    if (processes_.empty() || (sinceLook_.isValid() && !sinceLook_.hasExpired(interval.count())))
         return false;
     sinceLook_.start();
+    const bool changed = lookNow();
+    sameLooks_ = changed ? 0 : sameLooks_ + 1;
+    return changed;
+}
+
+bool HostPanel::lookNow() {
     if (dock_ == XCB_NONE || xcbRootRect(xcbConnection(), window_).isEmpty())
         find();
     if (dock_ == XCB_NONE)

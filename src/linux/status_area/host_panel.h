@@ -24,8 +24,12 @@ class HostPanel {
     /// is known by that which was not.
     bool addReader(uint process);
 
-    /// Looks how the panel is by now, unless the last look is less than the interval ago. True when it changed.
+    /// Looks how the panel is by now, unless the last look is less than the interval ago, which is up to four times as
+    /// long where nothing changes. True when it changed.
     bool look();
+
+    /// The next call looks.
+    void lookSoon();
 
     /// The usual colour where the items are; while it is hidden or covered, the one seen last.
     const std::optional<QColor>& ground() const { return ground_; }
@@ -37,12 +41,14 @@ class HostPanel {
     bool isUpright() const { return upright_; }
 
   private:
+    bool lookNow();
     void find();
 
     std::chrono::milliseconds lookInterval_;
     QElapsedTimer sinceLook_;
     std::set<std::uint32_t> processes_;
     int searches_ = 0;         ///< in vain
+    int sameLooks_ = 0;        ///< in succession
     std::uint32_t dock_ = 0;   ///< 0 while there is none
     std::uint32_t window_ = 0; ///< the dock, or the window of the reader's in it
     std::optional<QColor> ground_;

@@ -5,13 +5,21 @@
 
 namespace vantrix {
 
-NotifierPixmap toNotifierPixmap(const QImage& image, bool premultiplied) {
+NotifierPixmap emptyNotifierPixmap(QSize size) {
+    return {size.width(), size.height(), QByteArray(qsizetype{4} * size.width() * size.height(), '\0')};
+}
+
+void putInto(NotifierPixmap& pixmap, QPoint place, const QImage& image, bool premultiplied) {
     const QImage argb =
         image.convertToFormat(premultiplied ? QImage::Format_ARGB32_Premultiplied : QImage::Format_ARGB32);
-    const qsizetype row = qsizetype{argb.width()} * 4;
-    NotifierPixmap pixmap{argb.width(), argb.height(), QByteArray(row * argb.height(), Qt::Uninitialized)};
+    char* to = pixmap.bytes.data() + 4 * (qsizetype{place.y()} * pixmap.width + place.x());
     for (int y = 0; y < argb.height(); ++y)
-        qToBigEndian<quint32>(argb.constScanLine(y), argb.width(), pixmap.bytes.data() + row * y);
+        qToBigEndian<quint32>(argb.constScanLine(y), argb.width(), to + qsizetype{4} * y * pixmap.width);
+}
+
+NotifierPixmap toNotifierPixmap(const QImage& image, bool premultiplied) {
+    NotifierPixmap pixmap = emptyNotifierPixmap(image.size());
+    putInto(pixmap, {}, image, premultiplied);
     return pixmap;
 }
 

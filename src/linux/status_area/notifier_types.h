@@ -30,6 +30,12 @@ struct NotifierToolTip {
 /// With straight alpha, as hosts expect it, or `premultiplied`.
 NotifierPixmap toNotifierPixmap(const QImage& image, bool premultiplied = false);
 
+/// Transparent.
+NotifierPixmap emptyNotifierPixmap(QSize size);
+
+/// Replaces the part of the pixmap where `image` lies with its corner at `place`, all of it within.
+void putInto(NotifierPixmap& pixmap, QPoint place, const QImage& image, bool premultiplied);
+
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierPixmap& pixmap);
 const QDBusArgument& operator>>(const QDBusArgument& argument, NotifierPixmap& pixmap);
 QDBusArgument& operator<<(QDBusArgument& argument, const NotifierToolTip& toolTip);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace vantrix {
 namespace {
@@ -19,11 +20,15 @@ QTransform RowFit::place(const QRectF& slot, double pixels) const {
 }
 
 std::optional<RowFit> fitRowInHeight(const StatusRow& row, double height, double pixels) {
-    for (const StatusRow& choice : {row, row.inlined()}) {
+    const auto readableScale = [&](const StatusRow& choice) {
         const double scale = std::min(1.0, height / choice.inkHeight());
-        if (choice.smallestType() * scale * pixels >= smallestType)
-            return RowFit{choice, scale};
-    }
+        return choice.smallestType() * scale * pixels >= smallestType ? std::optional(scale) : std::nullopt;
+    };
+    if (const auto scale = readableScale(row))
+        return RowFit{row, *scale};
+    StatusRow inlined = row.inlined();
+    if (const auto scale = readableScale(inlined))
+        return RowFit{std::move(inlined), *scale};
     return std::nullopt;
 }
 

@@ -58,12 +58,13 @@ StatusNotifier::StatusNotifier(std::optional<QString> busAddress, const Notifier
                                const StatusItem::Handlers& handlers, const AppearanceSource& appearance,
                                PanelText panelText, std::chrono::milliseconds lookInterval)
     : busAddress_(std::move(busAddress)), host_(host), handlers_(handlers), appearance_(appearance),
-      panelText_(std::move(panelText)), panel_(lookInterval * panelPaceFactor),
+      panelText_(std::move(panelText)), panel_(lookInterval * panelPaceFactor), rowPixmaps_(host.premultiplied),
       paced_(host.pace, [this] { publish(); }),
       pacedToolTips_(host.pace * toolTipPaceFactor, [this] { announceToolTips(); }),
       lookInterval_(lookInterval * panelPaceFactor) {
     panel_.addReader(host_.process);
     lookAtConfiguration();
+    connect(&appearance_, &AppearanceSource::changed, this, [this] { panel_.lookSoon(); });
     registration_.setSingleShot(true);
     connect(&registration_, &QTimer::timeout, this, &StatusNotifier::registerNext);
     titleTimer_.setSingleShot(true);
@@ -280,7 +281,7 @@ void StatusNotifier::update(std::size_t index, const Look& look) {
     pacedToolTips_.request();
 }
 
-NotifierContent StatusNotifier::contentOf(std::size_t index, const Look& look) const {
+NotifierContent StatusNotifier::contentOf(std::size_t index, const Look& look) {
     const std::size_t tile = tileOf(index);
     NotifierContent content;
     content.icon = samePixmaps(tile, look) ? objects_[index]->content().icon : pixmapsOf(tile, look);
@@ -312,26 +313,16 @@ QString StatusNotifier::toolTipOf(std::size_t tile) const {
     return tile == 0 ? row_.text() : row_.tileText(tile);
 }
 
-QImage StatusNotifier::picture(std::size_t tile, const MenuBarPalette& palette, int scale) const {
-    const int side = 22 * scale;
-    switch (layout()) {
-    case NotifierLayout::wide:
-        return row_.image(palette, scale);
-    case NotifierLayout::labelled:
-        return gaugeTile(palette, side); // the label says the rest
-    case NotifierLayout::tiles:
-        break;
-    }
-    return row_.tile(tile, palette, side);
-}
-
-NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const Look& look) const {
+NotifierPixmaps StatusNotifier::pixmapsOf(std::size_t tile, const Look& look) {
+    const auto halo = look.haloed ? std::optional(haloAround(look.palette.label)) : std::nullopt;
+    if (layout() == NotifierLayout::wide)
+        return rowPixmaps_.draw(row_, look.palette, halo);
     NotifierPixmaps pixmaps;
     for (const int scale : {1, 2}) {
-        QImage drawn = picture(tile, look.palette, scale);
-        if (look.haloed)
-            drawn = withHalo(drawn, haloAround(look.palette.label), scale);
-        pixmaps << toNotifierPixmap(drawn, host_.premultiplied);
+        const int side = 22 * scale;
+        const bool labelled = layout() == NotifierLayout::labelled; // the label says the rest
+        const QImage drawn = labelled ? gaugeTile(look.palette, side) : row_.tile(tile, look.palette, side);
+        pixmaps << toNotifierPixmap(halo ? withHalo(drawn, *halo, scale) : drawn, host_.premultiplied);
     }
     return pixmaps;
 }

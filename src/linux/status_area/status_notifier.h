@@ -14,6 +14,7 @@
 #include "linux/status_area/notifier_host.h"
 #include "linux/status_area/notifier_object.h"
 #include "linux/status_area/paced_update.h"
+#include "linux/status_area/row_pixmaps.h"
 #include "linux/status_area/status_backend.h"
 #include "linux/status_area/status_row.h"
 
@@ -62,11 +63,10 @@ class StatusNotifier : public QObject, public StatusBackend {
     std::size_t tileOf(std::size_t index) const;
     void publish();
     void update(std::size_t index, const Look& look);
-    NotifierContent contentOf(std::size_t index, const Look& look) const;
+    NotifierContent contentOf(std::size_t index, const Look& look);
     QString titleOf(std::size_t tile) const;
     QString toolTipOf(std::size_t tile) const;
-    QImage picture(std::size_t tile, const MenuBarPalette& palette, int scale) const;
-    NotifierPixmaps pixmapsOf(std::size_t tile, const Look& look) const;
+    NotifierPixmaps pixmapsOf(std::size_t tile, const Look& look);
     bool samePixmaps(std::size_t tile, const Look& look) const;
     void announceToolTips();
     void clicked(std::size_t index, StatusClick click, QPoint point);
@@ -91,6 +91,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     StatusRow row_;                      ///< what is to be shown
     std::optional<StatusRow> published_; ///< what the host was told
     Look publishedLook_;
+    RowPixmaps rowPixmaps_;
     PacedUpdate paced_;
     PacedUpdate pacedToolTips_;
     bool hasToolTip_ = true;

@@ -53,21 +53,34 @@ StatusRow StatusRow::inlined() const {
     return row;
 }
 
-void StatusRow::paint(QPainter& painter, const MenuBarPalette& palette) const {
+void StatusRow::paint(QPainter& painter, const MenuBarPalette& palette, const QRectF& within) const {
     if (!content_.items.empty()) {
-        MenuBarRenderer::paint(painter, content_.items, content_.style, content_.colorize, palette);
+        MenuBarRenderer::paint(painter, content_.items, content_.style, content_.colorize, palette, within);
         return;
     }
     constexpr double margin = (MenuBarRenderer::height - gaugeSide) / 2.0;
     paintSymbol(painter, gaugeSymbol, QRectF(margin, margin, gaugeSide, gaugeSide), palette.label);
 }
 
-QImage StatusRow::image(const MenuBarPalette& palette, int scale) const {
+std::vector<QRectF> StatusRow::changes(const StatusRow& other) const {
+    const auto boxes = MenuBarRenderer::boxes(content_.items, content_.style);
+    if (content_.items.empty() || content_.style != other.content_.style ||
+        content_.colorize != other.content_.colorize ||
+        boxes != MenuBarRenderer::boxes(other.content_.items, other.content_.style))
+        return {QRectF(QPointF(), size())};
+    std::vector<QRectF> changes;
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        if (!looksSame(content_.items[i], other.content_.items[i], content_.style))
+            changes.push_back(boxes[i]);
+    return changes;
+}
+
+std::vector<QRect> StatusRow::draw(RowPicture& picture, const MenuBarPalette& palette, QSize size,
+                                   const QTransform& toPixel) const {
+    const RowPicture::Look look{content_.style, content_.colorize, palette, size, toPixel};
     if (content_.items.empty())
-        return gaugeTile(palette, static_cast<int>(MenuBarRenderer::height) * scale);
-    QImage image;
-    MenuBarRenderer::render(image, content_.items, content_.style, content_.colorize, palette, scale);
-    return image;
+        return picture.draw(look, [&](QPainter& painter) { paint(painter, palette); });
+    return picture.draw(content_.items, look);
 }
 
 std::size_t StatusRow::tileCount() const {

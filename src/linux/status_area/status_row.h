@@ -6,7 +6,7 @@
 #include <QSize>
 #include <QString>
 
-#include "menubar/menu_bar_renderer.h"
+#include "menubar/row_picture.h"
 #include "platform/status_item.h"
 
 namespace vantrix {
@@ -29,11 +29,15 @@ class StatusRow {
     /// The same row with each value beside its caption.
     StatusRow inlined() const;
 
-    /// Draws the row with its top left corner at the painter's origin.
-    void paint(QPainter& painter, const MenuBarPalette& palette) const;
+    /// Draws the row with its top left corner at the painter's origin, or what of it reaches into `within`.
+    void paint(QPainter& painter, const MenuBarPalette& palette, const QRectF& within = {}) const;
 
-    /// The row on a transparent ground; `scale` is pixels per point.
-    QImage image(const MenuBarPalette& palette, int scale) const;
+    /// The parts of it, in points, that look different in `other`; the whole row where these are more than some items.
+    std::vector<QRectF> changes(const StatusRow& other) const;
+
+    /// Draws the row into a picture of `size` pixels that is kept for it, and tells which parts of that are new.
+    std::vector<QRect> draw(RowPicture& picture, const MenuBarPalette& palette, QSize size,
+                            const QTransform& toPixel) const;
 
     /// The number of squares that replace the row where only squares are shown; at least 1.
     std::size_t tileCount() const;

@@ -24,7 +24,8 @@ constexpr auto embeddingPatience = 3s;
 // Trays embed a window at its own size and cut it later, when they lay out their contents.
 constexpr auto layoutPatience = 500ms;
 constexpr auto backgroundDelay = 60ms;
-constexpr int air = 4; // points to the neighbours on both sides
+constexpr int air = 4;           // points to the neighbours on both sides
+constexpr int mostDoublings = 2; // of the time between looks at a panel that stays as it is
 
 QSize withAir(const StatusRow& row) {
     return row.size() + QSize(2 * air, 0);
@@ -37,17 +38,19 @@ TrayWindow::TrayWindow(X11Tray& tray, const StatusItem::Handlers& handlers, cons
     : RowWindow(Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint, handlers), tray_(tray),
       appearance_(appearance), lookInterval_(lookInterval), patience_(patience), alpha_(tray.wantsAlpha()) {
     setAttribute(Qt::WA_TranslucentBackground, alpha_);
-    setAttribute(Qt::WA_OpaquePaintEvent, !alpha_);
+    setAttribute(Qt::WA_PaintOnScreen);
+    setAttribute(Qt::WA_NoSystemBackground);
     verdict_.setSingleShot(true);
     backgroundTimer_.setSingleShot(true);
     connect(&verdict_, &QTimer::timeout, this, &TrayWindow::judge);
     connect(&backgroundTimer_, &QTimer::timeout, this, &TrayWindow::takeGround);
+    connect(&appearance_, &AppearanceSource::changed, this, &TrayWindow::lookSoon);
     connect(&tray_, &X11Tray::reparented, this, &TrayWindow::reparented);
     connect(&tray_, &X11Tray::slotChanged, this, [this] { verdict_.start(layoutPatience); });
     connect(&tray_, &X11Tray::looksChanged, this, [this] {
         panel_.reset(); // what is told now is the better guide, until the panel has drawn itself anew
         backgroundTimer_.start(backgroundDelay);
-        update();
+        draw();
     });
 }
 
@@ -58,7 +61,7 @@ void TrayWindow::show(const StatusRow& row) {
         dock();
     else
         askForRoom();
-    update();
+    draw();
 }
 
 void TrayWindow::dock() {
@@ -66,10 +69,9 @@ void TrayWindow::dock() {
     resize(withAir(row_));
     const auto window = static_cast<xcb_window_t>(winId());
     setMinimumSize(withAir(row_)); // after winId(): trays read this hint from the window when they embed it
-    if (!alpha_) {
-        const std::uint32_t parentRelative = XCB_BACK_PIXMAP_PARENT_RELATIVE;
-        xcb_change_window_attributes(xcbConnection(), window, XCB_CW_BACK_PIXMAP, &parentRelative);
-    }
+    shown_ = std::make_unique<X11Picture>(xcbConnection(), window);
+    if (!alpha_)
+        shown_->remove();
     tray_.dock(window);
     verdict_.start(embeddingPatience);
 }
@@ -130,7 +132,7 @@ void TrayWindow::measureSlot() {
     if (seen_ == seen)
         return;
     seen_ = seen;
-    update();
+    draw();
 }
 
 void TrayWindow::resizeEvent(QResizeEvent* event) {
@@ -140,12 +142,13 @@ void TrayWindow::resizeEvent(QResizeEvent* event) {
     if (seen_)
         measureSlot();
     askForRoom();
+    draw();
     backgroundTimer_.start(backgroundDelay);
     verdict_.start(layoutPatience);
 }
 
 void TrayWindow::takeGround() {
-    sinceLook_.invalidate();
+    lookSoon();
     takeBackground();
     lookAround();
 }
@@ -153,39 +156,57 @@ void TrayWindow::takeGround() {
 void TrayWindow::takeBackground() {
     if (alpha_ || !embedded_)
         return;
-    const QSize size = (QSizeF(this->size()) * devicePixelRatioF()).toSize();
-    background_ = xcbParentBackground(xcbConnection(), static_cast<xcb_window_t>(winId()), size);
-    background_.setDevicePixelRatio(devicePixelRatioF());
-    update();
+    shown_->remove();
+    background_ = xcbParentBackground(xcbConnection(), static_cast<xcb_window_t>(winId()), pixels());
+    backgroundColor_.reset();
+    if (!background_.isNull())
+        backgroundColor_ = background_.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
+    groundSize_ = {};
+    draw();
 }
 
-/// Panels change their colours without a word, and tell the old ones on: now and then it is looked how they are.
+/// The next look at the panel is taken on the next pass.
+void TrayWindow::lookSoon() {
+    sinceLook_.invalidate();
+    sameLooks_ = 0;
+}
+
+/// Panels change their colours without a word, and tell the old ones on: now and then it is looked how they are, the
+/// more rarely the longer they stay.
 void TrayWindow::lookAround() {
-    if (!embedded_ || !seen_ || !showsScreen_ ||
-        (sinceLook_.isValid() && !sinceLook_.hasExpired(lookInterval_.count())))
+    const auto pause = lookInterval_ * (1 << std::min(sameLooks_, mostDoublings));
+    if (!embedded_ || !seen_ || !showsScreen_ || (sinceLook_.isValid() && !sinceLook_.hasExpired(pause.count())))
         return;
     sinceLook_.start();
-    constexpr int columns = 2;
+    std::optional<XcbScreenLook> look(std::in_place, xcbConnection(),
+                                      besides(place_)); // where it most likely still is: one wait for both answers
     const QRect place = xcbRootRect(xcbConnection(), static_cast<xcb_window_t>(winId()));
-    // Through a window with an alpha channel the panel itself is seen beside the row, else only outside.
-    const int left = alpha_ ? place.x() : place.x() - columns;
-    const auto color =
-        xcbScreenColor(xcbConnection(), QRect(std::max(left, 0), place.y(), columns,
-                                              static_cast<int>(std::ceil(slot().height() * devicePixelRatioF()))));
+    if (std::exchange(place_, place) != place)
+        look.emplace(xcbConnection(), besides(place));
+    const auto color = look->color();
+    ++sameLooks_;
     if (color == panel_)
         return;
+    sameLooks_ = 0;
     panel_ = color;
     if (alpha_)
-        update();
+        draw();
     else
         takeBackground();
 }
 
+/// The panel beside the row: through a window with an alpha channel it is seen within, else only outside.
+QRect TrayWindow::besides(const QRect& place) const {
+    constexpr int columns = 2;
+    const int left = alpha_ ? place.x() : place.x() - columns;
+    return place.isEmpty() ? QRect()
+                           : QRect(std::max(left, 0), place.y(), columns,
+                                   static_cast<int>(std::ceil(slot().height() * devicePixelRatioF())));
+}
+
 /// In the tray's own text colour, unless that is too close to the panel's background.
 MenuBarPalette TrayWindow::rowPalette() const {
-    std::optional<QColor> color = alpha_ ? panel_ : std::nullopt;
-    if (!background_.isNull())
-        color = background_.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).pixelColor(0, 0);
+    const std::optional<QColor> color = alpha_ ? panel_ : backgroundColor_;
     const std::optional<QColor> text = tray_.foreground();
     if (color)
         return paletteOn(*color, text);
@@ -198,17 +219,36 @@ std::optional<RowFit> TrayWindow::drawnRow() const {
     return fit ? std::optional(fit->narrowedTo(slot().width())) : std::nullopt;
 }
 
-void TrayWindow::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    if (!alpha_ && background_.isNull())
-        painter.fillRect(rect(), palette().window());
-    else if (!alpha_)
-        painter.drawImage(QPoint(0, 0), background_);
-    const auto drawn = drawnRow();
-    if (!drawn)
+QSize TrayWindow::pixels() const {
+    return (QSizeF(size()) * devicePixelRatioF()).toSize();
+}
+
+/// What changed since the last time goes to the screen.
+void TrayWindow::draw() {
+    if (!shown_)
         return;
-    painter.setTransform(drawn->place(slot(), devicePixelRatioF()), true);
-    drawn->row.paint(painter, rowPalette());
+    const double scale = devicePixelRatioF();
+    const QSize size = pixels();
+    if (!alpha_ && groundSize_ != size)
+        setGround(size);
+    std::vector<QRect> parts;
+    if (const auto drawn = drawnRow()) {
+        const QTransform toPixel = drawn->place(slot(), scale) * QTransform::fromScale(scale, scale);
+        parts = drawn->row.draw(picture_, rowPalette(), size, toPixel);
+    } else {
+        parts = picture_.draw({.size = size}, [](QPainter&) {});
+    }
+    shown_->show(picture_.image(), parts);
+}
+
+/// Where the panel's background is not known yet, the usual colour of windows.
+void TrayWindow::setGround(QSize size) {
+    QImage ground(size, QImage::Format_RGB32);
+    ground.fill(palette().color(QPalette::Window));
+    if (!background_.isNull())
+        QPainter(&ground).drawImage(0, 0, background_);
+    picture_.setGround(std::move(ground));
+    groundSize_ = size;
 }
 
 void TrayWindow::mousePressEvent(QMouseEvent* event) {

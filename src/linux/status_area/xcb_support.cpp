@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 #include <QGuiApplication>
+#include <QHash>
 
 namespace vantrix {
 
@@ -17,9 +19,12 @@ xcb_screen_t* xcbScreen(xcb_connection_t* connection) {
 }
 
 xcb_atom_t xcbAtom(xcb_connection_t* connection, const QByteArray& name) {
+    static QHash<QByteArray, xcb_atom_t> known; // they stay as long as the server; the program has but one
+    if (const auto found = known.constFind(name); found != known.cend())
+        return *found;
     const auto cookie = xcb_intern_atom(connection, 0, static_cast<std::uint16_t>(name.size()), name.constData());
     const XcbReply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(connection, cookie, nullptr));
-    return reply ? reply->atom : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
+    return reply ? *known.insert(name, reply->atom) : static_cast<xcb_atom_t>(XCB_ATOM_NONE);
 }
 
 std::vector<std::uint32_t> xcbValues(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property) {
@@ -34,19 +39,36 @@ std::vector<std::uint32_t> xcbValues(xcb_connection_t* connection, xcb_window_t 
     return {values, values + xcb_get_property_value_length(reply.get()) / 4};
 }
 
+namespace {
+
+/// The place of a window on the root window, asked for; several can be on their way at the same time.
+class PlaceQuestion {
+  public:
+    PlaceQuestion(xcb_connection_t* connection, xcb_window_t window)
+        : connection_(connection), geometry_(xcb_get_geometry(connection, window)),
+          place_(xcb_translate_coordinates(connection, window, xcbScreen(connection)->root, 0, 0)) {}
+
+    /// Empty where the window is gone. To be asked once.
+    QRect answer() const {
+        xcb_generic_error_t* error = nullptr;
+        const XcbReply<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(connection_, geometry_, &error));
+        const XcbReply<xcb_generic_error_t> geometryError(std::exchange(error, nullptr));
+        const XcbReply<xcb_translate_coordinates_reply_t> place(
+            xcb_translate_coordinates_reply(connection_, place_, &error));
+        const XcbReply<xcb_generic_error_t> placeError(error);
+        return geometry && place ? QRect(place->dst_x, place->dst_y, geometry->width, geometry->height) : QRect();
+    }
+
+  private:
+    xcb_connection_t* connection_;
+    xcb_get_geometry_cookie_t geometry_;
+    xcb_translate_coordinates_cookie_t place_;
+};
+
+} // namespace
+
 QRect xcbRootRect(xcb_connection_t* connection, xcb_window_t window) {
-    const auto root = xcbScreen(connection)->root;
-    const auto geometryCookie = xcb_get_geometry(connection, window);
-    const auto placeCookie = xcb_translate_coordinates(connection, window, root, 0, 0);
-    xcb_generic_error_t* error = nullptr;
-    const XcbReply<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(connection, geometryCookie, &error));
-    const XcbReply<xcb_generic_error_t> geometryError(std::exchange(error, nullptr));
-    const XcbReply<xcb_translate_coordinates_reply_t> place(
-        xcb_translate_coordinates_reply(connection, placeCookie, &error));
-    const XcbReply<xcb_generic_error_t> placeError(error);
-    if (!geometry || !place)
-        return {};
-    return {place->dst_x, place->dst_y, geometry->width, geometry->height};
+    return PlaceQuestion(connection, window).answer();
 }
 
 std::vector<xcb_window_t> xcbChildren(xcb_connection_t* connection, xcb_window_t window) {
@@ -87,28 +109,34 @@ std::vector<xcb_window_t> xcbAncestors(xcb_connection_t* connection, xcb_window_
 }
 
 QRect xcbVisibleRect(xcb_connection_t* connection, xcb_window_t window, const std::vector<xcb_window_t>& ancestors) {
-    const QRect own = xcbRootRect(connection, window);
-    QRect visible = own & xcbRootRect(connection, xcbScreen(connection)->root);
+    const PlaceQuestion self(connection, window);
+    std::vector<PlaceQuestion> around{{connection, xcbScreen(connection)->root}};
     for (const xcb_window_t ancestor : ancestors)
-        visible &= xcbRootRect(connection, ancestor);
+        around.emplace_back(connection, ancestor);
+    const QRect own = self.answer();
+    QRect visible = own;
+    for (const PlaceQuestion& question : around)
+        visible &= question.answer();
     return visible.translated(-own.topLeft());
 }
 
 namespace {
 
-/// What is shown in `rect` of a window and of those within it; null when that cannot be read.
-QImage imageOf(xcb_connection_t* connection, xcb_window_t window, const QRect& rect) {
-    const auto cookie =
-        xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, static_cast<std::int16_t>(rect.x()),
-                      static_cast<std::int16_t>(rect.y()), static_cast<std::uint16_t>(rect.width()),
-                      static_cast<std::uint16_t>(rect.height()), ~0U);
+xcb_get_image_cookie_t askForImage(xcb_connection_t* connection, xcb_window_t window, const QRect& rect) {
+    return xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, window, static_cast<std::int16_t>(rect.x()),
+                         static_cast<std::int16_t>(rect.y()), static_cast<std::uint16_t>(rect.width()),
+                         static_cast<std::uint16_t>(rect.height()), ~0U);
+}
+
+/// What is shown in a part of that size of a window and of those within it; null when that cannot be read.
+QImage answeredImage(xcb_connection_t* connection, xcb_get_image_cookie_t cookie, QSize size) {
     xcb_generic_error_t* error = nullptr;
     const XcbReply<xcb_get_image_reply_t> reply(xcb_get_image_reply(connection, cookie, &error));
     const XcbReply<xcb_generic_error_t> ownedError(error);
-    const auto wanted = qsizetype{rect.width()} * rect.height() * 4;
+    const auto wanted = qsizetype{size.width()} * size.height() * 4;
     if (!reply || reply->depth < 24 || xcb_get_image_data_length(reply.get()) < wanted)
         return {};
-    return QImage(xcb_get_image_data(reply.get()), rect.width(), rect.height(), QImage::Format_RGB32).copy();
+    return QImage(xcb_get_image_data(reply.get()), size.width(), size.height(), QImage::Format_RGB32).copy();
 }
 
 void setAtoms(xcb_connection_t* connection, xcb_window_t window, const QByteArray& property,
@@ -125,7 +153,7 @@ void setAtoms(xcb_connection_t* connection, xcb_window_t window, const QByteArra
 
 QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QSize size) {
     xcb_clear_area(connection, 0, window, 0, 0, 0, 0);
-    return imageOf(connection, window, QRect(QPoint(0, 0), size));
+    return answeredImage(connection, askForImage(connection, window, QRect(QPoint(0, 0), size)), size);
 }
 
 void xcbFill(xcb_connection_t* connection, xcb_window_t window, std::uint32_t pixel) {
@@ -137,8 +165,24 @@ void xcbFill(xcb_connection_t* connection, xcb_window_t window, std::uint32_t pi
     xcb_flush(connection);
 }
 
+XcbScreenLook::XcbScreenLook(xcb_connection_t* connection, const QRect& rect)
+    : connection_(connection), size_(rect.size()) {
+    if (!rect.isEmpty())
+        asked_ = askForImage(connection, xcbScreen(connection)->root, rect);
+}
+
+XcbScreenLook::~XcbScreenLook() {
+    if (asked_)
+        xcb_discard_reply(connection_, asked_->sequence);
+}
+
 std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& rect) {
-    const QImage image = rect.isEmpty() ? QImage() : imageOf(connection, xcbScreen(connection)->root, rect);
+    return XcbScreenLook(connection, rect).color();
+}
+
+std::optional<QColor> XcbScreenLook::color() {
+    const auto asked = std::exchange(asked_, std::nullopt);
+    const QImage image = asked ? answeredImage(connection_, *asked, size_) : QImage();
     if (image.isNull())
         return std::nullopt;
     // Of colours that look much the same, because a picture behind the panel may have each of its colours once.

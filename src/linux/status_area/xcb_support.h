@@ -56,8 +56,25 @@ QImage xcbParentBackground(xcb_connection_t* connection, xcb_window_t window, QS
 /// Fills a window with one pixel value, which means what the window's visual makes of it.
 void xcbFill(xcb_connection_t* connection, xcb_window_t window, std::uint32_t pixel);
 
-/// The usual colour of what the screen shows in `rect`, in device pixels of the root window; absent when that cannot be
-/// read.
+/// A look at what the screen shows in a rectangle of the root window, in device pixels. The answer is on its way until
+/// it is asked for.
+class XcbScreenLook {
+  public:
+    XcbScreenLook(xcb_connection_t* connection, const QRect& rect);
+    ~XcbScreenLook();
+    XcbScreenLook(const XcbScreenLook&) = delete;
+    XcbScreenLook& operator=(const XcbScreenLook&) = delete;
+
+    /// The usual colour there; absent when that cannot be read. To be asked once.
+    std::optional<QColor> color();
+
+  private:
+    xcb_connection_t* connection_;
+    QSize size_;
+    std::optional<xcb_get_image_cookie_t> asked_;
+};
+
+/// The usual colour of what the screen shows in `rect`, as above, waited for.
 std::optional<QColor> xcbScreenColor(xcb_connection_t* connection, const QRect& rect);
 
 /// Makes window managers treat a window as a dock: on every desktop, above all windows but those that fill the screen,

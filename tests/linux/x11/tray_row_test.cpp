@@ -61,6 +61,17 @@ TEST_F(TrayRow, DocksAndPaintsWithTheRoomItNeeds) {
         EXPECT_TRUE(becomes(tray, [&] { return item.anchor() == QRect(place.x(), 0, place.width(), 30); }));
         EXPECT_TRUE(becomes(tray, [&] { return shows(tray.picture(), Qt::white); }));
         EXPECT_EQ(item.kind(), Kind::tray);
+        if (count < 2)
+            continue;
+        const QImage before = tray.picture();
+        content.items[1].lines = {"100%"};
+        content.accessibilityLabel = "another row";
+        item.show(content);
+        const QRect firstModule(0, 0, 30, before.height());
+        EXPECT_NE(tray.picture(), before) << "what changed is there at once";
+        EXPECT_EQ(tray.picture().copy(firstModule), before.copy(firstModule)) << "all else stays";
+        item.show(row(count));
+        EXPECT_EQ(tray.picture(), before);
     }
 }
 
