@@ -68,8 +68,7 @@ struct ProgramTest : ::testing::Test {
         auto call = QDBusMessage::createMethodCall(QString::fromLatin1(applicationId), u"/app/vantrix/Vantrix"_s,
                                                    u"org.freedesktop.Application"_s, u"ActivateAction"_s);
         call << action << parameters << QVariantMap();
-        return BusConnection(bus.address()).bus().call(call, QDBus::Block, patience).type() ==
-               QDBusMessage::ReplyMessage;
+        return BusConnection(bus.address()).bus().call(call, QDBus::Block).type() == QDBusMessage::ReplyMessage;
     }
 
     bool settingsShow(const QByteArray& tab) const {
@@ -222,12 +221,11 @@ TEST_F(ProgramTest, ARunningInstanceIsTalkedTo) {
 
 TEST_F(ProgramTest, TheBusStartsItWhereItIsInstalled) {
     const QString prefix = folder.filePath(u"a prefix"_s);
-    EXPECT_EQ(QProcess::execute(u"cmake"_s, {u"--install"_s, QFileInfo(QStringLiteral(VANTRIX_PROGRAM)).path(),
-                                             u"--prefix"_s, prefix}),
-              0);
+    const QString build = QFileInfo(QStringLiteral(VANTRIX_PROGRAM)).path();
+    EXPECT_EQ(QProcess::execute(u"cmake"_s, {u"--install"_s, build, u"--prefix"_s, prefix}), 0);
     QProcess instance;
     startInstance(instance); // the bus does not know
-    const PrivateBus bus(prefix + u"/share/dbus-1/services"_s, environment);
+    const PrivateBus bus({}, QFile::encodeName(prefix) + "/share/dbus-1/services", environment);
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
     EXPECT_TRUE(activate(bus, u"settings"_s, {u"alerts"_s}));
     EXPECT_TRUE(settingsShow("alerts")) << "by the one that runs";

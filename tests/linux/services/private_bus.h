@@ -15,19 +15,24 @@
 namespace vantrix {
 
 /// A message bus of the test's own; gone with the object. It starts no service but one that is `startable`, and of
-/// that a program which leaves it to the test to take the name.
+/// that a program which leaves it to the test to take the name; and what the files in the folder `services` say.
 class PrivateBus {
   public:
-    explicit PrivateBus(const QByteArray& startable = {}) {
+    explicit PrivateBus(const QByteArray& startable = {}, const QByteArray& services = "/nowhere",
+                        const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment()) {
+        const QByteArray folder = QFile::encodeName(folder_.path());
         put("startable.service", "[D-BUS Service]\nName=" + startable + "\nExec=/bin/sleep 20\n");
-        configure(startable.isEmpty() ? QString() : folder_.path());
+        put("bus.conf", "<busconfig><type>session</type><listen>" + address().toLocal8Bit() +
+                            "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
+                            "<allow eavesdrop=\"true\"/></policy><servicedir>" +
+                            folder + "</servicedir><servicedir>" + services + "</servicedir></busconfig>\n");
+        daemon_.setProcessEnvironment(environment);
+        // Not left behind by a test that crashes.
+        daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+        daemon_.setStandardErrorFile(QProcess::nullDevice());
+        start();
     }
 
-    /// One that starts what the files in the folder `services` say, with that environment.
-    PrivateBus(const QString& services, const QProcessEnvironment& environment) {
-        daemon_.setProcessEnvironment(environment);
-        configure(services);
-    }
     ~PrivateBus() { kill(); }
 
     QString address() const { return QStringLiteral("unix:path=") + folder_.filePath(QStringLiteral("bus")); }
@@ -58,19 +63,6 @@ class PrivateBus {
     }
 
   private:
-    void configure(const QString& services) {
-        put("bus.conf",
-            "<busconfig><type>session</type><listen>" + address().toLocal8Bit() +
-                "</listen><policy context=\"default\"><allow send_destination=\"*\"/><allow own=\"*\"/>"
-                "<allow eavesdrop=\"true\"/></policy>" +
-                (services.isEmpty() ? QByteArray() : "<servicedir>" + QFile::encodeName(services) + "</servicedir>") +
-                "</busconfig>\n");
-        // Not left behind by a test that crashes.
-        daemon_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-        daemon_.setStandardErrorFile(QProcess::nullDevice());
-        start();
-    }
-
     void put(const char* name, const QByteArray& contents) const {
         QFile file(folder_.filePath(QString::fromLatin1(name)));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
