@@ -37,19 +37,24 @@ struct RegisteredDefaults : UserDefaults {
     RegisteredDefaults() : UserDefaults(std::make_unique<EmptyStore>()) { registerPreferences(*this); }
 };
 
+void pass(Samplers& samplers) {
+    const PassScope scope = samplers.beginPass();
+    samplers.cpu.sample();
+    samplers.memory.sample();
+    samplers.network.sample();
+    samplers.networkInfo->sample(true, LocationAccess::authorizedAlways);
+    samplers.disk.sample();
+    samplers.gpu->sample();
+    samplers.sensors.sample();
+    samplers.battery->sample();
+}
+
 /// `pause` gives sensors, which are read aside, the time that they have between real passes.
 void passes(const char* machine, std::chrono::milliseconds pause, int count) {
     const fakes::FixtureMachine files(machine);
     Samplers samplers(makeSamplingSources(files.roots()));
     for (; count > 0; --count) {
-        samplers.cpu.sample();
-        samplers.memory.sample();
-        samplers.network.sample();
-        samplers.networkInfo->sample(true, LocationAccess::authorizedAlways);
-        samplers.disk.sample();
-        samplers.gpu->sample();
-        samplers.sensors.sample();
-        samplers.battery->sample();
+        pass(samplers);
         std::this_thread::sleep_for(pause);
     }
 }
