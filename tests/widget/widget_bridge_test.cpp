@@ -37,23 +37,24 @@ TEST_F(WidgetBridgeTest, StoresWhatAWidgetShows) {
     readings.gpu = 0.0;
     readings.battery = BatterySample{.percent = 80, .isCharging = true};
     readings.sensors.cpu = 1.0 / 3.0;
-    readings.accessories = {{"Mouse \"M\"\\\n\x01", 55, false, "computermouse"}, {"Клавиатура\xff", 100, true, "keyboard"}};
+    readings.accessories = {{"Mouse \"M\"\\\n\x01", 55, false, "computermouse"},
+                            {"Клавиатура\xff", 100, true, "keyboard"}};
     defaults.set(preference_key::warningThreshold, 0.55);
     defaults.set(preference_key::criticalThreshold, 0.95);
-    const SharedStats expected{
-        .cpu = 0.1,
-        .memory = 0.5,
-        .disk = 0.75,
-        .download = 1e21,
-        .upload = 1234.5,
-        .gpu = 0.0,
-        .batteryPercent = 80,
-        .batteryCharging = true,
-        .cpuTemperature = 1.0 / 3.0,
-        .warning = 0.55,
-        .critical = 0.95,
-        .updated = 785403893.25,
-        .accessories = {{"Mouse \"M\"\\\n\x01", 55, false, "computermouse"}, {"Клавиатура\uFFFD", 100, true, "keyboard"}}};
+    const SharedStats expected{.cpu = 0.1,
+                               .memory = 0.5,
+                               .disk = 0.75,
+                               .download = 1e21,
+                               .upload = 1234.5,
+                               .gpu = 0.0,
+                               .batteryPercent = 80,
+                               .batteryCharging = true,
+                               .cpuTemperature = 1.0 / 3.0,
+                               .warning = 0.55,
+                               .critical = 0.95,
+                               .updated = 785403893.25,
+                               .accessories = {{"Mouse \"M\"\\\n\x01", 55, false, "computermouse"},
+                                               {"Клавиатура\uFFFD", 100, true, "keyboard"}}};
     EXPECT_EQ(stored(), expected) << center.json;
 }
 
