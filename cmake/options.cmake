@@ -32,5 +32,7 @@ if(VANTRIX_FUZZ)
   target_compile_options(vantrix_options INTERFACE -fsanitize=fuzzer-no-link) # counts what an input reaches
 endif()
 
-# What most files that use Qt include; parsed once for all files of a target.
+# What most files include, and those that use Qt; parsed once for all files of a target.
+set(VANTRIX_STANDARD_HEADERS <algorithm> <cmath> <cstdint> <functional> <map> <memory> <optional> <span> <string>
+                             <string_view> <utility> <vector>)
 set(VANTRIX_QT_HEADERS <QPainter> <QString> <QWidget> <algorithm> <functional> <memory> <optional> <string> <vector>)

@@ -4,13 +4,10 @@
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
-# The build makes what the compilation database speaks of, and has no warnings.
-cmake --preset dev >/dev/null
-cmake --build --preset dev -j "$(nproc)" | tail -n 1
-
-# The same without the precompiled headers, which are in the other compiler's form.
-mkdir -p build/tidy
-sed -E 's/-Winvalid-pch -include [^ ]+\.hxx//' build/dev/compile_commands.json >build/tidy/compile_commands.json
+# The build makes what the compilation database speaks of, and has no warnings. Each file is compiled alone, without
+# precompiled headers, which would be in the other compiler's form and hide a missing include.
+cmake --preset dev -B build/tidy -DVANTRIX_UNITY=OFF -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON >/dev/null
+cmake --build build/tidy --target vantrix -j "$(nproc)" | tail -n 1
 
 if [ $# -gt 0 ]; then
   files=$(git diff --name-only --diff-filter=d "$1" -- 'src/*.cpp')
