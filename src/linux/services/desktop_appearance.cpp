@@ -122,8 +122,9 @@ void DesktopAppearance::equipToolkit() {
         QApplication::setFont(*font);
         Q_EMIT changed(); // for what is drawn in it elsewhere than in windows
     }
-    const QString icons = gnome ? wishes_.gnomeIcons() : settings_.iconTheme;
-    if (!icons.isEmpty() && QIcon::themeName() != icons)
+    const QString told = gnome ? wishes_.gnomeIcons() : settings_.iconTheme;
+    const QString icons = told.isEmpty() ? QStringLiteral("Adwaita") : told;
+    if (QIcon::themeName() != icons)
         QIcon::setThemeName(icons);
     if (settings_.dragDistance)
         QApplication::setStartDragDistance(*settings_.dragDistance);
