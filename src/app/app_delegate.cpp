@@ -108,6 +108,8 @@ void AppDelegate::monitorDidUpdate() {
     alerts_.evaluate(monitor_.readings());
     if (somebodyLooks_)
         widgetBridge_.update(monitor_.readings());
+    if (passesToRest_ > 0 && --passesToRest_ == 0)
+        releaseIdleMemory();
 }
 
 void AppDelegate::onlookersDidChange() {

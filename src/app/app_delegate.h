@@ -88,6 +88,7 @@ class AppDelegate : public QObject {
     std::unique_ptr<WidgetCenter> widgets_;
     std::unique_ptr<Onlookers> onlookers_;
     bool somebodyLooks_ = true;
+    int passesToRest_ = 5; ///< until what the start alone took up is given back; 0 from then on
     AlertManager alerts_;
     WidgetBridge widgetBridge_;
     std::unique_ptr<SystemInformation> information_;

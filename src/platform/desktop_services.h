@@ -44,6 +44,10 @@ void activateProgram();
 /// program has to draw its menus itself.
 bool popUpSystemMenu(const std::vector<StatusMenuEntry>& entries, const QWidget& widget);
 
+/// Gives the system back the memory that the program holds only because it has started, once it has. Takes about a
+/// millisecond.
+void releaseIdleMemory();
+
 /// True when the display blends windows that have an alpha channel with what is behind them. May change at any time.
 bool windowsAreBlended();
 

@@ -37,6 +37,8 @@ void prepareTerminal() {
     qputenv("QT_EVENT_DISPATCHER_CORE_FOUNDATION", "1");
 }
 
+void releaseIdleMemory() {} // the system compresses it
+
 bool windowsAreBlended() {
     return true;
 }
