@@ -27,8 +27,9 @@ bool writePlainFile(const std::string& path, std::string_view text, bool appends
 std::unique_ptr<DefaultsStore> makeStandardDefaultsStore();
 
 /// Chooses the windowing system to draw on, unless there are several and the user has chosen one. Null when there is no
-/// display at all. Keeps the toolkit's plug-ins for desktops out of the program, too. Call before the application object exists, and keep the result until it does: an X server that loses
-/// its only client resets itself, and refuses connections meanwhile.
+/// display at all. Keeps the toolkit's plug-ins for desktops out of the program, too. Call before the application
+/// object exists, and keep the result until it does: an X server that loses its only client resets itself, and refuses
+/// connections meanwhile.
 std::shared_ptr<void> prepareDisplay(int argc, char** argv);
 
 /// Draws without any display from now on. Call before the application object exists.
