@@ -127,11 +127,15 @@ void SensorsSampler::deriveTemperatures(const std::vector<TemperatureReading>& r
 
 /// Hottest first, equal values in the order of the list.
 void SensorsSampler::sortByValue(const std::vector<TemperatureReading>& readings) {
-    order_.resize(readings.size());
-    std::iota(order_.begin(), order_.end(), std::size_t{0});
-    std::sort(order_.begin(), order_.end(), [&](std::size_t a, std::size_t b) {
+    if (order_.size() != readings.size()) {
+        order_.resize(readings.size());
+        std::iota(order_.begin(), order_.end(), std::size_t{0});
+    }
+    const auto isBefore = [&](std::size_t a, std::size_t b) {
         return readings[a].value != readings[b].value ? readings[a].value > readings[b].value : a < b;
-    });
+    };
+    for (auto end = order_.begin(); end != order_.end(); ++end) // by insertion, as little has changed its place
+        std::rotate(std::upper_bound(order_.begin(), end, *end, isBefore), end, end + 1);
     std::size_t longest = 0;
     for (const TemperatureReading& reading : readings)
         longest = std::max(longest, reading.name.size());

@@ -115,6 +115,8 @@ TEST(SamplingPass, AllocatesNothingForGPUsThatMayFallAsleep) {
     ofGPUs.now = 120.0;
     passes();
     EXPECT_EQ(leastAllocationsDuring(passes), 0);
+    for (int i = 0; i < 40 && !services.at(0).temperature; ++i)
+        passes(); // on a busy machine
     EXPECT_EQ(services.at(0).temperature, 40.0);
 }
 

@@ -81,7 +81,7 @@ std::vector<std::string> volumesIn(std::string_view mountinfo) {
 }
 
 std::vector<std::string> mountedVolumes(const std::string& proc) {
-    KernelFile file(proc + (proc == "/proc" ? "/self" : "/1") + "/mountinfo", KernelFile::Kind::records);
+    KernelFile file(proc + (proc == "/proc" ? "/self" : "/1") + "/mountinfo", KernelFile::Kind::longRecords);
     return volumesIn(file.read().value_or(std::string_view()));
 }
 

@@ -45,10 +45,10 @@ bool KernelGPU::tellsLoad(double now) {
 }
 
 LinuxGPUSource::LinuxGPUSource(const std::string& sys, std::unique_ptr<Clock> clock,
-                               std::unique_ptr<NvidiaLibrary> library, int listingPeriod,
+                               std::unique_ptr<NvidiaLibrary> library, RescanSchedule::Pace pace,
                                std::shared_ptr<Background> background)
     : clock_(std::move(clock)),
-      schedule_({sys + "/class/drm", sys + "/class/devfreq", sys + "/bus/pci/drivers/nvidia"}, {listingPeriod, 0}),
+      schedule_({sys + "/class/drm", sys + "/class/devfreq", sys + "/bus/pci/drivers/nvidia"}, pace),
       nvidiaGPUs_(std::move(library), std::move(background)) {}
 
 std::optional<std::span<const Properties>> LinuxGPUSource::read() {

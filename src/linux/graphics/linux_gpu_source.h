@@ -45,11 +45,11 @@ class KernelGPU {
 };
 
 /// Every GPU: those of /sys/class/drm, those that only scale their frequency by load (/sys/class/devfreq), and those of
-/// NVIDIA's own driver. GPUs that come are noticed within `listingPeriod` passes, those that go at once.
+/// NVIDIA's own driver. GPUs that come are noticed at the `pace`, those that go at once.
 class LinuxGPUSource : public GPUSampler::Source {
   public:
     LinuxGPUSource(const std::string& sys, std::unique_ptr<Clock> clock, std::unique_ptr<NvidiaLibrary> library,
-                   int listingPeriod = RescanSchedule::quick.passesPerListing,
+                   RescanSchedule::Pace pace = RescanSchedule::quick,
                    std::shared_ptr<Background> background = std::make_shared<BackgroundThread>());
 
     std::optional<std::span<const Properties>> read() override;

@@ -8,8 +8,6 @@
 #include <thread>
 #include <vector>
 
-#include <time.h>
-
 #include "linux/kernel/reading_manner.h"
 
 namespace vantrix {
@@ -19,14 +17,6 @@ using namespace std::chrono_literals;
 
 constexpr auto longestIdle = 30s; // a device that is read on every pass keeps its thread
 constexpr auto longestStart = 1s; // of a thread on a busy machine
-
-/// The steady clock's time at its last tick, a few milliseconds ago: asked for each job, and much cheaper.
-std::chrono::steady_clock::time_point lastTick() {
-    timespec time{};
-    clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
-    return std::chrono::steady_clock::time_point(std::chrono::seconds(time.tv_sec) +
-                                                 std::chrono::nanoseconds(time.tv_nsec));
-}
 
 } // namespace
 
@@ -58,7 +48,7 @@ struct BackgroundThread::Queue {
             return false;
         round.swap(waiting);
         begun = 0;
-        lastBegin = lastTick();
+        lastBegin = std::chrono::steady_clock::now();
         owner = round.front()->owner;
         isWorking = true;
         tellProgress();
@@ -75,7 +65,7 @@ struct BackgroundThread::Queue {
             const std::size_t count = round.size();
             for (std::size_t i = 0; (i = begun++) < count;) {
                 owner = round[i]->owner;
-                lastBegin = lastTick();
+                lastBegin = std::chrono::steady_clock::now();
                 round[i]->perform();
             }
         }

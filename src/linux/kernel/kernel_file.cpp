@@ -12,11 +12,12 @@
 namespace vantrix {
 namespace {
 
-constexpr std::size_t pageSize = 4096;
+constexpr std::size_t pageSize = 4096; // the smallest that there is
+constexpr std::size_t longestRecord = 1024;
 constexpr std::size_t sizeLimit = 4 << 20;
 
 std::vector<char> roomFor(KernelFile::Kind kind) {
-    return std::vector<char>(kind == KernelFile::Kind::records ? 4 * pageSize : 512);
+    return std::vector<char>(kind == KernelFile::Kind::whole ? 512 : 4 * pageSize);
 }
 
 ssize_t readAt(int file, char* to, std::size_t room, std::size_t offset) {
@@ -61,7 +62,7 @@ bool KernelFile::open() {
 
 bool KernelFile::fill() {
     // Records are never split between reads as long as a page of room is offered.
-    const std::size_t leastRoom = kind_ == Kind::records ? pageSize : 1;
+    const std::size_t leastRoom = kind_ == Kind::whole ? 1 : pageSize;
     size_ = 0;
     for (;;) {
         if (buffer_.size() - size_ < leastRoom)
@@ -75,9 +76,21 @@ bool KernelFile::fill() {
             buffer_ = roomFor(kind_);
             return false;
         }
-        if (length == 0 || (kind_ == Kind::whole && static_cast<std::size_t>(length) < room))
+        if (length == 0 || isLast(static_cast<std::size_t>(length), room))
             return true;
     }
+}
+
+bool KernelFile::isLast(std::size_t piece, std::size_t room) const {
+    switch (kind_) {
+    case Kind::whole:
+        return piece < room;
+    case Kind::records:
+        return piece + longestRecord < pageSize;
+    case Kind::longRecords:
+        break;
+    }
+    return false;
 }
 
 } // namespace vantrix

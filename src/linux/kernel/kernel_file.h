@@ -16,9 +16,9 @@ namespace vantrix {
 class KernelFile {
   public:
     /// How the kernel hands the text out. A `whole` text ends with the first read that leaves room in the buffer. A
-    /// list of `records` (/proc/net/dev, /proc/diskstats) comes in pieces of about a page whatever the buffer, and
-    /// ends with a read of nothing.
-    enum class Kind { whole, records };
+    /// list of `records` (/proc/net/dev, /proc/diskstats) comes in pieces of about a page whatever the buffer, where
+    /// one with room for another record is the last. One of `longRecords` (mountinfo) ends with a read of nothing.
+    enum class Kind { whole, records, longRecords };
 
     explicit KernelFile(std::string path, Kind kind = Kind::whole);
 
@@ -30,6 +30,7 @@ class KernelFile {
     std::optional<std::string_view> readText();
     bool open();
     bool fill();
+    bool isLast(std::size_t piece, std::size_t room) const;
 
     std::string path_;
     Kind kind_;

@@ -10,9 +10,10 @@ namespace vantrix {
 bool KernelFolder::list() {
     if (readingManner.isRepeatable)
         return listSorted();
-    if (stream_)
+    const bool isLookDue = emptyListings_ % listingsPerLook_ == 0;
+    if (stream_ && (emptyListings_ == 0 || !isLookDue))
         rewinddir(stream_.get());
-    else
+    else if (isLookDue) // the folder itself may have gone with its driver, and come back
         stream_.reset(opendir(path_.c_str()));
     bool isChanged = false;
     std::size_t count = 0;
@@ -21,8 +22,7 @@ bool KernelFolder::list() {
         if (name != "." && name != "..")
             isChanged |= note(count++, name);
     }
-    if (count == 0)
-        stream_.reset(); // the folder itself may have gone with its driver, and come back
+    emptyListings_ = count == 0 ? emptyListings_ + 1 : 0;
     isChanged |= count != names_.size();
     names_.resize(count);
     return isChanged;

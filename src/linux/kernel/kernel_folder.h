@@ -12,7 +12,9 @@ namespace vantrix {
 /// stay the same.
 class KernelFolder {
   public:
-    explicit KernelFolder(std::string path) : path_(std::move(path)) {}
+    /// One that is empty or not there is looked up only on every `listingsPerLook`th listing.
+    explicit KernelFolder(std::string path, int listingsPerLook = 1)
+        : path_(std::move(path)), listingsPerLook_(listingsPerLook) {}
 
     /// True when the entries are other than before. A folder that cannot be read has none.
     bool list();
@@ -30,6 +32,8 @@ class KernelFolder {
     bool note(std::size_t place, std::string_view name);
 
     std::string path_;
+    int listingsPerLook_;
+    int emptyListings_ = 0; // in a row
     std::unique_ptr<DIR, Close> stream_;
     std::vector<std::string> names_;
 };

@@ -4,7 +4,7 @@ namespace vantrix {
 
 RescanSchedule::RescanSchedule(std::vector<std::string> folders, Pace pace) : pace_(pace) {
     for (std::string& folder : folders)
-        folders_.emplace_back(std::move(folder));
+        folders_.emplace_back(std::move(folder), pace.listingsPerLook);
 }
 
 bool RescanSchedule::isDue() {

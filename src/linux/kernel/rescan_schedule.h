@@ -15,11 +15,12 @@ class RescanSchedule {
     struct Pace {
         int passesPerListing = 0;
         int listingsPerSearch = 0; ///< that often is searched though no name is new; 0 for never
+        int listingsPerLook = 1;   ///< that often it is looked for a folder that is not there
     };
     /// For devices that may be named late, or be misread.
-    static constexpr Pace usual{60, 10};
+    static constexpr Pace usual{60, 10, 1};
     /// For those that people plug in and watch for. Listing costs as much as reading several files.
-    static constexpr Pace quick{5, 0};
+    static constexpr Pace quick{5, 0, 3};
 
     explicit RescanSchedule(std::vector<std::string> folders, Pace pace = usual);
 

@@ -1,6 +1,5 @@
 #include "linux/memory/proc_meminfo.h"
 
-#include <algorithm>
 #include <iterator>
 
 #include "linux/kernel/text_scan.h"
@@ -13,6 +12,7 @@ struct Line {
     MemInfo::Value MemInfo::*value;
 };
 
+/// In the order of the file, so that the search for a line ends where the last one ended.
 constexpr Line lines[] = {
     {"MemTotal", &MemInfo::memTotal},
     {"MemFree", &MemInfo::memFree},
@@ -34,24 +34,39 @@ constexpr Line lines[] = {
     {"SReclaimable", &MemInfo::sReclaimable},
 };
 
+const Line* findLine(std::string_view name, std::size_t next) {
+    for (std::size_t i = 0; i < std::size(lines); ++i) {
+        const Line& line = lines[(next + i) % std::size(lines)];
+        if (line.name.size() == name.size() && line.name == name)
+            return &line;
+    }
+    return nullptr;
+}
+
 } // namespace
 
 std::optional<MemInfo> parseMemInfo(std::string_view text) {
+    if (!text.ends_with('\n'))
+        return std::nullopt;
     MemInfo info;
-    while (const auto line = takeLine(text)) {
-        const auto colon = line->find(':');
-        if (colon == std::string_view::npos)
+    std::size_t next = 0;
+    for (std::size_t left = std::size(lines); left > 0;) { // more than half of the file comes after the last
+        const auto line = takeLine(text);
+        if (!line)
+            break;
+        const auto name = line->substr(0, line->find(':'));
+        const Line* const known = findLine(name, next);
+        if (known == nullptr || name.size() == line->size())
             continue;
-        const auto name = line->substr(0, colon);
-        const auto known =
-            std::find_if(std::begin(lines), std::end(lines), [&](const Line& other) { return other.name == name; });
-        if (known == std::end(lines))
+        next = static_cast<std::size_t>(known - lines) + 1;
+        MemInfo::Value& place = info.*known->value;
+        const auto value = Fields(line->substr(name.size() + 1)).number();
+        if (!value || *value > largestMemory)
             continue;
-        const auto value = Fields(line->substr(colon + 1)).number();
-        if (value && *value <= largestMemory)
-            info.*known->value = value;
+        left -= place ? 0 : 1;
+        place = value;
     }
-    if (!text.empty() || info.memTotal.value_or(0) == 0 || !info.memFree)
+    if (info.memTotal.value_or(0) == 0 || !info.memFree)
         return std::nullopt;
     return info;
 }

@@ -6,12 +6,18 @@
 namespace vantrix {
 namespace {
 
-/// The last colon ends the name, which may hold another one ("eth0:1").
-std::size_t findNameEnd(std::string_view line) {
-    auto end = line.find(':');
-    for (auto next = end; next != std::string_view::npos; next = line.find(':', next + 1))
-        end = next;
-    return end;
+/// The name and the first number, where they are not apart.
+struct Head {
+    std::size_t begin = 0;
+    std::size_t nameEnd = std::string_view::npos; ///< the last colon, as a name may hold another one ("eth0:1")
+};
+
+Head findHead(std::string_view line) {
+    Head head{std::min(line.find_first_not_of(' '), line.size())};
+    for (std::size_t i = head.begin; i < line.size() && line[i] != ' '; ++i)
+        if (line[i] == ':')
+            head.nameEnd = i;
+    return head;
 }
 
 std::optional<NetworkSampler::Counters> parseCounters(std::string_view text) {
@@ -29,11 +35,11 @@ std::optional<NetworkSampler::Counters> parseCounters(std::string_view text) {
 bool parseNetDev(std::string_view text, std::vector<NetDevLine>& lines) {
     lines.clear();
     while (const auto line = takeLine(text)) {
-        const auto end = findNameEnd(*line);
-        if (end == std::string_view::npos)
+        const Head head = findHead(*line);
+        if (head.nameEnd == std::string_view::npos)
             continue; // a heading
-        const auto begin = std::min(line->find_first_not_of(' '), end);
-        lines.push_back({line->substr(begin, end - begin), parseCounters(line->substr(end + 1))});
+        lines.push_back(
+            {line->substr(head.begin, head.nameEnd - head.begin), parseCounters(line->substr(head.nameEnd + 1))});
     }
     return text.empty();
 }

@@ -15,7 +15,7 @@ class RtnetlinkLinks : public LinkStates, private RtnetlinkTable {
     RtnetlinkLinks(std::shared_ptr<RtnetlinkSubscriber> subscriber, std::string sys)
         : RtnetlinkTable(std::move(subscriber)), sys_(std::move(sys)) {}
 
-    bool refresh() override { return subscriber().refresh() && hasList_; }
+    bool refresh() override { return refreshTable() && hasList_; }
     LinkState state(std::string_view name, std::size_t place) override;
 
   private:

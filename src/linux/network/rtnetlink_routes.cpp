@@ -35,7 +35,7 @@ const in_addr* RouteList::addressOf(int index) const {
 }
 
 bool RtnetlinkRoutes::refresh() {
-    subscriber().refresh();
+    refreshTable();
     return generation_ > 0; // what was known stands until the kernel can be asked again
 }
 

@@ -1,6 +1,8 @@
 #include "linux/network/rtnetlink_subscriber.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <utility>
 
 namespace vantrix {
 namespace {
@@ -24,7 +26,22 @@ RtnetlinkSubscriber::RtnetlinkSubscriber()
     : RtnetlinkSubscriber(std::make_unique<NetlinkSocket>(NETLINK_ROUTE, RTMGRP_LINK | RTMGRP_IPV4_IFADDR |
                                                                              RTMGRP_IPV4_ROUTE | RTMGRP_IPV6_ROUTE)) {}
 
-bool RtnetlinkSubscriber::refresh() {
+bool RtnetlinkTable::refreshTable() {
+    return subscriber_->refresh(*this);
+}
+
+bool RtnetlinkSubscriber::refresh(const RtnetlinkTable& caller) {
+    const auto own =
+        std::find_if(members_.begin(), members_.end(), [&](const Member& member) { return member.table == &caller; });
+    if (std::exchange(own->isServed, false))
+        return isHeard_;
+    for (Member& member : members_)
+        member.isServed = member.table != &caller;
+    isHeard_ = renewAll();
+    return isHeard_;
+}
+
+bool RtnetlinkSubscriber::renewAll() {
     if (!channel_->open() || !takeNews()) {
         startOver();
         return false;

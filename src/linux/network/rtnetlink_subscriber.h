@@ -39,7 +39,8 @@ class RtnetlinkTable {
     virtual bool takeNews(const NetlinkMessage& message) = 0;
 
   protected:
-    RtnetlinkSubscriber& subscriber() { return *subscriber_; }
+    /// To be called once on each pass; see RtnetlinkSubscriber::refresh.
+    bool refreshTable();
 
   private:
     std::shared_ptr<RtnetlinkSubscriber> subscriber_;
@@ -54,8 +55,8 @@ class RtnetlinkSubscriber {
     explicit RtnetlinkSubscriber(std::unique_ptr<NetlinkChannel> channel) : channel_(std::move(channel)) {}
 
     /// Hands the news to the tables and reads the lists that are due. False while the kernel cannot be heard; the
-    /// tables may then be out of date. Each of them may call it on the same pass.
-    bool refresh();
+    /// tables may then be out of date. Each table calls it once on a pass, and the first of them serves all.
+    bool refresh(const RtnetlinkTable& caller);
 
   private:
     friend class RtnetlinkTable;
@@ -63,9 +64,11 @@ class RtnetlinkSubscriber {
     struct Member {
         RtnetlinkTable* table = nullptr;
         bool areListsDue = true;
+        bool isServed = false; ///< by another's call since its own last one
     };
     enum class Answer { unfinished, complete, refused };
 
+    bool renewAll();
     bool takeNews();
     void handOut(const NetlinkMessage& message);
     bool readLists(Member& member);
@@ -78,6 +81,7 @@ class RtnetlinkSubscriber {
     std::unique_ptr<NetlinkChannel> channel_;
     std::vector<Member> members_;
     std::uint32_t sequence_ = 0;
+    bool isHeard_ = false;
     bool isInterrupted_ = false; // something changed while the lists were made
 };
 

@@ -13,14 +13,13 @@
 namespace vantrix {
 
 /// The machine's battery from /sys/class/power_supply, as one power source. Packs and adapters that come are noticed
-/// within `listingPeriod` passes, those that go at once.
+/// at the `pace`, those that go at once.
 class LinuxBatterySource : public BatterySampler::Source {
   public:
     LinuxBatterySource(const std::string& sys, std::shared_ptr<const Clock> clock,
                        std::shared_ptr<DeviceThreads> threads = std::make_shared<DeviceThreads>(),
-                       int listingPeriod = RescanSchedule::quick.passesPerListing)
-        : clock_(std::move(clock)), threads_(std::move(threads)),
-          schedule_({sys + "/class/power_supply"}, {listingPeriod, 0}) {}
+                       RescanSchedule::Pace pace = RescanSchedule::quick)
+        : clock_(std::move(clock)), threads_(std::move(threads)), schedule_({sys + "/class/power_supply"}, pace) {}
 
     std::optional<std::span<const Properties>> powerSources() override;
     const Properties* smartBattery() override;

@@ -65,7 +65,7 @@ struct LinuxGPUSourceTest : ::testing::Test {
     FakeNvidia& nvidia = *ownedNvidia;
     FakeClock& clock = *ownedClock;
     std::shared_ptr<FakeBackground> background = std::make_shared<FakeBackground>();
-    LinuxGPUSource source{folder.path("sys"), std::move(ownedClock), std::move(ownedNvidia), 1, background};
+    LinuxGPUSource source{folder.path("sys"), std::move(ownedClock), std::move(ownedNvidia), {1, 0}, background};
 
     const std::string card = "class/drm/card1/";
     const std::string cardDevice = card + "device/";

@@ -12,7 +12,8 @@ namespace {
 struct LinuxBatterySourceTest : ::testing::Test {
     ReadInPlace inPlace;
     TemporaryFolder folder;
-    LinuxBatterySource source{folder.path("sys"), std::make_shared<FakeClock>(), std::make_shared<DeviceThreads>(), 1};
+    LinuxBatterySource source{
+        folder.path("sys"), std::make_shared<FakeClock>(), std::make_shared<DeviceThreads>(), {1, 0}};
 
     const std::string supplies = "sys/class/power_supply/";
 
