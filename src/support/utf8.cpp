@@ -1,5 +1,7 @@
 #include "support/utf8.h"
 
+#include <algorithm>
+
 namespace vantrix {
 namespace {
 
@@ -51,6 +53,11 @@ bool steersTerminal(char32_t c) {
     return isControl || isDirection;
 }
 
+/// As most of any text.
+bool isPlain(char c) {
+    return c >= ' ' && c < 0x7f;
+}
+
 } // namespace
 
 std::string repairedUTF8(std::string_view text) {
@@ -71,6 +78,11 @@ std::string withoutTerminalControls(std::string_view text) {
     std::string result;
     result.reserve(text.size());
     while (!text.empty()) {
+        const auto plain = static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin());
+        result += text.substr(0, plain);
+        text.remove_prefix(plain);
+        if (text.empty())
+            break;
         const Sequence sequence = sequenceAt(text);
         if (sequence.length > 0 && !steersTerminal(sequence.value))
             result += text.substr(0, sequence.length);

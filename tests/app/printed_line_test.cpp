@@ -32,7 +32,8 @@ TEST(JsonLine, HoldsEveryRecordUnderItsFieldNames) {
     readings.memory = {~std::uint64_t{0}, 2, 3, 4, 5, MemorySample::Pressure::warning};
     readings.network = {6, 7};
     readings.networkInfo = demoReadings().networkInfo;
-    readings.disk = {8, 9, 10.0, 11.0};
+    readings.networkInfo.ssid = "Hö\"\\\n\x01\xff";
+    readings.disk = {8, 9, 1e21, 0.1 + 0.2};
     readings.gpu = 0.75;
     readings.sensors.all = {{"CPU", 12.0}};
     readings.sensors.cpu = 13.0;
@@ -48,11 +49,11 @@ TEST(JsonLine, HoldsEveryRecordUnderItsFieldNames) {
         R"("battery":{"cycleCount":25,"healthPercent":26,"isCharging":false,"isPluggedIn":true,"minutesRemaining":24,)"
         R"("percent":23,"temperature":27,"watts":28},)"
         R"("cpu":{"perCore":[0.5],"system":0.125,"total":0.5,"user":0.25},)"
-        R"("disk":{"available":9,"readRate":10,"total":8,"writeRate":11},"gpu":0.75,"interval":2,)"
+        R"("disk":{"available":9,"readRate":1e+21,"total":8,"writeRate":0.30000000000000004},"gpu":0.75,"interval":2,)"
         R"("memory":{"app":2,"compressed":4,"pressure":"warning","swapUsed":5,"total":9223372036854775807,"wired":3},)"
         R"("network":{"download":6,"upload":7},)"
         R"("networkInfo":{"displayName":"Wi-Fi","interface":"en0","kind":"wifi","linkSpeedMbps":866,)"
-        R"("localIP":"192.168.1.24","noise":-92,"rssi":-52,"ssid":"Home"},)"
+        R"("localIP":"192.168.1.24","noise":-92,"rssi":-52,"ssid":"Hö\"\\\n\u0001�"},)"
         R"("sensors":{"all":[{"name":"CPU","value":12}],"components":{"ane":21,"cpu":19,"dram":22,"gpu":20},"cpu":13,)"
         R"("fans":[{"id":0,"maxRPM":16,"minRPM":15,"rpm":14},{"id":1,"rpm":17}],"systemPower":18}})");
 }
