@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <string>
+#include <tuple>
 
 #include <QFile>
 #include <QPainter>
@@ -61,9 +64,9 @@ QRectF symbolPlace(const QSizeF& natural, double side) {
     return place;
 }
 
-QImage symbolImage(std::string_view name, const QColor& color, int side) {
-    if (side < 1)
-        return {};
+namespace {
+
+QImage drawnSymbol(std::string_view name, const QColor& color, int side) {
     QImage image = systemSymbol(name, side);
     if (image.isNull())
         image = ownSymbol(name, side);
@@ -72,6 +75,25 @@ QImage symbolImage(std::string_view name, const QColor& color, int side) {
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), color);
     return image;
+}
+
+} // namespace
+
+QImage symbolImage(std::string_view name, const QColor& color, int side) {
+    // The same few are drawn again and again, and each would be read and parsed.
+    static std::map<std::tuple<std::string, QRgb, int>, QImage> known;
+    constexpr std::size_t most = 64; // in a few colours
+    constexpr int largestSide = 64;  // pixels; larger ones are for pictures that are made once
+    if (side < 1)
+        return {};
+    if (side > largestSide)
+        return drawnSymbol(name, color, side);
+    const std::tuple key(std::string(name), color.rgba(), side);
+    if (const auto found = known.find(key); found != known.end())
+        return found->second;
+    if (known.size() >= most)
+        known.clear();
+    return known.emplace(key, drawnSymbol(name, color, side)).first->second;
 }
 
 } // namespace vantrix
