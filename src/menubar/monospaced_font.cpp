@@ -43,8 +43,10 @@ MonospacedFont::MonospacedFont(const QFont& base, double size, QFont::Weight wei
     // Hinted widths differ from scale to scale; a row must have the same proportions on every screen.
     font_.setHintingPreference(QFont::PreferNoHinting);
     capHeight_ = QFontMetricsF(font_).capHeight() / magnification;
-    for (QChar digit = u'0'; digit <= u'9'; digit = QChar(digit.unicode() + 1))
-        digitWidth_ = std::max(digitWidth_, shapeNaturally(digit).width);
+    for (std::size_t digit = 0; digit < digits_.size(); ++digit) {
+        digits_[digit] = shapeNaturally(QString::number(digit));
+        digitWidth_ = std::max(digitWidth_, digits_[digit].width);
+    }
 }
 
 QRawFont MonospacedFont::reduced(const QRawFont& magnified) const {
@@ -81,7 +83,7 @@ MonospacedFont::Line MonospacedFont::shape(const QString& text) const {
     Line line;
     for (qsizetype i = 0; i < text.size();) {
         if (isDigit(text[i])) {
-            const Line digit = shapeNaturally(text.mid(i, 1));
+            const Line& digit = digits_[text[i].unicode() - u'0'];
             append(line, digit, line.width + (digitWidth_ - digit.width) / 2.0);
             line.width += digitWidth_;
             ++i;

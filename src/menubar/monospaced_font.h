@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <unordered_map>
 
@@ -42,6 +43,7 @@ class MonospacedFont {
     QRawFont reduced(const QRawFont& magnified) const;
 
     QFont font_; // magnified
+    std::array<Line, 10> digits_;
     double capHeight_ = 0.0;
     double digitWidth_ = 0.0;
     mutable QList<std::pair<QRawFont, QRawFont>> reducedFonts_; // one each: every copy would fill a glyph cache
