@@ -97,7 +97,9 @@ void AppDelegate::createStatusItem() {
 }
 
 void AppDelegate::observeDefaults() {
+    modules_ = enabledMenuBarModules(defaults_);
     connect(&defaults_, &UserDefaults::changed, this, [this] {
+        modules_ = enabledMenuBarModules(defaults_);
         monitor_.setInterval(updateInterval(defaults_));
         refreshStatusItem();
     });
@@ -130,7 +132,7 @@ void AppDelegate::meetOnlooker() {
 }
 
 std::vector<MenuBarItem> AppDelegate::shownItems() const {
-    return menuBarItems(enabledMenuBarModules(defaults_), monitor_.readings(), defaults_);
+    return menuBarItems(modules_, monitor_.readings(), defaults_);
 }
 
 void AppDelegate::refreshStatusItem() {

@@ -82,6 +82,7 @@ class AppDelegate : public QObject {
     void copyRow() const;
 
     UserDefaults& defaults_;
+    std::vector<MenuBarModule> modules_; // those shown in the row
     std::function<std::unique_ptr<StatusItem>(StatusItem::Handlers)> makeStatusItem_;
     std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<NotificationCenter> notifications_;
