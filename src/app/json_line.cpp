@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <limits>
 
-#include "app/json_object.h"
+#include "support/json_object.h"
+#include "widget/shared_stats.h"
 
 namespace vantrix {
 
@@ -12,14 +13,6 @@ namespace vantrix {
 /// Few programs know unsigned 64-bit numbers; no machine counts more than 2^63 bytes.
 static std::uint64_t bounded(std::uint64_t bytes) {
     return std::min<std::uint64_t>(bytes, std::numeric_limits<std::int64_t>::max());
-}
-
-static void appendJson(std::string& json, const AccessoryBattery& accessory) {
-    JsonObject object(json);
-    object.add("isCharging", accessory.isCharging);
-    object.add("name", accessory.name);
-    object.add("percent", accessory.percent);
-    object.add("symbol", accessory.symbol);
 }
 
 static void appendJson(std::string& json, const BatterySample& battery) {

@@ -8,7 +8,7 @@
 #include <QJsonObject>
 #include <QString>
 
-#include "support/json_text.h"
+#include "support/json_object.h"
 
 namespace vantrix {
 namespace {
@@ -42,47 +42,23 @@ void visitFields(Accessory& accessory, Visit&& visit) {
     visit("symbol", accessory.symbol);
 }
 
-/// Turns records into JSON. A field without a value is left out.
-class Writer {
-  public:
-    template<typename Record>
-    void object(const Record& record) {
-        json_.beginObject();
-        visitFields(record, [&](const char* key, const auto& field) { this->field(key, field); });
-        json_.endObject();
-    }
+template<typename Record>
+void appendRecord(std::string& json, const Record& record) {
+    JsonObject object(json);
+    visitFields(record, [&](const char* key, const auto& field) { object.add(key, field); });
+}
 
-    const std::string& text() const { return json_.text(); }
-    /// False once a number was none that JSON can express.
-    bool wasFinite() const { return wasFinite_; }
-
-  private:
-    template<typename T>
-    void field(const char* key, const T& value) {
-        json_.key(key);
-        json_.value(value);
-    }
-    void field(const char* key, double value) {
-        wasFinite_ = wasFinite_ && std::isfinite(value);
-        json_.key(key);
-        json_.value(value);
-    }
-    template<typename T>
-    void field(const char* key, const std::optional<T>& value) {
-        if (value)
-            field(key, *value);
-    }
-    void field(const char* key, const std::vector<AccessoryBattery>& accessories) {
-        json_.key(key);
-        json_.beginArray();
-        for (const AccessoryBattery& accessory : accessories)
-            object(accessory);
-        json_.endArray();
-    }
-
-    JsonText json_;
-    bool wasFinite_ = true;
-};
+/// JSON has no other numbers.
+bool isFinite(double field) {
+    return std::isfinite(field);
+}
+bool isFinite(const std::optional<double>& field) {
+    return !field || std::isfinite(*field);
+}
+template<typename T>
+bool isFinite(const T& /*noDouble*/) {
+    return true;
+}
 
 /// Fills records in from JSON. Each function is false when the value is missing or of another type.
 struct Reader {
@@ -126,10 +102,18 @@ struct Reader {
 
 } // namespace
 
+void appendJson(std::string& json, const AccessoryBattery& accessory) {
+    appendRecord(json, accessory);
+}
+
 std::optional<std::string> encode(const SharedStats& stats) {
-    Writer writer;
-    writer.object(stats);
-    return writer.wasFinite() ? std::optional(writer.text()) : std::nullopt;
+    bool isExpressible = true;
+    visitFields(stats, [&](const char*, const auto& field) { isExpressible = isExpressible && isFinite(field); });
+    if (!isExpressible)
+        return std::nullopt;
+    std::string json;
+    appendRecord(json, stats);
+    return json;
 }
 
 std::optional<SharedStats> decodeSharedStats(std::string_view json) {

@@ -28,6 +28,9 @@ struct SharedStats {
     bool operator==(const SharedStats&) const = default;
 };
 
+/// Without its address, which is nobody else's business.
+void appendJson(std::string& json, const AccessoryBattery& accessory);
+
 /// The snapshot as one JSON object in UTF-8, with the fields' names as its keys in no particular order. Absent values
 /// and the addresses of accessories are left out. Absent when a number is not finite, which JSON cannot express.
 std::optional<std::string> encode(const SharedStats& stats);

@@ -13,19 +13,19 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-struct Session {
+struct LoginSession {
     QString identifier;
     QDBusObjectPath path;
 };
 
-QDBusArgument& operator<<(QDBusArgument& argument, const Session& session) {
+QDBusArgument& operator<<(QDBusArgument& argument, const LoginSession& session) {
     argument.beginStructure();
     argument << session.identifier << session.path;
     argument.endStructure();
     return argument;
 }
 
-[[maybe_unused]] const QDBusArgument& operator>>(const QDBusArgument& argument, Session&) {
+[[maybe_unused]] const QDBusArgument& operator>>(const QDBusArgument& argument, LoginSession&) {
     return argument; // nobody here is told one
 }
 
@@ -39,14 +39,15 @@ struct FakeTeller : FakeService {
         : FakeService(
               bus.address(), name, path, [this](const QDBusMessage& call) { return reply(call); },
               QDBusConnection::SubPath) {
-        qDBusRegisterMetaType<Session>();
+        qDBusRegisterMetaType<LoginSession>();
     }
 
     QDBusMessage reply(const QDBusMessage& call) const {
         if (call.member() != u"Get")
             return call.createReply(value);
         const bool isSession = call.arguments().value(1) == u"Display"_s;
-        const QVariant told = isSession ? QVariant::fromValue(Session{u"2"_s, QDBusObjectPath(sessionPath)}) : value;
+        const QVariant told =
+            isSession ? QVariant::fromValue(LoginSession{u"2"_s, QDBusObjectPath(sessionPath)}) : value;
         return call.createReply(QVariant::fromValue(QDBusVariant(told)));
     }
 

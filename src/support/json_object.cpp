@@ -1,4 +1,4 @@
-#include "app/json_object.h"
+#include "support/json_object.h"
 
 #include <cmath>
 #include <iterator>
