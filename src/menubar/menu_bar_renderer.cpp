@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <memory>
+#include <optional>
 #include <utility>
 
 #include <QGuiApplication>
@@ -28,20 +28,47 @@ constexpr double tileTextWidth = 21.5; // of the 22 points of a tile
 constexpr double captionSize = 7.5;
 constexpr double labelSize = 9.0;
 
-struct Fonts {
-    MonospacedFont value{11.5, QFont::Medium};
-    MonospacedFont twoLines{9.5, QFont::Medium};
-    MonospacedFont caption{captionSize, QFont::Bold};
-    MonospacedFont label{labelSize, QFont::DemiBold};
+/// Made when a row first needs it: finding and loading a font takes longer than drawing the row. Follows the desktop's
+/// font, and stays as it is until that changes.
+class RowFont {
+  public:
+    RowFont(double size, QFont::Weight weight) : size_(size), weight_(weight) {}
+
+    const MonospacedFont& current() {
+        if (const QFont font = QGuiApplication::font(); !made_ || made_->first != font)
+            made_.emplace(font, MonospacedFont(size_, weight_));
+        return made_->second;
+    }
+
+  private:
+    double size_;
+    QFont::Weight weight_;
+    std::optional<std::pair<QFont, MonospacedFont>> made_;
 };
 
-/// Of the desktop's font, which may change. Stays valid until it does.
-const Fonts& fonts() {
-    static std::pair<QFont, std::unique_ptr<const Fonts>> shared;
-    if (const QFont font = QGuiApplication::font(); !shared.second || shared.first != font)
-        shared = {font, std::make_unique<const Fonts>()};
-    return *shared.second;
+namespace fonts {
+
+const MonospacedFont& value() {
+    static RowFont font(11.5, QFont::Medium);
+    return font.current();
 }
+
+const MonospacedFont& twoLines() {
+    static RowFont font(9.5, QFont::Medium);
+    return font.current();
+}
+
+const MonospacedFont& caption() {
+    static RowFont font(captionSize, QFont::Bold);
+    return font.current();
+}
+
+const MonospacedFont& label() {
+    static RowFont font(labelSize, QFont::DemiBold);
+    return font.current();
+}
+
+} // namespace fonts
 
 const std::string& lineOf(const MenuBarItem& item, std::size_t index) {
     static const std::string nothing;
@@ -101,10 +128,10 @@ class RowPainter {
     }
 
     void drawInline(const MenuBarItem& item, const MenuBarRenderer::Layout& layout, double x) {
-        const double base = (MenuBarRenderer::height - fonts().value.capHeight()) / 2.0;
-        text(fonts().label, x, base, item.label, captionColor());
+        const double base = (MenuBarRenderer::height - fonts::value().capHeight()) / 2.0;
+        text(fonts::label(), x, base, item.label, captionColor());
         // From the right, each line at the right end of its own slot: what changes its width moves nothing else.
-        const MonospacedFont& font = fonts().value;
+        const MonospacedFont& font = fonts::value();
         double right = x + layout.labelWidth + labelGap + inlineSlot(item, font);
         for (auto line = item.lines.rbegin(); line != item.lines.rend(); ++line) {
             const double width = font.width(*line);
@@ -123,10 +150,10 @@ class RowPainter {
     /// Two lines filling a square as wide as the row is high, each as large as fits.
     void drawTile(const MenuBarItem& item) {
         const bool captioned = item.lines.size() < 2;
-        const FittedLine upper{captioned ? fonts().caption : fonts().twoLines, captioned ? item.label : item.lines[0],
+        const FittedLine upper{captioned ? fonts::caption() : fonts::twoLines(), captioned ? item.label : item.lines[0],
                                captioned ? captionColor() : valueColor(item)};
-        const FittedLine lower{captioned ? fonts().value : fonts().twoLines, lineOf(item, captioned ? 0 : 1),
-                               valueColor(item), captioned ? fonts().value.width("88%") : 0.0};
+        const FittedLine lower{captioned ? fonts::value() : fonts::twoLines(), lineOf(item, captioned ? 0 : 1),
+                               valueColor(item), captioned ? fonts::value().width("88%") : 0.0};
         const double block = upper.height() + lineGap + lower.height();
         const double base = (MenuBarRenderer::height - block) / 2.0;
         drawFitted(lower, base);
@@ -171,7 +198,8 @@ class RowPainter {
     }
 
     void drawCaptioned(const MenuBarItem& item, double columnWidth, double x) {
-        const auto& [value, twoLines, caption, label] = fonts();
+        const MonospacedFont& value = fonts::value();
+        const MonospacedFont& caption = fonts::caption();
         const double base = (MenuBarRenderer::height - (value.capHeight() + lineGap + caption.capHeight())) / 2.0;
         const std::string& line = lineOf(item, 0);
         text(value, x + (columnWidth - value.width(line)) / 2.0, base, line, valueColor(item));
@@ -180,7 +208,7 @@ class RowPainter {
     }
 
     void drawTwoLines(const MenuBarItem& item, double x) {
-        const MonospacedFont& font = fonts().twoLines;
+        const MonospacedFont& font = fonts::twoLines();
         const double capHeight = font.capHeight();
         const double base = (MenuBarRenderer::height - (2.0 * capHeight + lineGap)) / 2.0;
         text(font, x, base, item.lines[1], valueColor(item));
@@ -229,25 +257,25 @@ MenuBarPalette MenuBarPalette::onLight() {
 MenuBarRenderer::Layout MenuBarRenderer::layout(const MenuBarItem& item, MenuBarStyle style) {
     Layout layout;
     if (style == MenuBarStyle::inlined) {
-        layout.labelWidth = std::ceil(fonts().label.width(item.label));
-        layout.columnWidth = std::ceil(inlineSlot(item, fonts().value));
+        layout.labelWidth = std::ceil(fonts::label().width(item.label));
+        layout.columnWidth = std::ceil(inlineSlot(item, fonts::value()));
         layout.total = layout.labelWidth + labelGap + layout.columnWidth;
         return layout;
     }
     const bool captioned = item.lines.size() < 2;
-    layout.columnWidth = stackedValueWidth(item, captioned ? fonts().value : fonts().twoLines);
+    layout.columnWidth = stackedValueWidth(item, captioned ? fonts::value() : fonts::twoLines());
     if (captioned)
-        layout.columnWidth = std::max(layout.columnWidth, std::ceil(fonts().caption.width(item.label)));
+        layout.columnWidth = std::max(layout.columnWidth, std::ceil(fonts::caption().width(item.label)));
     layout.total = layout.columnWidth + (style == MenuBarStyle::graph ? graphAdvance : 0.0);
     return layout;
 }
 
 double MenuBarRenderer::inkHeight(MenuBarStyle style) {
-    constexpr double rounding = 1.0; // on each side: round letters are higher, and lines are moved to whole pixels
-    const auto& [value, twoLines, caption, label] = fonts();
+    constexpr double rounding = 1.0;    // on each side: round letters are higher, and lines are moved to whole pixels
     if (style == MenuBarStyle::inlined) // whose captions may have a tail, like that of "Q"
-        return value.capHeight() + 2.0 * (labelSize / 4.0 + rounding);
-    return std::max(value.capHeight() + caption.capHeight(), 2.0 * twoLines.capHeight()) + lineGap + 2.0 * rounding;
+        return fonts::value().capHeight() + 2.0 * (labelSize / 4.0 + rounding);
+    return std::max(fonts::value().capHeight() + fonts::caption().capHeight(), 2.0 * fonts::twoLines().capHeight()) +
+           lineGap + 2.0 * rounding;
 }
 
 double MenuBarRenderer::smallestType(MenuBarStyle style) {
