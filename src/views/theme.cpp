@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include <QEvent>
-#include <QFontInfo>
 #include <QGuiApplication>
+#include <QScreen>
 
 namespace vantrix {
 namespace {
@@ -15,8 +15,19 @@ constexpr double mostTextScale = 3.0;
 // Desktops use anything from 9 to 12 points by default; only more than that means that somebody wants larger text.
 constexpr double leastEnlargement = 1.25;
 
+/// As the toolkit reckons it, without the font being looked for.
+double textHeight(const QFont& font) {
+    constexpr double unknownScreen = 100.0; // dots per inch
+    constexpr double pointsPerInch = 72.0;
+    if (font.pixelSize() > 0)
+        return font.pixelSize();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double dots = screen != nullptr ? std::round(screen->logicalDotsPerInchY()) : unknownScreen;
+    return std::round(font.pointSizeF() * dots / pointsPerInch);
+}
+
 double desktopTextScale() {
-    const double scale = QFontInfo(QGuiApplication::font()).pixelSize() / usualTextHeight;
+    const double scale = textHeight(QGuiApplication::font()) / usualTextHeight;
     return scale < leastEnlargement ? 1.0 : std::min(scale, mostTextScale);
 }
 
