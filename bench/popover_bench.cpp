@@ -1,6 +1,6 @@
-// What the popover costs at the scale of a sharp screen: opening it for the first time, opening it again, when its window
-// is kept and every reading has changed meanwhile, opening another one, one pass while it is open, one pass while it is
-// closed, and one frame of its moving ring.
+// What the popover costs at the scale of a sharp screen: opening it for the first time, opening it again, when its
+// window is kept and every reading has changed meanwhile, opening another one, one pass while it is open, one pass
+// while it is closed, and one frame of its moving ring.
 
 #include <QApplication>
 
