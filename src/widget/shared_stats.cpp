@@ -36,9 +36,9 @@ void visitFields(Stats& stats, Visit&& visit) {
 
 template<Either<AccessoryBattery> Accessory, typename Visit>
 void visitFields(Accessory& accessory, Visit&& visit) {
+    visit("isCharging", accessory.isCharging);
     visit("name", accessory.name);
     visit("percent", accessory.percent);
-    visit("isCharging", accessory.isCharging);
     visit("symbol", accessory.symbol);
 }
 

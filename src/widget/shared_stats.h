@@ -28,7 +28,7 @@ struct SharedStats {
     bool operator==(const SharedStats&) const = default;
 };
 
-/// Without its address, which is nobody else's business.
+/// Its members in alphabetical order; without its address, which is nobody else's business.
 void appendJson(std::string& json, const AccessoryBattery& accessory);
 
 /// The snapshot as one JSON object in UTF-8, with the fields' names as its keys in no particular order. Absent values
