@@ -34,8 +34,10 @@ def budgets():
 
 def environment(folder):
     """Without a desktop's settings, services or language."""
+    runtime = pathlib.Path(folder) / "run"  # apart, or what is written there wakes who watches the settings
+    runtime.mkdir(mode=0o700, exist_ok=True)
     kept = {name: os.environ[name] for name in ("PATH", "HOME") if name in os.environ}
-    return kept | {"LC_ALL": "C.UTF-8", "XDG_CONFIG_HOME": folder, "XDG_RUNTIME_DIR": folder,
+    return kept | {"LC_ALL": "C.UTF-8", "XDG_CONFIG_HOME": folder, "XDG_RUNTIME_DIR": str(runtime),
                    "DBUS_SESSION_BUS_ADDRESS": "disabled:", "QT_HASH_SEED": "0"}
 
 
