@@ -50,7 +50,7 @@ std::optional<MemInfo> parseMemInfo(std::string_view text) {
         return std::nullopt;
     MemInfo info;
     std::size_t next = 0;
-    for (std::size_t left = std::size(lines); left > 0;) { // more than half of the file comes after the last
+    while (next < std::size(lines)) { // more than half of the file comes after the last
         const auto line = takeLine(text);
         if (!line)
             break;
@@ -59,12 +59,9 @@ std::optional<MemInfo> parseMemInfo(std::string_view text) {
         if (known == nullptr || name.size() == line->size())
             continue;
         next = static_cast<std::size_t>(known - lines) + 1;
-        MemInfo::Value& place = info.*known->value;
         const auto value = Fields(line->substr(name.size() + 1)).number();
-        if (!value || *value > largestMemory)
-            continue;
-        left -= place ? 0 : 1;
-        place = value;
+        if (value && *value <= largestMemory)
+            info.*known->value = value;
     }
     if (info.memTotal.value_or(0) == 0 || !info.memFree)
         return std::nullopt;

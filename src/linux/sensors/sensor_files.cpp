@@ -11,7 +11,7 @@ namespace vantrix {
 std::string readName(const std::string& path) {
     constexpr std::size_t longest = 64;
     std::string text = readStart(path, longest).value_or("");
-    text.resize(std::min(text.find('\n'), text.size()));
+    text.erase(std::find(text.begin(), text.end(), '\n'), text.end());
     std::replace_if(
         text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == 0x7f; }, ' ');
     text.erase(text.find_last_not_of(' ') + 1);

@@ -21,9 +21,10 @@ constexpr int ringSide = 76;
 constexpr double ringLine = 8.0;
 constexpr int ringGap = 16;
 
-const ProgramList::Kind programs{PopoverCard::cpu, localizedLater("Programs by CPU use"), &ProcessSample::busiest,
-                                 [](const ProgramShare& program) { return program.cpu; },
-                                 [](const ProgramShare& program, const Units&) { return shareText(program.cpu); }};
+const ProgramList::Kind busiestPrograms{
+    PopoverCard::cpu, localizedLater("Programs by CPU use"), &ProcessSample::busiest,
+    [](const ProgramShare& program) { return program.cpu; },
+    [](const ProgramShare& program, const Units&) { return shareText(program.cpu); }};
 
 } // namespace
 
@@ -50,7 +51,7 @@ CPUCard::CPUCard(const CardContext& context)
     content().addLayout(top);
     content().addWidget(cores_);
     if (context.watchPrograms)
-        programs_ = new ProgramList(context, programs, *this);
+        programs_ = new ProgramList(context, busiestPrograms, *this);
 }
 
 void CPUCard::showReadings(const Readings& readings) {

@@ -13,7 +13,7 @@
 namespace vantrix {
 namespace {
 
-constexpr double leastScale = 1'000'000.0; // bytes per second: less than this is an idle disk
+constexpr double idleDisk = 1'000'000.0; // bytes per second: less than this is an idle disk
 
 /// "/home", or "Stick" of "/media/ann/Stick"; short enough to leave room for the title.
 QString volumeName(const QString& mountPoint) {
@@ -35,11 +35,10 @@ QString freeSpacePattern(const DiskSample& disk) {
 DiskCard::DiskCard(const CardContext& context)
     : Card(context.theme, localizedText("Disk"), "internaldrive"), defaults_(context.defaults),
       free_(new Headline(context.theme)), used_(new SegmentedBar(context.theme, localizedText("Disk space in use"))),
-      read_(new RateColumn(
-          context.theme, {localizedText("Read"), localizedText("Read history"), {}, &ThemeColors::accent, leastScale})),
+      read_(new RateColumn(context.theme,
+                           {localizedText("Read"), localizedText("Read history"), {}, &ThemeColors::accent, idleDisk})),
       write_(new RateColumn(
-          context.theme,
-          {localizedText("Write"), localizedText("Write history"), {}, &ThemeColors::green, leastScale})) {
+          context.theme, {localizedText("Write"), localizedText("Write history"), {}, &ThemeColors::green, idleDisk})) {
     content().addWidget(free_);
     content().addWidget(used_);
     content().addLayout(sideBySide(read_, write_));

@@ -43,8 +43,8 @@ QString textOf(const ProgramShare& program, const Units& units) {
     return memoryText(program.memory, units.memory);
 }
 
-const ProgramList::Kind programs{PopoverCard::memory, localizedLater("Programs by memory use"), &ProcessSample::largest,
-                                 bytesOf, textOf};
+const ProgramList::Kind largestPrograms{PopoverCard::memory, localizedLater("Programs by memory use"),
+                                        &ProcessSample::largest, bytesOf, textOf};
 
 } // namespace
 
@@ -61,7 +61,7 @@ MemoryCard::MemoryCard(const CardContext& context)
     content().addLayout(columnOf({app_, wired_, compressed_, swap_}));
     content().addWidget(pressure_);
     if (context.watchPrograms)
-        programs_ = new ProgramList(context, programs, *this);
+        programs_ = new ProgramList(context, largestPrograms, *this);
 }
 
 void MemoryCard::showReadings(const Readings& readings) {

@@ -17,7 +17,7 @@
 namespace vantrix {
 namespace {
 
-constexpr double leastScale = 100'000.0; // bytes per second: less than this is an idle line
+constexpr double idleLine = 100'000.0; // bytes per second: less than this is an idle line
 
 const char* symbolOf(NetworkInfo::Kind kind) {
     switch (kind) {
@@ -75,9 +75,9 @@ std::optional<QString> shown(const std::optional<std::string>& text) {
 NetworkCard::NetworkCard(const CardContext& context)
     : Card(context.theme, localizedText("Network"), "network"), defaults_(context.defaults),
       download_(new RateColumn(context.theme, {localizedText("Download"), localizedText("Download history"),
-                                               "arrow.down", &ThemeColors::accent, leastScale})),
+                                               "arrow.down", &ThemeColors::accent, idleLine})),
       upload_(new RateColumn(context.theme, {localizedText("Upload"), localizedText("Upload history"), "arrow.up",
-                                             &ThemeColors::green, leastScale})),
+                                             &ThemeColors::green, idleLine})),
       connection_(new QWidget), name_(new StatRow(context.theme, localizedText("Network"))),
       nameWithheld_(new LinkButton(context.theme, localizedText("Network name unavailable"),
                                    localizedText("Allow location access to show the network name"))),

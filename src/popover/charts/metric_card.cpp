@@ -14,9 +14,9 @@ namespace vantrix {
 namespace {
 
 constexpr int padding = 12;
-constexpr int spacing = 10;
+constexpr int contentSpacing = 10;
 constexpr int headerSpacing = 6;
-constexpr double cornerRadius = 12.0;
+constexpr double cardRadius = 12.0;
 constexpr double borderWidth = 0.5;
 constexpr double titleSize = 12.0;
 constexpr int controlRoom = 5;   // around a control's symbol, which lines up with the content's edge
@@ -37,7 +37,7 @@ MetricCard::MetricCard(const Theme& theme, const QString& title, std::string_vie
     subtitle_->hide();
 
     content_->setContentsMargins(padding, padding, padding, padding);
-    content_->setSpacing(spacing);
+    content_->setSpacing(contentSpacing);
     content_->addLayout(header_);
     setLayout(content_);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
@@ -81,11 +81,11 @@ void MetricCard::paintEvent(QPaintEvent* event) {
         rect().adjusted(1, cornerExtent, -1, -cornerExtent).contains(event->rect()))
         return painter.fillRect(event->rect(), ground);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillPath(continuousRect(rect(), cornerRadius), ground);
+    painter.fillPath(continuousRect(rect(), cardRadius), ground);
     const ThemeColors& colors = theme().colors();
     painter.setPen(QPen(colors.areHighContrast() ? colors.outline : ground, borderWidth));
     const double inset = borderWidth / 2.0;
-    painter.drawPath(continuousRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), cornerRadius - inset));
+    painter.drawPath(continuousRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), cardRadius - inset));
 }
 
 } // namespace vantrix

@@ -15,12 +15,12 @@ namespace vantrix {
 namespace {
 
 constexpr const char* anyProgram = "macwindow";
-constexpr double textSize = 11.0;
+constexpr double nameSize = 11.0;
 constexpr double smallestIcon = 18.0;
 constexpr double iconGap = 8.0;
 constexpr double valueGap = 8.0;
 constexpr double barGap = 2.0;
-constexpr double barHeight = 3.0;
+constexpr double shareHeight = 3.0;
 
 /// Pictures by a path, bundles by theirs, everything else from the icon theme.
 QIcon iconOf(const std::string& icon) {
@@ -66,8 +66,8 @@ QString ProgramRow::accessibleText() const {
 }
 
 QSize ProgramRow::sizeHint() const {
-    const double line = std::ceil(theme().measure(textSize).metrics().height());
-    return {120, static_cast<int>(std::max(line + barGap + barHeight, iconSide()))};
+    const double line = std::ceil(theme().measure(nameSize).metrics().height());
+    return {120, static_cast<int>(std::max(line + barGap + shareHeight, iconSide()))};
 }
 
 double ProgramRow::iconSide() const {
@@ -77,8 +77,8 @@ double ProgramRow::iconSide() const {
 /// The line's part between icon and value.
 QRectF ProgramRow::nameRoom() const {
     const double left = iconSide() + iconGap;
-    const double taken = std::ceil(theme().digits(textSize).width(value_.toStdString())) + valueGap;
-    return {left, 0.0, std::max(width() - left - taken, 0.0), height() - barGap - barHeight};
+    const double taken = std::ceil(theme().digits(nameSize).width(value_.toStdString())) + valueGap;
+    return {left, 0.0, std::max(width() - left - taken, 0.0), height() - barGap - shareHeight};
 }
 
 void ProgramRow::resizeEvent(QResizeEvent*) {
@@ -86,7 +86,7 @@ void ProgramRow::resizeEvent(QResizeEvent*) {
 }
 
 void ProgramRow::updateToolTip() {
-    tellInToolTip(theme().measure(textSize).width(name_) > nameRoom().width() ? name_ : QString());
+    tellInToolTip(theme().measure(nameSize).width(name_) > nameRoom().width() ? name_ : QString());
 }
 
 void ProgramRow::paintEvent(QPaintEvent*) {
@@ -102,24 +102,24 @@ void ProgramRow::paintEvent(QPaintEvent*) {
     else
         icon_.paint(&painter, picture.toRect());
 
-    const QFontMetricsF& metrics = theme().measure(textSize).metrics();
+    const QFontMetricsF& metrics = theme().measure(nameSize).metrics();
     const QRectF room = nameRoom();
     const double baseline = std::round((room.height() - metrics.height()) / 2.0 + metrics.ascent());
     const QString name = metrics.elidedText(name_, Qt::ElideRight, room.width());
     const double nameWidth = metrics.horizontalAdvance(name);
-    painter.setFont(theme().font(textSize));
+    painter.setFont(theme().font(nameSize));
     painter.setPen(colors.secondary);
     painter.drawText(QPointF(mirrored(*this, {room.left(), 0.0, nameWidth, 1.0}).left(), baseline), name);
-    const double valueWidth = theme().digits(textSize).width(value_.toStdString());
-    theme().digits(textSize).draw(painter,
+    const double valueWidth = theme().digits(nameSize).width(value_.toStdString());
+    theme().digits(nameSize).draw(painter,
                                   {mirrored(*this, {width() - valueWidth, 0.0, valueWidth, 1.0}).left(), baseline},
                                   value_.toStdString(), colors.label);
 
-    QRectF bar(room.left(), height() - barHeight, width() - room.left(), barHeight);
-    painter.fillPath(continuousRect(mirrored(*this, bar), barHeight / 2.0), colors.quaternary);
+    QRectF bar(room.left(), height() - shareHeight, width() - room.left(), shareHeight);
+    painter.fillPath(continuousRect(mirrored(*this, bar), shareHeight / 2.0), colors.quaternary);
     bar.setWidth(bar.width() * fraction_);
     if (bar.width() >= 1.0)
-        painter.fillPath(continuousRect(mirrored(*this, bar), barHeight / 2.0), colors.accent);
+        painter.fillPath(continuousRect(mirrored(*this, bar), shareHeight / 2.0), colors.accent);
 }
 
 } // namespace vantrix

@@ -20,7 +20,7 @@ constexpr double longestFrame = 0.05; // seconds: after a stall the arc goes on 
 constexpr double leastMove = 0.5;     // pixels; the spring's slow end has many frames that show nothing new
 constexpr double fullCircle = 360.0 * 16;
 constexpr double quarter = 90 * 16;
-constexpr double textSize = 17.0;
+constexpr double valueSize = 17.0;
 
 } // namespace
 
@@ -85,7 +85,7 @@ void RingGauge::paintEvent(QPaintEvent*) {
 }
 
 void RingGauge::paintText(QPainter& painter, const QColor& color) const {
-    const MonospacedFont& font = theme().digits(textSize, QFont::DemiBold);
+    const MonospacedFont& font = theme().digits(valueSize, QFont::DemiBold);
     const std::string percentage = text().toStdString();
     // Large text must not run into the ring.
     const double room = std::min(width(), height()) - 2.0 * lineWidth_ - 8.0;

@@ -15,7 +15,7 @@ namespace {
 constexpr double textSize = 11.0;
 constexpr double markerSide = 7.0;
 constexpr double markerRadius = 2.0;
-constexpr double spacing = 6.0;
+constexpr double gap = 6.0;
 constexpr double symbolSide = 13.0;
 constexpr double symbolGap = 4.0;
 constexpr double leadSymbolSide = 15.0;
@@ -92,8 +92,8 @@ QString StatRow::accessibleText() const {
 
 double StatRow::leadWidth() const {
     if (!lead_.symbol.empty())
-        return std::round(theme().scaled(leadSymbolSide)) + spacing;
-    return lead_.indented ? markerSide + spacing : 0.0;
+        return std::round(theme().scaled(leadSymbolSide)) + gap;
+    return lead_.indented ? markerSide + gap : 0.0;
 }
 
 double StatRow::symbolWidth() const {
@@ -109,7 +109,7 @@ double StatRow::valueWidth() const {
 }
 
 bool StatRow::fitsOneLine(double width) const {
-    return leadWidth() + labelWidth() + spacing + valueWidth() <= width;
+    return leadWidth() + labelWidth() + gap + valueWidth() <= width;
 }
 
 /// Names of devices may be longer than a line without a single space.
@@ -127,7 +127,7 @@ double StatRow::labelHeight(double width) const {
 }
 
 QSize StatRow::sizeHint() const {
-    const double wanted = leadWidth() + labelWidth() + spacing + valueWidth();
+    const double wanted = leadWidth() + labelWidth() + gap + valueWidth();
     return {static_cast<int>(wanted), static_cast<int>(std::ceil(metricsOf(theme()).height()))};
 }
 
@@ -148,7 +148,7 @@ double StatRow::baseline(const QRectF& line) const {
 void StatRow::paintLead(QPainter& painter) const {
     // Beside the first line, centred on its letters, most of which are small: of two places the lower one.
     const QRectF line(0.0, 0.0, 0.0, std::min<double>(metricsOf(theme()).height(), height()));
-    const double side = lead_.symbol.empty() ? markerSide : leadWidth() - spacing;
+    const double side = lead_.symbol.empty() ? markerSide : leadWidth() - gap;
     const double top = std::ceil(baseline(line) - (theme().digits(textSize).capHeight() + side) / 2.0);
     const QRect place(0, static_cast<int>(top), static_cast<int>(side), static_cast<int>(side));
     if (!lead_.symbol.empty())
