@@ -163,10 +163,13 @@ def measured(build, kind):
 
 def main():
     build = pathlib.Path(sys.argv[1]).resolve()
+    rows = budgets()
+    kinds = sys.argv[2:] or list(rows)
+    if not kinds or not set(kinds) <= set(rows):
+        sys.exit(f"check_budgets: there are budgets for {', '.join(rows) or 'nothing'}")
     isKept = True
-    for kind, limits in budgets().items():
-        if sys.argv[2:] and kind not in sys.argv[2:]:
-            continue
+    for kind in kinds:
+        limits = rows[kind]
         counts = measured(build, kind)
         for counter, limit in limits.items():
             verdict = "" if counts[counter] <= limit else "  ABOVE ITS BUDGET"

@@ -3,6 +3,8 @@
 #include <functional>
 #include <vector>
 
+#include <QFont>
+#include <QGuiApplication>
 #include <QImage>
 #include <QRect>
 #include <QTransform>
@@ -21,6 +23,7 @@ class RowPicture {
         MenuBarPalette palette;
         QSize size;         ///< pixels
         QTransform toPixel; ///< from the row's points; moves and scales
+        QFont font = QGuiApplication::font();
 
         bool operator==(const Look&) const = default;
     };

@@ -126,12 +126,20 @@ TEST(MenuBarRenderer, TheGraphShowsTheNewestValuesWithinItsBounds) {
     EXPECT_NE(graph({1.0, 1.0}), graph({}));
 }
 
+/// Another font of the desktop's, of the same shape.
+void setDesktopFont(QFont::StyleHint hint) {
+    QFont font = QGuiApplication::font();
+    font.setStyleHint(hint);
+    QGuiApplication::setFont(font);
+}
+
 TEST(RowPicture, WhatIsKeptEqualsWhatIsDrawnAfresh) {
     std::vector<MenuBarItem> row{percentItem("CPU", "12%"), networkItem(), percentItem("RAM", "48%")};
     const std::pair<std::size_t, std::function<void()>> changes[] = {
         {3, [] {}},
         {1, [&] { row[0].lines = {"7%"}; }},
         {1, [&] { row[2].severity = MenuBarSeverity::critical; }},
+        {3, [] { setDesktopFont(QFont::Serif); }},
         {2,
          [&] {
              row[0].lines = {"100%"}, row[1].lines = {"↓2.5M", "↑3K"};
@@ -162,6 +170,7 @@ TEST(RowPicture, WhatIsKeptEqualsWhatIsDrawnAfresh) {
                 EXPECT_EQ(kept.image(), fresh.convertToFormat(QImage::Format_ARGB32_Premultiplied));
             }
             row = {percentItem("CPU", "12%"), networkItem(), percentItem("RAM", "48%")};
+            setDesktopFont(QFont::AnyStyle);
         }
 }
 

@@ -27,7 +27,8 @@ struct BackgroundThread::Queue {
     std::condition_variable hasNews;
     std::condition_variable hasProgress;
     Jobs waiting;
-    Jobs round; ///< those at work, which change hands with `begun` alone
+    Jobs round;    ///< those at work, which change hands with `begun` alone
+    Jobs finished; ///< of the thread alone
     std::atomic<std::size_t> begun = 0;
     std::atomic<std::chrono::steady_clock::time_point> lastBegin; ///< of the job at work
     std::atomic<const Background*> owner = nullptr;               ///< of that job
@@ -39,9 +40,12 @@ struct BackgroundThread::Queue {
     /// Waits for jobs, and begins with all that there are; false when the thread is to end.
     bool takeRound() {
         std::unique_lock lock(mutex);
-        round.clear();
+        finished.swap(round);
         isWorking = false;
         tellProgress();
+        lock.unlock();
+        finished.clear(); // which may close a device's files, and hang
+        lock.lock();
         const bool hasJobs = hasNews.wait_for(lock, longestIdle, [this] { return isClosed || !waiting.empty(); });
         isRunning = hasJobs && !isClosed;
         if (!isRunning)
@@ -64,8 +68,8 @@ struct BackgroundThread::Queue {
         while (takeRound()) {
             const std::size_t count = round.size();
             for (std::size_t i = 0; (i = begun++) < count;) {
+                lastBegin = std::chrono::steady_clock::now(); // before the owner: who sees that sees its beginning, too
                 owner = round[i]->owner;
-                lastBegin = std::chrono::steady_clock::now();
                 round[i]->perform();
             }
         }
@@ -117,15 +121,16 @@ bool BackgroundThread::run(std::span<const std::shared_ptr<Job>> jobs) {
     return true;
 }
 
-void BackgroundThread::wait(std::chrono::milliseconds patience) {
+void BackgroundThread::wait(std::chrono::milliseconds patience, std::chrono::milliseconds longest) {
     if (!queue_)
         return;
     Queue& queue = *queue_;
+    const auto latest = std::chrono::steady_clock::now() + longest;
     std::unique_lock lock(queue.mutex);
     queue.isAwaited = true;
     while (queue.isWorking || !queue.waiting.empty()) {
         const auto now = std::chrono::steady_clock::now();
-        const auto end = queue.isWorking ? queue.lastBegin.load() + patience : now + longestStart;
+        const auto end = std::min(latest, queue.isWorking ? queue.lastBegin.load() + patience : now + longestStart);
         if (now >= end || (queue.hasProgress.wait_until(lock, end) == std::cv_status::timeout && !queue.isWorking))
             break;
     }
@@ -136,8 +141,9 @@ const Background* BackgroundThread::heldUpBy(std::chrono::milliseconds patience)
     if (!queue_)
         return nullptr;
     const std::lock_guard lock(queue_->mutex);
+    const Background* const owner = queue_->owner;
     const bool isHeldUp = queue_->isWorking && std::chrono::steady_clock::now() - queue_->lastBegin.load() > patience;
-    return isHeldUp ? queue_->owner.load() : nullptr;
+    return isHeldUp ? owner : nullptr;
 }
 
 void BackgroundThread::handOverTo(BackgroundThread& other, const Background* owner) {

@@ -17,7 +17,9 @@ class BackgroundThread : public Background {
     bool run(const std::shared_ptr<Job>& job) override { return run(std::span(&job, 1)); }
     /// Queues all of them, and wakes the thread once.
     bool run(std::span<const std::shared_ptr<Job>> jobs);
-    void wait(std::chrono::milliseconds patience) override;
+    void wait(std::chrono::milliseconds patience) override { wait(patience, std::chrono::hours(1)); }
+    /// The same, but for all of them together no longer than `longest`.
+    void wait(std::chrono::milliseconds patience, std::chrono::milliseconds longest);
 
     /// The owner of the job that has been at work for longer than `patience`; null when there is none.
     const Background* heldUpBy(std::chrono::milliseconds patience) const;

@@ -51,7 +51,7 @@ void DeviceThreads::wait(const DeviceThread& device, std::chrono::milliseconds p
     const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(longestWait - waited_);
     if (left.count() <= 0)
         return;
-    device.used()->wait(std::min(patience, left));
+    device.used()->wait(patience, left);
     waited_ += std::chrono::steady_clock::now() - begin;
 }
 

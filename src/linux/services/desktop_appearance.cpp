@@ -7,6 +7,7 @@
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QEvent>
+#include <QFileInfo>
 #include <QIcon>
 #include <QPalette>
 
@@ -37,8 +38,8 @@ DesktopAppearance::DesktopAppearance(std::shared_ptr<BusLink> link)
     : link_(std::move(link)), appearance_(appearanceAfter(wishes_, settings_)) {
     qGuiApp->installEventFilter(this);
     connect(&files_, &QFileSystemWatcher::fileChanged, this, &DesktopAppearance::readFiles);
-    if (!settings_.files.isEmpty())
-        files_.addPaths(settings_.files);
+    connect(&files_, &QFileSystemWatcher::directoryChanged, this, &DesktopAppearance::readFiles);
+    watchFiles();
     equipToolkit();
     link_->whenConnected(this, [this](QDBusConnection& bus) { takeBus(bus); });
 }
@@ -105,11 +106,23 @@ void DesktopAppearance::takeSettings(const QDBusMessage& reply) {
     announce();
 }
 
-/// A file that was replaced is watched no more until it is added again.
-void DesktopAppearance::readFiles() {
-    settings_ = DesktopSettings::read();
+/// A file that was replaced is watched no more until it is added again; of one that is not there, the folder is
+/// watched.
+void DesktopAppearance::watchFiles() {
     if (!settings_.files.isEmpty())
         files_.addPaths(settings_.files);
+    if (settings_.userFile.isEmpty())
+        return;
+    const QString folder = QFileInfo(settings_.userFile).path();
+    if (settings_.files.contains(settings_.userFile))
+        files_.removePath(folder);
+    else if (QFileInfo::exists(folder))
+        files_.addPath(folder);
+}
+
+void DesktopAppearance::readFiles() {
+    settings_ = DesktopSettings::read();
+    watchFiles();
     equipToolkit();
     announce();
 }

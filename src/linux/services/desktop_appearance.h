@@ -34,6 +34,7 @@ class DesktopAppearance : public AppearanceSource {
     void readSettings();
     void takeSettings(const QDBusMessage& reply);
     void readFiles();
+    void watchFiles();
     void equipToolkit();
     void announce();
 

@@ -17,6 +17,10 @@ QStringList currentDesktops() {
     return qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(u':', Qt::SkipEmptyParts);
 }
 
+QString userPathOf(const QString& file) {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u'/' + file;
+}
+
 QStringList pathsOf(const QString& file) {
     return QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, file);
 }
@@ -54,7 +58,8 @@ DesktopSettings kdeSettings() {
             .highlight = highlight ? highlight : QColor(61, 174, 233),
             .iconTheme = icons.isEmpty() ? QStringLiteral("breeze") : icons,
             .dragDistance = config.number(QStringLiteral("KDE/StartDragDist")),
-            .files = pathsOf(kdeFile)};
+            .files = pathsOf(kdeFile),
+            .userFile = userPathOf(kdeFile)};
 }
 
 DesktopSettings lxqtSettings() {
@@ -64,7 +69,8 @@ DesktopSettings lxqtSettings() {
             .highlight = namedColor(config.text(QStringLiteral("Palette/highlight_color"))),
             .iconTheme = config.text(QStringLiteral("icon_theme")),
             .dragDistance = {},
-            .files = pathsOf(lxqtFile)};
+            .files = pathsOf(lxqtFile),
+            .userFile = userPathOf(lxqtFile)};
 }
 
 bool isStyle(QStringView word) {

@@ -16,7 +16,8 @@ struct DesktopSettings {
     std::optional<QColor> highlight = {}; ///< of what is selected
     QString iconTheme = {};
     std::optional<int> dragDistance = {}; ///< pixels that the pointer moves before it drags
-    QStringList files = {};               ///< that were read; other files of theirs name may come to count
+    QStringList files = {};               ///< that were read
+    QString userFile = {};                ///< the user's own, which may not be there yet
 
     /// Of the desktops that XDG_CURRENT_DESKTOP names. Reads files, a few kilobytes, and asks nobody.
     static DesktopSettings read();

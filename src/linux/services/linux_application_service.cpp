@@ -2,6 +2,7 @@
 
 #include <QDBusArgument>
 #include <QDBusMessage>
+#include <QGuiApplication>
 #include <QHash>
 
 #include "linux/services/bus_probe.h"
@@ -140,7 +141,7 @@ bool LinuxApplicationService::handleMessage(const QDBusMessage& call, const QDBu
     const QVariantMap told = platformData(call);
     if (told.value(sessionKey, ownSession()) != ownSession())
         return bus.send(call.createErrorReply(QDBusError::Failed, QStringLiteral("This is another session's")));
-    if (request->starts_with(settingsRequest))
+    if (request->starts_with(settingsRequest) && QGuiApplication::platformName().startsWith(u"wayland"))
         takeToken(told);
     const bool isSent = bus.send(call.createReply()); // before a request that ends the program
     if (received)

@@ -33,7 +33,7 @@ bool isBlanking(const Told& told) {
     return told.state != off && told.state != disabled;
 }
 
-xcb_extension_t screenSaver{"MIT-SCREEN-SAVER", 0};
+xcb_extension_t screenSaverExtension{"MIT-SCREEN-SAVER", 0};
 
 unsigned send(xcb_connection_t* connection, std::uint8_t opcode, std::uint32_t window) {
     Request request{.drawable = window, .eventMask = notifyMask};
@@ -41,7 +41,8 @@ unsigned send(xcb_connection_t* connection, std::uint8_t opcode, std::uint32_t w
     iovec parts[4]{}; // the first two are the library's
     parts[2] = {&request, isQuestion ? offsetof(Request, eventMask) : sizeof request};
     parts[3] = {nullptr, 0};
-    const xcb_protocol_request_t description{1, &screenSaver, opcode, static_cast<std::uint8_t>(isQuestion ? 0 : 1)};
+    const xcb_protocol_request_t description{1, &screenSaverExtension, opcode,
+                                             static_cast<std::uint8_t>(isQuestion ? 0 : 1)};
     return xcb_send_request(connection, 0, parts + 2, &description);
 }
 
@@ -50,7 +51,7 @@ unsigned send(xcb_connection_t* connection, std::uint8_t opcode, std::uint32_t w
 X11Blanking::X11Blanking(xcb_connection_t* connection) {
     if (connection == nullptr)
         return;
-    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &screenSaver);
+    const xcb_query_extension_reply_t* extension = xcb_get_extension_data(connection, &screenSaverExtension);
     if (extension == nullptr || extension->present == 0)
         return;
     event_ = extension->first_event;

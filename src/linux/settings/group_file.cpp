@@ -121,7 +121,8 @@ bool GroupFile::install(std::string temporary, FileDescriptor file) {
 }
 
 void GroupFile::forgetSpare() {
-    if (!spareName_.empty())
+    const bool isStuck = !spareName_.empty() && ::unlink(spareName_.c_str()) != 0 && errno == EISDIR;
+    if (isStuck && exchangeNames(spareName_, path_)) // somebody's folder goes back to where it was put
         ::unlink(spareName_.c_str());
     spareName_.clear();
     spare_.close();

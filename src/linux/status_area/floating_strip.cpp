@@ -97,7 +97,7 @@ void FloatingStrip::watchScreens() {
 void FloatingStrip::show(const StatusRow& row) {
     const StatusRow before = std::exchange(row_, row);
     tell(row_.text());
-    if (!isVisible() || before.size() != row_.size())
+    if (!isVisible() || size() != wantedSize())
         place();
     if (!isVisible()) {
         if (xcbConnection() != nullptr)
@@ -106,14 +106,19 @@ void FloatingStrip::show(const StatusRow& row) {
     }
     for (const QRectF& change : row_.changes(before))
         update(change.translated(rowCorner()).toAlignedRect());
-    if (std::exchange(isDark_, appearance_.appearance().dark) != isDark_)
+    const Look look{appearance_.appearance().dark, QGuiApplication::font()};
+    if (std::exchange(shownLook_, look) != look)
         update();
+}
+
+QSize FloatingStrip::wantedSize() const {
+    return row_.size() + QSize(2 * sidePadding, 2 * topPadding);
 }
 
 void FloatingStrip::place() {
     if (dragging_)
         return;
-    const QSize size = row_.size() + QSize(2 * sidePadding, 2 * topPadding);
+    const QSize size = wantedSize();
     const QScreen* screen = keptScreen(defaults_);
     setFixedSize(size);
     if (screen != nullptr)

@@ -31,6 +31,14 @@ class FloatingStrip : public RowWindow, public StatusBackend {
     void mouseReleaseEvent(QMouseEvent* event) override;
 
   private:
+    struct Look {
+        bool isDark = false;
+        QFont font;
+
+        bool operator==(const Look&) const = default;
+    };
+
+    QSize wantedSize() const;
     void place();
     void put(const QRect& place);
     void remember();
@@ -43,7 +51,7 @@ class FloatingStrip : public RowWindow, public StatusBackend {
     std::optional<QPoint> grabbed_; ///< within the strip, while the left button is down
     PressedButtons clicks_;
     bool dragging_ = false;
-    bool isDark_ = false;        ///< as last shown
+    Look shownLook_;
     std::optional<QRect> layer_; ///< its place, where a Wayland compositor was told of it
 };
 

@@ -44,6 +44,7 @@ class StatusNotifier : public QObject, public StatusBackend {
     struct Look {
         MenuBarPalette palette;
         bool haloed = false; ///< because it is not known
+        QFont font = QGuiApplication::font();
 
         bool operator==(const Look&) const = default;
     };

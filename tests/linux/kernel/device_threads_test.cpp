@@ -21,6 +21,14 @@ struct HangingJob : Background::Job {
     void perform() override { answer.get_future().wait(); }
 };
 
+struct SlowJob : Background::Job {
+    void perform() override {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(5);
+        while (std::chrono::steady_clock::now() < end)
+            std::this_thread::yield();
+    }
+};
+
 struct DeviceThreadsTest : testing::Test {
     std::shared_ptr<DeviceThreads> threads = std::make_shared<DeviceThreads>();
     DeviceThread hanging{threads};
@@ -89,6 +97,14 @@ TEST_F(DeviceThreadsTest, APassWaitsForThemAllTogether) {
     const auto begin = std::chrono::steady_clock::now();
     for (int sensors = 0; sensors < 100; ++sensors)
         hanging.wait(20ms);
+    const auto bracket = std::make_shared<DeviceThreads>();
+    DeviceThread slow(bracket);
+    {
+        const PassScope pass(bracket);
+        for (int sensors = 0; sensors < 400; ++sensors)
+            slow.run(std::make_shared<SlowJob>());
+        slow.wait(20ms);
+    }
     EXPECT_LT(std::chrono::steady_clock::now() - begin, 1s);
 }
 

@@ -152,6 +152,7 @@ TEST(DesktopSettings, AreThoseOfTheDesktopThatRuns) {
             folders.write(file, text);
         DesktopSettings settings = DesktopSettings::read();
         settings.files.clear();
+        settings.userFile.clear();
         EXPECT_EQ(settings, c.expected) << c.name;
     }
 }
@@ -187,6 +188,10 @@ TEST_F(DesktopAppearanceTest, GivesTheToolkitTheDesktopsFontAndFollowsItsFile) {
         put(std::to_string(points));
         EXPECT_TRUE(spinUntil([&] { return QGuiApplication::font().pointSize() == points; }));
     }
+    std::filesystem::remove(folders.path("own/kdeglobals"));
+    EXPECT_TRUE(spinUntil([&] { return QGuiApplication::font().pointSize() == 10; }));
+    put("9"); // not as long as the one before, which may be of the same tick
+    EXPECT_TRUE(spinUntil([&] { return QGuiApplication::font().pointSize() == 9; })) << "there was none to watch";
     QApplication::setFont(usual);
 }
 

@@ -43,6 +43,9 @@ struct FakeTeller : FakeService {
     }
 
     QDBusMessage reply(const QDBusMessage& call) const {
+        if (call.member() == u"GetSession")
+            return ownSession.isEmpty() ? call.createErrorReply(QDBusError::Failed, u"no such session"_s)
+                                        : call.createReply(QVariant::fromValue(QDBusObjectPath(ownSession)));
         if (call.member() != u"Get")
             return call.createReply(value);
         const bool isSession = call.arguments().value(1) == u"Display"_s;
@@ -58,9 +61,13 @@ struct FakeTeller : FakeService {
     }
 
     QVariant value = false;
+    QString ownSession; ///< path of the one that is asked for
 };
 
 struct LinuxOnlookersTest : testing::Test {
+    LinuxOnlookersTest() { qunsetenv("XDG_SESSION_ID"); }
+    ~LinuxOnlookersTest() override { qunsetenv("XDG_SESSION_ID"); }
+
     void start() { onlookers = std::make_unique<LinuxOnlookers>(session.link(), system.link()); }
     bool becomes(bool somebodyLooks) {
         return spinUntil([&] { return onlookers->somebodyLooks() == somebodyLooks; });
@@ -126,6 +133,31 @@ TEST_F(LinuxOnlookersTest, AreGoneWhileLogindLocksTheSession) {
     EXPECT_FALSE(onlookers->somebodyLooks());
     logind.resign();
     EXPECT_TRUE(becomes(true));
+}
+
+TEST_F(LinuxOnlookersTest, LookAtTheirOwnSessionAsLongAsThereIsOne) {
+    const QString managerPath = u"/org/freedesktop/login1"_s;
+    const QString ownPath = u"/org/freedesktop/login1/session/_37"_s;
+    FakeTeller logind(system, u"org.freedesktop.login1"_s, managerPath);
+    logind.ownSession = ownPath;
+    ASSERT_TRUE(logind.appear());
+    qputenv("XDG_SESSION_ID", "7");
+    start();
+    ASSERT_TRUE(spinUntil([&] { return logind.count(u"Get") == 1; }));
+    logind.setProperty(sessionPath, sessionInterface, u"LockedHint"_s, true);
+    logind.setProperty(ownPath, sessionInterface, u"LockedHint"_s, true);
+    EXPECT_TRUE(becomes(false));
+    logind.setProperty(ownPath, sessionInterface, u"LockedHint"_s, false);
+    EXPECT_TRUE(becomes(true)) << "another session of the user's may be locked";
+    logind.setProperty(ownPath, sessionInterface, u"LockedHint"_s, true);
+    EXPECT_TRUE(becomes(false));
+    logind.ownSession.clear();
+    logind.value = false;
+    logind.emitSignal(managerPath, u"org.freedesktop.login1.Manager"_s, u"SessionRemoved"_s,
+                      {u"7"_s, QVariant::fromValue(QDBusObjectPath(ownPath))});
+    EXPECT_TRUE(becomes(true));
+    logind.setProperty(sessionPath, sessionInterface, u"LockedHint"_s, true);
+    EXPECT_TRUE(becomes(false)) << "the user's graphical one counts instead";
 }
 
 TEST_F(LinuxOnlookersTest, AreGoneWhileGnomesDisplaysAreOff) {

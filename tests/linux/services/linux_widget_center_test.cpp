@@ -49,6 +49,10 @@ TEST_F(LinuxWidgetCenterTest, ReplacesAPrivateFile) {
         if (name != u"defaults.json")
             QFile::remove(at("run/vantrix/") + name);
     EXPECT_TRUE(isRead("7"));
+    EXPECT_TRUE(QFile::remove(file) && QDir().mkdir(file));
+    for (int round = 0; round < 3; ++round)
+        center.store("sharedStats", "8");
+    EXPECT_TRUE(QFileInfo(file).isDir()) << "somebody's folder";
 }
 
 TEST_F(LinuxWidgetCenterTest, WritesTwoFilesInTurnButNoneThatIsStillRead) {
