@@ -37,19 +37,18 @@ void BlankTeller::takeBus(QDBusConnection& bus) {
     else
         bus.connect(QString(), service_.path, propertiesInterface, QStringLiteral("PropertiesChanged"),
                     {service_.interface}, QString(), this, SLOT(propertiesChanged(QDBusMessage)));
-    ask();
+    findOwner();
 }
 
 /// Another process, or none, is the service.
 void BlankTeller::ownerChanged(const QString&, const QString&, const QString& newOwner) {
     follow(newOwner);
-    if (!newOwner.isEmpty())
-        ask();
 }
 
 void BlankTeller::follow(const QString& owner) {
     owner_ = owner;
     take({});
+    ask();
 }
 
 void BlankTeller::told(const QDBusMessage& signal) {
@@ -67,30 +66,41 @@ void BlankTeller::propertiesChanged(const QDBusMessage& signal) {
         ask();
 }
 
-void BlankTeller::ask() {
+void BlankTeller::call(QDBusMessage question, const std::function<void(const QDBusMessage&)>& answered) {
     QDBusConnection* bus = link_->bus();
     if (bus == nullptr)
         return;
-    const bool isProperty = !service_.property.isEmpty();
-    auto message = QDBusMessage::createMethodCall(service_.name, service_.path,
-                                                  isProperty ? propertiesInterface : service_.interface,
-                                                  isProperty ? QStringLiteral("Get") : service_.question);
-    if (isProperty)
-        message << service_.interface << service_.property;
-    message.setAutoStartService(false);
-    auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(message), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
+    question.setAutoStartService(false);
+    auto* watcher = new QDBusPendingCallWatcher(bus->asyncCall(question), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [answered](QDBusPendingCallWatcher* done) {
         done->deleteLater();
-        takeAnswer(done->reply());
+        answered(done->reply());
     });
 }
 
-/// What a service answers comes in one order with its signals. The bus answers for one that does not run.
-void BlankTeller::takeAnswer(const QDBusMessage& reply) {
-    if (reply.service().isEmpty() || reply.service() == busName || (!owner_.isEmpty() && reply.service() != owner_))
+void BlankTeller::findOwner() {
+    auto question = QDBusMessage::createMethodCall(busName, QStringLiteral("/org/freedesktop/DBus"), busName,
+                                                   QStringLiteral("GetNameOwner"));
+    call(question << service_.name, [this](const QDBusMessage& reply) {
+        if (owner_.isEmpty() && reply.type() == QDBusMessage::ReplyMessage)
+            follow(reply.arguments().value(0).toString());
+    });
+}
+
+/// What a service answers comes in one order with its signals.
+void BlankTeller::ask() {
+    if (owner_.isEmpty())
         return;
-    owner_ = reply.service();
-    take(reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0) : QVariant());
+    const bool isProperty = !service_.property.isEmpty();
+    auto question =
+        QDBusMessage::createMethodCall(owner_, service_.path, isProperty ? propertiesInterface : service_.interface,
+                                       isProperty ? QStringLiteral("Get") : service_.question);
+    if (isProperty)
+        question << service_.interface << service_.property;
+    call(question, [this, owner = owner_](const QDBusMessage& reply) {
+        if (owner == owner_)
+            take(reply.type() == QDBusMessage::ReplyMessage ? reply.arguments().value(0) : QVariant());
+    });
 }
 
 void BlankTeller::take(const QVariant& value) {

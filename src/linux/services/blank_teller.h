@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QDBusMessage>
@@ -40,8 +41,9 @@ class BlankTeller : public QObject {
   private:
     void takeBus(QDBusConnection& bus);
     void follow(const QString& owner);
+    void findOwner();
     void ask();
-    void takeAnswer(const QDBusMessage& reply);
+    void call(QDBusMessage question, const std::function<void(const QDBusMessage&)>& answered);
     void take(const QVariant& value);
 
     std::shared_ptr<BusLink> link_;

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "linux/read_in_place.h"
 #include "linux/temporary_folder.h"
 #include "samplers/fake_clock.h"
 
@@ -12,6 +13,7 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 struct PowercapEnergyTest : ::testing::Test {
+    ReadInPlace inPlace; // a busy machine would not read in time
     TemporaryFolder folder;
     PowercapEnergy source{folder.path(""), std::make_shared<FakeClock>()};
 
